@@ -1,0 +1,38 @@
+# The executable.
+#
+# Its libraries are linked whole and in this order, because the order of the archives decides the
+# order in which static objects are constructed: the services object and the button monitor come
+# first by their priorities, then the stream initialisers of the libraries, then the Base64 alphabet
+# (the last object of the crypto library), then the compiled-in resources. Linking them whole also
+# keeps what nothing references from inside, such as the exported decryption entry.
+set(quayside_archives platform widgets support app crypto resources)
+
+add_executable(quayside ${PROJECT_SOURCE_DIR}/app/main.cpp)
+quayside_configure(quayside)
+set_target_properties(quayside PROPERTIES
+  POSITION_INDEPENDENT_CODE ON
+  RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/run
+  BUILD_RPATH_USE_ORIGIN ON
+  INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
+set(whole_archives)
+foreach(name IN LISTS quayside_archives)
+  add_dependencies(quayside quayside_${name})
+  list(APPEND whole_archives $<TARGET_FILE:quayside_${name}>)
+endforeach()
+target_link_libraries(quayside PRIVATE
+  -Wl,--whole-archive ${whole_archives} -Wl,--no-whole-archive
+  quayside_host_in_use Qt5::Widgets ${CMAKE_DL_LIBS})
+set_target_properties(quayside PROPERTIES LINK_DEPENDS
+  "${PROJECT_SOURCE_DIR}/cmake/exports.list;${PROJECT_SOURCE_DIR}/cmake/exports.map")
+
+# The dynamic list puts the two exports into the executable's dynamic symbol table, which by itself
+# offers nothing; the version script keeps everything else out of it. An absent configuration
+# library must stay a question of run time, so weak references keep their dynamic entries.
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+target_link_options(quayside PRIVATE
+  -Wl,--dynamic-list=${PROJECT_SOURCE_DIR}/cmake/exports.list
+  -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
+  -Wl,-z,dynamic-undefined-weak)
+add_dependencies(quayside quayside_translations)

@@ -1,0 +1,42 @@
+# How every target of the project is compiled.
+
+if(QUAYSIDE_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
+endif()
+
+add_library(quayside_flags INTERFACE)
+target_compile_features(quayside_flags INTERFACE cxx_std_17)
+target_compile_options(quayside_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  $<$<BOOL:${QUAYSIDE_WARNINGS_AS_ERRORS}>:-Werror>)
+# Hardening of what is delivered. Sanitizers bring their own checks, and fortified calls would hide
+# faults from them.
+if(QUAYSIDE_SANITIZE)
+  target_compile_options(quayside_flags INTERFACE
+    -fsanitize=${QUAYSIDE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(quayside_flags INTERFACE -fsanitize=${QUAYSIDE_SANITIZE})
+else()
+  target_compile_options(quayside_flags INTERFACE
+    $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong>)
+  target_link_options(quayside_flags INTERFACE
+    $<$<NOT:$<CONFIG:Debug>>:-Wl,-z,relro -Wl,-z,now>)
+endif()
+
+# quayside_configure(<target>): the common properties of a library or program.
+function(quayside_configure target)
+  target_link_libraries(${target} PRIVATE quayside_flags)
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+  set_target_properties(${target} PROPERTIES
+    CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+endfunction()
+
+# quayside_library(<name> <sources>...): the static library quayside_<name>, alias Quayside::<name>.
+function(quayside_library name)
+  add_library(quayside_${name} STATIC ${ARGN})
+  add_library(Quayside::${name} ALIAS quayside_${name})
+  quayside_configure(quayside_${name})
+  target_compile_features(quayside_${name} PUBLIC cxx_std_17)
+  set_target_properties(quayside_${name} PROPERTIES EXPORT_NAME ${name})
+endfunction()
