@@ -1,0 +1,56 @@
+#include "app/CStdStr.h"
+
+#include "host/HostLibraries.h"
+
+#include <cstdint>
+#include <functional>
+#include <locale>
+
+CStdStr<wchar_t>::CStdStr(const wchar_t* text)
+{
+    if (text)
+        assign(text);
+}
+
+CStdStr<wchar_t>::CStdStr(const CStdStr<wchar_t>& other) : std::basic_string<wchar_t>(other)
+{
+    updateCStringManagerData(this);
+}
+
+namespace {
+
+// std::less orders pointers into unrelated buffers too, where < would be unspecified.
+bool pointsInto(const std::wstring& text, const wchar_t* position)
+{
+    const std::less<const wchar_t*> before;
+    const wchar_t* begin = text.c_str();
+    return !before(position, begin) && !before(begin + text.size(), position);
+}
+
+} // namespace
+
+void ssasn(std::wstring& destination, const wchar_t* source)
+{
+    if (!source) {
+        destination.erase();
+    } else if (pointsInto(destination, source)) {
+        const auto start = static_cast<std::size_t>(source - destination.c_str());
+        destination.substr(start).swap(destination);
+    } else {
+        destination.assign(source);
+    }
+}
+
+template <>
+int ssicmp<wchar_t>(const wchar_t* a, const wchar_t* b)
+{
+    const auto& ctype = std::use_facet<std::ctype<wchar_t>>(std::locale::classic());
+    for (;; ++a, ++b) {
+        const auto lowerA = static_cast<std::uint32_t>(ctype.tolower(*a));
+        const auto lowerB = static_cast<std::uint32_t>(ctype.tolower(*b));
+        // Only the end of a is looked for: the end of b shows as a difference.
+        // The unsigned difference wraps where the signed one would overflow.
+        if (lowerA == 0 || lowerA != lowerB)
+            return static_cast<std::int32_t>(lowerA - lowerB);
+    }
+}

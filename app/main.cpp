@@ -1,0 +1,34 @@
+#include "app/CommandLine.h"
+#include "app/MainWindow.h"
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QTranslator>
+
+namespace {
+
+// The middle of the whole virtual desktop, not of the primary screen, and without regard to the
+// window's frame: intended. Integer division truncates toward zero, also for a window that is
+// larger than the desktop.
+void centreOnDesktop(QWidget& window)
+{
+    if (const QWidget* desktop = QApplication::desktop())
+        window.move((desktop->width() - window.width()) / 2,
+                    (desktop->height() - window.height()) / 2);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    QApplication application(argc, argv);
+    QTranslator appTranslator;
+    QTranslator qtTranslator;
+    parseCommandLine(argc, argv, appTranslator, qtTranslator);
+    MainWindow window;
+    centreOnDesktop(window);
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/WindowsTypes.h"
+
+class IPlatformServices;
+class QSettings;
+
+/// What the closed host libraries supply. Everything here is declared, never defined, by Quayside's
+/// own libraries: the executable links it from the maker's libraries or from the stand-in.
+#pragma GCC visibility push(default)
+
+/// Hands the services object over. Called once, at start-up; from then on the library may call any
+/// operation of it on the GUI thread.
+void setPlatformServices(IPlatformServices* services);
+
+/// The settings store that serves as the registry. Owned and configured by the library; null until
+/// it has been set up.
+extern QSettings* g_globalSettings;
+
+/// Told of every copy of a wide string, with the address of the new string.
+void updateCStringManagerData(const void* string);
+
+/// Copies the NUL-terminated `source` into `destination` of `size` bytes, terminator included.
+/// Returns 0, or an error number when it does not fit or an argument is invalid.
+int strcpy_s(char* destination, int size, const char* source);
+
+/// The address of the function `name` in `module`, or null.
+void* GetProcAddress(HINSTANCE module, const char* name);
+
+// The configuration library is optional: each of its functions is a weak reference of its own, null
+// where nothing defines it.
+
+/// Sets the configuration up for `language` (empty: none asked for). Returns 0 for success.
+[[gnu::weak]] int InitOrbxConfig(const wchar_t* language);
+
+/// Creates the configuration's registry entries. Called only after a successful set-up.
+[[gnu::weak]] void CreateConfigReg();
+
+/// The configured language as a Windows language identifier (2052: Simplified Chinese).
+[[gnu::weak]] int GetCurrentOrbxLanguageId();
+
+#pragma GCC visibility pop

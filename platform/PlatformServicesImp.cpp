@@ -1,0 +1,81 @@
+#include "platform/PlatformServicesImp.h"
+
+#include "platform/PlatformMessageManagerImp.h"
+
+// First of all static objects: anything that hands the services over may run before main.
+[[gnu::init_priority(201)]] PlatformServicesImp g_PlatformServices;
+
+namespace {
+
+template <typename Manager>
+Manager* created(std::unique_ptr<Manager>& manager)
+{
+    if (!manager)
+        manager = std::make_unique<Manager>();
+    return manager.get();
+}
+
+} // namespace
+
+PlatformServicesImp::PlatformServicesImp() = default;
+
+PlatformServicesImp::~PlatformServicesImp()
+{
+    // In field order; left to themselves, members are destroyed in the reverse of it.
+    m_messageManager.reset();
+}
+
+IPlatformUserInputManager* PlatformServicesImp::userInputManager()
+{
+    return nullptr;
+}
+
+void* PlatformServicesImp::clipBoardManager()
+{
+    return nullptr;
+}
+
+IPlatformDirectoryManager* PlatformServicesImp::directoryManager()
+{
+    return nullptr;
+}
+
+IPlatformCursorManager* PlatformServicesImp::cursorManager()
+{
+    return nullptr;
+}
+
+IPlatformFontManager* PlatformServicesImp::fontManager()
+{
+    return nullptr;
+}
+
+IPlatformResourceManager* PlatformServicesImp::resourceManager()
+{
+    return nullptr;
+}
+
+IPlatformProfileManager* PlatformServicesImp::profileManager()
+{
+    return nullptr;
+}
+
+IPlatformMessageManager* PlatformServicesImp::messageManager()
+{
+    return created(m_messageManager);
+}
+
+IPlatformRegisterManager* PlatformServicesImp::registerManager()
+{
+    return nullptr;
+}
+
+void* PlatformServicesImp::plotManager()
+{
+    return nullptr;
+}
+
+void* PlatformServicesImp::localeManager()
+{
+    return nullptr;
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/IPlatformServices.h"
+
+#include <memory>
+
+class PlatformMessageManagerImp;
+
+/// The services object: creates each manager on first request and keeps it until process exit.
+/// Not synchronised: GUI thread only.
+class PlatformServicesImp : public IPlatformServices
+{
+public:
+    PlatformServicesImp();
+    /// Releases the managers in the order of the fields.
+    ~PlatformServicesImp() override;
+
+    PlatformServicesImp(const PlatformServicesImp&) = delete;
+    PlatformServicesImp& operator=(const PlatformServicesImp&) = delete;
+
+    // Each accessor returns the same manager every time. A manager whose constructor throws is not
+    // kept, and the exception goes on to the caller.
+    IPlatformUserInputManager* userInputManager() override;
+    void* clipBoardManager() override;
+    IPlatformDirectoryManager* directoryManager() override;
+    IPlatformCursorManager* cursorManager() override;
+    IPlatformFontManager* fontManager() override;
+    IPlatformResourceManager* resourceManager() override;
+    IPlatformProfileManager* profileManager() override;
+    IPlatformMessageManager* messageManager() override;
+    /// The first call captures the host library's settings store, which must be set up by then.
+    IPlatformRegisterManager* registerManager() override;
+    void* plotManager() override;
+    void* localeManager() override;
+
+private:
+    std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
+};
+
+/// The one services object of the process; exported from the executable under this name.
+[[gnu::visibility("default")]] extern PlatformServicesImp g_PlatformServices;
