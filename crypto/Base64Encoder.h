@@ -1,0 +1,5 @@
+#pragma once
+
+#include <string>
+
+extern const std::string base64_chars;
