@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QTemporaryDir>
+
+/// Gives the process its own home, data and temporary folders, time zone and locale, so that a test
+/// neither sees nor leaves anything of the user's. Make it before the application object.
+class HermeticEnvironment
+{
+public:
+    HermeticEnvironment();
+
+private:
+    QTemporaryDir m_home;
+};

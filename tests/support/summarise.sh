@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# summarise.sh BUILD: adds up the test programs' results in BUILD/test-results and prints
+# "N passed, N failed" as its last line. A program that left no result counts as one failure.
+set -euo pipefail
+build=$1
+passed=0
+failed=0
+while read -r name; do
+    result=$build/test-results/$name.xml
+    if [ ! -s "$result" ]; then
+        echo "no result: $name"
+        failed=$((failed + 1))
+        continue
+    fi
+    head=$(grep -m1 '<testsuites ' "$result")
+    number() { sed -n "s/.* $1=\"\([0-9]*\)\".*/\1/p" <<<"$head"; }
+    bad=$(($(number failures) + $(number errors)))
+    passed=$((passed + $(number tests) - $(number disabled) - bad))
+    failed=$((failed + bad))
+done <"$build/tests/names.txt"
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
