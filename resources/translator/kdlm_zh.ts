@@ -2,10 +2,92 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>BusyOverlay</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Work in progress</source>
+        <translation>正在处理</translation>
+    </message>
+</context>
+<context>
+    <name>HostInformation</name>
+    <message>
+        <source>English</source>
+        <comment>name of the interface&apos;s language</comment>
+        <translation>简体中文</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Quayside</source>
         <translation>Quayside</translation>
+    </message>
+</context>
+<context>
+    <name>Page</name>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>PageCatalogue</name>
+    <message>
+        <source>&amp;Registry</source>
+        <translation>注册表(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Profiles</source>
+        <translation>配置文件(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Files</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>F&amp;onts</source>
+        <translation>字体(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Displays</source>
+        <translation>显示器(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation>输入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Crypto</source>
+        <translation>加密(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Log</source>
+        <translation>日志(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>PageRail</name>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+</context>
+<context>
+    <name>PathLabel</name>
+    <message>
+        <source>Copy path</source>
+        <translation>复制路径</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
     </message>
     <message>
         <source>Host library:</source>
@@ -22,11 +104,6 @@
     <message>
         <source>Language:</source>
         <translation>语言：</translation>
-    </message>
-    <message>
-        <source>English</source>
-        <comment>name of the interface&apos;s language</comment>
-        <translation>简体中文</translation>
     </message>
 </context>
 </TS>
