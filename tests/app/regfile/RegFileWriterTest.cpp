@@ -4,7 +4,6 @@
 #include "app/regfile/RegFileText.h"
 #include "platform/WindowsTypes.h"
 
-
 #include <QBuffer>
 
 #include <gtest/gtest.h>
