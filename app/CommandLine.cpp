@@ -9,8 +9,8 @@
 
 #include <cstring>
 
-// In the global namespace, as the macro demands: programs that link the libraries in the ordinary way
-// would otherwise lose the resources, which nothing else references.
+// In the global namespace, as the macro demands: programs that link the libraries in the ordinary
+// way would otherwise lose the resources, which nothing else references.
 static void keepResources()
 {
     Q_INIT_RESOURCE(quayside);

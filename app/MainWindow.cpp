@@ -38,4 +38,6 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
                    selectable(g_globalSettings ? g_globalSettings->fileName() : tr("none"), this));
     layout->addRow(tr("Language:"),
                    selectable(tr("English", "name of the interface's language"), this));
+    // A definite size: start-up centres the window before it is first shown.
+    resize(sizeHint());
 }
