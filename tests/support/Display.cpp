@@ -1,21 +1,17 @@
 #include "tests/support/Display.h"
 
-Display::Display(const QString& screen, bool manager)
+Display::Display(const QStringList& arguments, Manager manager)
+    : m_formerDisplay(qgetenv("DISPLAY"))
 {
     m_server.setStandardErrorFile(QProcess::nullDevice());
     m_server.start(QStringLiteral("Xvfb"),
-                   {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp"});
+                   QStringList{"-displayfd", "1", "-nolisten", "tcp"} + arguments);
     if (!m_server.waitForStarted() || !m_server.waitForReadyRead(20000))
         qFatal("Xvfb did not start");
-    const QByteArray display = ":" + m_server.readLine().trimmed();
-    qputenv("DISPLAY", display);
+    qputenv("DISPLAY", ":" + m_server.readLine().trimmed());
     qputenv("QT_QPA_PLATFORM", "xcb");
-    if (!manager)
-        return;
-    m_manager.setStandardErrorFile(QProcess::nullDevice());
-    m_manager.start(QStringLiteral("openbox"), QStringList());
-    if (!m_manager.waitForStarted())
-        qFatal("openbox did not start");
+    if (manager == WithManager)
+        startManager();
 }
 
 Display::~Display()
@@ -24,6 +20,15 @@ Display::~Display()
         process->terminate();
         process->waitForFinished(5000);
     }
+    qputenv("DISPLAY", m_formerDisplay);
+}
+
+void Display::startManager()
+{
+    m_manager.setStandardErrorFile(QProcess::nullDevice());
+    m_manager.start(QStringLiteral("openbox"), QStringList());
+    if (!m_manager.waitForStarted())
+        qFatal("openbox did not start");
 }
 
 bool Display::xdotool(const QStringList& arguments)
