@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 #include <dlfcn.h>
 
 namespace {
@@ -39,6 +40,22 @@ TEST(StandIn, StoreKeepsCharactersBeyondTheBmp)
     QFile::copy(g_globalSettings->fileName(), g_globalSettings->fileName() + ".copy");
     const QSettings reread(g_globalSettings->fileName() + ".copy", QSettings::IniFormat);
     EXPECT_EQ(text, reread.value("key/emoji").toString());
+}
+
+TEST(StandIn, SavesTheStoreAtExit)
+{
+    const auto writeAndExit = [] {
+        setPlatformServices(&g_PlatformServices);
+        g_globalSettings->setValue("key/saved", "5$at exit");
+        std::exit(0); // NOLINT(concurrency-mt-unsafe): the exit is what is tested
+    };
+    EXPECT_EXIT(writeAndExit(), testing::ExitedWithCode(0), "");
+    const QString path =
+        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/registry.ini";
+    ASSERT_TRUE(QFile::exists(path));
+    QFile::copy(path, path + ".saved");
+    EXPECT_EQ("5$at exit",
+              QSettings(path + ".saved", QSettings::IniFormat).value("key/saved").toString());
 }
 
 class StrcpyS : public testing::Test
