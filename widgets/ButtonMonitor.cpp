@@ -37,10 +37,11 @@ ButtonMonitor::ButtonMonitor(QObject* parent) : QObject(parent) {}
 
 bool ButtonMonitor::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool crossing = event->type() == QEvent::Enter || event->type() == QEvent::Leave;
-    if (crossing) {
-        if (auto* button = dynamic_cast<QPushButton*>(watched))
-            setGlow(*button, event->type() == QEvent::Enter);
+    if (auto* button = dynamic_cast<QPushButton*>(watched)) {
+        if (event->type() == QEvent::Enter)
+            setGlow(*button, true);
+        else if (event->type() == QEvent::Leave)
+            setGlow(*button, false);
     }
     return QObject::eventFilter(watched, event);
 }
