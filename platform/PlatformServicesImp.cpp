@@ -1,6 +1,8 @@
 #include "platform/PlatformServicesImp.h"
 
 #include "platform/PlatformMessageManagerImp.h"
+#include "platform/PlatformProfileManagerImp.h"
+#include "platform/PlatformRegisterManagerImp.h"
 
 // First of all static objects: anything that hands the services over may run before main.
 [[gnu::init_priority(201)]] PlatformServicesImp g_PlatformServices;
@@ -22,7 +24,9 @@ PlatformServicesImp::PlatformServicesImp() = default;
 PlatformServicesImp::~PlatformServicesImp()
 {
     // In field order; left to themselves, members are destroyed in the reverse of it.
+    m_profileManager.reset();
     m_messageManager.reset();
+    m_registerManager.reset();
 }
 
 IPlatformUserInputManager* PlatformServicesImp::userInputManager()
@@ -57,7 +61,7 @@ IPlatformResourceManager* PlatformServicesImp::resourceManager()
 
 IPlatformProfileManager* PlatformServicesImp::profileManager()
 {
-    return nullptr;
+    return created(m_profileManager);
 }
 
 IPlatformMessageManager* PlatformServicesImp::messageManager()
@@ -67,7 +71,7 @@ IPlatformMessageManager* PlatformServicesImp::messageManager()
 
 IPlatformRegisterManager* PlatformServicesImp::registerManager()
 {
-    return nullptr;
+    return created(m_registerManager);
 }
 
 void* PlatformServicesImp::plotManager()

@@ -5,6 +5,8 @@
 #include <memory>
 
 class PlatformMessageManagerImp;
+class PlatformProfileManagerImp;
+class PlatformRegisterManagerImp;
 
 /// The services object: creates each manager on first request and keeps it until process exit.
 /// Not synchronised: GUI thread only.
@@ -34,7 +36,9 @@ public:
     void* localeManager() override;
 
 private:
+    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
+    std::unique_ptr<PlatformRegisterManagerImp> m_registerManager;
 };
 
 /// The one services object of the process; exported from the executable under this name.
