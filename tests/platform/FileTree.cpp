@@ -69,6 +69,17 @@ void FileTree::pipe(const QByteArray& name) const
     check(mkfifo(native(name).constData(), 0644));
 }
 
+void FileTree::hardLink(const QByteArray& name, const QByteArray& target) const
+{
+    check(::link(native(target).constData(), native(name).constData()));
+}
+
+bool FileTree::holds(const QByteArray& name) const
+{
+    struct stat status;
+    return lstat(native(name).constData(), &status) == 0;
+}
+
 void FileTree::enter() const
 {
     QDir::setCurrent(m_folder.path());

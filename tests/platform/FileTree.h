@@ -26,6 +26,11 @@ public:
     void folder(const QByteArray& name) const;
     void link(const QByteArray& name, const QByteArray& target) const;
     void pipe(const QByteArray& name) const;
+    /// Another name for the file `target`: the cheapest of entries.
+    void hardLink(const QByteArray& name, const QByteArray& target) const;
+
+    /// Whether there is an entry `name`, be it a broken link.
+    bool holds(const QByteArray& name) const;
 
     /// Makes the folder the working directory.
     void enter() const;

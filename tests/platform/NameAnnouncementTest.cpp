@@ -14,10 +14,7 @@ class NameAnnouncement : public FontCatalogue
 {
 protected:
     /// The number of copies announced since the last call.
-    static std::size_t announced()
-    {
-        return std::exchange(g_announced, 0);
-    }
+    static std::size_t announced() { return std::exchange(g_announced, 0); }
 
     ENUMLOGFONTEXW font = record(L"local", ANSI_CHARSET);
 };
