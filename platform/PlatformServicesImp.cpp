@@ -1,5 +1,7 @@
 #include "platform/PlatformServicesImp.h"
 
+#include "platform/PlatformDirectoryManagerImp.h"
+#include "platform/PlatformFontManagerImp.h"
 #include "platform/PlatformMessageManagerImp.h"
 #include "platform/PlatformProfileManagerImp.h"
 #include "platform/PlatformRegisterManagerImp.h"
@@ -25,6 +27,8 @@ PlatformServicesImp::~PlatformServicesImp()
 {
     // In field order; left to themselves, members are destroyed in the reverse of it.
     m_profileManager.reset();
+    m_directoryManager.reset();
+    m_fontManager.reset();
     m_messageManager.reset();
     m_registerManager.reset();
 }
@@ -41,7 +45,7 @@ void* PlatformServicesImp::clipBoardManager()
 
 IPlatformDirectoryManager* PlatformServicesImp::directoryManager()
 {
-    return nullptr;
+    return created(m_directoryManager);
 }
 
 IPlatformCursorManager* PlatformServicesImp::cursorManager()
@@ -51,7 +55,7 @@ IPlatformCursorManager* PlatformServicesImp::cursorManager()
 
 IPlatformFontManager* PlatformServicesImp::fontManager()
 {
-    return nullptr;
+    return created(m_fontManager);
 }
 
 IPlatformResourceManager* PlatformServicesImp::resourceManager()

@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class PlatformDirectoryManagerImp;
+class PlatformFontManagerImp;
 class PlatformMessageManagerImp;
 class PlatformProfileManagerImp;
 class PlatformRegisterManagerImp;
@@ -37,6 +39,8 @@ public:
 
 private:
     std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
+    std::unique_ptr<PlatformDirectoryManagerImp> m_directoryManager;
+    std::unique_ptr<PlatformFontManagerImp> m_fontManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
     std::unique_ptr<PlatformRegisterManagerImp> m_registerManager;
 };
