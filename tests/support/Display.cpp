@@ -5,13 +5,16 @@
 Display::Display(const QString& screen, bool manager)
 {
     m_server.setStandardErrorFile(QProcess::nullDevice());
+    // Without -noreset the server starts afresh, and drops whoever is just connecting, each time
+    // the last client leaves.
     m_server.start(QStringLiteral("Xvfb"),
-                   {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp"});
+                   {"-displayfd", "1", "-screen", "0", screen, "-noreset", "-nolisten", "tcp"});
     if (!m_server.waitForStarted() || !m_server.waitForReadyRead(20000))
         qFatal("Xvfb did not start");
     const QByteArray display = ":" + m_server.readLine().trimmed();
     qputenv("DISPLAY", display);
     qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("QT_XCB_GL_INTEGRATION", "none"); // nothing here draws with OpenGL, whose drivers leak
     if (!manager)
         return;
     m_manager.setStandardErrorFile(QProcess::nullDevice());
