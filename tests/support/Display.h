@@ -29,6 +29,8 @@ private:
     void startManager();
 
     QByteArray m_formerDisplay;
+    static void waitForManager();
+
     QProcess m_server;
     QProcess m_manager;
 };
