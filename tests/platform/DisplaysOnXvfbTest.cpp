@@ -37,9 +37,16 @@ protected:
     {
         window.setGeometry(200, 150, 400, 300);
         window.show();
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return activate(); }, 20000));
         movePointer(300, 300);
+    }
+
+    // As a taskbar would: at times the manager refuses an application's own request, and it ignores
+    // any for a window that it does not manage yet.
+    bool activate()
+    {
+        Display::xdotool({"windowactivate", QString::number(window.winId())});
+        return QTest::qWaitForWindowActive(&window, 500);
     }
 
     void movePointer(int x, int y)
