@@ -37,16 +37,8 @@ protected:
     {
         window.setGeometry(200, 150, 400, 300);
         window.show();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return activate(); }, 20000));
+        ASSERT_TRUE(Display::activate(window));
         movePointer(300, 300);
-    }
-
-    // As a taskbar would: at times the manager refuses an application's own request, and it ignores
-    // any for a window that it does not manage yet.
-    bool activate()
-    {
-        Display::xdotool({"windowactivate", QString::number(window.winId())});
-        return QTest::qWaitForWindowActive(&window, 500);
     }
 
     void movePointer(int x, int y)
