@@ -115,7 +115,8 @@ bool equalIgnoringCase(const QString& a, const QString& b)
 QString findIgnoringCase(const QString& directory, const QString& name, const QString& path)
 {
     const DirectoryListing listing(directory, DirectoryListing::WithoutHidden);
-    for (const QString& entry : candidates(listing, name)) {
+    const QStringList entries = candidates(listing, name);
+    for (const QString& entry : entries) {
         if (equalIgnoringCase(entry, name))
             return listing.absolutePath(entry);
         // The first test only spares the second one: an absolute path ends with the entry's name.
