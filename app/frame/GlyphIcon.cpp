@@ -6,6 +6,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 
 namespace {
 
@@ -35,16 +36,35 @@ public:
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        QPixmap pixmap(size);
+        const QString key = cacheKey(size, mode);
+        QPixmap pixmap;
+        if (QPixmapCache::find(key, &pixmap))
+            return pixmap;
+        pixmap = QPixmap(size);
         pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        {
+            QPainter painter(&pixmap);
+            paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        }
+        QPixmapCache::insert(key, pixmap);
         return pixmap;
     }
 
     QIconEngine* clone() const override { return new GlyphEngine(*this); }
 
 private:
+    // The colours are part of it: they change with the palette.
+    QString cacheKey(const QSize& size, QIcon::Mode mode) const
+    {
+        const GlyphColors in = colors(mode);
+        return QStringLiteral("quayside-glyph-%1-%2x%3-%4-%5")
+            .arg(static_cast<int>(m_glyph))
+            .arg(size.width())
+            .arg(size.height())
+            .arg(in.line.rgba(), 0, 16)
+            .arg(in.accent.rgba(), 0, 16);
+    }
+
     Glyph m_glyph;
 };
 

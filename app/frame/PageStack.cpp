@@ -4,7 +4,6 @@
 #include "widgets/QAnimationStackedWidget.h"
 
 #include <QApplication>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -101,13 +100,12 @@ void PageStack::enter()
 }
 
 // The first page is made after the window has been painted once, so that the window is up sooner.
-void PageStack::showEvent(QShowEvent* event)
+void PageStack::paintEvent(QPaintEvent* event)
 {
-    QWidget::showEvent(event);
-    if (page(current()))
+    QWidget::paintEvent(event);
+    if (m_opened)
         return;
-    QTimer::singleShot(0, this, [this] {
-        m_focusFollows = true;
-        enter();
-    });
+    m_opened = true;
+    m_focusFollows = true;
+    QMetaObject::invokeMethod(this, &PageStack::enter, Qt::QueuedConnection);
 }

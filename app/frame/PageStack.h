@@ -34,7 +34,7 @@ signals:
     void entered(int page);
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QWidget* place(int index) const;
@@ -43,6 +43,7 @@ private:
 
     std::vector<PageEntry> m_pages;
     QAnimationStackedWidget* m_stack;
+    bool m_opened = false; ///< the window has been painted
     bool m_sliding = false;
     bool m_focusFollows = false;
     int m_next = -1; ///< what was chosen while a slide ran, or -1

@@ -3,10 +3,24 @@
 #include <QAction>
 #include <QClipboard>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPainter>
 
-PathLabel::PathLabel(const QString& path, QWidget* parent) : QFrame(parent), m_path(path)
+namespace {
+
+QString shown(const QString& path, PathLabel::Form form)
+{
+    if (form == PathLabel::FileName)
+        return QFileInfo(path).fileName();
+    const QString home = QDir::homePath() + QLatin1Char('/');
+    return path.startsWith(home) ? QStringLiteral("~/") + path.mid(home.size()) : path;
+}
+
+} // namespace
+
+PathLabel::PathLabel(const QString& path, Form form, QWidget* parent)
+    : QFrame(parent), m_path(path), m_text(shown(path, form))
 {
     setToolTip(path);
     setAccessibleDescription(path);
@@ -22,15 +36,9 @@ void PathLabel::copy() const
     QGuiApplication::clipboard()->setText(m_path);
 }
 
-QString PathLabel::shown() const
-{
-    const QString home = QDir::homePath() + QLatin1Char('/');
-    return m_path.startsWith(home) ? QStringLiteral("~/") + m_path.mid(home.size()) : m_path;
-}
-
 QSize PathLabel::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(shown()) + 2, fontMetrics().height()};
+    return {fontMetrics().horizontalAdvance(m_text) + 2, fontMetrics().height()};
 }
 
 QSize PathLabel::minimumSizeHint() const
@@ -42,5 +50,5 @@ void PathLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(shown(), Qt::ElideMiddle, width()));
+                     fontMetrics().elidedText(m_text, Qt::ElideMiddle, width()));
 }

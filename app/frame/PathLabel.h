@@ -2,14 +2,23 @@
 
 #include <QFrame>
 
-/// Shows a path in one line: below the user's home with "~", and with its middle left out where the
-/// line is too short. The tool tip and the context menu's copy have all of it.
+/// Shows a path in one line, with its middle left out where the line is too short. The tool tip and
+/// the context menu's copy have all of it.
 class PathLabel : public QFrame
 {
     Q_OBJECT
 
 public:
-    explicit PathLabel(const QString& path, QWidget* parent = nullptr);
+    enum Form
+    {
+        WholePath, ///< below the user's home with "~"
+        FileName
+    };
+
+    explicit PathLabel(const QString& path, Form form = WholePath, QWidget* parent = nullptr);
+
+    /// What the line holds.
+    QString text() const { return m_text; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -18,8 +27,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QString shown() const;
     void copy() const;
 
     QString m_path;
+    QString m_text;
 };

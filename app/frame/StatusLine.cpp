@@ -3,7 +3,6 @@
 #include "app/HostInformation.h"
 #include "app/frame/PathLabel.h"
 
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -13,7 +12,6 @@ QLabel* plain(const QString& text)
 {
     auto* label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
 
@@ -22,9 +20,10 @@ QLabel* plain(const QString& text)
 StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent)
 {
     const QString library = HostInformation::libraryPath();
-    QLabel* host = plain(library.isEmpty() ? tr("unknown") : QFileInfo(library).fileName());
-    host->setToolTip(library);
-    add(tr("Host library:"), host, 0);
+    add(tr("Host library:"),
+        library.isEmpty() ? static_cast<QWidget*>(plain(tr("unknown")))
+                          : new PathLabel(library, PathLabel::FileName),
+        0);
     const QString store = HostInformation::storePath();
     add(tr("Settings store:"),
         store.isEmpty() ? static_cast<QWidget*>(plain(tr("none"))) : new PathLabel(store), 1);

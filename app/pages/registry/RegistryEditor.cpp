@@ -31,7 +31,7 @@ QString keyOf(const QString& path, const Value& value)
 // The service deletes a key of the same name along with a value.
 bool takesKeyAlong(const QString& path, const Value& value)
 {
-    return listRegistryKey(keyOf(path, value)).keys.contains(value.name);
+    return isRegistryGroup(RegistryPath::join(keyOf(path, value), value.name));
 }
 
 QString namesOf(const std::vector<Value>& values)

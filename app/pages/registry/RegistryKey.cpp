@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int usualSize = 512;
+
 // Null until the service is there.
 IPlatformRegisterManager* manager()
 {
@@ -38,22 +40,26 @@ RegistryKey::~RegistryKey()
         manager()->RegCloseKey(m_key);
 }
 
+// Most values fit at once; what does not is measured first.
 RegistryReading RegistryKey::read(const QString& name) const
 {
     RegistryReading reading;
     if (!m_key)
         return reading;
     const std::wstring wide = name.toStdWString();
+    const auto readInto = [this, &wide, &reading](int room) {
+        reading.data.resize(room);
+        auto size = static_cast<unsigned int>(room);
+        reading.readable = manager()->RegQueryValueExW(m_key, wide.c_str(), nullptr, &reading.type,
+                                                       bytes(reading.data), &size) == ERROR_SUCCESS;
+        reading.data.truncate(reading.readable ? static_cast<int>(size) : 0);
+        return reading.readable;
+    };
     unsigned int size = UINT_MAX; // with no buffer, large enough for the length of anything
-    if (manager()->RegQueryValueExW(m_key, wide.c_str(), nullptr, &reading.type, nullptr, &size) !=
-        ERROR_SUCCESS)
-        return reading;
-    // Texts demand room for a terminator that is never written.
-    reading.data.fill('\0', static_cast<int>(size + sizeof(wchar_t)));
-    size = static_cast<unsigned int>(reading.data.size());
-    reading.readable = manager()->RegQueryValueExW(m_key, wide.c_str(), nullptr, &reading.type,
-                                                   bytes(reading.data), &size) == ERROR_SUCCESS;
-    reading.data.truncate(reading.readable ? static_cast<int>(size) : 0);
+    if (!readInto(usualSize) &&
+        manager()->RegQueryValueExW(m_key, wide.c_str(), nullptr, &reading.type, nullptr, &size) ==
+            ERROR_SUCCESS)
+        readInto(static_cast<int>(size + sizeof(wchar_t))); // texts demand room for a terminator
     return reading;
 }
 

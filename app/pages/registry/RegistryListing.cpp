@@ -9,6 +9,7 @@
 
 namespace {
 
+// Enters a group of the store for as long as it lives.
 class GroupScope
 {
 public:
@@ -19,46 +20,67 @@ public:
     GroupScope& operator=(const GroupScope&) = delete;
 };
 
+// To be asked within the key's group.
 bool isMark(const QString& name)
 {
     return g_globalSettings->value(name).isNull();
 }
 
-} // namespace
-
-RegistryListing listRegistryKey(const QString& path)
+QStringList without(const QStringList& names, const QStringList& others)
 {
-    RegistryListing listing;
-    if (!g_globalSettings)
-        return listing;
-    const GroupScope group(path);
-    listing.keys = g_globalSettings->childGroups();
-    listing.values = g_globalSettings->childKeys();
-    for (const QString& name : qAsConst(listing.values)) {
-        if (isMark(name))
-            listing.marks.append(name);
-    }
-    std::set_difference(listing.marks.cbegin(), listing.marks.cend(), listing.keys.cbegin(),
-                        listing.keys.cend(), std::back_inserter(listing.createdKeys));
-    return listing;
+    QStringList rest;
+    std::set_difference(names.cbegin(), names.cend(), others.cbegin(), others.cend(),
+                        std::back_inserter(rest));
+    return rest;
 }
 
-QStringList allSubKeys(const RegistryListing& listing)
+} // namespace
+
+QStringList RegistryListing::allKeys() const
 {
-    QStringList names = listing.keys + listing.createdKeys;
+    QStringList names = keys + createdKeys;
     std::sort(names.begin(), names.end());
     return names;
 }
 
-bool hasSubKeys(const QString& path)
+RegistryListing listRegistryKey(const RegistryIndex& index, const QString& path)
+{
+    RegistryListing listing;
+    if (!g_globalSettings)
+        return listing;
+    const RegistryIndex::Children children = index.children(path);
+    listing.keys = children.groups;
+    listing.values = children.entries;
+    const GroupScope group(path);
+    std::copy_if(listing.values.cbegin(), listing.values.cend(), std::back_inserter(listing.marks),
+                 isMark);
+    listing.createdKeys = without(listing.marks, listing.keys);
+    return listing;
+}
+
+bool hasSubKeys(const RegistryIndex& index, const QString& path)
 {
     if (!g_globalSettings)
         return false;
-    const GroupScope group(path);
-    if (!g_globalSettings->childGroups().isEmpty())
+    const RegistryIndex::Children children = index.children(path);
+    if (!children.groups.isEmpty())
         return true;
-    const QStringList names = g_globalSettings->childKeys();
-    return std::any_of(names.cbegin(), names.cend(), isMark);
+    const GroupScope group(path);
+    return std::any_of(children.entries.cbegin(), children.entries.cend(), isMark);
+}
+
+QStringList registryValueNames(const QString& path)
+{
+    if (!g_globalSettings)
+        return {};
+    const GroupScope group(path);
+    return g_globalSettings->childKeys();
+}
+
+bool isRegistryGroup(const QString& path)
+{
+    const GroupScope group(path);
+    return !g_globalSettings->childKeys().isEmpty() || !g_globalSettings->childGroups().isEmpty();
 }
 
 QVariant rawRegistryEntry(const QString& path)

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "app/pages/registry/RegistryIndex.h"
+
 #include <QStringList>
 #include <QVariant>
 
-/// What a key holds, listed in one go from the store: the service lists one name a call and counts
-/// from the start each time. The names are the same; the values are read through the service.
+/// What a key holds. Names come from the store in one go; values are read through the service.
 struct RegistryListing
 {
     /// Sub-keys as RegEnumKeyW lists them.
@@ -17,15 +18,21 @@ struct RegistryListing
     /// Entries without a value: the marks that the creation of a key leaves in its parent. They
     /// stay when the key has got its contents.
     QStringList marks;
+
+    /// Both kinds of sub-keys together, sorted.
+    QStringList allKeys() const;
 };
 
-RegistryListing listRegistryKey(const QString& path);
+RegistryListing listRegistryKey(const RegistryIndex& index, const QString& path);
 
-/// Both kinds of sub-keys together, sorted.
-QStringList allSubKeys(const RegistryListing& listing);
+/// True when there are sub-keys of either kind.
+bool hasSubKeys(const RegistryIndex& index, const QString& path);
 
-/// Both kinds of sub-keys, without listing the values apart.
-bool hasSubKeys(const QString& path);
+/// The names of a key's values as they are now.
+QStringList registryValueNames(const QString& path);
+
+/// True when anything lies below this path now.
+bool isRegistryGroup(const QString& path);
 
 /// The entry itself, past the service: raw.
 QVariant rawRegistryEntry(const QString& path);

@@ -71,7 +71,6 @@ RegistryPage::RegistryPage(QWidget* parent)
     body()->addWidget(halves, 1);
     setFocusProxy(m_tree);
     connectParts();
-    m_tree->expand(m_keys->rootItem());
     m_tree->setCurrentIndex(m_keys->rootItem());
     showEmptyState();
 }
@@ -214,7 +213,9 @@ QString RegistryPage::path() const
 
 void RegistryPage::showKey(const QModelIndex& current)
 {
-    m_values->setPath(m_keys->path(current));
+    if (!m_read)
+        return;
+    m_values->setPath(m_keys->path(current), m_keys->names());
     m_address->setText(RegistryPath::shown(m_values->path()));
     m_hint->setText(current == m_keys->rootItem() && !m_keys->hasChildren(current)
                         ? tr("The registry is empty. Create a key with New, or import a registry "
@@ -255,6 +256,8 @@ void RegistryPage::refresh()
     const QModelIndex value = m_table->currentIndex();
     const QString name = value.isValid() ? m_values->value(value.row()).name : QString();
     m_keys->refresh();
+    if (!std::exchange(m_read, true))
+        m_tree->expand(m_keys->rootItem());
     showKey(m_tree->currentIndex());
     selectValue(name);
 }
@@ -268,8 +271,23 @@ void RegistryPage::selectValue(const QString& name)
 
 void RegistryPage::entered()
 {
-    refresh();
+    if (m_read)
+        refresh();
+    else
+        readFirst();
     showEmptyState();
+}
+
+// A large store takes its time when it is listed first: the page is painted before, and between.
+void RegistryPage::readFirst()
+{
+    const auto later = [this](auto work) {
+        QMetaObject::invokeMethod(this, work, Qt::QueuedConnection);
+    };
+    later([this, later] {
+        RegistryIndex::prepare();
+        later([this] { refresh(); });
+    });
 }
 
 void RegistryPage::find()

@@ -44,6 +44,7 @@ private:
     void connectParts();
     QString path() const;
     void showKey(const QModelIndex& current);
+    void readFirst();
     void showRemark(const QModelIndex& current);
     void showEmptyState();
     void enableActions();
@@ -68,6 +69,7 @@ private:
     QTableView* m_table;
     FindPane* m_find;
     EmptyHint* m_hint = nullptr;
+    bool m_read = false; ///< the store has been listed
     QMenu* m_newMenu = nullptr;
     QAction* m_edit = nullptr;
     QAction* m_removeValue = nullptr;

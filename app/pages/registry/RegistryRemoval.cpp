@@ -25,5 +25,5 @@ bool RegistryRemoval::step()
 void RegistryRemoval::openLast()
 {
     m_key = std::make_unique<RegistryKey>(m_keys.last());
-    m_values = listRegistryKey(m_keys.last()).values;
+    m_values = registryValueNames(m_keys.last());
 }

@@ -55,7 +55,9 @@ struct RegistryTreeModel::Node
 };
 
 RegistryTreeModel::RegistryTreeModel(QObject* parent)
-    : QAbstractItemModel(parent), m_root(std::make_unique<Node>())
+    : QAbstractItemModel(parent),
+      m_names(std::make_shared<RegistryIndex>()),
+      m_root(std::make_unique<Node>())
 {
 }
 
@@ -112,7 +114,8 @@ bool RegistryTreeModel::hasChildren(const QModelIndex& parent) const
     if (item.listed)
         return !item.names.isEmpty();
     if (item.below == Node::Below::Unknown)
-        item.below = hasSubKeys(item.path()) ? Node::Below::Something : Node::Below::Nothing;
+        item.below =
+            hasSubKeys(*m_names, item.path()) ? Node::Below::Something : Node::Below::Nothing;
     return item.below == Node::Below::Something;
 }
 
@@ -137,8 +140,8 @@ void RegistryTreeModel::list(Node& node) const
 {
     if (node.listed)
         return;
-    const RegistryListing listing = listRegistryKey(node.path());
-    node.names = allSubKeys(listing);
+    const RegistryListing listing = listRegistryKey(*m_names, node.path());
+    node.names = listing.allKeys();
     node.created = listing.createdKeys;
     node.listed = true;
 }
@@ -227,6 +230,7 @@ QModelIndex RegistryTreeModel::find(const QString& path)
 
 void RegistryTreeModel::refresh()
 {
+    m_names = RegistryIndex::read();
     update(*m_root);
     // Marks of created keys, and the arrows of keys that have gained or lost their sub-keys.
     emit layoutAboutToBeChanged();
@@ -238,8 +242,8 @@ void RegistryTreeModel::update(Node& node)
     node.below = Node::Below::Unknown;
     if (!node.listed)
         return;
-    const RegistryListing listing = listRegistryKey(node.path());
-    const QStringList names = allSubKeys(listing);
+    const RegistryListing listing = listRegistryKey(*m_names, node.path());
+    const QStringList names = listing.allKeys();
     removeVanished(node, names);
     insertNew(node, names);
     node.names = names;

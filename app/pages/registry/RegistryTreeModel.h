@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/pages/registry/RegistryIndex.h"
+
 #include <QAbstractItemModel>
 
 #include <memory>
@@ -24,6 +26,9 @@ public:
     void fetchMore(const QModelIndex& parent) override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
+    /// The names that the items come from.
+    const RegistryIndex& names() const { return *m_names; }
+
     QModelIndex rootItem() const;
 
     /// The key's path in the store; empty for the root.
@@ -33,7 +38,8 @@ public:
     /// The item of a key, read in as needed; of the nearest key above it where there is none.
     QModelIndex find(const QString& path);
 
-    /// Brings everything that has been read so far up to date; items that stay keep their place.
+    /// Lists the store, which the model does not do before; brings everything that has been read so
+    /// far up to date; items that stay keep their place.
     void refresh();
 
 private:
@@ -49,6 +55,7 @@ private:
     void removeVanished(Node& node, const QStringList& names);
     void insertNew(Node& node, const QStringList& names);
 
+    std::shared_ptr<const RegistryIndex> m_names;
     std::unique_ptr<Node> m_root;
     bool m_inserting = false;
 };

@@ -51,30 +51,30 @@ int RegistryValueModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
-void RegistryValueModel::setPath(const QString& path)
+void RegistryValueModel::setPath(const QString& path, const RegistryIndex& names)
 {
     beginResetModel();
     m_path = path;
     m_rows.clear();
     m_key = std::make_unique<RegistryKey>(path);
     if (path.isEmpty()) {
-        listRoot();
+        listRoot(names);
     } else {
-        const QStringList names = listRegistryKey(path).values;
-        for (const QString& name : names)
+        const QStringList values = registryValueNames(path);
+        for (const QString& name : values)
             m_rows.push_back({name, Place::InKey, {}});
     }
     endResetModel();
 }
 
-void RegistryValueModel::listRoot()
+void RegistryValueModel::listRoot(const RegistryIndex& names)
 {
-    const RegistryListing listing = listRegistryKey(QString());
-    for (const QString& name : listing.keys) {
+    const RegistryIndex::Children children = names.children(QString());
+    for (const QString& name : children.groups) {
         if (!rawRegistryEntry(RegistryPath::join(name, name)).isNull())
             m_rows.push_back({name, Place::UnderRoot, {}});
     }
-    for (const QString& name : listing.values)
+    for (const QString& name : children.entries)
         m_rows.push_back({name, Place::ListedAtRoot, {}});
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/pages/registry/RegistryIndex.h"
 #include "app/pages/registry/RegistryKey.h"
 
 #include <QAbstractTableModel>
@@ -49,7 +50,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     /// Shows the values of this key, read anew.
-    void setPath(const QString& path);
+    /// `names` is used for the root alone, which has the whole store below it.
+    void setPath(const QString& path, const RegistryIndex& names);
     QString path() const { return m_path; }
 
     const Value& value(int row) const;
@@ -64,7 +66,7 @@ private:
         mutable std::optional<Value> value;
     };
 
-    void listRoot();
+    void listRoot(const RegistryIndex& names);
     Value read(const Row& row) const;
     QString entryPath(const Row& row) const;
     QVariant text(const Value& value, int column) const;

@@ -5,12 +5,12 @@
 
 #include <algorithm>
 
-RegistryWalk::RegistryWalk(const QString& path) : m_pending(path) {}
+RegistryWalk::RegistryWalk(const QString& path) : m_index(RegistryIndex::read()), m_pending(path) {}
 
 RegistryWalk::Step RegistryWalk::next()
 {
-    if (m_index + 1 < m_names.size()) {
-        ++m_index;
+    if (m_at + 1 < m_names.size()) {
+        ++m_at;
         ++m_values;
         return Step::Value;
     }
@@ -24,10 +24,10 @@ void RegistryWalk::enter()
 {
     m_path = m_pending.takeLast();
     m_key.reset();
-    m_index = -1;
+    m_at = -1;
     ++m_keys;
-    const RegistryListing listing = listRegistryKey(m_path);
-    QStringList below = allSubKeys(listing);
+    const RegistryListing listing = listRegistryKey(*m_index, m_path);
+    QStringList below = listing.allKeys();
     std::reverse(below.begin(), below.end());
     for (const QString& name : qAsConst(below))
         m_pending.append(RegistryPath::join(m_path, name));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/pages/registry/RegistryIndex.h"
 #include "app/pages/registry/RegistryKey.h"
 
 #include <QStringList>
@@ -24,7 +25,7 @@ public:
     Step next();
 
     QString path() const { return m_path; }
-    QString name() const { return m_names.at(m_index); }
+    QString name() const { return m_names.at(m_at); }
     /// The key, open for reading the value.
     const RegistryKey& key();
 
@@ -34,10 +35,11 @@ public:
 private:
     void enter();
 
+    std::shared_ptr<const RegistryIndex> m_index;
     QStringList m_pending; ///< the next one last
     QString m_path;
     QStringList m_names;
-    int m_index = -1;
+    int m_at = -1;
     std::unique_ptr<RegistryKey> m_key;
     int m_keys = 0;
     int m_values = 0;

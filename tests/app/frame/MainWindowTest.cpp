@@ -2,6 +2,7 @@
 
 #include "app/CommandLine.h"
 #include "app/frame/PageRail.h"
+#include "app/frame/PathLabel.h"
 #include "app/pages/Page.h"
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
@@ -173,12 +174,13 @@ TEST_F(MainWindowTest, TellsItsSurroundingsInTheStatusLine)
     QStringList texts;
     for (const QLabel* label : m_window.findChildren<QLabel*>())
         texts.append(label->text());
-    EXPECT_TRUE(texts.contains("libKdPlatformBase.so")) << texts.join('|').toStdString();
-    EXPECT_TRUE(texts.contains("English")) << texts.join('|').toStdString();
-    bool storeShown = false;
-    for (const QWidget* widget : m_window.findChildren<QWidget*>())
-        storeShown = storeShown || widget->toolTip() == g_globalSettings->fileName();
-    EXPECT_TRUE(storeShown);
+    for (const PathLabel* label : m_window.findChildren<PathLabel*>())
+        texts.append(label->text() + "|" + label->toolTip());
+    EXPECT_TRUE(texts.contains("English")) << texts.join('\n').toStdString();
+    EXPECT_EQ(texts.filter("libKdPlatformBase.so|/").size(), 1) << texts.join('\n').toStdString();
+    EXPECT_EQ(
+        texts.filter("~/data/window_test/registry.ini|" + g_globalSettings->fileName()).size(), 1)
+        << texts.join('\n').toStdString();
 }
 
 TEST_F(MainWindowTest, FitsASmallScreen)

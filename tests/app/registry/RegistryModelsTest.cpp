@@ -17,6 +17,7 @@ class RegistryModels : public RegistryTest
 protected:
     QStringList below(const QString& path)
     {
+        m_tree.refresh();
         const QModelIndex parent = m_tree.find(path);
         while (m_tree.canFetchMore(parent))
             m_tree.fetchMore(parent);
@@ -48,20 +49,22 @@ TEST_F(RegistryModels, ListTheSameKeysAsTheService)
     for (const char* entry : {"b/x", "a/b/c", "a/d", "e", "f/g/h"})
         store(entry, "1$1");
     store("f/created", QVariant());
+    m_tree.refresh();
     wchar_t name[16] = {};
     QStringList listed;
     IPlatformRegisterManager* manager = g_PlatformServices.registerManager();
     for (unsigned int i = 0; manager->RegEnumKeyW(HKEY_USERS, i, name, 16) == ERROR_SUCCESS; ++i)
         listed.append(QString::fromWCharArray(name, 1));
-    EXPECT_EQ(listRegistryKey("").keys, listed);
-    EXPECT_EQ(listRegistryKey("").values, QStringList("e"));
-    EXPECT_EQ(listRegistryKey("f").createdKeys, QStringList("created"));
+    EXPECT_EQ(listRegistryKey(m_tree.names(), "").keys, listed);
+    EXPECT_EQ(listRegistryKey(m_tree.names(), "").values, QStringList("e"));
+    EXPECT_EQ(listRegistryKey(m_tree.names(), "f").createdKeys, QStringList("created"));
 }
 
 TEST_F(RegistryModels, ReadKeysLevelByLevel)
 {
     store("a/b/c/v", "1$1");
     store("a/v", "1$1");
+    m_tree.refresh();
     const QModelIndex root = m_tree.rootItem();
     EXPECT_TRUE(m_tree.hasChildren(root));
     EXPECT_EQ(m_tree.rowCount(root), 0);
@@ -88,6 +91,7 @@ TEST_F(RegistryModels, ShowACreatedKeyBeforeItHoldsAnything)
 TEST_F(RegistryModels, FindTheNearestKeyAboveOneThatIsMissing)
 {
     store("a/b/v", "1$1");
+    m_tree.refresh();
     EXPECT_EQ(m_tree.path(m_tree.find("a/b/x/y")), "a/b");
     EXPECT_EQ(m_tree.path(m_tree.find("zzz")), "");
 }
@@ -116,11 +120,11 @@ TEST_F(RegistryModels, KeepTheContractOfModels)
     for (int i = 0; i < 2100; ++i)
         store(QString("k%1/v").arg(i, 4, 10, QChar('0')), "1$1");
     below("");
-    m_values.setPath("k0001");
+    m_values.setPath("k0001", m_tree.names());
     store("k0000/sub/v", "1$1");
     store("k00005/v", "1$1");
     m_tree.refresh();
-    m_values.setPath("k0000");
+    m_values.setPath("k0000", m_tree.names());
     EXPECT_EQ(below("").size(), 2101);
     EXPECT_EQ(below("k0000"), QStringList("sub"));
 }
@@ -129,6 +133,7 @@ TEST_F(RegistryModels, ShowVeryManyKeysInBatches)
 {
     for (int i = 0; i < 4500; ++i)
         store(QString("k%1/v").arg(i, 5, 10, QChar('0')), "1$1");
+    m_tree.refresh();
     const QModelIndex root = m_tree.rootItem();
     m_tree.fetchMore(root);
     EXPECT_EQ(m_tree.rowCount(root), 2000);
@@ -167,7 +172,7 @@ TEST_F(RegistryModels, ShowAValueAsTheServiceReadsIt)
     };
     for (const ValueRow& row : table) {
         store("k/v", row.entry);
-        m_values.setPath("k");
+        m_values.setPath("k", m_tree.names());
         ASSERT_EQ(m_values.rowCount(), 1);
         EXPECT_EQ(cell(0, Model::Name).toStdString(), "v");
         EXPECT_EQ(cell(0, Model::Type).toStdString(), row.type);
@@ -180,7 +185,7 @@ TEST_F(RegistryModels, KeepCharactersBeyondTheBasicPlane)
 {
     const QString text = QString::fromUcs4(U"\u6e2f\U0001F600", 2);
     store("k/v", "5$" + text);
-    m_values.setPath("k");
+    m_values.setPath("k", m_tree.names());
     EXPECT_EQ(cell(0, Model::Data), text);
 }
 
@@ -188,7 +193,7 @@ TEST_F(RegistryModels, ShowAValueUnderARootWhereItIsAskedFor)
 {
     store("X/X", "5$kept below");
     store("X/other", "5$not here");
-    m_values.setPath("");
+    m_values.setPath("", *RegistryIndex::read());
     ASSERT_EQ(m_values.rowCount(), 1);
     EXPECT_EQ(cell(0, Model::Name).toStdString(), "X");
     EXPECT_EQ(cell(0, Model::Data).toStdString(), "kept below");
@@ -199,7 +204,7 @@ TEST_F(RegistryModels, ShowAValueUnderARootWhereItIsAskedFor)
 TEST_F(RegistryModels, ShowAnEntryOfTheRootAsListedOnly)
 {
     store("loose", "1$7");
-    m_values.setPath("");
+    m_values.setPath("", *RegistryIndex::read());
     ASSERT_EQ(m_values.rowCount(), 1);
     EXPECT_EQ(m_values.value(0).place, Model::Place::ListedAtRoot);
     EXPECT_EQ(cell(0, Model::Type).toStdString(), "REG_DWORD");

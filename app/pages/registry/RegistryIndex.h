@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QStringList>
+
+#include <memory>
+
+/// The names of everything in the store, listed in one go: the service lists one name a call and
+/// counts from the start each time, and the store itself looks through all that lies below a key.
+/// A picture of one moment; the values are read through the service when they are looked at.
+class RegistryIndex
+{
+public:
+    struct Children
+    {
+        /// Sub-keys as RegEnumKeyW lists them.
+        QStringList groups;
+        /// Values as RegEnumValueW lists them.
+        QStringList entries;
+    };
+
+    /// Makes the store take its file apart, which it puts off until somebody lists it: half of the
+    /// time that the first `read` would take.
+    static void prepare();
+
+    static std::shared_ptr<const RegistryIndex> read();
+
+    /// What is right below a key, each kind sorted.
+    Children children(const QString& path) const;
+
+private:
+    QStringList m_entries; ///< full paths, sorted
+};
