@@ -6,6 +6,7 @@
 #include "app/pages/TableLook.h"
 #include "app/pages/log/LogFilter.h"
 #include "app/pages/log/LogModel.h"
+#include "app/pages/log/TailFollower.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -18,7 +19,6 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QSaveFile>
-#include <QScrollBar>
 #include <QTableView>
 
 LogPage::LogPage(QWidget* parent)
@@ -36,7 +36,7 @@ LogPage::LogPage(QWidget* parent)
     body()->addWidget(m_table, 1);
     body()->addLayout(makeFooter());
     setFocusProxy(m_table);
-    followTheEnd();
+    new TailFollower(m_table);
     connect(&ApplicationLog::instance(), &ApplicationLog::written, this, &LogPage::readNew);
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &LogPage::showCount);
     connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &LogPage::showCount);
@@ -100,18 +100,6 @@ QLayout* LogPage::makeFooter()
     file->setAccessibleName(tr("File"));
     line->addWidget(file);
     return line;
-}
-
-// New lines are followed by a view that stands at the end, and by no other.
-void LogPage::followTheEnd()
-{
-    QScrollBar* bar = m_table->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this,
-            [this, bar](int value) { m_atEnd = value >= bar->maximum(); });
-    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
-        if (m_atEnd)
-            bar->setValue(bar->maximum());
-    });
 }
 
 void LogPage::refresh()

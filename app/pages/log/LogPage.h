@@ -27,7 +27,6 @@ private:
     void makeTable();
     QLayout* makeControls();
     QLayout* makeFooter();
-    void followTheEnd();
     void readNew();
     void showCount();
     void askSave();
@@ -39,5 +38,4 @@ private:
     QComboBox* m_level;
     QLineEdit* m_text;
     QLabel* m_count;
-    bool m_atEnd = true;
 };

@@ -33,8 +33,10 @@ protected:
         m_window.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
         EXPECT_TRUE(QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }));
-        EXPECT_TRUE(QTest::qWaitFor(
-            [] { return qobject_cast<QTreeView*>(QApplication::focusWidget()) != nullptr; }));
+        EXPECT_TRUE(QTest::qWaitFor([] {
+            auto* tree = qobject_cast<QTreeView*>(QApplication::focusWidget());
+            return tree && tree->isExpanded(tree->model()->index(0, 0));
+        }));
     }
 
     QAnimationStackedWidget& stack() { return *m_window.findChild<QAnimationStackedWidget*>(); }
