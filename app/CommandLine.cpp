@@ -4,7 +4,6 @@
 #include "platform/PlatformServicesImp.h"
 
 #include <QCoreApplication>
-#include <QString>
 #include <QTranslator>
 
 #include <cstring>
@@ -64,4 +63,9 @@ void parseCommandLine(int argc, char** argv, QTranslator& appTranslator, QTransl
     install(appTranslator, QStringLiteral(":/translator/kdlm_zh.qm"));
     // Below the working directory, not beside the executable: each deployment brings its own.
     install(qtTranslator, QStringLiteral("./translations/qt_zh_CN.qm"));
+}
+
+QString requestedPage(int argc, char** argv)
+{
+    return optionValue(argc, argv, "/page");
 }

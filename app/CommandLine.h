@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QTranslator;
 
 /// Reads the options, hands `g_PlatformServices` to the host library and installs the translators
@@ -9,3 +11,7 @@ class QTranslator;
 /// read only when the arguments form whole pairs; a malformed line is ignored. "/language" with the
 /// value "zh-CN" chooses Chinese, and so does a configured language identifier of 2052.
 void parseCommandLine(int argc, char** argv, QTranslator& appTranslator, QTranslator& qtTranslator);
+
+/// The value of the option "/page", read by the same rules: the name of the page to open the window
+/// on. Empty when the option is not given.
+QString requestedPage(int argc, char** argv);

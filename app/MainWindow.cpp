@@ -1,43 +1,99 @@
 #include "app/MainWindow.h"
 
-#include "host/HostLibraries.h"
+#include "app/ApplicationLog.h"
+#include "app/HostInformation.h"
+#include "app/frame/PageRail.h"
+#include "app/frame/PageStack.h"
+#include "app/frame/StatusLine.h"
+#include "app/pages/Page.h"
 
-#include <QFormLayout>
-#include <QLabel>
-#include <QSettings>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QShortcut>
 
-#include <dlfcn.h>
+#include <algorithm>
 
 namespace {
 
-// The file that setPlatformServices comes from: the maker's library or the stand-in.
-QString hostLibraryPath()
+// Comfortable for two columns of text, and never larger than the screen.
+QSize firstSize(const QWidget& window)
 {
-    Dl_info info{};
-    if (dladdr(reinterpret_cast<void*>(&setPlatformServices), &info) == 0)
-        return QString();
-    return QString::fromLocal8Bit(info.dli_fname);
-}
-
-QLabel* selectable(const QString& text, QWidget* parent)
-{
-    auto* label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    return label;
+    const int unit = window.fontMetrics().height();
+    const QSize wanted(unit * 66, unit * 44);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? wanted.boundedTo(screen->availableSize() * 0.9) : wanted;
 }
 
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
 {
+    logInfo(QStringLiteral("Host library %1, settings store %2")
+                .arg(HostInformation::libraryPath(), HostInformation::storePath()));
     setWindowTitle(tr("Quayside"));
-    auto* layout = new QFormLayout(this);
-    layout->addRow(tr("Host library:"), selectable(hostLibraryPath(), this));
-    layout->addRow(tr("Settings store:"),
-                   selectable(g_globalSettings ? g_globalSettings->fileName() : tr("none"), this));
-    layout->addRow(tr("Language:"),
-                   selectable(tr("English", "name of the interface's language"), this));
-    // A definite size: start-up centres the window before it is first shown.
-    resize(sizeHint());
+    const std::vector<PageEntry> pages = pageCatalogue();
+    for (const PageEntry& page : pages)
+        m_names.push_back(page.name);
+    m_rail = new PageRail(pages);
+    m_stack = new PageStack(pages);
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addWidget(m_rail);
+    middle->addWidget(m_stack, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(middle, 1);
+    layout->addWidget(new StatusLine);
+    m_rail->setChosen(0);
+    connect(m_rail, &PageRail::chosen, this, &MainWindow::choose);
+    connect(m_stack, &PageStack::entered, this, &MainWindow::logPage);
+    addShortcuts(static_cast<int>(pages.size()));
+    resize(firstSize(*this));
+}
+
+void MainWindow::addShortcuts(int pages)
+{
+    for (int page = 0; page < pages; ++page) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | (Qt::Key_1 + page)), this);
+        connect(shortcut, &QShortcut::activated, this, [this, page] { choose(page); });
+    }
+    auto* refresh = new QShortcut(QKeySequence(Qt::Key_F5), this);
+    connect(refresh, &QShortcut::activated, this, [this] { onCurrentPage(&Page::refresh); });
+    auto* find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
+    connect(find, &QShortcut::activated, this, [this] { onCurrentPage(&Page::find); });
+}
+
+void MainWindow::showPage(const QString& name)
+{
+    const auto found = std::find(m_names.begin(), m_names.end(), name);
+    if (found == m_names.end())
+        return;
+    const int page = static_cast<int>(found - m_names.begin());
+    m_rail->setChosen(page);
+    m_stack->open(page);
+}
+
+Page* MainWindow::currentPage() const
+{
+    return m_stack->page(m_stack->current());
+}
+
+void MainWindow::choose(int page)
+{
+    m_rail->setChosen(page);
+    m_stack->slideTo(page);
+}
+
+void MainWindow::logPage(int page)
+{
+    logInfo(QStringLiteral("Page %1").arg(m_names[static_cast<std::size_t>(page)]));
+}
+
+void MainWindow::onCurrentPage(void (Page::*operation)())
+{
+    Page* page = currentPage();
+    if (page && !page->isBusy())
+        (page->*operation)();
 }

@@ -2,11 +2,34 @@
 
 #include <QWidget>
 
-/// The application's window. Construct it after the translators are installed.
+class Page;
+class PageRail;
+class PageStack;
+
+/// The application's window: a rail of buttons, the pages, and a status line. Construct it after
+/// the translators are installed. It holds nothing that takes time: pages are made on their first
+/// visit.
 class MainWindow : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit MainWindow(QWidget* parent = nullptr);
+
+    /// Opens on the page of this name ("registry", "profiles", ...), without sliding. An unknown
+    /// name changes nothing. Call it before the window is shown.
+    void showPage(const QString& name);
+
+    /// The page in view; null until it has been made.
+    Page* currentPage() const;
+
+private:
+    void addShortcuts(int pages);
+    void choose(int page);
+    void logPage(int page);
+    void onCurrentPage(void (Page::*operation)());
+
+    std::vector<QString> m_names;
+    PageRail* m_rail;
+    PageStack* m_stack;
 };

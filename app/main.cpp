@@ -28,6 +28,7 @@ int main(int argc, char** argv)
     QTranslator qtTranslator;
     parseCommandLine(argc, argv, appTranslator, qtTranslator);
     MainWindow window;
+    window.showPage(requestedPage(argc, argv));
     centreOnDesktop(window);
     window.show();
     return QApplication::exec();

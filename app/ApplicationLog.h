@@ -1,0 +1,37 @@
+#pragma once
+
+#include "app/Logger.h"
+
+#include <QObject>
+#include <QString>
+
+/// The log of the running application: one file below the user's state folder, to which every run
+/// appends. Created on first use, closed at process exit.
+///
+/// Pass phrases, keys and clear texts never go into it.
+class ApplicationLog : public QObject
+{
+    Q_OBJECT
+
+public:
+    static ApplicationLog& instance();
+
+    /// $XDG_STATE_HOME (by default ~/.local/state), the application's name, quayside.log.
+    static QString path();
+
+    void write(Logger::log_level level, const QString& text);
+
+signals:
+    /// A line has been written and flushed.
+    void written();
+
+private:
+    ApplicationLog();
+
+    Logger m_logger;
+};
+
+/// Short forms of ApplicationLog::write.
+void logInfo(const QString& text);
+void logWarning(const QString& text);
+void logError(const QString& text);

@@ -1,0 +1,27 @@
+#include "app/HostInformation.h"
+
+#include "host/HostLibraries.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+#include <dlfcn.h>
+
+// Whoever defines setPlatformServices is the host library.
+QString HostInformation::libraryPath()
+{
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<void*>(&setPlatformServices), &info) == 0)
+        return QString();
+    return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absoluteFilePath();
+}
+
+QString HostInformation::storePath()
+{
+    return g_globalSettings ? g_globalSettings->fileName() : QString();
+}
+
+QString HostInformation::language()
+{
+    return tr("English", "name of the interface's language");
+}

@@ -1,0 +1,50 @@
+#include "app/frame/PageRail.h"
+
+#include "app/frame/RailButton.h"
+#include "widgets/ButtonMonitor.h"
+
+#include <QButtonGroup>
+#include <QKeySequence>
+#include <QVBoxLayout>
+
+namespace {
+
+QString withoutMnemonic(const QString& title)
+{
+    QString text = title;
+    // Chinese titles carry theirs in brackets behind the word.
+    const int bracket = text.indexOf(QLatin1String("(&"));
+    if (bracket >= 0)
+        text.truncate(bracket);
+    return text.remove(QLatin1Char('&'));
+}
+
+} // namespace
+
+PageRail::PageRail(const std::vector<PageEntry>& pages, QWidget* parent)
+    : QWidget(parent), m_buttons(new QButtonGroup(this))
+{
+    setAccessibleName(tr("Pages"));
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+    auto* layout = new QVBoxLayout(this);
+    for (const PageEntry& page : pages) {
+        const int index = m_buttons->buttons().size();
+        auto* button = new RailButton(glyphIcon(page.glyph), page.title);
+        button->setObjectName(page.name);
+        button->setAccessibleName(withoutMnemonic(page.title));
+        button->setToolTip(
+            QKeySequence(Qt::ALT | (Qt::Key_1 + index)).toString(QKeySequence::NativeText));
+        button->installEventFilter(&g_buttonMonitor);
+        connect(button, &QPushButton::clicked, this, [this, index] { emit chosen(index); });
+        m_buttons->addButton(button, index);
+        layout->addWidget(button);
+    }
+    layout->addStretch();
+}
+
+void PageRail::setChosen(int page)
+{
+    if (QAbstractButton* button = m_buttons->button(page))
+        button->setChecked(true);
+}

@@ -1,0 +1,115 @@
+#include "app/pages/BusyOverlay.h"
+
+#include "widgets/ButtonMonitor.h"
+#include "widgets/QProgressIndicator.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+// The wheel turns on a darkened page, so it takes the lighter one of two opposite colours.
+QColor wheelColor(const QPalette& palette)
+{
+    const QColor base = palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::Text);
+    return base.lightness() > text.lightness() ? base : text;
+}
+
+} // namespace
+
+BusyOverlay::BusyOverlay(QWidget* page)
+    : QWidget(page),
+      m_title(new QLabel),
+      m_progress(new QLabel),
+      m_cancel(new QPushButton(tr("Cancel"))),
+      m_panel(makePanel())
+{
+    page->installEventFilter(this);
+    setAccessibleName(tr("Work in progress"));
+    m_cancel->installEventFilter(&g_buttonMonitor);
+    connect(m_cancel, &QPushButton::clicked, this, &BusyOverlay::cancelRequested);
+    setFocusProxy(m_cancel);
+    hide();
+}
+
+QWidget* BusyOverlay::makePanel()
+{
+    auto* panel = new QFrame(this);
+    panel->setFrameStyle(QFrame::StyledPanel);
+    panel->setAutoFillBackground(true);
+    auto* layout = new QVBoxLayout(panel);
+    for (QLabel* label : {m_title, m_progress}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setAlignment(Qt::AlignCenter);
+        layout->addWidget(label);
+    }
+    layout->addWidget(m_cancel, 0, Qt::AlignCenter);
+    return panel;
+}
+
+void BusyOverlay::cover(const QString& title)
+{
+    m_title->setText(title);
+    m_progress->setText(QString(QLatin1Char(' '))); // keeps the line's height
+    setGeometry(parentWidget()->rect());
+    raise();
+    show();
+    // An indicator takes the size of its parent when it is made.
+    m_wheel = new QProgressIndicator(this);
+    m_wheel->setColor(wheelColor(palette()));
+    m_wheel->lower();
+    m_wheel->show();
+    m_wheel->startAnimation();
+    arrange();
+    setFocus();
+}
+
+void BusyOverlay::setProgress(const QString& text)
+{
+    m_progress->setText(text);
+    arrange();
+}
+
+void BusyOverlay::uncover()
+{
+    hide();
+    if (m_wheel)
+        m_wheel->close();
+}
+
+bool BusyOverlay::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+void BusyOverlay::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        emit cancelRequested();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void BusyOverlay::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (m_wheel)
+        m_wheel->resize(size());
+    arrange();
+}
+
+// The panel stands below the wheel, which takes less than a third of the smaller side.
+void BusyOverlay::arrange()
+{
+    const QSize wanted = m_panel->sizeHint().expandedTo(m_panel->size()).boundedTo(size());
+    const int below = height() / 2 + qMin(width(), height()) / 5;
+    const int top = qMax(0, qMin(below, height() - wanted.height()));
+    m_panel->setGeometry((width() - wanted.width()) / 2, top, wanted.width(), wanted.height());
+}

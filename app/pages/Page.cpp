@@ -1,0 +1,138 @@
+#include "app/pages/Page.h"
+
+#include "app/ApplicationLog.h"
+#include "app/frame/GlyphIcon.h"
+#include "app/pages/BusyOverlay.h"
+#include "widgets/ButtonMonitor.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+Logger::log_level level(Page::Report kind)
+{
+    switch (kind) {
+    case Page::Report::Info: return Logger::info;
+    case Page::Report::Warning: return Logger::warning;
+    case Page::Report::Error: return Logger::error;
+    }
+    return Logger::error;
+}
+
+QPixmap statusPixmap(const QWidget& widget, Page::Report kind)
+{
+    if (kind == Page::Report::Info)
+        return {};
+    const int side = widget.fontMetrics().height();
+    const Glyph glyph = kind == Page::Report::Warning ? Glyph::Warning : Glyph::Error;
+    return glyphIcon(glyph).pixmap(widget.windowHandle(), QSize(side, side));
+}
+
+} // namespace
+
+Page::Page(QWidget* parent)
+    : QWidget(parent),
+      m_content(new QWidget(this)),
+      m_body(new QVBoxLayout),
+      m_statusIcon(new QLabel),
+      m_status(new QLabel),
+      m_overlay(new BusyOverlay(this))
+{
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(m_content);
+    auto* content = new QVBoxLayout(m_content);
+    content->addLayout(m_body, 1);
+    auto* line = new QHBoxLayout;
+    line->addWidget(m_statusIcon);
+    line->addWidget(m_status, 1);
+    content->addLayout(line);
+    m_statusIcon->hide();
+    m_status->setTextFormat(Qt::PlainText);
+    m_status->setWordWrap(true);
+    m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_status->setAccessibleName(tr("Status"));
+    connect(m_overlay, &BusyOverlay::cancelRequested, this, &Page::cancelJob);
+    connect(&m_job, &SlicedJob::progressed, this, &Page::showProgress);
+    connect(&m_job, &SlicedJob::finished, this, [this] { endJob(true); });
+}
+
+void Page::refresh() {}
+
+void Page::find() {}
+
+void Page::entered() {}
+
+QString Page::statusText() const
+{
+    return m_status->text();
+}
+
+void Page::startJob(Job job)
+{
+    if (isBusy())
+        return;
+    m_current = std::move(job);
+    if (m_job.start(m_current.step)) {
+        endJob(true);
+        return;
+    }
+    QWidget* focus = window()->focusWidget();
+    m_focusBefore = isAncestorOf(focus) ? focus : nullptr;
+    m_content->setEnabled(false);
+    m_overlay->cover(m_current.title);
+    showProgress();
+}
+
+void Page::cancelJob()
+{
+    if (!isBusy())
+        return;
+    m_job.cancel();
+    endJob(false);
+}
+
+// The callback may start the next job, so this one is out of the way before it is called.
+void Page::endJob(bool complete)
+{
+    const Job job = std::exchange(m_current, {});
+    const bool hadFocus = m_overlay->isAncestorOf(window()->focusWidget());
+    m_content->setEnabled(true);
+    m_overlay->uncover();
+    if (hadFocus && m_focusBefore)
+        m_focusBefore->setFocus();
+    if (job.finished)
+        job.finished(complete);
+}
+
+void Page::showProgress()
+{
+    if (m_current.progress)
+        m_overlay->setProgress(m_current.progress());
+}
+
+void Page::report(Report kind, const QString& text)
+{
+    showStatus(kind, text);
+    ApplicationLog::instance().write(level(kind), text);
+}
+
+void Page::setStatus(const QString& text)
+{
+    showStatus(Report::Info, text);
+}
+
+void Page::showStatus(Report kind, const QString& text)
+{
+    m_statusIcon->setPixmap(statusPixmap(*this, kind));
+    m_statusIcon->setVisible(kind != Report::Info);
+    m_status->setText(text);
+}
+
+QPushButton* glowing(QPushButton* button)
+{
+    button->installEventFilter(&g_buttonMonitor);
+    return button;
+}

@@ -1,0 +1,47 @@
+#include "app/pages/PageCatalogue.h"
+
+#include "app/pages/Page.h"
+#include "app/pages/log/LogPage.h"
+#include "app/pages/registry/RegistryPage.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+template <typename P>
+Page* made(QWidget* parent)
+{
+    return new P(parent);
+}
+
+struct Row
+{
+    const char* name;
+    const char* title;
+    Glyph glyph;
+    Page* (*create)(QWidget* parent);
+};
+
+constexpr Row rows[] = {
+    {"registry", QT_TRANSLATE_NOOP("PageCatalogue", "&Registry"), Glyph::Registry,
+     &made<RegistryPage>},
+    {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles, &made<Page>},
+    {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<Page>},
+    {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<Page>},
+    {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays, &made<Page>},
+    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<Page>},
+    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<Page>},
+    {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), Glyph::Log, &made<LogPage>},
+};
+
+} // namespace
+
+std::vector<PageEntry> pageCatalogue()
+{
+    std::vector<PageEntry> entries;
+    for (const Row& row : rows)
+        entries.push_back({QString::fromLatin1(row.name),
+                           QCoreApplication::translate("PageCatalogue", row.title), row.glyph,
+                           row.create});
+    return entries;
+}

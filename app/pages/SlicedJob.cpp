@@ -1,0 +1,52 @@
+#include "app/pages/SlicedJob.h"
+
+#include <QElapsedTimer>
+
+namespace {
+
+constexpr qint64 sliceMilliseconds = 15; // leaves room for a last step
+
+} // namespace
+
+SlicedJob::SlicedJob(QObject* parent) : QObject(parent)
+{
+    connect(&m_timer, &QTimer::timeout, this, &SlicedJob::next);
+}
+
+bool SlicedJob::start(Step step)
+{
+    Q_ASSERT(!isRunning());
+    m_step = std::move(step);
+    if (!slice())
+        return true;
+    m_timer.start(0);
+    return false;
+}
+
+void SlicedJob::cancel()
+{
+    m_timer.stop();
+    m_step = nullptr;
+}
+
+bool SlicedJob::slice()
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (m_step()) {
+        if (clock.elapsed() >= sliceMilliseconds)
+            return true;
+    }
+    m_step = nullptr;
+    return false;
+}
+
+void SlicedJob::next()
+{
+    if (slice()) {
+        emit progressed();
+        return;
+    }
+    m_timer.stop();
+    emit finished();
+}
