@@ -1,5 +1,7 @@
 #include "platform/PlatformServicesImp.h"
 
+#include "platform/PlatformDirectoryManagerImp.h"
+#include "platform/PlatformFontManagerImp.h"
 #include "platform/PlatformMessageManagerImp.h"
 
 // First of all static objects: anything that hands the services over may run before main.
@@ -22,6 +24,8 @@ PlatformServicesImp::PlatformServicesImp() = default;
 PlatformServicesImp::~PlatformServicesImp()
 {
     // In field order; left to themselves, members are destroyed in the reverse of it.
+    m_directoryManager.reset();
+    m_fontManager.reset();
     m_messageManager.reset();
 }
 
@@ -37,7 +41,7 @@ void* PlatformServicesImp::clipBoardManager()
 
 IPlatformDirectoryManager* PlatformServicesImp::directoryManager()
 {
-    return nullptr;
+    return created(m_directoryManager);
 }
 
 IPlatformCursorManager* PlatformServicesImp::cursorManager()
@@ -47,7 +51,7 @@ IPlatformCursorManager* PlatformServicesImp::cursorManager()
 
 IPlatformFontManager* PlatformServicesImp::fontManager()
 {
-    return nullptr;
+    return created(m_fontManager);
 }
 
 IPlatformResourceManager* PlatformServicesImp::resourceManager()

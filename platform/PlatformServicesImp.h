@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class PlatformDirectoryManagerImp;
+class PlatformFontManagerImp;
 class PlatformMessageManagerImp;
 
 /// The services object: creates each manager on first request and keeps it until process exit.
@@ -34,6 +36,8 @@ public:
     void* localeManager() override;
 
 private:
+    std::unique_ptr<PlatformDirectoryManagerImp> m_directoryManager;
+    std::unique_ptr<PlatformFontManagerImp> m_fontManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
 };
 
