@@ -3,6 +3,8 @@
 #include "platform/PlatformDirectoryManagerImp.h"
 #include "platform/PlatformFontManagerImp.h"
 #include "platform/PlatformMessageManagerImp.h"
+#include "platform/PlatformProfileManagerImp.h"
+#include "platform/PlatformRegisterManagerImp.h"
 
 // First of all static objects: anything that hands the services over may run before main.
 [[gnu::init_priority(201)]] PlatformServicesImp g_PlatformServices;
@@ -26,7 +28,9 @@ PlatformServicesImp::~PlatformServicesImp()
     // In field order; left to themselves, members are destroyed in the reverse of it.
     m_directoryManager.reset();
     m_fontManager.reset();
+    m_profileManager.reset();
     m_messageManager.reset();
+    m_registerManager.reset();
 }
 
 IPlatformUserInputManager* PlatformServicesImp::userInputManager()
@@ -61,7 +65,7 @@ IPlatformResourceManager* PlatformServicesImp::resourceManager()
 
 IPlatformProfileManager* PlatformServicesImp::profileManager()
 {
-    return nullptr;
+    return created(m_profileManager);
 }
 
 IPlatformMessageManager* PlatformServicesImp::messageManager()
@@ -71,7 +75,7 @@ IPlatformMessageManager* PlatformServicesImp::messageManager()
 
 IPlatformRegisterManager* PlatformServicesImp::registerManager()
 {
-    return nullptr;
+    return created(m_registerManager);
 }
 
 void* PlatformServicesImp::plotManager()

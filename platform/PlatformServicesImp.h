@@ -7,6 +7,8 @@
 class PlatformDirectoryManagerImp;
 class PlatformFontManagerImp;
 class PlatformMessageManagerImp;
+class PlatformProfileManagerImp;
+class PlatformRegisterManagerImp;
 
 /// The services object: creates each manager on first request and keeps it until process exit.
 /// Not synchronised: GUI thread only.
@@ -38,7 +40,9 @@ public:
 private:
     std::unique_ptr<PlatformDirectoryManagerImp> m_directoryManager;
     std::unique_ptr<PlatformFontManagerImp> m_fontManager;
+    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
+    std::unique_ptr<PlatformRegisterManagerImp> m_registerManager;
 };
 
 /// The one services object of the process; exported from the executable under this name.
