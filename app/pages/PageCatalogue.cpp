@@ -1,6 +1,7 @@
 #include "app/pages/PageCatalogue.h"
 
 #include "app/pages/Page.h"
+#include "app/pages/files/FilesPage.h"
 
 #include <QCoreApplication>
 
@@ -23,7 +24,7 @@ struct Row
 constexpr Row rows[] = {
     {"registry", QT_TRANSLATE_NOOP("PageCatalogue", "&Registry"), Glyph::Registry, &made<Page>},
     {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles, &made<Page>},
-    {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<Page>},
+    {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<FilesPage>},
     {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<Page>},
     {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays, &made<Page>},
     {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<Page>},
