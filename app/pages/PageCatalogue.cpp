@@ -2,6 +2,7 @@
 
 #include "app/pages/Page.h"
 #include "app/pages/files/FilesPage.h"
+#include "app/pages/profiles/ProfilesPage.h"
 
 #include <QCoreApplication>
 
@@ -23,7 +24,7 @@ struct Row
 
 constexpr Row rows[] = {
     {"registry", QT_TRANSLATE_NOOP("PageCatalogue", "&Registry"), Glyph::Registry, &made<Page>},
-    {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles, &made<Page>},
+    {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles, &made<ProfilesPage>},
     {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<FilesPage>},
     {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<Page>},
     {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays, &made<Page>},
