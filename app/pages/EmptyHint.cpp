@@ -5,41 +5,43 @@
 #include <QLabel>
 
 EmptyHint::EmptyHint(QAbstractItemView* view, const QString& text)
-    : QObject(view), m_view(view), m_label(new QLabel(text, view->viewport()))
+    : QObject(view), m_view(view), m_label(new QLabel(view->viewport()))
 {
     m_label->setTextFormat(Qt::PlainText);
-    m_label->setAlignment(Qt::AlignCenter);
     m_label->setWordWrap(true);
-    m_label->setMargin(view->fontMetrics().height());
+    m_label->setAlignment(Qt::AlignCenter);
+    m_label->setForegroundRole(QPalette::PlaceholderText);
     m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_label->setForegroundRole(QPalette::Text);
     view->viewport()->installEventFilter(this);
     const QAbstractItemModel* model = view->model();
+    connect(model, &QAbstractItemModel::modelReset, this, &EmptyHint::update);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &EmptyHint::update);
     connect(model, &QAbstractItemModel::rowsInserted, this, &EmptyHint::update);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &EmptyHint::update);
-    connect(model, &QAbstractItemModel::modelReset, this, &EmptyHint::update);
-    update();
+    setText(text);
 }
 
 void EmptyHint::setText(const QString& text)
 {
     m_label->setText(text);
+    update();
 }
 
-QString EmptyHint::text() const
+void EmptyHint::update()
 {
-    return m_label->isHidden() ? QString() : m_label->text();
+    arrange();
+    m_label->setVisible(m_view->model()->rowCount(m_view->rootIndex()) == 0);
+}
+
+void EmptyHint::arrange()
+{
+    const int margin = m_view->fontMetrics().height();
+    m_label->setGeometry(m_view->viewport()->rect().adjusted(margin, margin, -margin, -margin));
 }
 
 bool EmptyHint::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize)
-        m_label->setGeometry(m_view->viewport()->rect());
+        arrange();
     return QObject::eventFilter(watched, event);
-}
-
-void EmptyHint::update()
-{
-    m_label->setGeometry(m_view->viewport()->rect());
-    m_label->setVisible(m_view->model()->rowCount() == 0);
 }

@@ -82,7 +82,7 @@ QVariant FoundEntriesModel::data(const QModelIndex& index, int role) const
                                             : QVariant();
     case Qt::ForegroundRole:
         if (isDetail(index.column()) && !entry.details)
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return QGuiApplication::palette().placeholderText();
         return {};
     default: return {};
     }

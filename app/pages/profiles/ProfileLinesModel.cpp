@@ -95,7 +95,7 @@ QVariant ProfileLinesModel::foreground(const ProfileDocument::Line& line, int co
     const bool dull = column == NarrowColumn ? narrow
                       : column == WideColumn ? wide
                                              : column == NumberColumn || (narrow && wide);
-    return dull ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text))
+    return dull ? QVariant(QGuiApplication::palette().placeholderText())
                 : QVariant();
 }
 

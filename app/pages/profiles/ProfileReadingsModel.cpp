@@ -7,6 +7,28 @@
 #include <algorithm>
 #include <iterator>
 
+namespace {
+
+// What stands for a text that cannot be seen, or null.
+QString placeholder(const ProfileReading& reading, int column)
+{
+    switch (column) {
+    case ProfileReadingsModel::SectionColumn:
+        return reading.section.isEmpty() ? ProfileReadingsModel::tr("(no name)") : QString();
+    case ProfileReadingsModel::KeyColumn:
+        return reading.key.isEmpty() ? ProfileReadingsModel::tr("(no name)") : QString();
+    case ProfileReadingsModel::WideColumn:
+        if (!reading.wide)
+            return ProfileReadingsModel::tr("(not found)");
+        return reading.wide->isEmpty() ? ProfileReadingsModel::tr("(empty)") : QString();
+    case ProfileReadingsModel::NarrowColumn:
+        return reading.narrow.isEmpty() ? ProfileReadingsModel::tr("(empty)") : QString();
+    default: return {};
+    }
+}
+
+} // namespace
+
 ProfileReadingsModel::ProfileReadingsModel(QObject* parent) : QAbstractTableModel(parent) {}
 
 void ProfileReadingsModel::clear()
@@ -65,10 +87,13 @@ QVariant ProfileReadingsModel::data(const QModelIndex& index, int role) const
 
 QString ProfileReadingsModel::text(const ProfileReading& reading, int column)
 {
+    const QString stand = placeholder(reading, column);
+    if (!stand.isNull())
+        return stand;
     switch (column) {
-    case SectionColumn: return reading.section.isEmpty() ? tr("(no name)") : reading.section;
-    case KeyColumn: return reading.key.isEmpty() ? tr("(no name)") : reading.key;
-    case WideColumn: return reading.wide ? *reading.wide : tr("(not found)");
+    case SectionColumn: return reading.section;
+    case KeyColumn: return reading.key;
+    case WideColumn: return *reading.wide;
     case NarrowColumn: return reading.narrow;
     default: return QString(reading.differs() ? QChar(u'≠') : QLatin1Char('='));
     }
@@ -86,7 +111,7 @@ QString ProfileReadingsModel::toolTip(const ProfileReading& reading, int column)
 
 QVariant ProfileReadingsModel::font(const ProfileReading& reading, int column)
 {
-    if (!reading.differs() || column < WideColumn)
+    if (!reading.differs() || column < WideColumn || !placeholder(reading, column).isNull())
         return {};
     QFont bold = QGuiApplication::font();
     bold.setBold(true);
@@ -95,12 +120,9 @@ QVariant ProfileReadingsModel::font(const ProfileReading& reading, int column)
 
 QVariant ProfileReadingsModel::foreground(const ProfileReading& reading, int column)
 {
-    const bool placeholder = (column == SectionColumn && reading.section.isEmpty()) ||
-                             (column == KeyColumn && reading.key.isEmpty()) ||
-                             (column == WideColumn && !reading.wide);
-    return placeholder
-               ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text))
-               : QVariant();
+    return placeholder(reading, column).isNull()
+               ? QVariant()
+               : QVariant(QGuiApplication::palette().placeholderText());
 }
 
 QVariant ProfileReadingsModel::headerData(int section, Qt::Orientation orientation, int role) const
