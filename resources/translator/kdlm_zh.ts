@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">名称</translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Attributes</source>
@@ -708,10 +708,6 @@
         <translation>修改或添加值</translation>
     </message>
     <message>
-        <source>Keep a &amp;backup copy beside the file</source>
-        <translation>在文件旁保留备份(&amp;B)</translation>
-    </message>
-    <message>
         <source>&amp;Section:</source>
         <translation>节(&amp;S)：</translation>
     </message>
@@ -742,6 +738,14 @@
     <message>
         <source>&amp;Write</source>
         <translation>写入(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Keep a &amp;backup copy</source>
+        <translation>保留备份(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Copies the file beside itself, as .bak, before it is written.</source>
+        <translation>写入之前在文件旁复制一份 .bak 备份。</translation>
     </message>
 </context>
 <context>
@@ -802,7 +806,7 @@ Wide: %2</source>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished">项</translation>
+        <translation>键</translation>
     </message>
     <message>
         <source>Wide reading</source>
@@ -872,7 +876,7 @@ Wide: %2</source>
     </message>
     <message>
         <source>Edit value</source>
-        <translation type="unfinished">编辑值</translation>
+        <translation>编辑值</translation>
     </message>
     <message>
         <source>Open a profile</source>
@@ -896,7 +900,7 @@ Wide: %2</source>
     </message>
     <message>
         <source>%1 values</source>
-        <translation type="unfinished">%1 个值</translation>
+        <translation>%1 个值</translation>
     </message>
     <message>
         <source>There is no such file: both families read it as empty. Writing a value creates it.</source>

@@ -21,8 +21,8 @@ std::optional<FoundEntry> FileSearch::first(const QString& pattern)
 {
     close();
     markUnwritten();
-    m_handle = g_PlatformServices.directoryManager()->findFirstFile(
-        pattern.toStdWString().c_str(), &m_record);
+    m_handle = g_PlatformServices.directoryManager()->findFirstFile(pattern.toStdWString().c_str(),
+                                                                    &m_record);
     if (m_handle == INVALID_HANDLE_VALUE)
         return std::nullopt;
     return entry();
@@ -53,10 +53,9 @@ FoundEntry FileSearch::entry() const
     // A name may fill the field without a terminator.
     const wchar_t* end =
         std::find(std::begin(m_record.cFileName), std::end(m_record.cFileName), L'\0');
-    FoundEntry entry{QString::fromWCharArray(m_record.cFileName,
-                                             static_cast<int>(end - m_record.cFileName)),
-                     m_record.dwFileAttributes,
-                     std::nullopt};
+    FoundEntry entry{
+        QString::fromWCharArray(m_record.cFileName, static_cast<int>(end - m_record.cFileName)),
+        m_record.dwFileAttributes, std::nullopt};
     if (m_record.ftLastWriteTime.dwHighDateTime != unwritten)
         entry.details = FoundDetails{quint64{m_record.nFileSizeHigh} << 32U | m_record.nFileSizeLow,
                                      m_record.ftCreationTime, m_record.ftLastAccessTime,

@@ -26,8 +26,9 @@ QString fault(const QString& pattern)
     if (pattern.isEmpty())
         return FilesPage::tr("Type a pattern first, such as /etc/*.conf.");
     if (!pattern.contains(QLatin1Char('/')))
-        return FilesPage::tr("The service finds nothing for a pattern without a directory, whatever "
-                             "the working directory holds. Put one before it, such as ./%1.")
+        return FilesPage::tr(
+                   "The service finds nothing for a pattern without a directory, whatever "
+                   "the working directory holds. Put one before it, such as ./%1.")
             .arg(pattern);
     return {};
 }
@@ -35,8 +36,11 @@ QString fault(const QString& pattern)
 } // namespace
 
 FilesPage::FilesPage(QWidget* parent)
-    : Page(parent), m_pattern(new QLineEdit), m_model(new FoundEntriesModel(this)),
-      m_table(makeTable()), m_paths(new PathPanel)
+    : Page(parent),
+      m_pattern(new QLineEdit),
+      m_model(new FoundEntriesModel(this)),
+      m_table(makeTable()),
+      m_paths(new PathPanel)
 {
     m_hint = new EmptyHint(m_table, tr("Type a pattern, such as /etc/*.conf, and press Enter: here "
                                        "stands what findFirstFile and findNextFile report."));
@@ -97,8 +101,8 @@ QTableView* FilesPage::makeTable()
                           metrics.horizontalAdvance(QStringLiteral("0x10 DIRECTORY")) + gap);
     header->resizeSection(FoundEntriesModel::SizeColumn,
                           metrics.horizontalAdvance(QStringLiteral("9,999,999,999")) + gap);
-    for (int column = FoundEntriesModel::LastWriteColumn;
-         column < FoundEntriesModel::ColumnCount; ++column)
+    for (int column = FoundEntriesModel::LastWriteColumn; column < FoundEntriesModel::ColumnCount;
+         ++column)
         header->resizeSection(
             column, metrics.horizontalAdvance(QStringLiteral("2000-00-00 00:00:00")) + gap);
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -190,7 +194,7 @@ void FilesPage::showCurrent()
     if (!current.isValid())
         return;
     const QString folder = m_searched.left(m_searched.lastIndexOf(QLatin1Char('/')) + 1);
-    m_paths->setPath(folder + current.siblingAtColumn(FoundEntriesModel::NameColumn)
-                                  .data(Qt::DisplayRole)
-                                  .toString());
+    m_paths->setPath(
+        folder +
+        current.siblingAtColumn(FoundEntriesModel::NameColumn).data(Qt::DisplayRole).toString());
 }

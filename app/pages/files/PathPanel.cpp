@@ -16,7 +16,8 @@ PathPanel::PathPanel(QWidget* parent) : QGroupBox(tr("One path"), parent)
     grid->setColumnStretch(3, 1);
     m_path = addInput(grid, tr("Pat&h:"), tr("A path or an address to ask the service about"));
     m_path->setObjectName(QStringLiteral("path"));
-    m_from = addInput(grid, tr("Seen fro&m:"), tr("The directory that the relative path starts at"));
+    m_from =
+        addInput(grid, tr("Seen fro&m:"), tr("The directory that the relative path starts at"));
     m_from->setObjectName(QStringLiteral("from"));
     m_from->setText(QDir::homePath());
     m_exists = addAnswer(grid, 2, 0, tr("Exists, ignoring case:"), "exists");
@@ -69,9 +70,8 @@ void PathPanel::ask()
     const auto existence = PathAnswers::existence(path);
     m_exists->setAnswer(existence.exists ? tr("Yes: %1").arg(existence.realPath) : tr("No"));
     const QString attributes = attributesText(PathAnswers::attributes(path));
-    m_attributes->setAnswer(existence.exists
-                                ? attributes
-                                : tr("%1 (as for all that is missing)").arg(attributes));
+    m_attributes->setAnswer(
+        existence.exists ? attributes : tr("%1 (as for all that is missing)").arg(attributes));
     m_relative->setAnswer(PathAnswers::relativePath(m_from->text(), path));
     const QString extension = PathAnswers::extension(path);
     m_extension->setAnswer(extension.isEmpty() ? tr("None") : extension);

@@ -46,12 +46,14 @@ QString longText(LineState state, ProfileFamily family)
     case LineState::BeforeHeader:
         return LineStateText::tr("Dropped: stands before the first header, in no section.");
     case LineState::ReplacedHeader:
-        return LineStateText::tr("Dropped: a later section with the same header replaces this one.");
+        return LineStateText::tr(
+            "Dropped: a later section with the same header replaces this one.");
     case LineState::ReplacedKey:
         return LineStateText::tr("Dropped: the same key comes again later in the section.");
     case LineState::Unreachable:
-        return LineStateText::tr("Kept in the file, but the header does not end with “]”, so that no "
-                                 "section name leads to it.");
+        return LineStateText::tr(
+            "Kept in the file, but the header does not end with “]”, so that no "
+            "section name leads to it.");
     case LineState::Continuation: return LineStateText::tr("Part of the line above.");
     case LineState::NotFound:
         return LineStateText::tr("An entry, but the family does not find it under its name.");

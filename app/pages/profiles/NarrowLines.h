@@ -22,7 +22,7 @@ private:
     LineState dropped(const QString& line) const;
 
     std::vector<LineReading> m_readings;
-    QString m_header; ///< null before the first one
+    QString m_header;                      ///< null before the first one
     QHash<QString, std::size_t> m_headers; ///< the line of each
     QHash<QString, std::size_t> m_keys;    ///< of the current section: the line of each
 };

@@ -59,8 +59,8 @@ QString ProfileDocument::load(const QString& path)
     m_lines.clear();
     m_lines.reserve(narrow.size());
     for (std::size_t i = 0; i < narrow.size(); ++i)
-        m_lines.push_back({texts.at(static_cast<int>(i)), narrow[i],
-                           i < wide.size() ? wide[i] : LineReading{}});
+        m_lines.push_back(
+            {texts.at(static_cast<int>(i)), narrow[i], i < wide.size() ? wide[i] : LineReading{}});
     return {};
 }
 

@@ -19,8 +19,9 @@ QString withoutMnemonic(QString label)
 } // namespace
 
 ProfileEditPanel::ProfileEditPanel(QWidget* parent)
-    : QGroupBox(tr("Change or add a value"), parent), m_family(new QComboBox),
-      m_backup(new QCheckBox(tr("Keep a &backup copy beside the file")))
+    : QGroupBox(tr("Change or add a value"), parent),
+      m_family(new QComboBox),
+      m_backup(new QCheckBox(tr("Keep a &backup copy")))
 {
     auto* grid = new QGridLayout(this);
     m_section = addInput(grid, 0, 0, 1, tr("&Section:"), "section");
@@ -57,6 +58,7 @@ void ProfileEditPanel::addLastRow(QGridLayout* grid)
     label->setBuddy(m_family);
     m_backup->setObjectName(QStringLiteral("backup"));
     m_backup->setChecked(true);
+    m_backup->setToolTip(tr("Copies the file beside itself, as .bak, before it is written."));
     auto* write = glowing(new QPushButton(tr("&Write")));
     write->setObjectName(QStringLiteral("write"));
     auto* row = new QHBoxLayout;

@@ -95,8 +95,7 @@ QVariant ProfileLinesModel::foreground(const ProfileDocument::Line& line, int co
     const bool dull = column == NarrowColumn ? narrow
                       : column == WideColumn ? wide
                                              : column == NumberColumn || (narrow && wide);
-    return dull ? QVariant(QGuiApplication::palette().placeholderText())
-                : QVariant();
+    return dull ? QVariant(QGuiApplication::palette().placeholderText()) : QVariant();
 }
 
 QVariant ProfileLinesModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -32,8 +32,8 @@ bool reads(const QString& file, const ProfileChange& change)
 bool isWritable(const QFileInfo& file)
 {
     const QFileInfo folder(file.path());
-    return folder.isDir() && (file.exists() ? file.isFile() && file.isWritable()
-                                            : folder.isWritable());
+    return folder.isDir() &&
+           (file.exists() ? file.isFile() && file.isWritable() : folder.isWritable());
 }
 
 } // namespace

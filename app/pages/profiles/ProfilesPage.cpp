@@ -56,9 +56,13 @@ QString draggedFile(const QMimeData& data)
 } // namespace
 
 ProfilesPage::ProfilesPage(QWidget* parent)
-    : Page(parent), m_file(new QLineEdit), m_linesModel(new ProfileLinesModel(this)),
-      m_readingsModel(new ProfileReadingsModel(this)), m_lines(makeLines()),
-      m_readings(makeReadings()), m_panel(new ProfileEditPanel)
+    : Page(parent),
+      m_file(new QLineEdit),
+      m_linesModel(new ProfileLinesModel(this)),
+      m_readingsModel(new ProfileReadingsModel(this)),
+      m_lines(makeLines()),
+      m_readings(makeReadings()),
+      m_panel(new ProfileEditPanel)
 {
     body()->addLayout(makeFileRow());
     auto* splitter = new QSplitter(Qt::Vertical);
@@ -99,15 +103,16 @@ QTableView* ProfilesPage::makeLines()
     const int gap = metrics.height();
     int margin = 0;
     for (int state = 0; state <= static_cast<int>(LineState::NotFound); ++state)
-        margin = std::max(margin,
-                          metrics.horizontalAdvance(shortText(static_cast<LineState>(state))));
+        margin =
+            std::max(margin, metrics.horizontalAdvance(shortText(static_cast<LineState>(state))));
     QHeaderView* header = table->horizontalHeader();
     header->resizeSection(ProfileLinesModel::NumberColumn,
                           metrics.horizontalAdvance(QStringLiteral("99999")) + gap);
     header->resizeSection(ProfileLinesModel::NarrowColumn, margin + gap);
     header->resizeSection(ProfileLinesModel::WideColumn, margin + gap);
-    new EmptyHint(table, tr("Open a profile, or drop one here: each line appears with a margin that "
-                            "tells how either family of calls reads it."));
+    new EmptyHint(table,
+                  tr("Open a profile, or drop one here: each line appears with a margin that "
+                     "tells how either family of calls reads it."));
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ProfilesPage::showLine);
     return table;
@@ -142,8 +147,8 @@ void ProfilesPage::addEditAction()
 
 void ProfilesPage::chooseFile()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open a profile"), m_document.path(), tr("Profiles (*.ini);;All files (*)"));
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open a profile"), m_document.path(),
+                                                      tr("Profiles (*.ini);;All files (*)"));
     if (!path.isEmpty())
         open(path);
 }
@@ -176,8 +181,8 @@ void ProfilesPage::find()
 {
     const QModelIndex current = m_lines->currentIndex();
     m_lines->setFocus(Qt::ShortcutFocusReason);
-    m_lines->setCurrentIndex(m_linesModel->index(std::max(0, current.row()),
-                                                 ProfileLinesModel::TextColumn));
+    m_lines->setCurrentIndex(
+        m_linesModel->index(std::max(0, current.row()), ProfileLinesModel::TextColumn));
     setStatus(tr("Type the beginning of a line to go to it."));
 }
 
@@ -189,13 +194,14 @@ void ProfilesPage::read()
     m_readingsModel->clear();
     m_names = m_document.names();
     std::reverse(m_names.begin(), m_names.end());
-    startJob({tr("Reading through both families"),
-              [this] {
-                  readStep();
-                  return !m_names.empty();
-              },
-              [this] { return tr("%1 values").arg(QLocale().toString(m_readingsModel->rowCount())); },
-              [this](bool complete) { finish(complete); }});
+    startJob(
+        {tr("Reading through both families"),
+         [this] {
+             readStep();
+             return !m_names.empty();
+         },
+         [this] { return tr("%1 values").arg(QLocale().toString(m_readingsModel->rowCount())); },
+         [this](bool complete) { finish(complete); }});
 }
 
 void ProfilesPage::readStep()
@@ -301,7 +307,8 @@ void ProfilesPage::writeNow(const ProfileChange& change)
         return;
     }
     m_document.load(m_document.path());
-    m_summary = backup.isEmpty() ? tr("Written.") : tr("Written; the backup copy is %1.").arg(backup);
+    m_summary =
+        backup.isEmpty() ? tr("Written.") : tr("Written; the backup copy is %1.").arg(backup);
     read();
 }
 

@@ -21,9 +21,8 @@ QChar unescaped(const QByteArray& text, int& length)
     const int digitsAt = text.mid(1, 1) == "U" ? 2 : 1;
     const int digits = digitsAt == 2 ? 4 : 2;
     bool ok = false;
-    const uint code = text.size() >= digitsAt + digits
-                          ? text.mid(digitsAt, digits).toUInt(&ok, 16)
-                          : 0;
+    const uint code =
+        text.size() >= digitsAt + digits ? text.mid(digitsAt, digits).toUInt(&ok, 16) : 0;
     length = ok ? digitsAt + digits : 1;
     return ok ? QChar(static_cast<ushort>(code)) : QLatin1Char('%');
 }
@@ -64,19 +63,15 @@ WideLines::WideLines(const QByteArray& bytes) : m_bytes(bytes)
 // Reads one line; false at the end.
 bool WideLines::next()
 {
-    while (m_position < m_bytes.size() && isSpace(m_bytes.at(m_position)))
-        ++m_position;
-    m_begin = m_position;
-    m_equals = -1;
-    // Behind a comment the spaces at a line's beginning belong to it. So QSettings reads it.
     while (m_position < m_bytes.size() &&
-           (m_bytes.at(m_position) == ';' || isLineEnd(m_bytes.at(m_position)))) {
+           (isSpace(m_bytes.at(m_position)) || m_bytes.at(m_position) == ';')) {
         if (m_bytes.at(m_position) == ';')
             skipComment();
         else
             ++m_position;
-        m_begin = m_position;
     }
+    m_begin = m_position;
+    m_equals = -1;
     scan();
     return m_position > m_begin;
 }
@@ -130,8 +125,8 @@ void WideLines::takeHeader()
     if (name.toLower() == "general")
         m_section.clear();
     else
-        m_section = name.toLower() == "%general" ? QString::fromLatin1(name.mid(1))
-                                                 : unescapedName(name);
+        m_section =
+            name.toLower() == "%general" ? QString::fromLatin1(name.mid(1)) : unescapedName(name);
     m_readings[lineOf(m_begin)].state = LineState::Header;
 }
 
@@ -152,10 +147,8 @@ void WideLines::takeEntry()
 
 void WideLines::takeOther()
 {
-    const QByteArray text = m_bytes.mid(m_begin, m_position - m_begin).trimmed();
-    if (!text.isEmpty())
-        m_readings[lineOf(m_begin)].state =
-            text.startsWith('#') ? LineState::Comment : LineState::NoEquals;
+    m_readings[lineOf(m_begin)].state =
+        m_bytes.at(m_begin) == '#' ? LineState::Comment : LineState::NoEquals;
 }
 
 void WideLines::markContinuations()
