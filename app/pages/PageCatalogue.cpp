@@ -2,6 +2,7 @@
 
 #include "app/pages/Page.h"
 #include "app/pages/files/FilesPage.h"
+#include "app/pages/fonts/FontsPage.h"
 #include "app/pages/log/LogPage.h"
 #include "app/pages/profiles/ProfilesPage.h"
 #include "app/pages/registry/RegistryPage.h"
@@ -30,7 +31,7 @@ constexpr Row rows[] = {
     {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles,
      &made<ProfilesPage>},
     {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<FilesPage>},
-    {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<Page>},
+    {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<FontsPage>},
     {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays, &made<Page>},
     {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<Page>},
     {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<Page>},

@@ -119,6 +119,128 @@
     </message>
 </context>
 <context>
+    <name>FontRecordsModel</name>
+    <message>
+        <source>(not installed on this system)</source>
+        <translation>（本系统未安装）</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>字体族</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>Character set</source>
+        <translation>字符集</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+</context>
+<context>
+    <name>FontsPage</name>
+    <message>
+        <source>Global name</source>
+        <translation>全局名称</translation>
+    </message>
+    <message>
+        <source>Family to show</source>
+        <translation>要显示的字体族</translation>
+    </message>
+    <message>
+        <source>All families</source>
+        <translation>所有字体族</translation>
+    </message>
+    <message>
+        <source>Famil&amp;y:</source>
+        <translation>字体族(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>Character set to show</source>
+        <translation>要显示的字符集</translation>
+    </message>
+    <message>
+        <source>All character sets</source>
+        <translation>所有字符集</translation>
+    </message>
+    <message>
+        <source>Re&amp;gister the system&apos;s fonts</source>
+        <translation>注册系统字体(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Registered fonts</source>
+        <translation>已注册的字体</translation>
+    </message>
+    <message>
+        <source>Local name</source>
+        <translation>本地名称</translation>
+    </message>
+    <message>
+        <source>A face name, exactly as registered</source>
+        <translation>字体名称，须与注册时完全一致</translation>
+    </message>
+    <message>
+        <source>Name mapping</source>
+        <translation>名称映射</translation>
+    </message>
+    <message>
+        <source>Loc&amp;al name:</source>
+        <translation>本地名称(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Global name:</source>
+        <translation>全局名称：</translation>
+    </message>
+    <message>
+        <source>No font is registered. Host libraries register theirs when they start; the button above registers those of this system.</source>
+        <translation>尚未注册任何字体。主机库会在启动时注册自己的字体；使用上方的按钮可以注册本系统的字体。</translation>
+    </message>
+    <message>
+        <source>The service reports no record of this family and character set. Names are compared exactly, upper and lower case included.</source>
+        <translation>服务没有报告此字体族和字符集的记录。名称须完全一致，包括大小写。</translation>
+    </message>
+    <message>
+        <source>%1 records</source>
+        <translation>%1 条记录</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Registering the system&apos;s fonts</source>
+        <translation>正在注册系统字体</translation>
+    </message>
+    <message>
+        <source>%1 families left</source>
+        <translation>还剩 %1 个字体族</translation>
+    </message>
+    <message>
+        <source>All families were registered before.</source>
+        <translation>所有字体族此前均已注册。</translation>
+    </message>
+    <message>
+        <source>Registered: %1 records of %2 families.</source>
+        <translation>已注册 %2 个字体族的 %1 条记录。</translation>
+    </message>
+    <message>
+        <source>Stopped. %1</source>
+        <translation>已停止。%1</translation>
+    </message>
+    <message>
+        <source>Left out, because their names do not fit a record: %1.</source>
+        <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
+    </message>
+</context>
+<context>
     <name>FoundEntriesModel</name>
     <message>
         <source>The service has not written this field: a caller finds in it what its record held before the call.</source>

@@ -2,6 +2,7 @@
 
 #include "app/pages/Page.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -53,6 +54,7 @@ void ProfileEditPanel::addLastRow(QGridLayout* grid)
 {
     m_family->setObjectName(QStringLiteral("family"));
     m_family->setAccessibleName(tr("Family to write through"));
+    m_family->view()->setAccessibleName(m_family->accessibleName());
     m_family->addItems({tr("Wide family"), tr("Narrow family")});
     auto* label = new QLabel(tr("Thro&ugh:"));
     label->setBuddy(m_family);

@@ -26,7 +26,7 @@ TEST_P(PageLayoutTest, NamesEveryControl)
     EXPECT_EQ(probe.nameless().join(QLatin1String(" | ")).toStdString(), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, PageLayoutTest, testing::Values("profiles", "files"),
+INSTANTIATE_TEST_SUITE_P(Pages, PageLayoutTest, testing::Values("profiles", "files", "fonts"),
                          [](const auto& page) { return std::string(page.param); });
 
 } // namespace
