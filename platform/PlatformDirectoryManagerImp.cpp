@@ -1,8 +1,10 @@
 #include "platform/PlatformDirectoryManagerImp.h"
 
+#include "platform/DirectoryListing.h"
+#include "platform/UrlPattern.h"
+
 #include <QDateTime>
 #include <QDir>
-#include <QRegExpValidator>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -19,7 +21,7 @@ struct DirectorySearch
 {
     QStringList names;
     std::int32_t index;
-    QString directory; // with its trailing separator
+    DirectoryListing directory;
 };
 
 DirectorySearch* searchOf(void* handle)
@@ -27,18 +29,20 @@ DirectorySearch* searchOf(void* handle)
     return handle == INVALID_HANDLE_VALUE ? nullptr : static_cast<DirectorySearch*>(handle);
 }
 
-QStringList findNames(const QString& directory, const QString& name)
+// At most MAX_PATH characters, and zeros behind a shorter name.
+void writeName(_WIN32_FIND_DATAW* data, const QString& name)
 {
-    // A name that exists as it stands may hold wildcard characters, and needs no listing.
-    if (QFileInfo(QDir(directory), name).isFile())
-        return {name};
-    return QDir(directory).entryList(
-        {name}, QDir::Dirs | QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot, QDir::NoSort);
+    if (name.size() > MAX_PATH) { // only among Qt's resources
+        std::wcsncpy(data->cFileName, name.toStdWString().c_str(), MAX_PATH);
+        return;
+    }
+    const int length = name.toWCharArray(data->cFileName);
+    std::fill(data->cFileName + length, std::end(data->cFileName), L'\0');
 }
 
 void writeEntry(_WIN32_FIND_DATAW* data, const QString& name, bool isDirectory)
 {
-    std::wcsncpy(data->cFileName, name.toStdWString().c_str(), MAX_PATH);
+    writeName(data, name);
     data->dwFileAttributes = isDirectory ? FILE_ATTRIBUTE_DIRECTORY : FILE_ATTRIBUTE_NORMAL;
 }
 
@@ -57,6 +61,13 @@ void writeFileDetails(_WIN32_FIND_DATAW* data, const QFileInfo& file)
     const auto size = static_cast<quint64>(file.size());
     data->nFileSizeHigh = static_cast<DWORD>(size >> 32U);
     data->nFileSizeLow = static_cast<DWORD>(size & 0xFFFFFFFFU);
+}
+
+void writeFirst(_WIN32_FIND_DATAW* data, const QString& name, const QFileInfo& info)
+{
+    writeEntry(data, name, info.isDir());
+    if (info.isFile())
+        writeFileDetails(data, info);
 }
 
 void assign(CStdStr<wchar_t>& destination, const QString& text)
@@ -89,12 +100,10 @@ SplitPath splitPath(const QString& path)
 
 // Intended: a name with an extension is looked for among all entries of that extension; another
 // one is a filter by itself, wildcards and all.
-QStringList nameFilters(const QString& name)
+QStringList candidates(const DirectoryListing& listing, const QString& name)
 {
-    if (name.isEmpty())
-        return {};
     const int dot = name.lastIndexOf(u'.');
-    return {dot < 0 ? name : u'*' + name.mid(dot)};
+    return listing.names(dot < 0 ? name : u'*' + name.mid(dot));
 }
 
 bool equalIgnoringCase(const QString& a, const QString& b)
@@ -105,12 +114,14 @@ bool equalIgnoringCase(const QString& a, const QString& b)
 // The absolute path, as it is on disk, of the entry that `path` or its `name` means; empty: none.
 QString findIgnoringCase(const QString& directory, const QString& name, const QString& path)
 {
-    const QFileInfoList entries = QDir(directory).entryInfoList(
-        nameFilters(name), QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot, QDir::NoSort);
-    for (const QFileInfo& entry : entries) {
-        if (equalIgnoringCase(entry.absoluteFilePath(), path) ||
-            equalIgnoringCase(entry.fileName(), name))
-            return entry.absoluteFilePath();
+    const DirectoryListing listing(directory, DirectoryListing::WithoutHidden);
+    for (const QString& entry : candidates(listing, name)) {
+        if (equalIgnoringCase(entry, name))
+            return listing.absolutePath(entry);
+        // The first test only spares the second one: an absolute path ends with the entry's name.
+        if (path.endsWith(entry, Qt::CaseInsensitive) &&
+            equalIgnoringCase(listing.absolutePath(entry), path))
+            return listing.absolutePath(entry);
     }
     return {};
 }
@@ -125,15 +136,16 @@ void* PlatformDirectoryManagerImp::findFirstFile(const wchar_t* pattern, _WIN32_
     const int split = path.lastIndexOf(separator);
     if (split < 0)
         return INVALID_HANDLE_VALUE;
-    const QString directory = path.left(split + 1);
-    const QStringList names = findNames(directory, path.mid(split + 1));
+    const QDir directory(path.left(split + 1));
+    const QString name = path.mid(split + 1);
+    const DirectoryListing listing(path.left(split + 1), DirectoryListing::WithHidden);
+    // A name that exists as it stands may hold wildcard characters, and needs no listing.
+    const bool isFile = QFileInfo(directory, name).isFile();
+    const QStringList names = isFile ? QStringList(name) : listing.names(name);
     if (names.isEmpty())
         return INVALID_HANDLE_VALUE;
-    const QFileInfo first(QDir(directory), names.first());
-    writeEntry(data, names.first(), first.isDir());
-    if (first.isFile())
-        writeFileDetails(data, first);
-    return std::make_unique<DirectorySearch>(DirectorySearch{names, 0, directory}).release();
+    writeFirst(data, names.first(), QFileInfo(directory, names.first()));
+    return std::make_unique<DirectorySearch>(DirectorySearch{names, 0, listing}).release();
 }
 
 int PlatformDirectoryManagerImp::findNextFile(void* search, _WIN32_FIND_DATAW* data)
@@ -143,7 +155,7 @@ int PlatformDirectoryManagerImp::findNextFile(void* search, _WIN32_FIND_DATAW* d
         return 0;
     const QString& name = found->names.at(++found->index);
     // Intended: size and times keep what they held.
-    writeEntry(data, name, QDir(found->directory + name).exists());
+    writeEntry(data, name, found->directory.isFolder(name));
     return 1;
 }
 
@@ -176,14 +188,7 @@ int PlatformDirectoryManagerImp::isFileExist(const wchar_t* path, CStdStr<wchar_
 
 int PlatformDirectoryManagerImp::isURL(const wchar_t* text)
 {
-    if (!text || !*text)
-        return 0;
-    static const QRegExpValidator validator(
-        QRegExp(QStringLiteral("(https?|ftp|file)://[-A-Za-z0-9+&@#/%?=~_|!:,.;]+"
-                               "[-A-Za-z0-9+&@#/%=~_|]")));
-    QString input = QString::fromWCharArray(text);
-    int position = 0;
-    return validator.validate(input, position) == QValidator::Acceptable ? 1 : 0;
+    return text && matchesUrlPattern(QString::fromWCharArray(text)) ? 1 : 0;
 }
 
 wchar_t* PlatformDirectoryManagerImp::AddBackslash(wchar_t* path)

@@ -9,6 +9,10 @@ class PlatformFontManagerImp;
 class PlatformMessageManagerImp;
 class PlatformProfileManagerImp;
 class PlatformRegisterManagerImp;
+class PlatformCursorManagerImp;
+class PlatformMessageManagerImp;
+class PlatformResourceManagerImp;
+class PlatformUserInputManagerImp;
 
 /// The services object: creates each manager on first request and keeps it until process exit.
 /// Not synchronised: GUI thread only.
@@ -38,9 +42,19 @@ public:
     void* localeManager() override;
 
 private:
+    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
     std::unique_ptr<PlatformDirectoryManagerImp> m_directoryManager;
     std::unique_ptr<PlatformFontManagerImp> m_fontManager;
-    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
+    // Deletes a manager whose interface has no virtual destructor.
+    struct ExactDelete
+    {
+        template <typename Manager>
+        void operator()(Manager* manager) const;
+    };
+
+    std::unique_ptr<PlatformUserInputManagerImp, ExactDelete> m_userInputManager;
+    std::unique_ptr<PlatformCursorManagerImp> m_cursorManager;
+    std::unique_ptr<PlatformResourceManagerImp> m_resourceManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
     std::unique_ptr<PlatformRegisterManagerImp> m_registerManager;
 };

@@ -98,32 +98,60 @@ TEST_F(SlidePicture, OfOnePageShowsItOverItself)
     }
 }
 
-TEST_F(SlidePicture, IsTheSameThroughTheWindowAround)
+// The ways in which the window around a stack may be pictured.
+QImage grabbed(QWidget& window)
+{
+    return window.grab().toImage();
+}
+
+QImage renderedOnDevice(QWidget& window)
+{
+    QImage image(window.size() * window.devicePixelRatioF(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(window.devicePixelRatioF());
+    window.render(&image);
+    return image;
+}
+
+QImage renderedThroughPainter(QWidget& window)
+{
+    QImage image(window.size() * window.devicePixelRatioF(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(window.devicePixelRatioF());
+    QPainter painter(&image);
+    window.render(&painter);
+    return image;
+}
+
+class SlideInWindow : public StackFixture, public testing::WithParamInterface<QImage (*)(QWidget&)>
+{
+};
+
+TEST_P(SlideInWindow, LooksAsByItself)
 {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
     layout->setContentsMargins(11, 13, 17, 19);
     auto* inner = new QAnimationStackedWidget;
     layout->addWidget(inner);
-    inner->setPalette(stack.palette());
     inner->addWidget(stack.widget(0));
     inner->addWidget(stack.widget(0));
     inner->setMinimumSize(200, 120);
     window.show();
     turn();
-    ASSERT_EQ(QPoint(11, 13), inner->pos());
-    auto* leaving = qobject_cast<PatternPage*>(inner->widget(0));
-    auto* arriving = qobject_cast<PatternPage*>(inner->widget(1));
+    const auto* leaving = qobject_cast<PatternPage*>(inner->widget(0));
+    const auto* arriving = qobject_cast<PatternPage*>(inner->widget(1));
     inner->next();
     inner->slotValueChanged(64);
     const int ratio = qRound(inner->devicePixelRatioF());
-    const QRect area(inner->pos() * ratio, inner->size() * ratio);
+    const QRect area(QPoint(11, 13) * ratio, inner->size() * ratio);
     const int line = 64 * ratio;
-    EXPECT_EQ("", firstDifference(window.grab().toImage().copy(area), [&](int x, int y) {
+    EXPECT_EQ("", firstDifference(GetParam()(window).copy(area), [&](int x, int y) {
                   return x < line ? leaving->colorAt(x - line + area.width(), y)
                                   : arriving->colorAt(x - line, y);
               }));
 }
+
+INSTANTIATE_TEST_SUITE_P(Pictures, SlideInWindow,
+                         testing::Values(grabbed, renderedOnDevice, renderedThroughPainter));
 
 TEST_F(SlidePicture, FollowsChangesOfThePages)
 {

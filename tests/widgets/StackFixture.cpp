@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QVariantAnimation>
 
+#include <stdexcept>
+
 void turn()
 {
     QCoreApplication::processEvents();
@@ -43,7 +45,9 @@ QVariantAnimation* animationOf(ProbedStack& stack)
     turn();
     stack.setCurrentIndex(0);
     stack.setDuration(600);
-    return qobject_cast<QVariantAnimation*>(probe.found);
+    if (auto* animation = qobject_cast<QVariantAnimation*>(probe.found))
+        return animation;
+    throw std::runtime_error("no animation has ended a slide");
 }
 
 StackFixture::StackFixture()

@@ -1,6 +1,7 @@
 #include "app/pages/files/FilesPage.h"
 
 #include "app/pages/EmptyHint.h"
+#include "app/pages/TableLook.h"
 #include "app/pages/files/FoundEntriesModel.h"
 #include "app/pages/files/PathPanel.h"
 
@@ -83,17 +84,10 @@ QTableView* FilesPage::makeTable()
     table->setObjectName(QStringLiteral("entries"));
     table->setAccessibleName(tr("Found entries"));
     table->setModel(m_model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    arrangeTable(*table);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 3 / 2);
     QHeaderView* header = table->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     const QFontMetrics metrics = table->fontMetrics();
     const int gap = metrics.height();
     header->resizeSection(FoundEntriesModel::NameColumn, metrics.averageCharWidth() * 32);

@@ -2,6 +2,7 @@
 
 #include "app/pages/AnswerField.h"
 #include "app/pages/EmptyHint.h"
+#include "app/pages/TableLook.h"
 #include "app/pages/fonts/CharacterSets.h"
 #include "app/pages/fonts/FontRecordsModel.h"
 #include "app/pages/fonts/SystemFonts.h"
@@ -75,18 +76,11 @@ QTableView* FontsPage::makeTable()
     table->setObjectName(QStringLiteral("records"));
     table->setAccessibleName(tr("Registered fonts"));
     table->setModel(m_model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    arrangeTable(*table);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 7 / 4);
     QHeaderView* header = table->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    header->setStretchLastSection(true);
     const QFontMetrics metrics = table->fontMetrics();
     const int gap = metrics.height();
     header->resizeSection(FontRecordsModel::FaceColumn, metrics.averageCharWidth() * 18);

@@ -1,6 +1,7 @@
 #include "app/pages/profiles/ProfilesPage.h"
 
 #include "app/pages/EmptyHint.h"
+#include "app/pages/TableLook.h"
 #include "app/pages/profiles/LineStateText.h"
 #include "app/pages/profiles/LostLinesDialog.h"
 #include "app/pages/profiles/ProfileEditPanel.h"
@@ -32,17 +33,10 @@ QTableView* makeTable(QAbstractItemModel* model, const QString& name, const char
     table->setObjectName(QLatin1String(objectName));
     table->setAccessibleName(name);
     table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    arrangeTable(*table);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 4 / 3);
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table->horizontalHeader()->setStretchLastSection(true);
     return table;
 }
 
