@@ -36,9 +36,9 @@ QVariant FontRecordsModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole: return preview ? record.fullName : text(record, index.column());
     case Qt::FontRole: return preview ? font(record) : QVariant();
     case Qt::ForegroundRole:
-        return preview && !isInstalled(record)
-                   ? QVariant(QGuiApplication::palette().placeholderText())
-                   : QVariant();
+        if (preview && !isInstalled(record))
+            return QGuiApplication::palette().placeholderText();
+        return {};
     default: return {};
     }
 }

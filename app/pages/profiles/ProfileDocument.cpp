@@ -11,7 +11,7 @@
 namespace {
 
 // Far above any profile, and still read within a blink.
-constexpr qint64 largestFile = 2 * 1024 * 1024;
+constexpr qint64 largestFile = qint64{2} * 1024 * 1024;
 
 // Why the path cannot be a profile, or an empty text.
 QString fault(const QFileInfo& file)
@@ -47,7 +47,7 @@ QString textOf(const QString& path)
 QString ProfileDocument::load(const QString& path)
 {
     const QFileInfo file(path);
-    const QString refused = fault(file);
+    QString refused = fault(file);
     if (!refused.isEmpty())
         return refused;
     m_path = file.absoluteFilePath();

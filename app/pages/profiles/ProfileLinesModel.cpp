@@ -78,8 +78,8 @@ QString ProfileLinesModel::text(const ProfileDocument::Line& line, int row, int 
 
 QString ProfileLinesModel::toolTip(const ProfileDocument::Line& line, int column)
 {
-    const QString narrow = longText(line.narrow.state, ProfileFamily::Narrow);
-    const QString wide = longText(line.wide.state, ProfileFamily::Wide);
+    QString narrow = longText(line.narrow.state, ProfileFamily::Narrow);
+    QString wide = longText(line.wide.state, ProfileFamily::Wide);
     if (column == NarrowColumn)
         return narrow;
     if (column == WideColumn)
@@ -95,7 +95,9 @@ QVariant ProfileLinesModel::foreground(const ProfileDocument::Line& line, int co
     const bool dull = column == NarrowColumn ? narrow
                       : column == WideColumn ? wide
                                              : column == NumberColumn || (narrow && wide);
-    return dull ? QVariant(QGuiApplication::palette().placeholderText()) : QVariant();
+    if (dull)
+        return QGuiApplication::palette().placeholderText();
+    return {};
 }
 
 QVariant ProfileLinesModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -87,7 +87,7 @@ QVariant ProfileReadingsModel::data(const QModelIndex& index, int role) const
 
 QString ProfileReadingsModel::text(const ProfileReading& reading, int column)
 {
-    const QString stand = placeholder(reading, column);
+    QString stand = placeholder(reading, column);
     if (!stand.isNull())
         return stand;
     switch (column) {
@@ -120,9 +120,9 @@ QVariant ProfileReadingsModel::font(const ProfileReading& reading, int column)
 
 QVariant ProfileReadingsModel::foreground(const ProfileReading& reading, int column)
 {
-    return placeholder(reading, column).isNull()
-               ? QVariant()
-               : QVariant(QGuiApplication::palette().placeholderText());
+    if (placeholder(reading, column).isNull())
+        return {};
+    return QGuiApplication::palette().placeholderText();
 }
 
 QVariant ProfileReadingsModel::headerData(int section, Qt::Orientation orientation, int role) const
