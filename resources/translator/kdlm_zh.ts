@@ -819,8 +819,8 @@
         <translation>无法读取 %1。</translation>
     </message>
     <message>
-        <source>%1 is larger than 2 MiB: not a profile.</source>
-        <translation>%1 超过 2 MiB，不是配置文件。</translation>
+        <source>%1 is larger than 512 KiB: not a profile.</source>
+        <translation>%1 超过 512 KiB，不是配置文件。</translation>
     </message>
 </context>
 <context>

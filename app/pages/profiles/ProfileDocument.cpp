@@ -10,8 +10,8 @@
 
 namespace {
 
-// Far above any profile, and still read within a blink.
-constexpr qint64 largestFile = qint64{2} * 1024 * 1024;
+// Far above any profile, and still read without a halt of the window.
+constexpr qint64 largestFile = 512 * 1024;
 
 // Why the path cannot be a profile, or an empty text.
 QString fault(const QFileInfo& file)
@@ -25,7 +25,7 @@ QString fault(const QFileInfo& file)
     if (file.exists() && !file.isReadable())
         return ProfileDocument::tr("%1 cannot be read.").arg(file.filePath());
     if (file.size() > largestFile)
-        return ProfileDocument::tr("%1 is larger than 2 MiB: not a profile.").arg(file.filePath());
+        return ProfileDocument::tr("%1 is larger than 512 KiB: not a profile.").arg(file.filePath());
     return {};
 }
 

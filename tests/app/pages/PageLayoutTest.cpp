@@ -26,6 +26,12 @@ TEST_P(PageLayoutTest, NamesEveryControl)
     EXPECT_EQ(probe.nameless().join(QLatin1String(" | ")).toStdString(), "");
 }
 
+TEST_P(PageLayoutTest, LetsTheKeyboardReachEveryControl)
+{
+    const WindowProbe probe(GetParam());
+    EXPECT_EQ(probe.unreachable().join(QLatin1String(" | ")).toStdString(), "");
+}
+
 INSTANTIATE_TEST_SUITE_P(Pages, PageLayoutTest, testing::Values("profiles", "files", "fonts"),
                          [](const auto& page) { return std::string(page.param); });
 

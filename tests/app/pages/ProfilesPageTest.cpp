@@ -1,3 +1,4 @@
+#include "app/pages/profiles/ProfileDocument.h"
 #include "app/pages/profiles/ProfileReader.h"
 #include "tests/app/pages/ProfileFixture.h"
 #include "tests/app/pages/WindowProbe.h"
@@ -157,6 +158,33 @@ TEST_F(ProfilesPageTest, RefusesAFileInAMissingFolder)
 {
     open(m_file.folder() + QStringLiteral("/none/a.ini"));
     EXPECT_TRUE(status().startsWith(QStringLiteral("There is no folder")));
+}
+
+TEST_F(ProfilesPageTest, RefusesAFileThatIsTooLarge)
+{
+    constexpr int largest = 512 * 1024;
+    m_file.write(QByteArray(largest, '\n'));
+    m_probe.type("file", m_file.path());
+    EXPECT_EQ(ProfileDocument().load(m_file.path()), QString());
+    m_file.write(QByteArray(largest + 1, '\n'));
+    open();
+    EXPECT_TRUE(status().endsWith(QStringLiteral("is larger than 512 KiB: not a profile.")));
+    EXPECT_EQ(model("lines").rowCount(), 0);
+}
+
+TEST_F(ProfilesPageTest, CancelKeepsWhatWasReadSoFar)
+{
+    QByteArray large = "[S]\n";
+    for (int i = 0; i < 5000; ++i)
+        large += "key" + QByteArray::number(i) + "=value\n";
+    m_file.write(large);
+    m_probe.type("file", m_file.path());
+    QTest::keyClick(&m_probe.control<QWidget>("file"), Qt::Key_Return);
+    ASSERT_TRUE(m_probe.page().isBusy());
+    m_probe.page().cancelJob();
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Stopped.")));
+    EXPECT_GT(model("readings").rowCount(), 0);
+    EXPECT_LT(model("readings").rowCount(), 5000);
 }
 
 TEST_F(ProfilesPageTest, WritesThroughTheWideFamily)

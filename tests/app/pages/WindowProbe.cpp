@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTest>
 
 // The macro declares a function of the global namespace.
@@ -100,6 +101,25 @@ QStringList WindowProbe::clipped() const
             texts << text;
     }
     return texts;
+}
+
+QStringList WindowProbe::unreachable() const
+{
+    const auto widgets = page().findChildren<QWidget*>();
+    page().setFocus();
+    QSet<const QWidget*> reached;
+    for (int i = 0; i < widgets.size() && QApplication::focusWidget(); ++i) {
+        reached.insert(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QStringList names;
+    for (const QWidget* widget : widgets) {
+        const bool wanted = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isEnabled() &&
+                            widget->isVisibleTo(&page());
+        if (wanted && !reached.contains(widget))
+            names << QString::fromLatin1(widget->metaObject()->className()) + widget->objectName();
+    }
+    return names;
 }
 
 QStringList WindowProbe::nameless() const

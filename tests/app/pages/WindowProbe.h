@@ -46,6 +46,8 @@ public:
     QStringList clipped() const;
     /// The controls that the keyboard reaches and that have no accessible name.
     QStringList nameless() const;
+    /// The controls that take the focus and that Tab does not come to from the first one.
+    QStringList unreachable() const;
 
 private:
     std::unique_ptr<QTranslator> m_translator;
