@@ -1,0 +1,36 @@
+#include "app/pages/AnswerField.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+
+AnswerField::AnswerField(const QString& name, const QString& objectName, QWidget* parent)
+    : QLineEdit(parent)
+{
+    setReadOnly(true);
+    setAccessibleName(name);
+    setObjectName(objectName);
+    takeColors();
+}
+
+void AnswerField::setAnswer(const QString& text)
+{
+    setText(text);
+    setCursorPosition(0);
+    setToolTip(text);
+}
+
+void AnswerField::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        takeColors();
+}
+
+// As a label looks: what can be typed into stands out by its own colour.
+void AnswerField::takeColors()
+{
+    QPalette colors = QGuiApplication::palette();
+    colors.setColor(QPalette::Base, colors.color(QPalette::Window));
+    colors.setColor(QPalette::Text, colors.color(QPalette::WindowText));
+    setPalette(colors);
+}
