@@ -1,6 +1,7 @@
 #include "app/pages/PageCatalogue.h"
 
 #include "app/pages/Page.h"
+#include "app/pages/crypto/CryptoPage.h"
 
 #include <QCoreApplication>
 
@@ -27,7 +28,7 @@ constexpr Row rows[] = {
     {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<Page>},
     {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays, &made<Page>},
     {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<Page>},
-    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<Page>},
+    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<CryptoPage>},
     {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), Glyph::Log, &made<Page>},
 };
 
