@@ -1,0 +1,262 @@
+#include "crypto/AesEncrypt.h"
+
+#include "tests/crypto/AesLayout.h"
+#include "tests/crypto/Bytes.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+namespace {
+
+std::string xorOf(std::string a, const std::string& b)
+{
+    for (std::size_t i = 0; i < a.size(); ++i)
+        a[i] = static_cast<char>(a[i] ^ b[i]);
+    return a;
+}
+
+struct Setup
+{
+    int blockSize;
+    int mode;
+};
+
+void PrintTo(const Setup& setup, std::ostream* stream)
+{
+    *stream << setup.blockSize << "-byte blocks, mode " << setup.mode;
+}
+
+/// Each mode over whole buffers against its definition by single blocks.
+class AesEncryptModes : public testing::TestWithParam<Setup>
+{
+protected:
+    AesEncrypt fresh() const
+    {
+        AesEncrypt cipher;
+        cipher.MakeKey(key.data(), iv.data(), 16, GetParam().blockSize);
+        return cipher;
+    }
+
+    std::string encrypt(AesEncrypt& cipher, const std::string& in) const
+    {
+        GuardedBuffer out(in.size());
+        cipher.Encrypt(in.data(), out.data(), in.size(), GetParam().mode);
+        EXPECT_TRUE(out.isIntact());
+        return out.content();
+    }
+
+    std::string decrypt(AesEncrypt& cipher, const std::string& in) const
+    {
+        GuardedBuffer out(in.size());
+        cipher.Decrypt(in.data(), out.data(), in.size(), GetParam().mode);
+        EXPECT_TRUE(out.isIntact());
+        return out.content();
+    }
+
+    std::string forward(const std::string& block) const
+    {
+        std::string out(size, '\0');
+        fresh().EncryptBlock(block.data(), out.data());
+        return out;
+    }
+
+    std::string defined(const std::string& in) const
+    {
+        std::string out;
+        std::string chain = iv.substr(0, size);
+        for (std::size_t i = 0; i < in.size(); i += size) {
+            const std::string block = in.substr(i, size);
+            switch (GetParam().mode) {
+            case 1: chain = forward(xorOf(chain, block)); break;
+            case 2: chain = xorOf(forward(chain), block); break;
+            default: chain = forward(block); break;
+            }
+            out += chain;
+        }
+        return out;
+    }
+
+    std::string chainOf(const AesEncrypt& cipher) const { return {layoutOf(cipher).chain, size}; }
+
+    const std::string key = RandomBytes(11)(16);
+    const std::string iv = RandomBytes(12)(32);
+    const std::size_t size = static_cast<std::size_t>(GetParam().blockSize);
+    const std::string text = RandomBytes(13)(7 * size);
+};
+
+TEST_P(AesEncryptModes, EncryptionFollowsTheDefinitionForOddAndEvenCounts)
+{
+    for (std::size_t blocks = 1; blocks <= 7; ++blocks) {
+        AesEncrypt cipher = fresh();
+        const std::string in = text.substr(0, blocks * size);
+        EXPECT_EQ(toHex(defined(in)), toHex(encrypt(cipher, in)));
+    }
+}
+
+TEST_P(AesEncryptModes, DecryptionUndoesEncryptionForOddAndEvenCounts)
+{
+    for (std::size_t blocks = 1; blocks <= 7; ++blocks) {
+        AesEncrypt cipher = fresh();
+        const std::string in = text.substr(0, blocks * size);
+        EXPECT_EQ(toHex(in), toHex(decrypt(cipher, defined(in))));
+    }
+}
+
+TEST_P(AesEncryptModes, ChainGoesOnInTheNextCall)
+{
+    for (std::size_t split = 1; split < 7; ++split) {
+        AesEncrypt encrypting = fresh();
+        std::string cipherText = encrypt(encrypting, text.substr(0, split * size));
+        cipherText += encrypt(encrypting, text.substr(split * size));
+        EXPECT_EQ(toHex(defined(text)), toHex(cipherText));
+        AesEncrypt decrypting = fresh();
+        std::string plain = decrypt(decrypting, cipherText.substr(0, split * size));
+        plain += decrypt(decrypting, cipherText.substr(split * size));
+        EXPECT_EQ(toHex(text), toHex(plain));
+    }
+}
+
+TEST_P(AesEncryptModes, ChainIsTheLastCipherBlockAfterwards)
+{
+    const std::string cipherText = defined(text);
+    const std::string expected =
+        GetParam().mode == 0 ? iv.substr(0, size) : cipherText.substr(cipherText.size() - size);
+    AesEncrypt encrypting = fresh();
+    encrypt(encrypting, text);
+    EXPECT_EQ(toHex(expected), toHex(chainOf(encrypting)));
+    AesEncrypt decrypting = fresh();
+    decrypt(decrypting, cipherText);
+    EXPECT_EQ(toHex(expected), toHex(chainOf(decrypting)));
+    EXPECT_EQ(iv.substr(0, size), std::string(layoutOf(decrypting).initialChain, size));
+}
+
+TEST_P(AesEncryptModes, SingleBlocksLeaveTheChainAlone)
+{
+    AesEncrypt cipher = fresh();
+    std::string block = text.substr(0, size);
+    cipher.EncryptBlock(block.data(), block.data());
+    cipher.DecryptBlock(block.data(), block.data());
+    EXPECT_EQ(iv.substr(0, size), chainOf(cipher));
+}
+
+TEST_P(AesEncryptModes, OtherLengthsThanWholeBlocksDoNothing)
+{
+    for (const std::size_t n : {std::size_t{0}, std::size_t{1}, size - 1, size + 1, 2 * size - 1}) {
+        AesEncrypt cipher = fresh();
+        GuardedBuffer out(text.size());
+        cipher.Encrypt(text.data(), out.data(), n, GetParam().mode);
+        cipher.Decrypt(text.data(), out.data(), n, GetParam().mode);
+        EXPECT_TRUE(out.isUntouched());
+        EXPECT_EQ(iv.substr(0, size), chainOf(cipher));
+    }
+}
+
+// A length that is a multiple of the block size only after losing its upper half.
+TEST_P(AesEncryptModes, LengthHas64Bits)
+{
+    AesEncrypt cipher = fresh();
+    GuardedBuffer out(text.size());
+    const unsigned long n = (1UL << 32) * 3 + (size == 24 ? 8 : 1);
+    ASSERT_NE(0U, n % size);
+    cipher.Encrypt(text.data(), out.data(), n, GetParam().mode);
+    cipher.Decrypt(text.data(), out.data(), n, GetParam().mode);
+    EXPECT_TRUE(out.isUntouched());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, AesEncryptModes,
+                         testing::Values(Setup{16, 0}, Setup{16, 1}, Setup{16, 2}, Setup{24, 0},
+                                         Setup{24, 1}, Setup{24, 2}, Setup{32, 0}, Setup{32, 1},
+                                         Setup{32, 2}));
+
+class OtherModes : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(OtherModes, AreEcb)
+{
+    const std::string text = RandomBytes(14)(48);
+    AesEncrypt cipher;
+    cipher.MakeKey(text.data(), text.data(), 16, 16);
+    std::string expected(48, '\0');
+    cipher.Encrypt(text.data(), expected.data(), 48, 0);
+    GuardedBuffer out(48);
+    cipher.Encrypt(text.data(), out.data(), 48, GetParam());
+    EXPECT_EQ(toHex(expected), toHex(out.content()));
+    cipher.Decrypt(expected.data(), out.data(), 48, GetParam());
+    EXPECT_EQ(toHex(text), toHex(out.content()));
+    EXPECT_EQ(text.substr(0, 16), std::string(layoutOf(cipher).chain, 16));
+}
+
+INSTANTIATE_TEST_SUITE_P(Numbers, OtherModes,
+                         testing::Values(3, 7, 257, 258, 65537, 65538, -1, -2, INT_MAX, INT_MIN));
+
+/// Output over input: the steps of each mode take their turns on the one buffer.
+class AesEncryptInPlace : public testing::TestWithParam<int>
+{
+protected:
+    AesEncrypt fresh() const
+    {
+        AesEncrypt cipher;
+        cipher.MakeKey(key.data(), iv.data(), 16, 16);
+        return cipher;
+    }
+
+    const std::string key = RandomBytes(21)(16);
+    const std::string iv = RandomBytes(22)(16);
+    const std::string text = RandomBytes(23)(80);
+};
+
+TEST_P(AesEncryptInPlace, EcbAndCbcEncryptAsElsewhere)
+{
+    std::string expected(text.size(), '\0');
+    fresh().Encrypt(text.data(), expected.data(), text.size(), GetParam());
+    std::string buffer = text;
+    fresh().Encrypt(buffer.data(), buffer.data(), buffer.size(), GetParam());
+    EXPECT_EQ(toHex(expected), toHex(buffer));
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, AesEncryptInPlace, testing::Values(0, 1));
+
+class AesDecryptInPlace : public testing::Test
+{
+protected:
+    const std::string key = RandomBytes(21)(16);
+    const std::string iv = RandomBytes(22)(16);
+    const std::string text = RandomBytes(23)(80);
+};
+
+TEST_F(AesDecryptInPlace, EcbDecryptsAsElsewhere)
+{
+    std::string buffer = text;
+    AesEncrypt cipher;
+    cipher.MakeKey(key.data(), iv.data(), 16, 16);
+    cipher.Encrypt(buffer.data(), buffer.data(), buffer.size(), 0);
+    cipher.Decrypt(buffer.data(), buffer.data(), buffer.size(), 0);
+    EXPECT_EQ(toHex(text), toHex(buffer));
+}
+
+TEST_F(AesDecryptInPlace, CbcTakesTheChainFromItsOwnOutput)
+{
+    std::string blocks(32, '\0');
+    AesEncrypt cipher;
+    cipher.MakeKey(key.data(), iv.data(), 16, 16);
+    cipher.DecryptBlock(text.data(), blocks.data());
+    cipher.DecryptBlock(text.data() + 16, blocks.data() + 16);
+    const std::string first = xorOf(blocks.substr(0, 16), iv);
+    const std::string second = xorOf(blocks.substr(16), first);
+    std::string buffer = text.substr(0, 32);
+    cipher.Decrypt(buffer.data(), buffer.data(), 32, 1);
+    EXPECT_EQ(toHex(first + second), toHex(buffer));
+}
+
+TEST_F(AesDecryptInPlace, CfbLosesTheText)
+{
+    std::string buffer = text;
+    AesEncrypt cipher;
+    cipher.MakeKey(key.data(), iv.data(), 16, 16);
+    cipher.Decrypt(buffer.data(), buffer.data(), buffer.size(), 2);
+    EXPECT_EQ(std::string(text.size(), '\0'), buffer);
+}
+
+} // namespace

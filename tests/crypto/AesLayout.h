@@ -1,0 +1,32 @@
+#pragma once
+
+#include "crypto/AesEncrypt.h"
+
+#include <cstdint>
+#include <cstring>
+
+/// The members of AesEncrypt in the order that callers outside rely upon.
+struct AesLayout
+{
+    void* virtualTable;
+    bool initialised;
+    std::uint32_t encryptionKeys[15][8];
+    std::uint32_t decryptionKeys[15][8];
+    std::int32_t keyLength;
+    std::int32_t blockSize;
+    std::int32_t rounds;
+    char initialChain[32];
+    char chain[32];
+    std::uint32_t keyScratch[8];
+    std::uint32_t blockScratchA[8];
+    std::uint32_t blockScratchT[8];
+};
+
+/// What `cipher` holds.
+inline AesLayout layoutOf(const AesEncrypt& cipher)
+{
+    static_assert(sizeof(AesEncrypt) == sizeof(AesLayout));
+    AesLayout layout;
+    std::memcpy(&layout, &cipher, sizeof layout);
+    return layout;
+}
