@@ -2,6 +2,8 @@
 
 #include "app/pages/Page.h"
 #include "app/pages/crypto/CryptoPage.h"
+#include "app/pages/displays/DisplaysPage.h"
+#include "app/pages/input/InputPage.h"
 
 #include <QCoreApplication>
 
@@ -26,8 +28,9 @@ constexpr Row rows[] = {
     {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles, &made<Page>},
     {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<Page>},
     {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<Page>},
-    {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays, &made<Page>},
-    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<Page>},
+    {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays,
+     &made<DisplaysPage>},
+    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<InputPage>},
     {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<CryptoPage>},
     {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), Glyph::Log, &made<Page>},
 };

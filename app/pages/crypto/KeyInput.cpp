@@ -1,6 +1,6 @@
 #include "app/pages/crypto/KeyInput.h"
 
-#include "app/pages/crypto/MnemonicText.h"
+#include "app/pages/MnemonicText.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

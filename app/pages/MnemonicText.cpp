@@ -1,4 +1,4 @@
-#include "app/pages/crypto/MnemonicText.h"
+#include "app/pages/MnemonicText.h"
 
 #include <QRegularExpression>
 
