@@ -1,33 +1,52 @@
 #include "platform/PlatformServicesImp.h"
 
+#include "platform/PlatformCursorManagerImp.h"
 #include "platform/PlatformMessageManagerImp.h"
+#include "platform/PlatformResourceManagerImp.h"
+#include "platform/PlatformUserInputManagerImp.h"
+
+#include <QtGlobal>
 
 // First of all static objects: anything that hands the services over may run before main.
 [[gnu::init_priority(201)]] PlatformServicesImp g_PlatformServices;
 
 namespace {
 
-template <typename Manager>
-Manager* created(std::unique_ptr<Manager>& manager)
+template <typename Manager, typename Delete>
+Manager* created(std::unique_ptr<Manager, Delete>& manager)
 {
     if (!manager)
-        manager = std::make_unique<Manager>();
+        manager.reset(new Manager);
     return manager.get();
 }
 
 } // namespace
+
+template <typename Manager>
+void PlatformServicesImp::ExactDelete::operator()(Manager* manager) const
+{
+    // The compiler fears for derived classes, but the manager was created here, as what it is.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_GCC("-Wdelete-non-virtual-dtor")
+    QT_WARNING_DISABLE_CLANG("-Wdelete-non-virtual-dtor")
+    delete manager;
+    QT_WARNING_POP
+}
 
 PlatformServicesImp::PlatformServicesImp() = default;
 
 PlatformServicesImp::~PlatformServicesImp()
 {
     // In field order; left to themselves, members are destroyed in the reverse of it.
+    m_userInputManager.reset();
+    m_cursorManager.reset();
+    m_resourceManager.reset();
     m_messageManager.reset();
 }
 
 IPlatformUserInputManager* PlatformServicesImp::userInputManager()
 {
-    return nullptr;
+    return created(m_userInputManager);
 }
 
 void* PlatformServicesImp::clipBoardManager()
@@ -42,7 +61,7 @@ IPlatformDirectoryManager* PlatformServicesImp::directoryManager()
 
 IPlatformCursorManager* PlatformServicesImp::cursorManager()
 {
-    return nullptr;
+    return created(m_cursorManager);
 }
 
 IPlatformFontManager* PlatformServicesImp::fontManager()
@@ -52,7 +71,7 @@ IPlatformFontManager* PlatformServicesImp::fontManager()
 
 IPlatformResourceManager* PlatformServicesImp::resourceManager()
 {
-    return nullptr;
+    return created(m_resourceManager);
 }
 
 IPlatformProfileManager* PlatformServicesImp::profileManager()

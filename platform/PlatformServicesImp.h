@@ -4,7 +4,10 @@
 
 #include <memory>
 
+class PlatformCursorManagerImp;
 class PlatformMessageManagerImp;
+class PlatformResourceManagerImp;
+class PlatformUserInputManagerImp;
 
 /// The services object: creates each manager on first request and keeps it until process exit.
 /// Not synchronised: GUI thread only.
@@ -34,6 +37,16 @@ public:
     void* localeManager() override;
 
 private:
+    // Deletes a manager whose interface has no virtual destructor.
+    struct ExactDelete
+    {
+        template <typename Manager>
+        void operator()(Manager* manager) const;
+    };
+
+    std::unique_ptr<PlatformUserInputManagerImp, ExactDelete> m_userInputManager;
+    std::unique_ptr<PlatformCursorManagerImp> m_cursorManager;
+    std::unique_ptr<PlatformResourceManagerImp> m_resourceManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
 };
 

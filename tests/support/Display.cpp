@@ -1,5 +1,7 @@
 #include "tests/support/Display.h"
 
+#include <QThread>
+
 Display::Display(const QString& screen, bool manager)
 {
     m_server.setStandardErrorFile(QProcess::nullDevice());
@@ -16,6 +18,7 @@ Display::Display(const QString& screen, bool manager)
     m_manager.start(QStringLiteral("openbox"), QStringList());
     if (!m_manager.waitForStarted())
         qFatal("openbox did not start");
+    waitForManager();
 }
 
 Display::~Display()
@@ -24,6 +27,20 @@ Display::~Display()
         process->terminate();
         process->waitForFinished(5000);
     }
+}
+
+// A window that is shown before the manager announces itself might never be managed.
+void Display::waitForManager()
+{
+    QProcess query;
+    query.setStandardErrorFile(QProcess::nullDevice());
+    for (int attempt = 0; attempt < 200; ++attempt) {
+        query.start(QStringLiteral("wmctrl"), {"-m"});
+        if (query.waitForFinished() && query.exitCode() == 0)
+            return;
+        QThread::msleep(50);
+    }
+    qFatal("openbox does not answer");
 }
 
 bool Display::xdotool(const QStringList& arguments)

@@ -17,6 +17,8 @@ public:
     static bool xdotool(const QStringList& arguments);
 
 private:
+    static void waitForManager();
+
     QProcess m_server;
     QProcess m_manager;
 };
