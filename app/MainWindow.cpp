@@ -23,7 +23,7 @@ QSize firstSize(const QWidget& window)
     const int unit = window.fontMetrics().height();
     const QSize wanted(unit * 66, unit * 44);
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? wanted.boundedTo(screen->availableSize() * 0.95) : wanted;
+    return screen ? wanted.boundedTo(screen->availableSize() * 0.9) : wanted;
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "platform/PlatformCursorManagerImp.h"
 #include "platform/PlatformMessageManagerImp.h"
+#include "platform/PlatformProfileManagerImp.h"
+#include "platform/PlatformRegisterManagerImp.h"
 #include "platform/PlatformResourceManagerImp.h"
 #include "platform/PlatformUserInputManagerImp.h"
 
@@ -41,7 +43,9 @@ PlatformServicesImp::~PlatformServicesImp()
     m_userInputManager.reset();
     m_cursorManager.reset();
     m_resourceManager.reset();
+    m_profileManager.reset();
     m_messageManager.reset();
+    m_registerManager.reset();
 }
 
 IPlatformUserInputManager* PlatformServicesImp::userInputManager()
@@ -76,7 +80,7 @@ IPlatformResourceManager* PlatformServicesImp::resourceManager()
 
 IPlatformProfileManager* PlatformServicesImp::profileManager()
 {
-    return nullptr;
+    return created(m_profileManager);
 }
 
 IPlatformMessageManager* PlatformServicesImp::messageManager()
@@ -86,7 +90,7 @@ IPlatformMessageManager* PlatformServicesImp::messageManager()
 
 IPlatformRegisterManager* PlatformServicesImp::registerManager()
 {
-    return nullptr;
+    return created(m_registerManager);
 }
 
 void* PlatformServicesImp::plotManager()

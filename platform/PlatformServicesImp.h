@@ -8,6 +8,8 @@ class PlatformCursorManagerImp;
 class PlatformMessageManagerImp;
 class PlatformResourceManagerImp;
 class PlatformUserInputManagerImp;
+class PlatformProfileManagerImp;
+class PlatformRegisterManagerImp;
 
 /// The services object: creates each manager on first request and keeps it until process exit.
 /// Not synchronised: GUI thread only.
@@ -47,7 +49,9 @@ private:
     std::unique_ptr<PlatformUserInputManagerImp, ExactDelete> m_userInputManager;
     std::unique_ptr<PlatformCursorManagerImp> m_cursorManager;
     std::unique_ptr<PlatformResourceManagerImp> m_resourceManager;
+    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
+    std::unique_ptr<PlatformRegisterManagerImp> m_registerManager;
 };
 
 /// The one services object of the process; exported from the executable under this name.

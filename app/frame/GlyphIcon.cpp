@@ -12,8 +12,12 @@ namespace {
 GlyphColors colors(QIcon::Mode mode)
 {
     const QPalette palette = QGuiApplication::palette();
-    if (mode == QIcon::Selected)
-        return {palette.color(QPalette::HighlightedText), palette.color(QPalette::HighlightedText)};
+    if (mode == QIcon::Selected) {
+        const QColor line = palette.color(QPalette::HighlightedText);
+        QColor accent = line;
+        accent.setAlphaF(0.4);
+        return {line, accent};
+    }
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     return {palette.color(group, QPalette::WindowText), palette.color(group, QPalette::Highlight)};
 }

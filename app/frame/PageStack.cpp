@@ -52,6 +52,7 @@ Page* PageStack::made(int index)
     QWidget* holder = place(index);
     Page* page = m_pages[static_cast<std::size_t>(index)].create(holder);
     holder->layout()->addWidget(page);
+    page->show(); // left to the layout it would come too late for the keyboard focus
     return page;
 }
 

@@ -60,7 +60,6 @@ public:
     /// The text of the last report.
     QString statusText() const;
 
-protected:
     struct Job
     {
         /// What is being done, such as "Searching".
@@ -80,13 +79,14 @@ protected:
     /// As the Cancel button.
     void cancelJob();
 
-    /// Where the page's widgets go; below it stands the line of `report`.
-    QVBoxLayout* body() const { return m_body; }
-
     /// Shows `text` below the page's body until the next report, and logs it: never pass secrets.
     void report(Report kind, const QString& text);
     /// Shows `text` in the same place without logging it.
     void setStatus(const QString& text);
+
+protected:
+    /// Where the page's widgets go; below it stands the line of `report`.
+    QVBoxLayout* body() const { return m_body; }
 
 private:
     void showStatus(Report kind, const QString& text);

@@ -4,6 +4,8 @@
 #include "app/pages/crypto/CryptoPage.h"
 #include "app/pages/displays/DisplaysPage.h"
 #include "app/pages/input/InputPage.h"
+#include "app/pages/log/LogPage.h"
+#include "app/pages/registry/RegistryPage.h"
 
 #include <QCoreApplication>
 
@@ -24,7 +26,8 @@ struct Row
 };
 
 constexpr Row rows[] = {
-    {"registry", QT_TRANSLATE_NOOP("PageCatalogue", "&Registry"), Glyph::Registry, &made<Page>},
+    {"registry", QT_TRANSLATE_NOOP("PageCatalogue", "&Registry"), Glyph::Registry,
+     &made<RegistryPage>},
     {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles, &made<Page>},
     {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<Page>},
     {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<Page>},
@@ -32,7 +35,7 @@ constexpr Row rows[] = {
      &made<DisplaysPage>},
     {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<InputPage>},
     {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<CryptoPage>},
-    {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), Glyph::Log, &made<Page>},
+    {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), Glyph::Log, &made<LogPage>},
 };
 
 } // namespace

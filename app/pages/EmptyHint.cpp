@@ -1,0 +1,47 @@
+#include "app/pages/EmptyHint.h"
+
+#include <QAbstractItemView>
+#include <QEvent>
+#include <QLabel>
+
+EmptyHint::EmptyHint(QAbstractItemView* view, const QString& text)
+    : QObject(view), m_view(view), m_label(new QLabel(view->viewport()))
+{
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setWordWrap(true);
+    m_label->setAlignment(Qt::AlignCenter);
+    m_label->setForegroundRole(QPalette::PlaceholderText);
+    m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    view->viewport()->installEventFilter(this);
+    const QAbstractItemModel* model = view->model();
+    connect(model, &QAbstractItemModel::modelReset, this, &EmptyHint::update);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &EmptyHint::update);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &EmptyHint::update);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &EmptyHint::update);
+    setText(text);
+}
+
+void EmptyHint::setText(const QString& text)
+{
+    m_label->setText(text);
+    update();
+}
+
+void EmptyHint::update()
+{
+    arrange();
+    m_label->setVisible(m_view->model()->rowCount(m_view->rootIndex()) == 0);
+}
+
+void EmptyHint::arrange()
+{
+    const int margin = m_view->fontMetrics().height();
+    m_label->setGeometry(m_view->viewport()->rect().adjusted(margin, margin, -margin, -margin));
+}
+
+bool EmptyHint::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        arrange();
+    return QObject::eventFilter(watched, event);
+}

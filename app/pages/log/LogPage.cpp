@@ -1,0 +1,183 @@
+#include "app/pages/log/LogPage.h"
+
+#include "app/ApplicationLog.h"
+#include "app/pages/EmptyHint.h"
+#include "app/pages/log/LogFilter.h"
+#include "app/pages/log/LogModel.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QScrollBar>
+#include <QTableView>
+
+LogPage::LogPage(QWidget* parent)
+    : Page(parent),
+      m_model(new LogModel(ApplicationLog::path(), this)),
+      m_filter(new LogFilter(this)),
+      m_table(new QTableView),
+      m_level(new QComboBox),
+      m_text(new QLineEdit)
+{
+    m_filter->setSourceModel(m_model);
+    makeTable();
+    body()->addLayout(makeControls());
+    body()->addWidget(m_table, 1);
+    setFocusProxy(m_table);
+    connect(&ApplicationLog::instance(), &ApplicationLog::written, this, &LogPage::readNew);
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, &LogPage::showCount);
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &LogPage::showCount);
+    refresh();
+}
+
+void LogPage::makeTable()
+{
+    const int unit = fontMetrics().averageCharWidth();
+    m_table->setModel(m_filter);
+    m_table->setAccessibleName(tr("Log"));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setWordWrap(false);
+    m_table->setTabKeyNavigation(false);
+    m_table->setShowGrid(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_table->setColumnWidth(LogModel::Time, unit * 24);
+    m_table->setColumnWidth(LogModel::Level, unit * 16);
+    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* copyAction = new QAction(tr("Copy"), m_table);
+    copyAction->setShortcut(QKeySequence::Copy);
+    copyAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(copyAction, &QAction::triggered, this, &LogPage::copy);
+    m_table->addAction(copyAction);
+    new EmptyHint(m_table, tr("No line of the log has this level and this text."));
+}
+
+QLayout* LogPage::makeControls()
+{
+    m_level->setAccessibleName(tr("Lowest level shown"));
+    m_level->addItem(tr("Everything"), static_cast<int>(LogEntry::Level::Debug));
+    m_level->addItem(tr("Information and above"), static_cast<int>(LogEntry::Level::Info));
+    m_level->addItem(tr("Warnings and errors"), static_cast<int>(LogEntry::Level::Warning));
+    m_level->addItem(tr("Errors"), static_cast<int>(LogEntry::Level::Error));
+    m_text->setAccessibleName(tr("Text to find"));
+    m_text->setPlaceholderText(tr("Text to find"));
+    m_text->setClearButtonEnabled(true);
+    auto* caption = new QLabel(tr("&Show:"));
+    caption->setBuddy(m_level);
+    auto* save = glowing(new QPushButton(tr("S&ave as...")));
+    auto* line = new QHBoxLayout;
+    line->addWidget(caption);
+    line->addWidget(m_level);
+    line->addWidget(m_text, 1);
+    line->addWidget(save);
+    connect(m_level, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
+        m_filter->setLowest(static_cast<LogEntry::Level>(m_level->currentData().toInt()));
+        showCount();
+    });
+    connect(m_text, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_filter->setText(text);
+        showCount();
+    });
+    connect(save, &QPushButton::clicked, this, &LogPage::askSave);
+    return line;
+}
+
+void LogPage::refresh()
+{
+    startJob({tr("Reading the log"), [this] { return m_model->readMore(); },
+              [this] { return QLocale().toString(m_model->rowCount()); },
+              [this](bool) {
+                  m_table->scrollToBottom();
+                  showCount();
+              }});
+}
+
+void LogPage::find()
+{
+    m_text->setFocus();
+    m_text->selectAll();
+}
+
+void LogPage::entered()
+{
+    m_table->scrollToBottom();
+}
+
+// New lines are followed by a view that stands at the end, and by no other.
+void LogPage::readNew()
+{
+    if (isBusy())
+        return;
+    const QScrollBar* bar = m_table->verticalScrollBar();
+    const bool atEnd = bar->value() >= bar->maximum();
+    m_model->readMore();
+    if (atEnd)
+        m_table->scrollToBottom();
+}
+
+void LogPage::showCount()
+{
+    const QLocale locale;
+    setStatus(tr("Lines shown: %1 of %2. File: %3")
+                  .arg(locale.toString(m_filter->rowCount()), locale.toString(m_model->rowCount()),
+                       ApplicationLog::path()));
+}
+
+void LogPage::askSave()
+{
+    auto* dialog = new QFileDialog(this, tr("Save the lines shown"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters({tr("Log files (*.log)"), tr("All files (*)")});
+    dialog->setDefaultSuffix(QStringLiteral("log"));
+    dialog->selectFile(QStringLiteral("quayside.log"));
+    connect(dialog, &QFileDialog::fileSelected, this, &LogPage::saveAs);
+    dialog->open();
+}
+
+void LogPage::saveAs(const QString& path)
+{
+    const auto file = std::make_shared<QSaveFile>(path);
+    file->open(QIODevice::WriteOnly);
+    const auto row = std::make_shared<int>(0);
+    const int rows = m_filter->rowCount();
+    const auto step = [this, file, row, rows] {
+        if (!file->isOpen() || *row >= rows)
+            return false;
+        const QModelIndex index = m_filter->index((*row)++, 0);
+        file->write(index.data(LogModel::LineRole).toString().toUtf8() + '\n');
+        return true;
+    };
+    startJob({tr("Saving"), step, [row] { return QLocale().toString(*row); },
+              [this, file, row, path](bool complete) {
+                  if (!complete)
+                      report(Report::Warning, tr("Nothing was saved."));
+                  else if (file->isOpen() && file->commit())
+                      report(Report::Info,
+                             tr("Saved to %2. Lines: %1.").arg(QLocale().toString(*row), path));
+                  else
+                      report(Report::Error,
+                             tr("%1 could not be written: %2").arg(path, file->errorString()));
+              }});
+}
+
+void LogPage::copy()
+{
+    QStringList lines;
+    for (const QModelIndex& index : m_table->selectionModel()->selectedRows())
+        lines.append(index.data(LogModel::LineRole).toString());
+    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}

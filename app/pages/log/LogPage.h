@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/pages/Page.h"
+
+class LogFilter;
+class LogModel;
+class QComboBox;
+class QLineEdit;
+class QTableView;
+
+/// The application's log file, live: earlier runs first, new lines as they are written.
+class LogPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit LogPage(QWidget* parent = nullptr);
+
+    void refresh() override;
+    void find() override;
+    void entered() override;
+
+    /// Writes the lines in view to a file, as they stand in the log.
+    void saveAs(const QString& file);
+
+private:
+    void makeTable();
+    QLayout* makeControls();
+    void readNew();
+    void showCount();
+    void askSave();
+    void copy();
+
+    LogModel* m_model;
+    LogFilter* m_filter;
+    QTableView* m_table;
+    QComboBox* m_level;
+    QLineEdit* m_text;
+};

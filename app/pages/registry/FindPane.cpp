@@ -1,0 +1,102 @@
+#include "app/pages/registry/FindPane.h"
+
+#include "app/pages/EmptyHint.h"
+#include "app/pages/Page.h"
+#include "app/pages/registry/HitModel.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+FindPane::FindPane(QWidget* parent)
+    : QWidget(parent),
+      m_model(new HitModel(this)),
+      m_text(new QLineEdit),
+      m_inNames(new QCheckBox(tr("Na&mes"))),
+      m_inData(new QCheckBox(tr("D&ata"))),
+      m_table(new QTableView)
+{
+    m_text->setAccessibleName(tr("Text to find"));
+    m_text->setPlaceholderText(tr("Text to find"));
+    m_inNames->setChecked(true);
+    m_inData->setChecked(true);
+    m_table->setModel(m_model);
+    m_table->setAccessibleName(tr("Found"));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setWordWrap(false);
+    m_table->setTabKeyNavigation(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+    m_table->setColumnWidth(HitModel::Key, fontMetrics().averageCharWidth() * 44);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_hint = new EmptyHint(m_table, tr("What is found is listed here; Enter goes to it."));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(makeLine());
+    layout->addWidget(m_table, 1);
+    connect(m_table, &QTableView::activated, this, [this](const QModelIndex& index) {
+        emit chosen(m_model->hit(index.row()).path, m_model->hit(index.row()).name);
+    });
+}
+
+QWidget* FindPane::makeLine()
+{
+    auto* line = new QWidget;
+    auto* layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* search = glowing(new QPushButton(tr("&Search")));
+    auto* closeButton = glowing(new QPushButton(tr("&Hide")));
+    layout->addWidget(m_text, 1);
+    layout->addWidget(m_inNames);
+    layout->addWidget(m_inData);
+    layout->addWidget(search);
+    layout->addWidget(closeButton);
+    connect(m_text, &QLineEdit::returnPressed, this, &FindPane::request);
+    connect(search, &QPushButton::clicked, this, &FindPane::request);
+    connect(closeButton, &QPushButton::clicked, this, &FindPane::close);
+    return line;
+}
+
+void FindPane::open()
+{
+    show();
+    m_text->setFocus();
+    m_text->selectAll();
+}
+
+void FindPane::close()
+{
+    hide();
+    emit closed();
+}
+
+void FindPane::request()
+{
+    if (!m_text->text().isEmpty())
+        emit searchRequested(m_text->text(), m_inNames->isChecked(), m_inData->isChecked());
+}
+
+void FindPane::setHits(const std::vector<RegistrySearch::Hit>& hits)
+{
+    m_model->setHits(hits);
+    m_hint->setText(tr("Nothing was found."));
+    if (hits.empty())
+        return;
+    m_table->setCurrentIndex(m_model->index(0, 0));
+    m_table->setFocus();
+}
+
+void FindPane::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,67 @@
+#include "app/pages/registry/ImportDialog.h"
+
+#include "app/pages/Page.h"
+#include "app/pages/registry/ImportModel.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+QString summary(const RegistryImport& import)
+{
+    using Verdict = RegistryImport::Verdict;
+    return ImportDialog::tr("As written in the file: %1. Altered: %2. Refused: %3.")
+        .arg(import.count(Verdict::Done))
+        .arg(import.count(Verdict::Altered))
+        .arg(import.count(Verdict::Refused));
+}
+
+QTableView* makeTable(ImportModel* model)
+{
+    auto* table = new QTableView;
+    table->setModel(model);
+    table->setAccessibleName(ImportDialog::tr("Statements of the file"));
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setWordWrap(false);
+    table->setTabKeyNavigation(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 3 / 2);
+    const int unit = table->fontMetrics().averageCharWidth();
+    table->setColumnWidth(ImportModel::Result, unit * 44);
+    table->setColumnWidth(ImportModel::Key, unit * 36);
+    table->setColumnWidth(ImportModel::Name, unit * 20);
+    table->setColumnWidth(ImportModel::Data, unit * 30);
+    return table;
+}
+
+} // namespace
+
+ImportDialog::ImportDialog(const QString& file, const RegistryImport& import, QWidget* parent)
+    : QDialog(parent)
+{
+    setWindowTitle(tr("Import %1").arg(file));
+    auto* model = new ImportModel(import, this);
+    auto* only = new QCheckBox(tr("&Only what is altered or refused"));
+    connect(only, &QCheckBox::toggled, model, &ImportModel::setOnlyRemarkable);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    QPushButton* ok = glowing(buttons->addButton(tr("I&mport"), QDialogButtonBox::AcceptRole));
+    glowing(buttons->button(QDialogButtonBox::Cancel));
+    const std::size_t refused =
+        static_cast<std::size_t>(import.count(RegistryImport::Verdict::Refused));
+    ok->setEnabled(refused < import.items().size());
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(summary(import)));
+    layout->addWidget(makeTable(model), 1);
+    layout->addWidget(only);
+    layout->addWidget(buttons);
+    const QSize wanted(fontMetrics().averageCharWidth() * 110, fontMetrics().lineSpacing() * 26);
+    resize(parent ? wanted.boundedTo(parent->window()->size() * 0.95) : wanted);
+}

@@ -1,0 +1,94 @@
+#include "app/pages/registry/ImportJudge.h"
+
+#include "app/pages/registry/RegistryFormat.h"
+#include "app/pages/registry/RegistryPath.h"
+#include "app/pages/registry/ValueInput.h"
+#include "platform/WindowsTypes.h"
+
+using Action = RegFileEntry::Action;
+
+ImportJudge::ImportJudge(const RegFileEntry& entry) : m_entry(entry)
+{
+    if (entry.action == Action::Malformed)
+        refuse(entry.problem);
+    else
+        judgeKey();
+    if (entry.action == Action::SetValue || entry.action == Action::DeleteValue)
+        judgeName();
+    if (entry.action == Action::SetValue)
+        judgeData();
+}
+
+void ImportJudge::refuse(const QString& why)
+{
+    m_verdict = RegistryImport::Verdict::Refused;
+    m_remarks = QStringList(why);
+}
+
+// Once refused, only the reason for that is told.
+void ImportJudge::remark(const QString& what)
+{
+    if (what.isEmpty() || m_verdict == RegistryImport::Verdict::Refused)
+        return;
+    m_verdict = RegistryImport::Verdict::Altered;
+    m_remarks.append(what);
+}
+
+void ImportJudge::judgeKey()
+{
+    const QString root = m_entry.key.section(QLatin1Char('\\'), 0, 0);
+    if (!root.startsWith(QLatin1String("HKEY_"), Qt::CaseInsensitive) ||
+        !RegistryPath::parse(m_entry.key, m_path))
+        return refuse(tr("\"%1\" is not one of the root keys.").arg(root));
+    if (m_entry.key.contains(QLatin1Char('/')))
+        remark(tr("\"/\" in a key's name separates keys like \"\\\"."));
+    if (m_entry.action != Action::DeleteKey)
+        return;
+    if (m_path.isEmpty())
+        refuse(tr("A root key cannot be deleted."));
+    else
+        remark(tr("Deletes the key with everything below it."));
+}
+
+void ImportJudge::judgeName()
+{
+    if (m_entry.name.isEmpty())
+        return refuse(tr("The default value, which has no name, cannot be stored."));
+    if (m_entry.name.contains(QLatin1Char('\\')) || m_entry.name.contains(QLatin1Char('/')))
+        remark(tr("The separators in the name put the value into a sub-key."));
+    if (!m_path.isEmpty())
+        return;
+    if (m_entry.action == Action::DeleteValue)
+        remark(
+            tr("Deletes the key \"%1\" below the root with everything in it.").arg(m_entry.name));
+    else
+        remark(tr("Directly under a root, it is kept in a key of its own name."));
+}
+
+void ImportJudge::judgeData()
+{
+    switch (m_entry.type) {
+    case REG_SZ: return;
+    case REG_BINARY:
+        if (m_entry.data.isEmpty())
+            refuse(tr("Binary data without a byte cannot be stored."));
+        return;
+    case REG_DWORD:
+    case REG_NONE: return judgeNumber(4);
+    case REG_QWORD: return judgeNumber(8);
+    default: refuse(tr("%1 cannot be stored.").arg(RegistryFormat::typeName(m_entry.type)));
+    }
+}
+
+void ImportJudge::judgeNumber(int size)
+{
+    if (m_entry.data.isEmpty())
+        return refuse(tr("A number without a byte cannot be stored."));
+    if (m_entry.type == REG_NONE)
+        remark(tr("REG_NONE becomes REG_DWORD."));
+    if (m_entry.data.size() != size)
+        return remark(
+            tr("The number does not have %1 bytes: its first byte alone is kept.").arg(size));
+    remark(ValueInput::numberWarning(m_entry.type == REG_QWORD ? REG_QWORD : REG_DWORD,
+                                     RegistryFormat::number(m_entry.data)));
+}

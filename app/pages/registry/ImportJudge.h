@@ -1,0 +1,28 @@
+#pragma once
+
+#include "app/pages/registry/RegistryImport.h"
+
+/// Foretells what the registry service makes of one statement of a registry file.
+class ImportJudge
+{
+    Q_DECLARE_TR_FUNCTIONS(ImportJudge)
+
+public:
+    explicit ImportJudge(const RegFileEntry& entry);
+
+    RegistryImport::Verdict verdict() const { return m_verdict; }
+    QString remark() const { return m_remarks.join(QLatin1Char(' ')); }
+
+private:
+    void refuse(const QString& why);
+    void remark(const QString& what);
+    void judgeKey();
+    void judgeName();
+    void judgeData();
+    void judgeNumber(int size);
+
+    RegFileEntry m_entry;
+    QString m_path;
+    RegistryImport::Verdict m_verdict = RegistryImport::Verdict::Done;
+    QStringList m_remarks;
+};

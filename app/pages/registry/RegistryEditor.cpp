@@ -1,0 +1,256 @@
+#include "app/pages/registry/RegistryEditor.h"
+
+#include "app/pages/Page.h"
+#include "app/pages/registry/NameDialog.h"
+#include "app/pages/registry/RegistryFormat.h"
+#include "app/pages/registry/RegistryListing.h"
+#include "app/pages/registry/RegistryPath.h"
+#include "app/pages/registry/RegistryRemoval.h"
+#include "app/pages/registry/RegistryWalk.h"
+#include "app/pages/registry/StoreHold.h"
+#include "app/pages/registry/ValueDialog.h"
+
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+using Place = RegistryValueModel::Place;
+using Value = RegistryValueModel::Value;
+
+constexpr std::size_t mostNamed = 10;
+
+// Where a value is deleted, so that nothing but it goes: directly under a root that would take the
+// whole key with it in which it is kept.
+QString keyOf(const QString& path, const Value& value)
+{
+    return value.place == Place::UnderRoot ? value.name : path;
+}
+
+// The service deletes a key of the same name along with a value.
+bool takesKeyAlong(const QString& path, const Value& value)
+{
+    return listRegistryKey(keyOf(path, value)).keys.contains(value.name);
+}
+
+QString namesOf(const std::vector<Value>& values)
+{
+    QStringList lines;
+    for (std::size_t i = 0; i < values.size() && i < mostNamed; ++i)
+        lines.append(values[i].name);
+    if (values.size() > mostNamed)
+        lines.append(RegistryEditor::tr("and %1 more").arg(values.size() - mostNamed));
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString alongText(const QString& path, const std::vector<Value>& values)
+{
+    QStringList keys;
+    for (const Value& value : values) {
+        if (keys.size() < static_cast<int>(mostNamed) && takesKeyAlong(path, value))
+            keys.append(RegistryPath::shown(RegistryPath::join(keyOf(path, value), value.name)));
+    }
+    if (keys.isEmpty())
+        return QString();
+    return RegistryEditor::tr("Keys of the same name go with everything in them:") +
+           QLatin1Char('\n') + keys.join(QLatin1Char('\n'));
+}
+
+QString deletedText(const std::vector<Value>& values, std::size_t count)
+{
+    return count == 1 ? QLatin1Char('"') + values.front().name + QLatin1Char('"')
+                      : RegistryEditor::tr("%1 values")
+                            .arg(QLocale().toString(static_cast<qint64>(count)));
+}
+
+QString counted(qint64 number)
+{
+    return QLocale().toString(number);
+}
+
+} // namespace
+
+RegistryEditor::RegistryEditor(Page* page) : QObject(page), m_page(page) {}
+
+void RegistryEditor::ask(const QString& question, const QString& detail,
+                         const std::function<void()>& confirmed)
+{
+    auto* box =
+        new QMessageBox(QMessageBox::Warning, tr("Delete"), question, QMessageBox::Cancel, m_page);
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(detail);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QPushButton* yes = glowing(box->addButton(tr("Delete"), QMessageBox::AcceptRole));
+    box->setDefaultButton(QMessageBox::Cancel);
+    connect(box, &QMessageBox::buttonClicked, this, [yes, confirmed](QAbstractButton* button) {
+        if (button == yes)
+            confirmed();
+    });
+    box->open();
+}
+
+void RegistryEditor::newKey(const QString& parentPath)
+{
+    auto* dialog = new NameDialog(RegistryPath::shown(parentPath), m_page);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, parentPath] {
+        const QString path = RegistryPath::join(parentPath, dialog->name());
+        const QString shown = RegistryPath::shown(path);
+        const bool present = RegistryKey(path).isOpen();
+        const bool created =
+            !present && RegistryKey(parentPath).createKey(dialog->name()) == ERROR_SUCCESS;
+        emit changed(path, QString());
+        if (present)
+            m_page->report(Page::Report::Warning, tr("%1 is there already.").arg(shown));
+        else if (created)
+            m_page->report(Page::Report::Info, tr("Created %1.").arg(shown));
+        else
+            m_page->report(Page::Report::Error, tr("%1 could not be created.").arg(shown));
+    });
+    dialog->open();
+}
+
+void RegistryEditor::newValue(const QString& path, unsigned int type)
+{
+    auto* dialog = new ValueDialog(type, m_page);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, path] {
+        if (RegistryKey(path).read(dialog->name()).readable)
+            m_page->report(Page::Report::Error,
+                           tr("%1 has a value \"%2\" already. Nothing was changed.")
+                               .arg(RegistryPath::shown(path), dialog->name()));
+        else
+            write(path, dialog->name(), dialog->type(), dialog->data());
+    });
+    dialog->open();
+}
+
+void RegistryEditor::editValue(const QString& path, const Value& value)
+{
+    if (value.place == Place::ListedAtRoot) {
+        m_page->report(Page::Report::Error,
+                       tr("\"%1\" stands in the root itself, where the registry can list it but "
+                          "not set it. Nothing was changed.")
+                           .arg(value.name));
+        return;
+    }
+    const bool readable = value.reading.readable;
+    const unsigned int type = readable ? value.reading.type : REG_SZ;
+    const QByteArray data = readable ? value.reading.data : QByteArray();
+    auto* dialog = new ValueDialog(value.name, type, data, m_page);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog, path] { write(path, dialog->name(), dialog->type(), dialog->data()); });
+    dialog->open();
+}
+
+void RegistryEditor::write(const QString& path, const QString& name, unsigned int type,
+                           const QByteArray& data)
+{
+    const bool done = RegistryKey(path).set(name, type, data) == ERROR_SUCCESS;
+    emit changed(path, name);
+    if (done)
+        compare(path, name, type, data);
+    else
+        m_page->report(Page::Report::Error,
+                       tr("The registry refused the value \"%1\" in %2. Nothing was changed.")
+                           .arg(name, RegistryPath::shown(path)));
+}
+
+// Says what a host library reads now where that is not what was written.
+void RegistryEditor::compare(const QString& path, const QString& name, unsigned int type,
+                             const QByteArray& written)
+{
+    const int terminator = type == REG_SZ ? static_cast<int>(sizeof(wchar_t)) : 0;
+    const RegistryReading reading = RegistryKey(path).read(name);
+    const bool same = reading.readable && reading.type == type &&
+                      reading.data == written.left(written.size() - terminator);
+    if (same)
+        m_page->report(Page::Report::Info,
+                       tr("Set \"%1\" in %2.").arg(name, RegistryPath::shown(path)));
+    else
+        m_page->report(Page::Report::Warning,
+                       tr("Set \"%1\" in %2, but a host library reads %3.")
+                           .arg(name, RegistryPath::shown(path),
+                                reading.readable ? RegistryFormat::data(reading.type, reading.data)
+                                                 : tr("nothing")));
+}
+
+void RegistryEditor::removeValues(const QString& path, const Values& values)
+{
+    if (values.empty())
+        return;
+    const QString question =
+        values.size() == 1 ? tr("Delete this value of %1?") : tr("Delete these values of %1?");
+    const QString along = alongText(path, values);
+    const QString detail =
+        along.isEmpty() ? namesOf(values) : namesOf(values) + QStringLiteral("\n\n") + along;
+    ask(question.arg(RegistryPath::shown(path)), detail,
+        [this, path, values] { removeAll(path, values); });
+}
+
+void RegistryEditor::removeAll(const QString& path, const Values& values)
+{
+    const auto hold = std::make_shared<StoreHold>();
+    const auto next = std::make_shared<std::size_t>(0);
+    const auto step = [path, values, next, hold] {
+        if (*next >= values.size())
+            return false;
+        const Value& value = values[(*next)++];
+        RegistryKey(keyOf(path, value)).removeValue(value.name);
+        return true;
+    };
+    m_page->startJob({tr("Deleting"), step, [next] { return counted(static_cast<qint64>(*next)); },
+                      [this, path, values, next](bool complete) {
+                          emit changed(path, QString());
+                          m_page->report(
+                              complete ? Page::Report::Info : Page::Report::Warning,
+                              tr("Deleted from %1: %2.")
+                                  .arg(RegistryPath::shown(path), deletedText(values, *next)));
+                      }});
+}
+
+void RegistryEditor::removeKey(const QString& path)
+{
+    if (path.isEmpty()) {
+        m_page->report(Page::Report::Error, tr("The root itself cannot be deleted."));
+        return;
+    }
+    const auto walk = std::make_shared<RegistryWalk>(path);
+    const auto keys = std::make_shared<QStringList>();
+    const auto step = [walk, keys] {
+        const RegistryWalk::Step what = walk->next();
+        if (what == RegistryWalk::Step::Key)
+            keys->append(walk->path());
+        return what != RegistryWalk::Step::End;
+    };
+    m_page->startJob({tr("Counting what goes"), step, [walk] { return counted(walk->values()); },
+                      [this, path, walk, keys](bool complete) {
+                          if (complete)
+                              confirmKey(path, *keys, walk->values());
+                      }});
+}
+
+void RegistryEditor::confirmKey(const QString& path, const QStringList& keys, int values)
+{
+    ask(tr("Delete the key %1?").arg(RegistryPath::shown(path)),
+        tr("Keys below it that go with it: %1. Values: %2.")
+            .arg(counted(keys.size() - 1), counted(values)),
+        [this, path, keys] { removeKeys(path, keys); });
+}
+
+void RegistryEditor::removeKeys(const QString& path, const QStringList& keys)
+{
+    const auto hold = std::make_shared<StoreHold>();
+    const auto removal = std::make_shared<RegistryRemoval>(keys);
+    m_page->startJob({tr("Deleting"), [removal, hold] { return removal->step(); },
+                      [removal] { return counted(removal->values()); },
+                      [this, path](bool complete) {
+                          emit changed(RegistryPath::parent(path), QString());
+                          const QString text = complete ? tr("Deleted the key %1.")
+                                                        : tr("Deleted a part of the key %1.");
+                          m_page->report(complete ? Page::Report::Info : Page::Report::Warning,
+                                         text.arg(RegistryPath::shown(path)));
+                      }});
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/regfile/RegFileReader.h"
+
+#include <QCoreApplication>
+
+#include <vector>
+
+/// What an import would do, statement by statement, and the doing. Both step by step, for sliced
+/// jobs: first `read`, then, when the user has seen `items`, `apply`.
+class RegistryImport
+{
+    Q_DECLARE_TR_FUNCTIONS(RegistryImport)
+
+public:
+    enum class Verdict
+    {
+        Done,    ///< as the file says
+        Altered, ///< otherwise than the file says: see `remark`
+        Refused  ///< not at all: see `remark`
+    };
+
+    struct Item
+    {
+        RegFileEntry entry;
+        Verdict verdict = Verdict::Done;
+        QString remark;
+    };
+
+    explicit RegistryImport(const QByteArray& file) : m_reader(file) {}
+
+    /// Why the whole file is refused, in words; empty when it can be read.
+    QString error() const { return m_reader.error(); }
+
+    /// Reads one statement; false at the end.
+    bool read();
+    const std::vector<Item>& items() const { return m_items; }
+    int count(Verdict verdict) const;
+
+    /// Carries out one statement that is not refused; false at the end.
+    bool apply();
+    /// How many statements have been carried out, and how many the service failed.
+    int applied() const { return m_applied; }
+    int failed() const { return m_failed; }
+
+    /// What becomes of one statement.
+    static Item judged(const RegFileEntry& entry);
+
+private:
+    bool carryOut(const RegFileEntry& entry);
+
+    RegFileReader m_reader;
+    std::vector<Item> m_items;
+    std::size_t m_next = 0;
+    int m_applied = 0;
+    int m_failed = 0;
+};

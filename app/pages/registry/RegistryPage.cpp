@@ -1,0 +1,370 @@
+#include "app/pages/registry/RegistryPage.h"
+
+#include "app/pages/EmptyHint.h"
+#include "app/pages/registry/FindPane.h"
+#include "app/pages/registry/RegistryEditor.h"
+#include "app/pages/registry/RegistryPath.h"
+#include "app/pages/registry/RegistryTransfer.h"
+#include "app/pages/registry/RegistryTreeModel.h"
+#include "host/HostLibraries.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTableView>
+#include <QTreeView>
+
+#include <set>
+
+namespace {
+
+// A push button that does what an action does, and is enabled when it is.
+QPushButton* buttonFor(QAction* action, const QString& text)
+{
+    auto* button = glowing(new QPushButton(text));
+    button->setEnabled(action->isEnabled());
+    QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
+    QObject::connect(action, &QAction::changed, button,
+                     [button, action] { button->setEnabled(action->isEnabled()); });
+    return button;
+}
+
+} // namespace
+
+RegistryPage::RegistryPage(QWidget* parent)
+    : Page(parent),
+      m_keys(new RegistryTreeModel(this)),
+      m_values(new RegistryValueModel(this)),
+      m_editor(new RegistryEditor(this)),
+      m_transfer(new RegistryTransfer(this)),
+      m_address(new QLineEdit),
+      m_tree(new QTreeView),
+      m_table(new QTableView),
+      m_find(new FindPane)
+{
+    makeTree();
+    makeTable();
+    makeActions();
+    auto* views = new QSplitter(Qt::Horizontal);
+    views->addWidget(m_tree);
+    views->addWidget(m_table);
+    views->setStretchFactor(0, 1);
+    views->setStretchFactor(1, 3);
+    views->setChildrenCollapsible(false);
+    auto* halves = new QSplitter(Qt::Vertical);
+    halves->addWidget(views);
+    halves->addWidget(m_find);
+    halves->setStretchFactor(0, 2);
+    halves->setStretchFactor(1, 1);
+    halves->setChildrenCollapsible(false);
+    m_find->hide();
+    body()->addLayout(makeAddressLine());
+    body()->addLayout(makeButtons());
+    body()->addWidget(halves, 1);
+    setFocusProxy(m_tree);
+    connectParts();
+    m_tree->expand(m_keys->rootItem());
+    m_tree->setCurrentIndex(m_keys->rootItem());
+    showEmptyState();
+}
+
+void RegistryPage::makeTree()
+{
+    m_tree->setModel(m_keys);
+    m_tree->setAccessibleName(tr("Keys"));
+    m_tree->setHeaderHidden(true);
+    m_tree->setUniformRowHeights(true);
+    m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
+}
+
+void RegistryPage::makeTable()
+{
+    const int unit = fontMetrics().averageCharWidth();
+    m_table->setModel(m_values);
+    m_table->setAccessibleName(tr("Values"));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setWordWrap(false);
+    m_table->setTabKeyNavigation(false);
+    m_table->setShowGrid(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_table->setColumnWidth(RegistryValueModel::Name, unit * 20);
+    m_table->setColumnWidth(RegistryValueModel::Type, unit * 14);
+    m_table->setColumnWidth(RegistryValueModel::Data, unit * 26);
+    m_hint = new EmptyHint(m_table, QString());
+}
+
+QAction* RegistryPage::action(const QString& text, void (RegistryPage::*slot)())
+{
+    auto* made = new QAction(text, this);
+    made->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(made, &QAction::triggered, this, slot);
+    return made;
+}
+
+void RegistryPage::makeActions()
+{
+    m_newMenu = makeNewMenu();
+    m_edit = action(tr("Edit value"), &RegistryPage::editValue);
+    m_edit->setShortcut(Qt::Key_F2);
+    m_removeValue = action(tr("Delete value"), &RegistryPage::removeSelected);
+    m_removeValue->setShortcut(Qt::Key_Delete);
+    m_removeKey = action(tr("Delete key"), &RegistryPage::removeKey);
+    m_removeKey->setShortcut(Qt::Key_Delete);
+    m_copyPath = action(tr("Copy path"), &RegistryPage::copyPath);
+    m_copyPath->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+    m_copyValue = action(tr("Copy data"), &RegistryPage::copyValue);
+    m_copyValue->setShortcut(QKeySequence::Copy);
+    m_export = action(tr("Export key..."), &RegistryPage::exportKey);
+    m_import = action(tr("Import..."), &RegistryPage::importFile);
+    m_tree->addActions({m_newMenu->menuAction(), m_removeKey, m_copyPath, m_export, m_import});
+    m_table->addActions({m_newMenu->menuAction(), m_edit, m_removeValue, m_copyValue});
+}
+
+QMenu* RegistryPage::makeNewMenu()
+{
+    auto* menu = new QMenu(tr("New"), this);
+    connect(menu->addAction(tr("&Key...")), &QAction::triggered, this,
+            [this] { m_editor->newKey(path()); });
+    menu->addSeparator();
+    const struct
+    {
+        QString text;
+        unsigned int type;
+    } types[] = {{tr("&String (REG_SZ)..."), REG_SZ},
+                 {tr("&Number (REG_DWORD)..."), REG_DWORD},
+                 {tr("&Large number (REG_QWORD)..."), REG_QWORD},
+                 {tr("&Binary (REG_BINARY)..."), REG_BINARY}};
+    for (const auto& row : types) {
+        const unsigned int type = row.type;
+        connect(menu->addAction(row.text), &QAction::triggered, this,
+                [this, type] { m_editor->newValue(path(), type); });
+    }
+    return menu;
+}
+
+QLayout* RegistryPage::makeAddressLine()
+{
+    auto* caption = new QLabel(tr("&Go to:"));
+    caption->setBuddy(m_address);
+    m_address->setAccessibleName(tr("Path of the key"));
+    auto* line = new QHBoxLayout;
+    line->addWidget(caption);
+    line->addWidget(m_address, 1);
+    line->addWidget(buttonFor(m_copyPath, tr("Cop&y path")));
+    return line;
+}
+
+QLayout* RegistryPage::makeButtons()
+{
+    auto* create = glowing(new QPushButton(tr("&New")));
+    create->setMenu(m_newMenu);
+    auto* remove = glowing(new QPushButton(tr("Dele&te")));
+    connect(remove, &QPushButton::clicked, this, [this] {
+        if (m_table->selectionModel()->hasSelection())
+            removeSelected();
+        else
+            removeKey();
+    });
+    auto* search = glowing(new QPushButton(tr("&Search...")));
+    connect(search, &QPushButton::clicked, this, &RegistryPage::find);
+    auto* line = new QHBoxLayout;
+    line->addWidget(create);
+    line->addWidget(buttonFor(m_edit, tr("&Edit...")));
+    line->addWidget(remove);
+    line->addStretch();
+    line->addWidget(search);
+    line->addWidget(buttonFor(m_import, tr("I&mport...")));
+    line->addWidget(buttonFor(m_export, tr("E&xport...")));
+    return line;
+}
+
+void RegistryPage::connectParts()
+{
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &RegistryPage::showKey);
+    connect(m_tree, &QTreeView::clicked, m_table, &QTableView::clearSelection);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &RegistryPage::enableActions);
+    connect(m_values, &QAbstractItemModel::modelReset, this, &RegistryPage::enableActions);
+    connect(m_table, &QTableView::activated, this, &RegistryPage::editValue);
+    connect(m_address, &QLineEdit::returnPressed, this, &RegistryPage::openAddress);
+    connect(m_editor, &RegistryEditor::changed, this, &RegistryPage::afterChange);
+    connect(m_transfer, &RegistryTransfer::changed, this, &RegistryPage::refresh);
+    connect(m_find, &FindPane::searchRequested, this, &RegistryPage::search);
+    connect(m_find, &FindPane::chosen, this, &RegistryPage::goTo);
+    connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
+}
+
+QString RegistryPage::path() const
+{
+    return m_keys->path(m_tree->currentIndex());
+}
+
+void RegistryPage::showKey(const QModelIndex& current)
+{
+    m_values->setPath(m_keys->path(current));
+    m_address->setText(RegistryPath::shown(m_values->path()));
+    m_hint->setText(current == m_keys->rootItem() && !m_keys->hasChildren(current)
+                        ? tr("The registry is empty. Create a key with New, or import a registry "
+                             "file.")
+                        : tr("This key holds no values."));
+    const QLocale locale;
+    setStatus(tr("Values: %1. Sub-keys: %2.")
+                  .arg(locale.toString(m_values->rowCount()),
+                       locale.toString(m_keys->subKeyCount(current))));
+}
+
+void RegistryPage::showEmptyState()
+{
+    if (!g_globalSettings)
+        report(Report::Error, tr("The host library has set up no settings store: every call to the "
+                                 "registry fails."));
+}
+
+void RegistryPage::enableActions()
+{
+    const bool selected = m_table->selectionModel()->hasSelection();
+    m_edit->setEnabled(selected);
+    m_removeValue->setEnabled(selected);
+    m_copyValue->setEnabled(selected);
+}
+
+void RegistryPage::refresh()
+{
+    const QModelIndex value = m_table->currentIndex();
+    const QString name = value.isValid() ? m_values->value(value.row()).name : QString();
+    m_keys->refresh();
+    showKey(m_tree->currentIndex());
+    selectValue(name);
+}
+
+void RegistryPage::selectValue(const QString& name)
+{
+    const int row = name.isEmpty() ? -1 : m_values->rowOf(name);
+    if (row >= 0)
+        m_table->setCurrentIndex(m_values->index(row, 0));
+}
+
+void RegistryPage::entered()
+{
+    refresh();
+    showEmptyState();
+}
+
+void RegistryPage::find()
+{
+    m_find->open();
+}
+
+void RegistryPage::goTo(const QString& path, const QString& name)
+{
+    const QModelIndex key = m_keys->find(path);
+    m_tree->setCurrentIndex(key);
+    m_tree->scrollTo(key);
+    selectValue(name);
+    if (m_table->currentIndex().isValid())
+        m_table->setFocus();
+}
+
+void RegistryPage::openAddress()
+{
+    QString wanted;
+    if (!RegistryPath::parse(m_address->text(), wanted)) {
+        report(Report::Error,
+               tr("%1 begins with none of the four root keys.").arg(m_address->text()));
+        return;
+    }
+    goTo(wanted);
+    if (path() == wanted)
+        m_tree->setFocus();
+    else
+        report(Report::Warning, tr("There is no key %1.").arg(RegistryPath::shown(wanted)));
+}
+
+void RegistryPage::editValue()
+{
+    if (m_table->currentIndex().isValid())
+        m_editor->editValue(path(), m_values->value(m_table->currentIndex().row()));
+}
+
+void RegistryPage::removeSelected()
+{
+    std::vector<RegistryValueModel::Value> values;
+    for (const QModelIndex& index : m_table->selectionModel()->selectedRows())
+        values.push_back(m_values->value(index.row()));
+    m_editor->removeValues(path(), values);
+}
+
+void RegistryPage::removeKey()
+{
+    m_editor->removeKey(path());
+}
+
+void RegistryPage::copyPath()
+{
+    QGuiApplication::clipboard()->setText(RegistryPath::shown(path()));
+    setStatus(tr("Copied %1.").arg(RegistryPath::shown(path())));
+}
+
+void RegistryPage::copyValue()
+{
+    const QModelIndex current = m_table->currentIndex();
+    if (current.isValid())
+        QGuiApplication::clipboard()->setText(
+            m_values->index(current.row(), RegistryValueModel::Data).data().toString());
+}
+
+void RegistryPage::exportKey()
+{
+    m_transfer->askExport(path());
+}
+
+void RegistryPage::importFile()
+{
+    m_transfer->askImport();
+}
+
+void RegistryPage::search(const QString& text, bool inNames, bool inData)
+{
+    const auto search = std::make_shared<RegistrySearch>(text, QString(), inNames, inData);
+    const auto finished = [this, search](bool complete) {
+        m_find->setHits(search->hits());
+        const QString found = QLocale().toString(static_cast<qint64>(search->hits().size()));
+        if (!complete)
+            setStatus(tr("The search was cancelled. Found so far: %1.").arg(found));
+        else if (search->isFull())
+            setStatus(tr("Showing the first %1 places; there may be more.").arg(found));
+        else
+            setStatus(tr("Found: %1.").arg(found));
+    };
+    startJob({tr("Searching"), [search] { return search->step(); },
+              [search] {
+                  return tr("Values: %1. Found: %2.")
+                      .arg(QLocale().toString(search->walk().values()))
+                      .arg(search->hits().size());
+              },
+              finished});
+}
+
+void RegistryPage::afterChange(const QString& changedPath, const QString& name)
+{
+    m_keys->refresh();
+    goTo(changedPath);
+    showKey(m_tree->currentIndex());
+    selectValue(name);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+/// Paths of keys, as the store has them: levels separated by "/", empty for the root that all
+/// predefined root keys share. Shown to people they begin with a root's name and have backslashes.
+namespace RegistryPath {
+
+/// HKEY_CURRENT_USER\Vendor\Product for Vendor/Product.
+QString shown(const QString& path);
+
+/// Reads what `shown` or a registry file writes: the name of any of the four roots, in any case of
+/// letters, then levels. A path without a root is taken to be below one. False when the first level
+/// begins with "HKEY_" and names no root that is known; `path` is then left alone.
+bool parse(const QString& text, QString& path);
+
+QString join(const QString& parent, const QString& name);
+/// The root for a key right below it, and for the root itself.
+QString parent(const QString& path);
+/// The last level.
+QString name(const QString& path);
+
+} // namespace RegistryPath

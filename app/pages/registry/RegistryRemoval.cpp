@@ -1,0 +1,29 @@
+#include "app/pages/registry/RegistryRemoval.h"
+
+#include "app/pages/registry/RegistryListing.h"
+
+RegistryRemoval::RegistryRemoval(const QStringList& keys) : m_keys(keys) {}
+
+bool RegistryRemoval::step()
+{
+    if (m_keys.isEmpty())
+        return false;
+    if (!m_key) {
+        openLast();
+        return true;
+    }
+    if (!m_values.isEmpty()) {
+        m_key->removeValue(m_values.takeLast());
+        ++m_removed;
+        return true;
+    }
+    m_key.reset();
+    RegistryKey(QString()).removeKey(m_keys.takeLast());
+    return true;
+}
+
+void RegistryRemoval::openLast()
+{
+    m_key = std::make_unique<RegistryKey>(m_keys.last());
+    m_values = listRegistryKey(m_keys.last()).values;
+}

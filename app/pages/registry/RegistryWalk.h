@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/pages/registry/RegistryKey.h"
+
+#include <QStringList>
+
+#include <memory>
+
+/// Visits a key and all keys below it, each before those below, and the values of each, in small
+/// steps that suit a sliced job. Keys that come or go meanwhile do no harm. Marks of created keys
+/// count as no values.
+class RegistryWalk
+{
+public:
+    enum class Step
+    {
+        Key,   ///< a new key: see path()
+        Value, ///< a value of that key: see name() and key()
+        End
+    };
+
+    explicit RegistryWalk(const QString& path);
+
+    Step next();
+
+    QString path() const { return m_path; }
+    QString name() const { return m_names.at(m_index); }
+    /// The key, open for reading the value.
+    const RegistryKey& key();
+
+    int keys() const { return m_keys; }
+    int values() const { return m_values; }
+
+private:
+    void enter();
+
+    QStringList m_pending; ///< the next one last
+    QString m_path;
+    QStringList m_names;
+    int m_index = -1;
+    std::unique_ptr<RegistryKey> m_key;
+    int m_keys = 0;
+    int m_values = 0;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QString>
+
+/// Checks what a user types as a value, before anything is written.
+class ValueInput
+{
+    Q_DECLARE_TR_FUNCTIONS(ValueInput)
+
+public:
+    /// Reads `text` as data of a type. Numbers are decimal, or hexadecimal after "0x"; bytes are
+    /// pairs of hexadecimal digits, with blanks or commas between them.
+    ValueInput(unsigned int type, const QString& text);
+
+    bool isValid() const { return m_problem.isEmpty(); }
+    /// Why it is refused; empty when it is valid.
+    QString problem() const { return m_problem; }
+    /// What the registry will make of it other than what was typed; empty when it keeps it.
+    QString warning() const { return m_warning; }
+    /// Ready for RegSetValueExW.
+    QByteArray data() const { return m_data; }
+
+    /// Why a value cannot have this name, or an empty text.
+    static QString nameProblem(const QString& name);
+    /// Why a key cannot have this name, or an empty text.
+    static QString keyNameProblem(const QString& name);
+
+    /// What reading back makes of a DWORD, and writing of a QWORD; empty when it keeps the number.
+    static QString numberWarning(unsigned int type, quint64 value);
+
+private:
+    void readNumber(unsigned int type, const QString& text);
+    void readBytes(const QString& text);
+
+    QByteArray m_data;
+    QString m_problem;
+    QString m_warning;
+};

@@ -1,0 +1,177 @@
+#include "app/regfile/RegFileReader.h"
+
+#include "app/regfile/RegFileText.h"
+#include "platform/WindowsTypes.h"
+
+namespace {
+
+void refuse(RegFileEntry& entry, const QString& problem)
+{
+    entry.action = RegFileEntry::Action::Malformed;
+    entry.problem = problem;
+}
+
+bool isBlankOrComment(const QString& rest)
+{
+    const QString trimmed = rest.trimmed();
+    return trimmed.isEmpty() || trimmed.startsWith(QLatin1Char(';'));
+}
+
+QString withoutComment(const QString& rest)
+{
+    return rest.section(QLatin1Char(';'), 0, 0).trimmed();
+}
+
+} // namespace
+
+RegFileReader::RegFileReader(const QByteArray& file)
+{
+    if (decodeRegFile(file, m_text))
+        readHeader();
+    else
+        m_error = tr("The file is neither UTF-16 with a byte order mark nor UTF-8.");
+}
+
+void RegFileReader::readHeader()
+{
+    QString header;
+    while (header.isEmpty() && !atEnd())
+        header = nextLine().trimmed();
+    if (header == regFileHeader)
+        return;
+    if (header == QLatin1String("REGEDIT4"))
+        m_error = tr("The file has version 4. Only version 5.00 is understood.");
+    else
+        m_error = tr("The file does not begin with \"%1\".").arg(regFileHeader);
+}
+
+QString RegFileReader::nextLine()
+{
+    int end = m_text.indexOf(QLatin1Char('\n'), m_position);
+    if (end < 0)
+        end = m_text.size();
+    QString line = m_text.mid(m_position, end - m_position);
+    if (line.endsWith(QLatin1Char('\r')))
+        line.chop(1);
+    m_position = end + 1;
+    ++m_line;
+    return line;
+}
+
+bool RegFileReader::readNext(RegFileEntry& entry)
+{
+    if (!m_error.isEmpty())
+        return false;
+    while (!atEnd()) {
+        const QString line = nextLine().trimmed();
+        if (isBlankOrComment(line))
+            continue;
+        entry = {};
+        entry.line = m_line;
+        entry.key = m_key;
+        if (line.startsWith(QLatin1Char('[')))
+            readKey(line, entry);
+        else
+            readValue(line, entry);
+        return true;
+    }
+    return false;
+}
+
+// Names of keys may contain "]", so the last bracket of the line closes.
+void RegFileReader::readKey(const QString& line, RegFileEntry& entry)
+{
+    m_key.clear();
+    const int close = line.lastIndexOf(QLatin1Char(']'));
+    const bool deletes = line.startsWith(QLatin1String("[-"));
+    entry.key = close < 0 ? line : line.mid(deletes ? 2 : 1, close - (deletes ? 2 : 1));
+    if (close < 0 || entry.key.isEmpty() || !isBlankOrComment(line.mid(close + 1)))
+        return refuse(entry, tr("The line of a key must have the form [key]."));
+    entry.action = deletes ? RegFileEntry::Action::DeleteKey : RegFileEntry::Action::CreateKey;
+    if (!deletes)
+        m_key = entry.key;
+}
+
+void RegFileReader::readValue(const QString& line, RegFileEntry& entry)
+{
+    int position = 1;
+    const bool named = line.startsWith(QLatin1Char('"'));
+    if (!(named ? unquoteRegText(line, position, entry.name) : line.startsWith(QLatin1Char('@'))))
+        return refuse(entry, tr("The line is neither a key nor a value."));
+    while (position < line.size() && line.at(position).isSpace())
+        ++position;
+    if (position >= line.size() || line.at(position) != QLatin1Char('='))
+        return refuse(entry, tr("The value has no \"=\" after its name."));
+    if (m_key.isEmpty())
+        return refuse(entry, tr("The value stands under no key."));
+    readData(line.mid(position + 1).trimmed(), entry);
+}
+
+void RegFileReader::readData(const QString& rest, RegFileEntry& entry)
+{
+    entry.action = RegFileEntry::Action::SetValue;
+    if (rest.startsWith(QLatin1Char('"')))
+        readText(rest, entry);
+    else if (rest.startsWith(QLatin1String("dword:")))
+        readDword(withoutComment(rest.mid(6)), entry);
+    else if (rest.startsWith(QLatin1String("hex")))
+        readHex(joined(rest), entry);
+    else if (withoutComment(rest) == QLatin1String("-"))
+        entry.action = RegFileEntry::Action::DeleteValue;
+    else
+        refuse(entry, tr("The data has no known form."));
+}
+
+// A text may contain line ends: it goes on up to its closing quote.
+void RegFileReader::readText(QString rest, RegFileEntry& entry)
+{
+    int position = 1;
+    while (!unquoteRegText(rest, position, entry.text)) {
+        if (atEnd())
+            return refuse(entry, tr("The text has no closing quote."));
+        entry.text += QLatin1Char('\n');
+        rest = nextLine();
+        position = 0;
+    }
+    entry.type = REG_SZ;
+    if (!isBlankOrComment(rest.mid(position)))
+        refuse(entry, tr("Something follows the closing quote."));
+}
+
+void RegFileReader::readDword(const QString& digits, RegFileEntry& entry)
+{
+    bool valid = false;
+    const unsigned int value = digits.toUInt(&valid, 16);
+    if (!valid || digits.size() > 8 || !digits.at(0).isLetterOrNumber())
+        return refuse(entry, tr("\"dword:\" needs one to eight hexadecimal digits."));
+    entry.type = REG_DWORD;
+    entry.data = littleEndian(value, 4);
+}
+
+QString RegFileReader::joined(QString rest)
+{
+    rest = withoutComment(rest);
+    while (rest.endsWith(QLatin1Char('\\')) && !atEnd()) {
+        rest.chop(1);
+        rest += withoutComment(nextLine());
+    }
+    return rest;
+}
+
+void RegFileReader::readHex(const QString& rest, RegFileEntry& entry)
+{
+    const int colon = rest.indexOf(QLatin1Char(':'));
+    const QString kind = rest.mid(3, colon - 3);
+    bool valid = colon > 0;
+    entry.type = REG_BINARY;
+    if (!kind.isEmpty()) {
+        valid = valid && kind.startsWith(QLatin1Char('(')) && kind.endsWith(QLatin1Char(')'));
+        bool number = false;
+        entry.type = kind.mid(1, kind.size() - 2).toUInt(&number, 16);
+        valid = valid && number;
+    }
+    if (!valid || !parseHexBytes(rest.mid(colon + 1), entry.data))
+        return refuse(entry, tr("\"hex:\" needs bytes of two digits, separated by commas."));
+    if (entry.type == REG_SZ)
+        entry.text = textOfUtf16(std::exchange(entry.data, {}));
+}

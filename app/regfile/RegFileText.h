@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// The small pieces of which registry files are made.
+
+/// The first line of a file.
+inline const QString regFileHeader = QStringLiteral("Windows Registry Editor Version 5.00");
+
+/// Decodes a whole file: UTF-16 by its byte order mark, else UTF-8, with or without a mark. False
+/// when the bytes are valid in neither.
+bool decodeRegFile(const QByteArray& file, QString& text);
+
+/// A text in quotes, with backslashes before quotes and backslashes.
+QString quoteRegText(const QString& text);
+
+/// Appends what stands in `line` from `position` up to the closing quote, without its backslashes,
+/// to `text`. True when the quote is there: `position` is then behind it. False when the line ends
+/// first; the text may go on in the next one.
+bool unquoteRegText(const QString& line, int& position, QString& text);
+
+/// Reads bytes of one or two hexadecimal digits, separated by commas; blanks are skipped, and an
+/// empty list is no bytes. False for anything else.
+bool parseHexBytes(const QString& list, QByteArray& bytes);
+
+/// The lowest `size` bytes of a number, lowest first.
+QByteArray littleEndian(quint64 value, int size);
+
+/// UTF-16 in little-endian order, without a terminator.
+QByteArray utf16Of(const QString& text);
+
+/// The text of UTF-16 bytes in little-endian order, up to its terminator.
+QString textOfUtf16(const QByteArray& bytes);

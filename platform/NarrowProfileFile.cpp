@@ -1,0 +1,96 @@
+#include "platform/NarrowProfileFile.h"
+
+#include <QTextCodec>
+
+#include <array>
+#include <chrono>
+#include <memory>
+#include <sys/stat.h>
+#include <thread>
+
+namespace {
+
+using std::chrono::milliseconds;
+using namespace std::chrono_literals;
+
+// A byte order mark is removed at the beginning of each chunk that follows nothing but ASCII, and a
+// text stream, which other programs read these files with, reads chunks of this size.
+constexpr qint64 chunkSize = 16384;
+
+// The last modification, in the unit in which QSettings compares it; 0 when it cannot be told.
+std::int64_t stampOf(int descriptor)
+{
+    struct stat status{};
+    if (fstat(descriptor, &status) != 0)
+        return 0;
+    return status.st_mtim.tv_sec * 1000 + status.st_mtim.tv_nsec / 1000000;
+}
+
+void setStamp(int descriptor, std::int64_t stamp)
+{
+    std::array<timespec, 2> times{}; // last access, last modification
+    times[0].tv_nsec = UTIME_OMIT;
+    times[1].tv_sec = stamp / 1000;
+    times[1].tv_nsec = stamp % 1000 * 1000000;
+    futimens(descriptor, times.data());
+}
+
+} // namespace
+
+NarrowProfileFile::NarrowProfileFile(const QString& path) : m_file(path) {}
+
+bool NarrowProfileFile::open(QIODevice::OpenMode mode)
+{
+    if (m_file.fileName().isEmpty() || !m_file.open(mode | QIODevice::Unbuffered))
+        return false;
+    m_foundStamp = stampOf(m_file.handle());
+    return true;
+}
+
+QString NarrowProfileFile::text()
+{
+    std::array<char, chunkSize> chunk;
+    std::unique_ptr<QTextDecoder> decoder;
+    QString text;
+    text.reserve(static_cast<int>(m_file.size()));
+    for (qint64 size = 0; (size = m_file.read(chunk.data(), chunkSize)) > 0;) {
+        const QByteArray bytes = QByteArray::fromRawData(chunk.data(), static_cast<int>(size));
+        if (!decoder) {
+            QTextCodec* utf8 = QTextCodec::codecForName("utf-8");
+            decoder.reset(QTextCodec::codecForUtfText(bytes, utf8)->makeDecoder());
+        }
+        text += decoder->toUnicode(bytes);
+    }
+    return text.remove(QLatin1Char('\r'));
+}
+
+// Overwrites and then cuts, so that at no time the file is empty.
+void NarrowProfileFile::rewrite(const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    m_file.seek(0);
+    if (m_file.write(bytes) == bytes.size())
+        m_file.resize(bytes.size());
+    advanceStamp();
+}
+
+// QSettings, which reads the same files for the wide calls, takes a file of the same size and the
+// same modification time for unchanged, but the clocks of file systems tick in steps of several
+// milliseconds. So the stamp moves on with each write, also past one that was moved before.
+void NarrowProfileFile::advanceStamp()
+{
+    const int descriptor = m_file.handle();
+    const auto stands = [this, descriptor] { return stampOf(descriptor) <= m_foundStamp; };
+    // Some file systems keep whole or even seconds only.
+    for (const milliseconds step : {1ms, 1000ms, 2000ms}) {
+        if (!stands())
+            return;
+        setStamp(descriptor, m_foundStamp + step.count());
+    }
+    // Only the owner may choose a stamp. Others can wait until the clock ticks.
+    constexpr int patience = 50;
+    for (int tries = 0; tries < patience && stampOf(descriptor) == m_foundStamp; ++tries) {
+        std::this_thread::sleep_for(1ms);
+        futimens(descriptor, nullptr);
+    }
+}
