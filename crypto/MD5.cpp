@@ -1,0 +1,149 @@
+#include "crypto/MD5.h"
+
+#include "crypto/MD5Compression.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace {
+
+constexpr std::size_t wordsPerBlock = 16;
+constexpr std::size_t bytesPerBlock = 64;
+
+using Block = std::array<std::uint32_t, wordsPerBlock>;
+
+/// Intended: for a length of 57 to 63 modulo 64 the difference wraps around 2^32, so that there are
+/// about 2^23 blocks.
+std::uint32_t blockCount(std::uint64_t length)
+{
+    const std::uint64_t bits = 8 * length;
+    if (bits % 512 == 448)
+        return static_cast<std::uint32_t>((bits + 64 + 512) / 512);
+    const auto difference = static_cast<std::uint32_t>(448 - 8 * (length % bytesPerBlock));
+    return static_cast<std::uint32_t>((bits + 64 + difference) / 512);
+}
+
+/// Intended: a byte from 0x80 on counts as a negative number and sets all higher bits of its word.
+std::uint32_t signExtendBytes(std::uint32_t word)
+{
+    return word | (0U - ((word & 0x80U) << 1)) | (0U - ((word & 0x8000U) << 1)) |
+           (0U - ((word & 0x800000U) << 1));
+}
+
+Block loadBlock(const char* bytes)
+{
+    Block words;
+    std::memcpy(words.data(), bytes, bytesPerBlock);
+    std::transform(words.begin(), words.end(), words.begin(), signExtendBytes);
+    return words;
+}
+
+/// The text's last bytes, which do not fill a block, with the mark behind them.
+Block loadEnd(const char* bytes, std::size_t count)
+{
+    char end[bytesPerBlock] = {};
+    std::copy_n(bytes, count, end);
+    Block words = loadBlock(end);
+    words[count / 4] |= 0x80U << (8 * (count % 4));
+    return words;
+}
+
+/// Intended: only the low 32 bits of the length in bits are stored; the last word stays 0.
+std::uint32_t storedLength(std::size_t length)
+{
+    return static_cast<std::uint32_t>(8 * length);
+}
+
+bool hasHighBytes(const char* bytes)
+{
+    std::uint64_t quads[bytesPerBlock / sizeof(std::uint64_t)];
+    std::memcpy(quads, bytes, sizeof quads);
+    std::uint64_t all = 0;
+    for (const std::uint64_t quad : quads)
+        all |= quad;
+    return (all & 0x8080808080808080U) != 0;
+}
+
+void compressWords(md5::State& state, const std::uint32_t* words)
+{
+    md5::compress(state, reinterpret_cast<const unsigned char*>(words), 1);
+}
+
+/// The blocks that the text fills.
+void compressText(md5::State& state, const char* bytes, std::size_t blocks)
+{
+    for (; blocks != 0; --blocks, bytes += bytesPerBlock) {
+        if (hasHighBytes(bytes))
+            compressWords(state, loadBlock(bytes).data());
+        else
+            md5::compress(state, reinterpret_cast<const unsigned char*>(bytes), 1);
+    }
+}
+
+/// From the block of the text's end, which is number `whole`, to the last one.
+void compressPadding(md5::State& state, Block end, std::size_t whole, std::size_t blocks,
+                     std::uint32_t length)
+{
+    for (std::size_t i = whole + 1; i < blocks; ++i) {
+        compressWords(state, end.data());
+        end = {};
+    }
+    end[wordsPerBlock - 2] = length;
+    compressWords(state, end.data());
+}
+
+} // namespace
+
+// Intended: the state is not reset.
+std::string MD5::Encode(std::string text)
+{
+    const std::uint32_t blocks = blockCount(text.size());
+    m_wordCount = static_cast<std::uint32_t>(blocks * wordsPerBlock);
+    const std::size_t whole = text.size() / bytesPerBlock;
+    const char* end = text.data() + whole * bytesPerBlock;
+    md5::State state = {m_a, m_b, m_c, m_d};
+    compressText(state, text.data(), whole);
+    compressPadding(state, loadEnd(end, text.size() % bytesPerBlock), whole, blocks,
+                    storedLength(text.size()));
+    m_a = state[0];
+    m_b = state[1];
+    m_c = state[2];
+    m_d = state[3];
+    return Format(m_a) + Format(m_b) + Format(m_c) + Format(m_d);
+}
+
+std::vector<std::uint32_t> MD5::Padding(std::string text)
+{
+    const std::uint32_t blocks = blockCount(text.size());
+    m_wordCount = static_cast<std::uint32_t>(blocks * wordsPerBlock);
+    std::vector<std::uint32_t> words(blocks * wordsPerBlock);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<signed char>(text[i]);
+        words[i / 4] |= static_cast<std::uint32_t>(byte) << (8 * (i % 4));
+    }
+    words[text.size() / 4] |= 0x80U << (8 * (text.size() % 4));
+    words[words.size() - 2] = storedLength(text.size());
+    return words;
+}
+
+void MD5::IterateFunc(unsigned int* block, int /*count*/)
+{
+    md5::State state = {m_a, m_b, m_c, m_d};
+    compressWords(state, block);
+    m_a = state[0];
+    m_b = state[1];
+    m_c = state[2];
+    m_d = state[3];
+}
+
+std::string MD5::Format(unsigned int value)
+{
+    constexpr const char* digits = "0123456789abcdef";
+    std::string hex;
+    for (int shift = 0; shift < 32; shift += 8) {
+        hex += digits[value >> (shift + 4) & 15U];
+        hex += digits[value >> shift & 15U];
+    }
+    return hex;
+}
