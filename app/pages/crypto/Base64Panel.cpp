@@ -1,7 +1,7 @@
 #include "app/pages/crypto/Base64Panel.h"
 
-#include "app/pages/crypto/DecryptionCheck.h"
 #include "app/pages/MnemonicText.h"
+#include "app/pages/crypto/DecryptionCheck.h"
 #include "app/pages/crypto/TextPane.h"
 #include "crypto/Base64Encoder.h"
 

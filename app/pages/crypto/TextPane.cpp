@@ -1,7 +1,7 @@
 #include "app/pages/crypto/TextPane.h"
 
-#include "app/pages/crypto/CopyButton.h"
 #include "app/pages/MnemonicText.h"
+#include "app/pages/crypto/CopyButton.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>

@@ -1,5 +1,6 @@
 #include "app/pages/displays/HandlePanel.h"
 
+#include "app/pages/EmptyHint.h"
 #include "app/pages/MnemonicText.h"
 #include "platform/PlatformServicesImp.h"
 
@@ -31,25 +32,16 @@ void* pointer(int handle)
 } // namespace
 
 HandlePanel::HandlePanel(QWidget* parent)
-    : QWidget(parent),
-      m_model(new HandleModel(this)),
-      m_view(new QTableView),
-      m_empty(
-          new QLabel(tr("No graphics handle is alive. Host libraries make them with createImage "
-                        "and createBrush; below you can do the same.")))
+    : QWidget(parent), m_model(new HandleModel(this)), m_view(new QTableView)
 {
     makeTable();
-    m_empty->setWordWrap(true);
-    m_empty->setAlignment(Qt::AlignCenter);
     auto* note = new QLabel(tr("A brush of colour 0 is not listed: the service answers for it as "
                                "for a free number."));
     note->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_view, 1);
-    layout->addWidget(m_empty, 1);
     layout->addWidget(note);
     layout->addWidget(makeTools());
-    m_view->hide();
     setFocusProxy(m_view);
 }
 
@@ -68,6 +60,9 @@ void HandlePanel::makeTable()
     connect(action, &QAction::triggered, this, &HandlePanel::remove);
     m_view->addAction(action);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    new EmptyHint(m_view,
+                  tr("No graphics handle is alive. Host libraries make them with createImage "
+                     "and createBrush; below you can do the same."));
 }
 
 QWidget* HandlePanel::makeTools()
@@ -120,9 +115,6 @@ void HandlePanel::showResult(const HandleScan& scan, bool complete)
     m_model->setHandles(scan.found());
     m_view->resizeColumnToContents(HandleModel::HandleColumn);
     m_view->resizeColumnToContents(HandleModel::TypeColumn);
-    const bool empty = scan.found().empty();
-    m_empty->setVisible(empty);
-    m_view->setVisible(!empty);
     const int row = m_model->rowOf(m_selected);
     if (row >= 0)
         m_view->selectRow(row);

@@ -6,7 +6,6 @@
 #include <memory>
 
 class QHBoxLayout;
-class QLabel;
 class QLineEdit;
 class QSpinBox;
 class QTableView;
@@ -41,7 +40,6 @@ private:
 
     HandleModel* m_model;
     QTableView* m_view;
-    QLabel* m_empty;
     QSpinBox* m_width = nullptr;
     QSpinBox* m_height = nullptr;
     QLineEdit* m_color = nullptr;
