@@ -55,6 +55,7 @@ QWidget* KeyInput::makePassPhrase()
     auto* grid = new QGridLayout(place);
     grid->setContentsMargins(0, 0, 0, 0);
     m_passPhrase = addSecret(tr("Pass phra&se:"), grid);
+    grid->setRowStretch(grid->rowCount(), 1);
     return place;
 }
 

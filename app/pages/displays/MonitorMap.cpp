@@ -194,7 +194,9 @@ void MonitorMap::paintCaption(QPainter& painter, const Monitor& monitor) const
     if (monitor.isPrimary())
         caption += QLatin1Char('\n') + tr("Primary");
     painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(mapped(monitor.work), Qt::AlignCenter, caption);
+    const double gap = fontMetrics().height() / 2.0;
+    painter.drawText(mapped(monitor.work).adjusted(gap, gap, -gap, -gap),
+                     Qt::AlignLeft | Qt::AlignTop, caption);
 }
 
 void MonitorMap::paintPointer(QPainter& painter) const

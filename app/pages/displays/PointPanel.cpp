@@ -22,7 +22,9 @@ PointPanel::PointPanel(QWidget* parent) : QWidget(parent), m_pointer(new QLabel)
     form->addRow(tr("Pointer:"), m_pointer);
     m_x = addCoordinate(tr("Point &X:"), form);
     m_y = addCoordinate(tr("Point &Y:"), form);
-    form->addRow(new QLabel(QStringLiteral("MonitorFromPoint")));
+    auto* heading = new QLabel(QStringLiteral("MonitorFromPoint:"));
+    heading->setContentsMargins(0, fontMetrics().height() / 2, 0, 0);
+    form->addRow(heading);
     m_answers[MONITOR_DEFAULTTONULL] = addAnswer(
         QStringLiteral("DEFAULTTONULL"), tr("The monitor that holds the point, else null."), form);
     m_answers[MONITOR_DEFAULTTOPRIMARY] =

@@ -52,9 +52,9 @@ QString shapeName(Qt::CursorShape shape)
 CursorPanel::CursorPanel(QWidget* parent) : QGroupBox(tr("Pointer and cursor"), parent)
 {
     auto* form = new QFormLayout(this);
-    m_screen = addValue(form, tr("On the screen (GetCursorPos):"));
-    m_window = addValue(form, tr("In this window (ScreenToClient):"));
-    m_cursor = addValue(form, tr("Override cursor (GetCursor):"));
+    m_screen = addValue(form, tr("GetCursorPos, on the screen:"));
+    m_window = addValue(form, tr("ScreenToClient, in this window:"));
+    m_cursor = addValue(form, tr("GetCursor, override cursor:"));
     form->addRow(makeTools());
     auto* note = new QLabel(tr("Each SetCursor adds a level to the stack of cursors, and the "
                                "service never takes one away."));
@@ -84,7 +84,8 @@ QWidget* CursorPanel::makeTools()
     addShapes();
     auto* set = glowing(new QPushButton(tr("S&etCursor")));
     connect(set, &QPushButton::clicked, this, &CursorPanel::setCursorShape);
-    m_takeBack = glowing(new QPushButton(tr("Ta&ke back (not by the service)")));
+    m_takeBack = glowing(new QPushButton(tr("Ta&ke back")));
+    m_takeBack->setToolTip(tr("Takes away the levels added here, past the service, which cannot."));
     connect(m_takeBack, &QPushButton::clicked, this, &CursorPanel::takeBack);
     auto* row = new QHBoxLayout(place);
     row->setContentsMargins(0, 0, 0, 0);

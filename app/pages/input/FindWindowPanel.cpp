@@ -34,10 +34,8 @@ FindWindowPanel::FindWindowPanel(QWidget* parent)
     m_result->setWordWrap(true);
     m_result->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_result->setAccessibleName(tr("Result"));
-    auto* row = new QHBoxLayout;
-    row->addWidget(button);
-    row->addWidget(m_result, 1);
-    form->addRow(row);
+    form->addRow(button);
+    form->addRow(m_result);
 }
 
 QLineEdit* FindWindowPanel::addField(const QString& caption, QFormLayout* form)

@@ -4,7 +4,7 @@
 #include "app/pages/input/FindWindowPanel.h"
 #include "app/pages/input/KeyPanel.h"
 
-#include <QVBoxLayout>
+#include <QHBoxLayout>
 
 namespace {
 
@@ -16,8 +16,10 @@ InputPage::InputPage(QWidget* parent)
     : Page(parent), m_keys(new KeyPanel), m_cursor(new CursorPanel), m_find(new FindWindowPanel)
 {
     body()->addWidget(m_keys);
-    body()->addWidget(m_cursor);
-    body()->addWidget(m_find);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_cursor, 1);
+    row->addWidget(m_find, 1);
+    body()->addLayout(row);
     body()->addStretch(1);
     connect(m_cursor, &CursorPanel::reported, this, &InputPage::report);
     connect(m_find, &FindWindowPanel::reported, this, &InputPage::report);

@@ -34,7 +34,7 @@ void KeyLamp::refresh()
 QSize KeyLamp::sizeHint() const
 {
     const int line = fontMetrics().height();
-    return {fontMetrics().horizontalAdvance(m_name) + 2 * line, line * 5 / 4};
+    return {fontMetrics().horizontalAdvance(m_name) + line * 5 / 3, line * 5 / 4};
 }
 
 QSize KeyLamp::minimumSizeHint() const
@@ -56,6 +56,6 @@ void KeyLamp::paintEvent(QPaintEvent* /*event*/)
         painter.setBrush(palette().color(m_lit ? QPalette::Highlight : QPalette::Base));
     painter.drawEllipse(lamp);
     painter.setPen(line);
-    painter.drawText(rect().adjusted(static_cast<int>(side * 1.8), 0, 0, 0),
+    painter.drawText(rect().adjusted(static_cast<int>(side * 1.6), 0, 0, 0),
                      Qt::AlignVCenter | Qt::TextSingleLine, m_name);
 }

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int knownColumns = 5;
-constexpr int unknownColumns = 6;
+constexpr int knownRows = 3; // a column for each modifier, for the buttons and for the keys
+constexpr int unknownRows = 5;
 constexpr int lastCode = 300; // beyond the 254 that can be known
 
 QLabel* paragraph(const QString& text)
@@ -28,24 +28,24 @@ KeyPanel::KeyPanel(QWidget* parent) : QGroupBox(tr("Key states"), parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(paragraph(tr("Known to the service. Left and right cannot be told apart, and "
                                    "no toggle state is told:")));
-    addLamps(knownKeys(), knownColumns, layout);
+    addLamps(knownKeys(), knownRows, layout);
     layout->addWidget(makeReports());
     layout->addWidget(paragraph(tr("Unknown to the service, as every other code: these always read "
                                    "as up.")));
-    addLamps(unknownKeys(), unknownColumns, layout);
+    addLamps(unknownKeys(), unknownRows, layout);
     layout->addWidget(makeQuery());
     setFocusProxy(m_code);
     refresh();
 }
 
-void KeyPanel::addLamps(const std::vector<VirtualKey>& keys, int columns, QVBoxLayout* layout)
+void KeyPanel::addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayout* layout)
 {
     auto* grid = new QGridLayout;
     grid->setSpacing(0);
     int place = 0;
     for (const VirtualKey& key : keys) {
         auto* lamp = new KeyLamp(key);
-        grid->addWidget(lamp, place / columns, place % columns);
+        grid->addWidget(lamp, place % rows, place / rows);
         m_lamps.push_back(lamp);
         ++place;
     }

@@ -21,7 +21,8 @@ public:
     void refresh();
 
 private:
-    void addLamps(const std::vector<VirtualKey>& keys, int columns, QVBoxLayout* layout);
+    /// Column by column.
+    void addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayout* layout);
     QWidget* makeReports();
     void addReport(QLayout* row, const QString& caption, int qtKey);
     QWidget* makeQuery();
