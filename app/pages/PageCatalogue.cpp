@@ -1,8 +1,11 @@
 #include "app/pages/PageCatalogue.h"
 
 #include "app/pages/Page.h"
+#include "app/pages/crypto/CryptoPage.h"
+#include "app/pages/displays/DisplaysPage.h"
 #include "app/pages/files/FilesPage.h"
 #include "app/pages/fonts/FontsPage.h"
+#include "app/pages/input/InputPage.h"
 #include "app/pages/log/LogPage.h"
 #include "app/pages/profiles/ProfilesPage.h"
 #include "app/pages/registry/RegistryPage.h"
@@ -32,9 +35,10 @@ constexpr Row rows[] = {
      &made<ProfilesPage>},
     {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<FilesPage>},
     {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<FontsPage>},
-    {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays, &made<Page>},
-    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<Page>},
-    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<Page>},
+    {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays,
+     &made<DisplaysPage>},
+    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<InputPage>},
+    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<CryptoPage>},
     {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), Glyph::Log, &made<LogPage>},
 };
 
