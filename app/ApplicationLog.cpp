@@ -7,12 +7,13 @@
 namespace {
 
 // A device in the field runs for years: the file before last is dropped.
-constexpr qint64 largestFile = 4 * 1024 * 1024;
+constexpr qint64 largestFile = 4LL * 1024 * 1024;
 
 QString stateFolder()
 {
     const QString folder = QString::fromLocal8Bit(qgetenv("XDG_STATE_HOME"));
-    return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + QStringLiteral("/.local/state");
+    return QDir::isAbsolutePath(folder) ? folder
+                                        : QDir::homePath() + QStringLiteral("/.local/state");
 }
 
 std::string preparedPath()

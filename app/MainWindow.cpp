@@ -56,12 +56,12 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
 void MainWindow::addShortcuts(int pages)
 {
     for (int page = 0; page < pages; ++page) {
-        auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | (Qt::Key_1 + page)), this);
+        auto* shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(page + 1)), this);
         connect(shortcut, &QShortcut::activated, this, [this, page] { choose(page); });
     }
     auto* refresh = new QShortcut(QKeySequence(Qt::Key_F5), this);
     connect(refresh, &QShortcut::activated, this, [this] { onCurrentPage(&Page::refresh); });
-    auto* find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
+    auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
     connect(find, &QShortcut::activated, this, [this] { onCurrentPage(&Page::find); });
 }
 

@@ -13,7 +13,7 @@ GlyphColors colors(QIcon::Mode mode)
 {
     const QPalette palette = QGuiApplication::palette();
     if (mode == QIcon::Selected) {
-        const QColor line = palette.color(QPalette::HighlightedText);
+        const QColor& line = palette.color(QPalette::HighlightedText);
         QColor accent = line;
         accent.setAlphaF(0.4);
         return {line, accent};

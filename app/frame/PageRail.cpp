@@ -33,8 +33,8 @@ PageRail::PageRail(const std::vector<PageEntry>& pages, QWidget* parent)
         auto* button = new RailButton(glyphIcon(page.glyph), page.title);
         button->setObjectName(page.name);
         button->setAccessibleName(withoutMnemonic(page.title));
-        button->setToolTip(
-            QKeySequence(Qt::ALT | (Qt::Key_1 + index)).toString(QKeySequence::NativeText));
+        button->setToolTip(QKeySequence(QStringLiteral("Alt+%1").arg(index + 1))
+                               .toString(QKeySequence::NativeText));
         button->installEventFilter(&g_buttonMonitor);
         connect(button, &QPushButton::clicked, this, [this, index] { emit chosen(index); });
         m_buttons->addButton(button, index);

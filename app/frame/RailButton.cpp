@@ -87,8 +87,9 @@ void RailButton::paintContent(QPainter& painter)
                  isEnabled() ? mode : QIcon::Disabled);
     rest.setLeft(picture.right() + gap());
     const bool underline = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
-    const int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine |
-                      (underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+    const auto mnemonic = underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+    const int flags = static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter) |
+                      static_cast<int>(Qt::TextSingleLine) | static_cast<int>(mnemonic);
     style()->drawItemText(&painter, style()->visualRect(layoutDirection(), rect(), rest), flags,
                           palette(), isEnabled(), text(), textRole());
 }

@@ -15,8 +15,8 @@ namespace {
 // The wheel turns on a darkened page, so it takes the lighter one of two opposite colours.
 QColor wheelColor(const QPalette& palette)
 {
-    const QColor base = palette.color(QPalette::Base);
-    const QColor text = palette.color(QPalette::Text);
+    const QColor& base = palette.color(QPalette::Base);
+    const QColor& text = palette.color(QPalette::Text);
     return base.lightness() > text.lightness() ? base : text;
 }
 

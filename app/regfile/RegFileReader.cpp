@@ -167,7 +167,7 @@ void RegFileReader::readHex(const QString& rest, RegFileEntry& entry)
     if (!kind.isEmpty()) {
         valid = valid && kind.startsWith(QLatin1Char('(')) && kind.endsWith(QLatin1Char(')'));
         bool number = false;
-        entry.type = kind.mid(1, kind.size() - 2).toUInt(&number, 16);
+        entry.type = kind.midRef(1, kind.size() - 2).toUInt(&number, 16);
         valid = valid && number;
     }
     if (!valid || !parseHexBytes(rest.mid(colon + 1), entry.data))

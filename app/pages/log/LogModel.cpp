@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qint64 piece = 64 * 1024;
+constexpr qint64 piece = 64LL * 1024;
 
 } // namespace
 
@@ -27,7 +27,7 @@ QByteArray LogModel::nextPiece()
         endResetModel();
     }
     file.seek(m_position);
-    const QByteArray bytes = file.read(piece);
+    QByteArray bytes = file.read(piece);
     m_position += bytes.size();
     return bytes;
 }

@@ -182,7 +182,8 @@ void LogPage::saveAs(const QString& path)
 void LogPage::copy()
 {
     QStringList lines;
-    for (const QModelIndex& index : m_table->selectionModel()->selectedRows())
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    for (const QModelIndex& index : rows)
         lines.append(index.data(LogModel::LineRole).toString());
     QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }

@@ -119,7 +119,7 @@ void RegistryPage::makeActions()
     m_removeKey = action(tr("Delete key"), &RegistryPage::removeKey);
     m_removeKey->setShortcut(Qt::Key_Delete);
     m_copyPath = action(tr("Copy path"), &RegistryPage::copyPath);
-    m_copyPath->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+    m_copyPath->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
     m_copyValue = action(tr("Copy data"), &RegistryPage::copyValue);
     m_copyValue->setShortcut(QKeySequence::Copy);
     m_export = action(tr("Export key..."), &RegistryPage::exportKey);
@@ -311,7 +311,8 @@ void RegistryPage::editValue()
 void RegistryPage::removeSelected()
 {
     std::vector<RegistryValueModel::Value> values;
-    for (const QModelIndex& index : m_table->selectionModel()->selectedRows())
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    for (const QModelIndex& index : rows)
         values.push_back(m_values->value(index.row()));
     m_editor->removeValues(path(), values);
 }

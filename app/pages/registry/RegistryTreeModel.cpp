@@ -215,7 +215,8 @@ RegistryTreeModel::Node* RegistryTreeModel::child(Node& parent, const QString& n
 QModelIndex RegistryTreeModel::find(const QString& path)
 {
     Node* current = m_root.get();
-    for (const QString& level : path.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+    const QStringList levels = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    for (const QString& level : levels) {
         Node* next = child(*current, level);
         if (!next)
             break;

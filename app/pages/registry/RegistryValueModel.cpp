@@ -60,7 +60,8 @@ void RegistryValueModel::setPath(const QString& path)
     if (path.isEmpty()) {
         listRoot();
     } else {
-        for (const QString& name : listRegistryKey(path).values)
+        const QStringList names = listRegistryKey(path).values;
+        for (const QString& name : names)
             m_rows.push_back({name, Place::InKey, {}});
     }
     endResetModel();

@@ -19,7 +19,7 @@ bool isHexDigit(QChar c)
 StoredText::StoredText(const QVariant& entry)
     : m_entry(entry), m_text(entry.toString()), m_dollar(m_text.indexOf(QLatin1Char('$')))
 {
-    m_tag = m_text.left(qMax(0, m_dollar)).toInt(&m_tagIsNumber);
+    m_tag = m_text.leftRef(qMax(0, m_dollar)).toInt(&m_tagIsNumber);
 }
 
 QString StoredText::whyUnreadable() const

@@ -14,7 +14,7 @@ quint64 parsed(const QString& text, bool* valid)
 {
     const QString digits = text.trimmed();
     if (digits.startsWith(QLatin1String("0x"), Qt::CaseInsensitive))
-        return digits.mid(2).toULongLong(valid, 16);
+        return digits.midRef(2).toULongLong(valid, 16);
     return digits.toULongLong(valid, 10);
 }
 
