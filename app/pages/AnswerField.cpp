@@ -1,16 +1,15 @@
 #include "app/pages/AnswerField.h"
 
+#include <QEvent>
+#include <QGuiApplication>
+
 AnswerField::AnswerField(const QString& name, const QString& objectName, QWidget* parent)
     : QLineEdit(parent)
 {
     setReadOnly(true);
     setAccessibleName(name);
     setObjectName(objectName);
-    // As a label looks: what can be typed into stands out by its own colour.
-    QPalette colors = palette();
-    colors.setColor(QPalette::Base, colors.color(QPalette::Window));
-    colors.setColor(QPalette::Text, colors.color(QPalette::WindowText));
-    setPalette(colors);
+    takeColors();
 }
 
 void AnswerField::setAnswer(const QString& text)
@@ -18,4 +17,22 @@ void AnswerField::setAnswer(const QString& text)
     setText(text);
     setCursorPosition(0);
     setToolTip(text);
+}
+
+void AnswerField::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        takeColors();
+}
+
+// As a label looks: what can be typed into stands out by its own colour.
+void AnswerField::takeColors()
+{
+    QPalette colors = palette();
+    const QPalette application = QGuiApplication::palette();
+    colors.setColor(QPalette::Base, application.color(QPalette::Window));
+    colors.setColor(QPalette::Text, application.color(QPalette::WindowText));
+    if (colors != palette()) // setting them is a change of its own
+        setPalette(colors);
 }

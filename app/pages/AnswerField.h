@@ -13,4 +13,10 @@ public:
 
     /// Shows `text` from its beginning, and as the tool tip.
     void setAnswer(const QString& text);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void takeColors();
 };

@@ -25,7 +25,8 @@ QString fault(const QFileInfo& file)
     if (file.exists() && !file.isReadable())
         return ProfileDocument::tr("%1 cannot be read.").arg(file.filePath());
     if (file.size() > largestFile)
-        return ProfileDocument::tr("%1 is larger than 512 KiB: not a profile.").arg(file.filePath());
+        return ProfileDocument::tr("%1 is larger than 512 KiB: not a profile.")
+            .arg(file.filePath());
     return {};
 }
 
