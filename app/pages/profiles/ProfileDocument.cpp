@@ -11,7 +11,7 @@
 namespace {
 
 // Far above any profile, and still read without a halt of the window.
-constexpr qint64 largestFile = 512 * 1024;
+constexpr qint64 largestFile = qint64{512} * 1024;
 
 // Why the path cannot be a profile, or an empty text.
 QString fault(const QFileInfo& file)
