@@ -22,15 +22,17 @@ void AnswerField::setAnswer(const QString& text)
 void AnswerField::changeEvent(QEvent* event)
 {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::PaletteChange)
         takeColors();
 }
 
 // As a label looks: what can be typed into stands out by its own colour.
 void AnswerField::takeColors()
 {
-    QPalette colors = QGuiApplication::palette();
-    colors.setColor(QPalette::Base, colors.color(QPalette::Window));
-    colors.setColor(QPalette::Text, colors.color(QPalette::WindowText));
-    setPalette(colors);
+    QPalette colors = palette();
+    const QPalette application = QGuiApplication::palette();
+    colors.setColor(QPalette::Base, application.color(QPalette::Window));
+    colors.setColor(QPalette::Text, application.color(QPalette::WindowText));
+    if (colors != palette()) // setting them is a change of its own
+        setPalette(colors);
 }

@@ -11,7 +11,7 @@
 namespace {
 
 // Far above any profile, and still read without a halt of the window.
-constexpr qint64 largestFile = 512 * 1024;
+constexpr qint64 largestFile = qint64{512} * 1024;
 
 // Why the path cannot be a profile, or an empty text.
 QString fault(const QFileInfo& file)
@@ -25,7 +25,8 @@ QString fault(const QFileInfo& file)
     if (file.exists() && !file.isReadable())
         return ProfileDocument::tr("%1 cannot be read.").arg(file.filePath());
     if (file.size() > largestFile)
-        return ProfileDocument::tr("%1 is larger than 512 KiB: not a profile.").arg(file.filePath());
+        return ProfileDocument::tr("%1 is larger than 512 KiB: not a profile.")
+            .arg(file.filePath());
     return {};
 }
 
