@@ -103,7 +103,7 @@
     </message>
     <message>
         <source>Paste what a host library has encrypted.</source>
-        <translation>在此粘贴宿主库加密后的内容。</translation>
+        <translation>在此粘贴主机库加密后的内容。</translation>
     </message>
     <message>
         <source>E&amp;ncrypt</source>
@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>No graphics handle is alive. Host libraries make them with createImage and createBrush; below you can do the same.</source>
-        <translation>当前没有图形句柄。宿主库用 createImage 和 createBrush 创建句柄，您也可以在下方创建。</translation>
+        <translation>当前没有图形句柄。主机库用 createImage 和 createBrush 创建句柄，您也可以在下方创建。</translation>
     </message>
     <message>
         <source>Width</source>
@@ -661,7 +661,7 @@
     </message>
     <message>
         <source>Delete the handle %1? A host library that still uses it will find nothing there.</source>
-        <translation>要删除句柄 %1 吗？仍在使用它的宿主库将找不到任何对象。</translation>
+        <translation>要删除句柄 %1 吗？仍在使用它的主机库将找不到任何对象。</translation>
     </message>
     <message>
         <source>Deleted handle %1.</source>

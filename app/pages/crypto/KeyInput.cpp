@@ -47,6 +47,7 @@ KeyInput::KeyInput(QWidget* parent)
     connect(m_useKeys, &QRadioButton::toggled, this,
             [this](bool keys) { m_stack->setCurrentIndex(keys ? 1 : 0); });
     m_usePassPhrase->setChecked(true);
+    setFocusProxy(m_passPhrase);
 }
 
 QWidget* KeyInput::makePassPhrase()
