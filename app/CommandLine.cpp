@@ -8,6 +8,13 @@
 
 #include <cstring>
 
+// In the global namespace, as the macro demands: programs that link the libraries in the ordinary
+// way would otherwise lose the resources, which nothing else references.
+static void keepResources()
+{
+    Q_INIT_RESOURCE(quayside);
+}
+
 namespace {
 
 constexpr int simplifiedChinese = 2052;
@@ -52,6 +59,7 @@ void parseCommandLine(int argc, char** argv, QTranslator& appTranslator, QTransl
     const int identifier = configuredLanguage(language);
     if (identifier != simplifiedChinese && language != QLatin1String("zh-CN"))
         return;
+    keepResources();
     install(appTranslator, QStringLiteral(":/translator/kdlm_zh.qm"));
     // Below the working directory, not beside the executable: each deployment brings its own.
     install(qtTranslator, QStringLiteral("./translations/qt_zh_CN.qm"));

@@ -7,7 +7,6 @@
 #include "app/frame/StatusLine.h"
 #include "app/pages/Page.h"
 
-#include <QFrame>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
@@ -41,9 +40,6 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     auto* middle = new QHBoxLayout;
     middle->setSpacing(0);
     middle->addWidget(m_rail);
-    auto* edge = new QFrame;
-    edge->setFrameStyle(QFrame::VLine | QFrame::Sunken);
-    middle->addWidget(edge);
     middle->addWidget(m_stack, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

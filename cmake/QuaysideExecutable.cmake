@@ -27,12 +27,10 @@ set_target_properties(quayside PROPERTIES LINK_DEPENDS
   "${PROJECT_SOURCE_DIR}/cmake/exports.list;${PROJECT_SOURCE_DIR}/cmake/exports.map")
 
 # The dynamic list puts the two exports into the executable's dynamic symbol table, which by itself
-# offers nothing; the version script keeps everything else out of it. An absent configuration
-# library must stay a question of run time, so weak references keep their dynamic entries.
+# offers nothing; the version script keeps everything else out of it.
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 target_link_options(quayside PRIVATE
   -Wl,--dynamic-list=${PROJECT_SOURCE_DIR}/cmake/exports.list
-  -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
-  -Wl,-z,dynamic-undefined-weak)
+  -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
 add_dependencies(quayside quayside_translations)

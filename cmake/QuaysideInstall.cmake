@@ -1,8 +1,33 @@
-# The installed tree: the program with its catalogues, the stand-in, and the libraries with their
-# headers for those who compile against them.
-include(GNUInstallDirs)
+# The installed tree: the program with Qt's catalogue for it, the stand-in, and the libraries with
+# their headers and a CMake package for those who compile against them.
 include(CMakePackageConfigHelpers)
 
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Quayside)
 install(TARGETS quayside RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS
+    quayside_host quayside_support quayside_platform quayside_crypto quayside_widgets
+    quayside_resources quayside_app
+  EXPORT QuaysideTargets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+foreach(folder app crypto host platform widgets)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/quayside
+    FILES_MATCHING PATTERN "*.h")
+endforeach()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/run/translations
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quayside)
+
+install(EXPORT QuaysideTargets NAMESPACE Quayside:: DESTINATION ${package_folder})
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/QuaysideConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/QuaysideConfig.cmake INSTALL_DESTINATION ${package_folder})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/QuaysideConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES
+  ${PROJECT_BINARY_DIR}/QuaysideConfig.cmake ${PROJECT_BINARY_DIR}/QuaysideConfigVersion.cmake
+  DESTINATION ${package_folder})
+
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Windows-style services for host libraries on Linux")
+set(CPACK_PACKAGE_CONTACT "the Quayside developers")
+set(CPACK_GENERATOR TGZ)
+include(CPack)

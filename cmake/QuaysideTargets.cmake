@@ -1,5 +1,7 @@
 # How every target of the project is compiled.
 
+include(GNUInstallDirs)
+
 if(QUAYSIDE_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
 endif()
@@ -24,8 +26,10 @@ endif()
 
 # quayside_configure(<target>): the common properties of a library or program.
 function(quayside_configure target)
-  target_link_libraries(${target} PRIVATE quayside_flags)
-  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:quayside_flags>)
+  target_include_directories(${target} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/quayside>)
   set_target_properties(${target} PROPERTIES
     CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON

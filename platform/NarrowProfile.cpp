@@ -56,9 +56,9 @@ void NarrowProfile::setValue(QStringView header, QStringView key, QStringView va
 {
     Entries& entries = m_sections[header];
     sort(entries);
-    const auto place = std::lower_bound(
-        entries.begin(), entries.end(), key,
-        [](const Entry& entry, QStringView name) { return entry.key < name; });
+    const auto place =
+        std::lower_bound(entries.begin(), entries.end(), key,
+                         [](const Entry& entry, QStringView name) { return entry.key < name; });
     if (place != entries.end() && place->key == key)
         place->value = value;
     else
@@ -91,8 +91,7 @@ void NarrowProfile::sort(Entries& entries)
         return;
     std::stable_sort(entries.begin(), entries.end(),
                      [](const Entry& a, const Entry& b) { return a.key < b.key; });
-    const auto kept = std::unique(entries.rbegin(), entries.rend(), [](const Entry& a, const Entry& b) {
-        return a.key == b.key;
-    });
+    const auto kept = std::unique(entries.rbegin(), entries.rend(),
+                                  [](const Entry& a, const Entry& b) { return a.key == b.key; });
     entries.erase(entries.begin(), kept.base());
 }

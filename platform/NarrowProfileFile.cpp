@@ -20,7 +20,9 @@ constexpr qint64 chunkSize = 16384;
 // The last modification, in the unit in which QSettings compares it; 0 when it cannot be told.
 std::int64_t stampOf(int descriptor)
 {
-    struct stat status{};
+    struct stat status
+    {
+    };
     if (fstat(descriptor, &status) != 0)
         return 0;
     return status.st_mtim.tv_sec * 1000 + status.st_mtim.tv_nsec / 1000000;
@@ -64,11 +66,13 @@ QString NarrowProfileFile::text()
     return text.remove(QLatin1Char('\r'));
 }
 
-// Overwrites and then cuts, so that at no time the file is empty.
+// Overwrites and then cuts: at no time is the file empty, and file systems that flush a file which
+// was emptied and written anew have no reason to.
 void NarrowProfileFile::rewrite(const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
-    m_file.seek(0);
+    if (!m_file.isSequential())
+        m_file.seek(0);
     if (m_file.write(bytes) == bytes.size())
         m_file.resize(bytes.size());
     advanceStamp();

@@ -12,8 +12,8 @@ class NarrowProfileFile
 public:
     explicit NarrowProfileFile(const QString& path);
 
-    /// Opens an existing file for reading, or any file, created where there is none, for reading and
-    /// writing; false when that fails.
+    /// Opens an existing file for reading, or any file, created where there is none, for reading
+    /// and writing; false when that fails.
     bool open(QIODevice::OpenMode mode);
 
     /// The text: UTF-8, or what a byte order mark at its beginning tells, which is removed; without

@@ -47,9 +47,11 @@ wchar_t* copied(const QString& text, wchar_t* out)
 
 } // namespace
 
-unsigned int PlatformProfileManagerImp::GetPrivateProfileStringW(
-    const wchar_t* section, const wchar_t* key, const wchar_t* fallback, wchar_t* buffer,
-    unsigned int size, const wchar_t* file)
+unsigned int PlatformProfileManagerImp::GetPrivateProfileStringW(const wchar_t* section,
+                                                                 const wchar_t* key,
+                                                                 const wchar_t* fallback,
+                                                                 wchar_t* buffer, unsigned int size,
+                                                                 const wchar_t* file)
 {
     if (!section || !key || !buffer || !file || size == 0)
         return 0;

@@ -4,21 +4,21 @@
 
 /// The Windows private-profile (INI file) calls: two families that know nothing of each other.
 ///
-/// The wide calls open the file as `QSettings` does an INI file, in UTF-8; names are case-sensitive,
-/// and wide strings are NUL-terminated UTF-32. The narrow calls read and rewrite the file with a
-/// line parser of their own (see `NarrowProfile`); narrow strings are UTF-8. What one family writes,
-/// the next call of the other sees. Nothing is kept between calls.
+/// The wide calls open the file as `QSettings` does an INI file, in UTF-8; names are
+/// case-sensitive, and wide strings are NUL-terminated UTF-32. The narrow calls read and rewrite
+/// the file with a line parser of their own (see `NarrowProfile`); narrow strings are UTF-8. What
+/// one family writes, the next call of the other sees. Nothing is kept between calls.
 ///
 /// Sizes are counted in the buffer's own characters: 4 bytes in the wide family, 1 in the narrow
 /// one. A null section, key, file or buffer gets the failure value, and nothing is written. A file
 /// that cannot be read reads as empty.
 ///
 /// The limits of `QSettings` are those of the wide calls. A section named "General" is one that the
-/// file names otherwise. Values with unquoted commas or semicolons are lists and read as empty text.
-/// Characters beyond the BMP are lost on writing. While another process holds the file's lock file,
-/// a write waits for up to half a minute; one that failed is tried again by the next wide write to
-/// the same file. A file that this process has already read through `QSettings` with another INI
-/// codec keeps the sections read so far as they are.
+/// file names otherwise. Values with unquoted commas or semicolons are lists and read as empty
+/// text. Characters beyond the BMP are lost on writing. While another process holds the file's lock
+/// file, a write waits for up to half a minute; one that failed is tried again by the next wide
+/// write to the same file. A file that this process has already read through `QSettings` with
+/// another INI codec keeps the sections read so far as they are.
 class PlatformProfileManagerImp : public IPlatformProfileManager
 {
 public:
@@ -53,8 +53,8 @@ public:
     unsigned int GetPrivateProfileSectionW(const wchar_t* section, wchar_t* buffer,
                                            unsigned int size, const wchar_t* file) override;
 
-    /// Writes a value; null is written as an empty one, nothing is ever deleted. Returns 1 even when
-    /// the file cannot be saved, 0 for a null section, key or file.
+    /// Writes a value; null is written as an empty one, nothing is ever deleted. Returns 1 even
+    /// when the file cannot be saved, 0 for a null section, key or file.
     int WritePrivateProfileStringW(const wchar_t* section, const wchar_t* key, const wchar_t* value,
                                    const wchar_t* file) override;
 

@@ -42,8 +42,8 @@ QString groupOf(HKEY key)
     return isRoot(key) ? QString() : *static_cast<const QString*>(key);
 }
 
-// The group of a key's values. Directly under a root it is named after the value. Intended: existing
-// stores hold such values at "name/name".
+// The group of a key's values. Directly under a root it is named after the value. Intended:
+// existing stores hold such values at "name/name".
 QString valueGroupOf(HKEY key, const QString& valueName)
 {
     return isRoot(key) ? valueName : groupOf(key);

@@ -25,11 +25,11 @@ class QVariant;
 /// be null, which asks for nothing; arguments that are not mentioned are ignored, and results that
 /// are not mentioned are never written.
 ///
-/// The limits of `QSettings` are those of the registry. A group named "General" is written to an INI
-/// file under another name. Commas and semicolons that somebody else wrote into the file unquoted
-/// make a list, which is no text. With an INI codec set on the store, characters beyond the BMP are
-/// lost on writing. While another process holds the store's lock file, saving waits for up to half a
-/// minute; a save that failed is tried again with the next one.
+/// The limits of `QSettings` are those of the registry. A group named "General" is written to an
+/// INI file under another name. Commas and semicolons that somebody else wrote into the file
+/// unquoted make a list, which is no text. With an INI codec set on the store, characters beyond
+/// the BMP are lost on writing. While another process holds the store's lock file, saving waits for
+/// up to half a minute; a save that failed is tried again with the next one.
 class PlatformRegisterManagerImp : public IPlatformRegisterManager
 {
 public:
@@ -51,9 +51,11 @@ public:
                                  _SECURITY_ATTRIBUTES* attributes, HKEY*& result,
                                  unsigned int* disposition) override;
 
-    /// Opens a key that is an entry, or a group with anything in it; the caller owns the new handle.
-    /// Otherwise the result becomes null and 2 is returned. Whether the key exists is asked before
-    /// "\" becomes "/", so that a path of several levels has to be written with "/". Null result: 1.
+    /// Opens a key that is an entry, or a group with anything in it; the caller owns the new
+    /// handle. Otherwise the result becomes null and 2 is returned. Whether the key exists is asked
+    /// before
+    /// "\" becomes "/", so that a path of several levels has to be written with "/". Null
+    /// result: 1.
     unsigned int RegOpenKeyExW(HKEY key, const wchar_t* subKey, unsigned int options,
                                unsigned int access, HKEY* result) override;
 
@@ -69,8 +71,8 @@ public:
     /// Frees a key handle. Null is accepted. Never pass a root: it is not a key string.
     unsigned int RegCloseKey(HKEY key) override;
 
-    /// Counts sub-keys and values and measures their longest names. The longest value data is that of
-    /// the value with the longest name: 4 for a DWORD, else 0.
+    /// Counts sub-keys and values and measures their longest names. The longest value data is that
+    /// of the value with the longest name: 4 for a DWORD, else 0.
     unsigned int RegQueryInfoKeyW(HKEY key, wchar_t* keyClass, unsigned int* classLength,
                                   unsigned int* reserved, unsigned int* subKeys,
                                   unsigned int* longestSubKey, unsigned int* longestClass,
@@ -83,11 +85,11 @@ public:
                              unsigned int capacity) override;
 
     /// Removes a key with everything below it; 0 whether or not it existed. A sub-key of "\" alone
-    /// removes everything below `key`.
+    /// removes `key` with everything below it.
     unsigned int RegDeleteKeyW(HKEY key, const wchar_t* subKey) override;
 
     /// Removes a value, and a sub-key of the same name with everything below it; 0 whether or not
-    /// there was one. A name of "\" alone removes everything below `key`.
+    /// there was one. A name of "\" alone removes `key` with everything below it.
     unsigned int RegDeleteValueW(HKEY key, const wchar_t* valueName) override;
 
     /// Like `RegEnumKeyW`; `nameLength` is only written, never taken as a capacity.
@@ -101,8 +103,8 @@ public:
                                unsigned int* nameLength, unsigned int* reserved, unsigned int* type,
                                unsigned char* data, unsigned int* byteCount) override;
 
-    /// Reads the value of this name, not the default value of a sub-key. Directly under a root it is
-    /// the entry of that name at the top of the store.
+    /// Reads the value of this name, not the default value of a sub-key. Directly under a root it
+    /// is the entry of that name at the top of the store.
     unsigned int RegQueryValueW(HKEY key, const wchar_t* valueName, wchar_t* data,
                                 int* byteCount) override;
 
@@ -113,8 +115,8 @@ public:
     /// The same as `RegCreateKeyExW`.
     unsigned int RegCreateKeyW(HKEY key, const wchar_t* subKey, HKEY*& result) override;
 
-    /// Removes what lies at `path` below the store's current group. Unlike everything above, returns
-    /// 1 when done and 0 for an empty path or without a store.
+    /// Removes what lies at `path` below the store's current group. Unlike everything above,
+    /// returns 1 when done and 0 for an empty path or without a store.
     unsigned int RegDeleteKeyAndAllSubkeys(const QString& path);
 
 private:
@@ -127,9 +129,9 @@ private:
 };
 
 /// Encodes a value for the store: REG_DWORD and REG_NONE (as a DWORD), REG_SZ, REG_BINARY and
-/// REG_QWORD. `size` is in bytes. Of a DWORD whose size is not 4, and of every QWORD, only the first
-/// byte is kept; a text is read up to its NUL, whatever the size. Returns false, and leaves `out`
-/// alone, for null data, any other type and binary data of size 0.
+/// REG_QWORD. `size` is in bytes. Of a DWORD whose size is not 4, and of every QWORD, only the
+/// first byte is kept; a text is read up to its NUL, whatever the size. Returns false, and leaves
+/// `out` alone, for null data, any other type and binary data of size 0.
 bool RegValueToQVar(QVariant& out, unsigned int type, const unsigned char* data, unsigned int size);
 
 /// Decodes an entry of the store. `size` is the size of `data` in bytes and becomes the length of

@@ -1,9 +1,12 @@
 #include "platform/PlatformServicesImp.h"
 
-#include "platform/PlatformCursorManagerImp.h"
+#include "platform/PlatformDirectoryManagerImp.h"
+#include "platform/PlatformFontManagerImp.h"
 #include "platform/PlatformMessageManagerImp.h"
 #include "platform/PlatformProfileManagerImp.h"
 #include "platform/PlatformRegisterManagerImp.h"
+#include "platform/PlatformCursorManagerImp.h"
+#include "platform/PlatformMessageManagerImp.h"
 #include "platform/PlatformResourceManagerImp.h"
 #include "platform/PlatformUserInputManagerImp.h"
 
@@ -40,10 +43,12 @@ PlatformServicesImp::PlatformServicesImp() = default;
 PlatformServicesImp::~PlatformServicesImp()
 {
     // In field order; left to themselves, members are destroyed in the reverse of it.
+    m_profileManager.reset();
+    m_directoryManager.reset();
+    m_fontManager.reset();
     m_userInputManager.reset();
     m_cursorManager.reset();
     m_resourceManager.reset();
-    m_profileManager.reset();
     m_messageManager.reset();
     m_registerManager.reset();
 }
@@ -60,7 +65,7 @@ void* PlatformServicesImp::clipBoardManager()
 
 IPlatformDirectoryManager* PlatformServicesImp::directoryManager()
 {
-    return nullptr;
+    return created(m_directoryManager);
 }
 
 IPlatformCursorManager* PlatformServicesImp::cursorManager()
@@ -70,7 +75,7 @@ IPlatformCursorManager* PlatformServicesImp::cursorManager()
 
 IPlatformFontManager* PlatformServicesImp::fontManager()
 {
-    return nullptr;
+    return created(m_fontManager);
 }
 
 IPlatformResourceManager* PlatformServicesImp::resourceManager()

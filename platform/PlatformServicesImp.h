@@ -4,12 +4,15 @@
 
 #include <memory>
 
+class PlatformDirectoryManagerImp;
+class PlatformFontManagerImp;
+class PlatformMessageManagerImp;
+class PlatformProfileManagerImp;
+class PlatformRegisterManagerImp;
 class PlatformCursorManagerImp;
 class PlatformMessageManagerImp;
 class PlatformResourceManagerImp;
 class PlatformUserInputManagerImp;
-class PlatformProfileManagerImp;
-class PlatformRegisterManagerImp;
 
 /// The services object: creates each manager on first request and keeps it until process exit.
 /// Not synchronised: GUI thread only.
@@ -39,6 +42,9 @@ public:
     void* localeManager() override;
 
 private:
+    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
+    std::unique_ptr<PlatformDirectoryManagerImp> m_directoryManager;
+    std::unique_ptr<PlatformFontManagerImp> m_fontManager;
     // Deletes a manager whose interface has no virtual destructor.
     struct ExactDelete
     {
@@ -49,7 +55,6 @@ private:
     std::unique_ptr<PlatformUserInputManagerImp, ExactDelete> m_userInputManager;
     std::unique_ptr<PlatformCursorManagerImp> m_cursorManager;
     std::unique_ptr<PlatformResourceManagerImp> m_resourceManager;
-    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
     std::unique_ptr<PlatformRegisterManagerImp> m_registerManager;
 };

@@ -119,10 +119,10 @@ void QAnimationStackedWidget::paintPrevious(QPainter& painter, int index)
     QWidget* page = widget(index);
     if (!page)
         return;
-    const QPixmap picture = pictureOf(*page, devicePixelRatioF());
-    const double v = m_offset.toDouble();
     const int w = page->width();
     const int h = page->height();
+    const QPixmap picture = pictureOf(*page, devicePixelRatioF());
+    const double v = m_offset.toDouble();
     if (m_fromLeft)
         drawSlice(painter, picture, 0, v, w - v, h);
     else

@@ -11,6 +11,7 @@
 class QProgressIndicator : public QWidget
 {
     Q_OBJECT
+    // Nobody is told of changes; clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(int delay READ animationDelay WRITE setAnimationDelay)
     Q_PROPERTY(bool displayedWhenStopped READ isDisplayedWhenStopped WRITE setDisplayedWhenStopped)
     Q_PROPERTY(QColor color READ color WRITE setColor)

@@ -25,6 +25,8 @@ PageRail::PageRail(const std::vector<PageEntry>& pages, QWidget* parent)
     : QWidget(parent), m_buttons(new QButtonGroup(this))
 {
     setAccessibleName(tr("Pages"));
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     auto* layout = new QVBoxLayout(this);
     for (const PageEntry& page : pages) {
         const int index = m_buttons->buttons().size();

@@ -23,8 +23,11 @@ QColor wheelColor(const QPalette& palette)
 } // namespace
 
 BusyOverlay::BusyOverlay(QWidget* page)
-    : QWidget(page), m_title(new QLabel), m_progress(new QLabel),
-      m_cancel(new QPushButton(tr("Cancel"))), m_panel(makePanel())
+    : QWidget(page),
+      m_title(new QLabel),
+      m_progress(new QLabel),
+      m_cancel(new QPushButton(tr("Cancel"))),
+      m_panel(makePanel())
 {
     page->installEventFilter(this);
     setAccessibleName(tr("Work in progress"));

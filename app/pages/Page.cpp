@@ -33,8 +33,12 @@ QPixmap statusPixmap(const QWidget& widget, Page::Report kind)
 } // namespace
 
 Page::Page(QWidget* parent)
-    : QWidget(parent), m_content(new QWidget(this)), m_body(new QVBoxLayout),
-      m_statusIcon(new QLabel), m_status(new QLabel), m_overlay(new BusyOverlay(this))
+    : QWidget(parent),
+      m_content(new QWidget(this)),
+      m_body(new QVBoxLayout),
+      m_statusIcon(new QLabel),
+      m_status(new QLabel),
+      m_overlay(new BusyOverlay(this))
 {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);

@@ -30,10 +30,10 @@ bool hasLineEnd(const QString& text)
 } // namespace
 
 RegFileWriter::RegFileWriter(QIODevice& device, Encoding encoding)
-    : m_device(device), m_encoding(encoding)
+    : m_device(device), m_encoding(encoding), m_good(device.isWritable())
 {
     if (m_encoding == Encoding::Utf16)
-        m_good = m_device.write("\xFF\xFE", 2) == 2;
+        write(QByteArray("\xFF\xFE"));
     line(regFileHeader);
 }
 
@@ -41,7 +41,12 @@ void RegFileWriter::line(const QString& text)
 {
     const QString ended = text + QStringLiteral("\r\n");
     const QByteArray encoded = m_encoding == Encoding::Utf16 ? utf16Of(ended) : ended.toUtf8();
-    m_good = m_device.write(encoded) == encoded.size() && m_good;
+    write(encoded);
+}
+
+void RegFileWriter::write(const QByteArray& encoded)
+{
+    m_good = m_good && m_device.write(encoded) == encoded.size();
 }
 
 void RegFileWriter::key(const QString& path)

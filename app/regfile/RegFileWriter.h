@@ -33,8 +33,9 @@ public:
 
 private:
     void line(const QString& text);
+    void write(const QByteArray& encoded);
 
     QIODevice& m_device;
     Encoding m_encoding;
-    bool m_good = true;
+    bool m_good;
 };

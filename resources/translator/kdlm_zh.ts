@@ -483,14 +483,6 @@
 <context>
     <name>FindPane</name>
     <message>
-        <source>Na&amp;mes</source>
-        <translation>名称(&amp;M)</translation>
-    </message>
-    <message>
-        <source>D&amp;ata</source>
-        <translation>数据(&amp;A)</translation>
-    </message>
-    <message>
         <source>Text to find</source>
         <translation>要查找的文本</translation>
     </message>
@@ -513,6 +505,14 @@
     <message>
         <source>Nothing was found.</source>
         <translation>未找到任何内容。</translation>
+    </message>
+    <message>
+        <source>N&amp;ames</source>
+        <translation>名称(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Values</source>
+        <translation>值(&amp;V)</translation>
     </message>
 </context>
 <context>
@@ -1472,10 +1472,6 @@
         <translation>删除(&amp;T)</translation>
     </message>
     <message>
-        <source>&amp;Search...</source>
-        <translation>查找(&amp;S)...</translation>
-    </message>
-    <message>
         <source>&amp;Edit...</source>
         <translation>编辑(&amp;E)...</translation>
     </message>
@@ -1538,6 +1534,14 @@
     <message>
         <source>&amp;String (REG_SZ)...</source>
         <translation>字符串 (REG_SZ)(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Search...</source>
+        <translation>查找...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>

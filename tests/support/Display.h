@@ -2,12 +2,21 @@
 
 #include <QProcess>
 
-/// A virtual X display with a window manager, for tests of real windows and real input.
-/// Sets DISPLAY and the Qt platform; make it before the application object.
+/// A virtual X display, for tests of real windows and real input. Sets DISPLAY and the Qt platform
+/// for this process and its children; make the one that the process itself uses before the
+/// application object.
 class Display
 {
 public:
-    explicit Display(const QString& screen = QStringLiteral("1280x800x24"), bool manager = true);
+    enum Manager
+    {
+        WithManager,
+        WithoutManager
+    };
+
+    /// `arguments` go to the server: its screens and extensions.
+    explicit Display(const QStringList& arguments = {"-screen", "0", "1280x800x24"},
+                     Manager manager = WithManager);
     ~Display();
 
     Display(const Display&) = delete;
@@ -17,6 +26,9 @@ public:
     static bool xdotool(const QStringList& arguments);
 
 private:
+    void startManager();
+
+    QByteArray m_formerDisplay;
     static void waitForManager();
 
     QProcess m_server;

@@ -12,8 +12,8 @@
 
 namespace {
 
-// Above it a single call would stall the window.
-constexpr int largestText = 1024 * 1024;
+// Above it showing a text, which is one long line, would stall the window.
+constexpr int largestText = 64 * 1024;
 
 } // namespace
 

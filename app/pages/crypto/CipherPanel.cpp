@@ -14,8 +14,8 @@
 
 namespace {
 
-// Above it a single call would stall the window.
-constexpr int largestText = 1024 * 1024;
+// Above it showing a text, which is one long line, would stall the window.
+constexpr int largestText = 64 * 1024;
 constexpr std::size_t exportedArray = 2048; // with its terminator
 
 bool isUtf8(const std::string& text)
@@ -25,7 +25,8 @@ bool isUtf8(const std::string& text)
 
 QString joined(const QString& text, const QString& note)
 {
-    return note.isEmpty() ? text : text + QLatin1Char(' ') + note;
+    const bool both = !text.isEmpty() && !note.isEmpty();
+    return text + (both ? QStringLiteral(" ") : QString()) + note;
 }
 
 } // namespace

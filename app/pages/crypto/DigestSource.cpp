@@ -44,6 +44,8 @@ QWidget* DigestSource::makeText()
     m_text->setAccessibleName(tr("Text"));
     m_text->setPlaceholderText(tr("Type or paste a text, or drop a file here."));
     m_text->setTabChangesFocus(true);
+    // Looking for words in one long line would take seconds.
+    m_text->setWordWrapMode(QTextOption::WrapAnywhere);
     m_text->setAcceptDrops(false);
     m_text->setMinimumHeight(fontMetrics().lineSpacing() * 3);
     return m_text;

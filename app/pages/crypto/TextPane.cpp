@@ -19,6 +19,8 @@ TextPane::TextPane(const QString& caption, const QString& hint, Access access, Q
     m_edit->setPlaceholderText(hint);
     m_edit->setReadOnly(access == Access::ReadOnly);
     m_edit->setTabChangesFocus(true);
+    // Looking for words in one long line would take seconds.
+    m_edit->setWordWrapMode(QTextOption::WrapAnywhere);
     m_edit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_edit->setMinimumHeight(m_edit->fontMetrics().lineSpacing() * 4);
     m_copy = new CopyButton(plain, [this] { return text(); });

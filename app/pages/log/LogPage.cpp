@@ -2,6 +2,7 @@
 
 #include "app/ApplicationLog.h"
 #include "app/pages/EmptyHint.h"
+#include "app/pages/TableLook.h"
 #include "app/pages/log/LogFilter.h"
 #include "app/pages/log/LogModel.h"
 
@@ -11,7 +12,6 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -43,17 +43,8 @@ void LogPage::makeTable()
 {
     const int unit = fontMetrics().averageCharWidth();
     m_table->setModel(m_filter);
+    arrangeTable(*m_table);
     m_table->setAccessibleName(tr("Log"));
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setWordWrap(false);
-    m_table->setTabKeyNavigation(false);
-    m_table->setShowGrid(false);
-    m_table->setAlternatingRowColors(true);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setColumnWidth(LogModel::Time, unit * 24);
     m_table->setColumnWidth(LogModel::Level, unit * 16);
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);

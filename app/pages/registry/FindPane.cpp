@@ -2,11 +2,11 @@
 
 #include "app/pages/EmptyHint.h"
 #include "app/pages/Page.h"
+#include "app/pages/TableLook.h"
 #include "app/pages/registry/HitModel.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,8 +18,8 @@ FindPane::FindPane(QWidget* parent)
     : QWidget(parent),
       m_model(new HitModel(this)),
       m_text(new QLineEdit),
-      m_inNames(new QCheckBox(tr("Na&mes"))),
-      m_inData(new QCheckBox(tr("D&ata"))),
+      m_inNames(new QCheckBox(tr("N&ames"))),
+      m_inData(new QCheckBox(tr("&Values"))),
       m_table(new QTableView)
 {
     m_text->setAccessibleName(tr("Text to find"));
@@ -27,15 +27,10 @@ FindPane::FindPane(QWidget* parent)
     m_inNames->setChecked(true);
     m_inData->setChecked(true);
     m_table->setModel(m_model);
+    arrangeTable(*m_table);
     m_table->setAccessibleName(tr("Found"));
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setWordWrap(false);
-    m_table->setTabKeyNavigation(false);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     m_table->setColumnWidth(HitModel::Key, fontMetrics().averageCharWidth() * 44);
-    m_table->horizontalHeader()->setStretchLastSection(true);
     m_hint = new EmptyHint(m_table, tr("What is found is listed here; Enter goes to it."));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,11 +1,11 @@
 #include "app/pages/registry/ImportDialog.h"
 
 #include "app/pages/Page.h"
+#include "app/pages/TableLook.h"
 #include "app/pages/registry/ImportModel.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -26,12 +26,8 @@ QTableView* makeTable(ImportModel* model)
 {
     auto* table = new QTableView;
     table->setModel(model);
+    arrangeTable(*table);
     table->setAccessibleName(ImportDialog::tr("Statements of the file"));
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setWordWrap(false);
-    table->setTabKeyNavigation(false);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 3 / 2);
     const int unit = table->fontMetrics().averageCharWidth();
     table->setColumnWidth(ImportModel::Result, unit * 44);
     table->setColumnWidth(ImportModel::Key, unit * 36);

@@ -31,7 +31,8 @@ constexpr TypeName typeNames[] = {
 QString numberText(const QByteArray& data)
 {
     const quint64 value = RegistryFormat::number(data);
-    return QStringLiteral("%1 (0x%2)").arg(value).arg(value, 2 * data.size(), 16, QLatin1Char('0'));
+    const int digits = data.size() == 4 ? 8 : 0;
+    return QStringLiteral("%1 (0x%2)").arg(value).arg(value, digits, 16, QLatin1Char('0'));
 }
 
 QString oneLine(QString text)

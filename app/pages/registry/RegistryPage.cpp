@@ -1,6 +1,7 @@
 #include "app/pages/registry/RegistryPage.h"
 
 #include "app/pages/EmptyHint.h"
+#include "app/pages/TableLook.h"
 #include "app/pages/registry/FindPane.h"
 #include "app/pages/registry/RegistryEditor.h"
 #include "app/pages/registry/RegistryPath.h"
@@ -12,7 +13,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -90,18 +90,9 @@ void RegistryPage::makeTable()
 {
     const int unit = fontMetrics().averageCharWidth();
     m_table->setModel(m_values);
+    arrangeTable(*m_table);
     m_table->setAccessibleName(tr("Values"));
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setWordWrap(false);
-    m_table->setTabKeyNavigation(false);
-    m_table->setShowGrid(false);
-    m_table->setAlternatingRowColors(true);
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setColumnWidth(RegistryValueModel::Name, unit * 20);
     m_table->setColumnWidth(RegistryValueModel::Type, unit * 14);
     m_table->setColumnWidth(RegistryValueModel::Data, unit * 26);
@@ -180,7 +171,8 @@ QLayout* RegistryPage::makeButtons()
         else
             removeKey();
     });
-    auto* search = glowing(new QPushButton(tr("&Search...")));
+    auto* search = glowing(new QPushButton(tr("Search...")));
+    search->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
     connect(search, &QPushButton::clicked, this, &RegistryPage::find);
     auto* line = new QHBoxLayout;
     line->addWidget(create);
@@ -200,6 +192,8 @@ void RegistryPage::connectParts()
     connect(m_tree, &QTreeView::clicked, m_table, &QTableView::clearSelection);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &RegistryPage::enableActions);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &RegistryPage::showRemark);
     connect(m_values, &QAbstractItemModel::modelReset, this, &RegistryPage::enableActions);
     connect(m_table, &QTableView::activated, this, &RegistryPage::editValue);
     connect(m_address, &QLineEdit::returnPressed, this, &RegistryPage::openAddress);
@@ -227,6 +221,15 @@ void RegistryPage::showKey(const QModelIndex& current)
     setStatus(tr("Values: %1. Sub-keys: %2.")
                   .arg(locale.toString(m_values->rowCount()),
                        locale.toString(m_keys->subKeyCount(current))));
+}
+
+void RegistryPage::showRemark(const QModelIndex& current)
+{
+    if (!current.isValid())
+        return;
+    const RegistryValueModel::Value& value = m_values->value(current.row());
+    if (!value.remark.isEmpty())
+        setStatus(tr("%1: %2").arg(value.name, value.remark));
 }
 
 void RegistryPage::showEmptyState()

@@ -44,6 +44,7 @@ private:
     void connectParts();
     QString path() const;
     void showKey(const QModelIndex& current);
+    void showRemark(const QModelIndex& current);
     void showEmptyState();
     void enableActions();
     void openAddress();

@@ -118,7 +118,7 @@ bool RegistryTreeModel::hasChildren(const QModelIndex& parent) const
 
 bool RegistryTreeModel::canFetchMore(const QModelIndex& parent) const
 {
-    if (!parent.isValid())
+    if (!parent.isValid() || m_inserting)
         return false;
     const Node& item = *node(parent);
     return !item.listed || item.shown() < item.names.size();
@@ -126,7 +126,7 @@ bool RegistryTreeModel::canFetchMore(const QModelIndex& parent) const
 
 void RegistryTreeModel::fetchMore(const QModelIndex& parent)
 {
-    if (!parent.isValid())
+    if (!canFetchMore(parent))
         return;
     Node& item = *node(parent);
     list(item);
@@ -147,13 +147,20 @@ void RegistryTreeModel::show(Node& node, int count)
 {
     const int first = node.shown();
     const int last = qMin(count, node.names.size()) - 1;
-    if (last < first)
-        return;
+    if (last >= first)
+        insert(node, first, last, node.names);
+}
+
+// Views may ask for more while they are told of these.
+void RegistryTreeModel::insert(Node& node, int first, int last, const QStringList& names)
+{
+    m_inserting = true;
     beginInsertRows(indexOf(&node), first, last);
     for (int i = first; i <= last; ++i)
-        node.insert(i, node.names.at(i));
+        node.insert(i, names.at(i));
     node.number();
     endInsertRows();
+    m_inserting = false;
 }
 
 QVariant RegistryTreeModel::data(const QModelIndex& index, int role) const
@@ -240,16 +247,24 @@ void RegistryTreeModel::update(Node& node)
         update(*child);
 }
 
+// Neighbours go together.
 void RegistryTreeModel::removeVanished(Node& node, const QStringList& names)
 {
-    for (int row = node.shown() - 1; row >= 0; --row) {
+    const auto vanished = [&node, &names](int row) {
         const QString& name = node.children[static_cast<std::size_t>(row)]->name;
-        if (std::binary_search(names.cbegin(), names.cend(), name))
+        return !std::binary_search(names.cbegin(), names.cend(), name);
+    };
+    for (int last = node.shown() - 1; last >= 0; --last) {
+        int first = last + 1;
+        while (first > 0 && vanished(first - 1))
+            --first;
+        if (first > last)
             continue;
-        beginRemoveRows(indexOf(&node), row, row);
-        node.children.erase(node.children.begin() + row);
+        beginRemoveRows(indexOf(&node), first, last);
+        node.children.erase(node.children.begin() + first, node.children.begin() + last + 1);
         node.number();
         endRemoveRows();
+        last = first;
     }
 }
 
@@ -267,11 +282,7 @@ void RegistryTreeModel::insertNew(Node& node, const QStringList& names)
                 names.at(end) < node.children[static_cast<std::size_t>(row)]->name))
             ++end;
         if (end > row) {
-            beginInsertRows(indexOf(&node), row, end - 1);
-            for (int i = row; i < end; ++i)
-                node.insert(i, names.at(i));
-            node.number();
-            endInsertRows();
+            insert(node, row, end - 1, names);
         } else if (row >= node.shown()) {
             return;
         }

@@ -43,10 +43,12 @@ private:
     QModelIndex indexOf(Node* node) const;
     void list(Node& node) const;
     void show(Node& node, int count);
+    void insert(Node& node, int first, int last, const QStringList& names);
     Node* child(Node& parent, const QString& name);
     void update(Node& node);
     void removeVanished(Node& node, const QStringList& names);
     void insertNew(Node& node, const QStringList& names);
 
     std::unique_ptr<Node> m_root;
+    bool m_inserting = false;
 };

@@ -1,0 +1,187 @@
+#include "app/CommandLine.h"
+#include "platform/PlatformServicesImp.h"
+#include "tests/support/RecordingHost.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+// What a program would do with these arguments, in a working directory of its own.
+class CommandLineTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        g_recordingHost = RecordingHost();
+        QDir::setCurrent(workingDirectory.path());
+    }
+
+    void TearDown() override
+    {
+        QCoreApplication::removeTranslator(&appTranslator);
+        QCoreApplication::removeTranslator(&qtTranslator);
+        QDir::setCurrent(QDir::rootPath());
+    }
+
+    void start(std::vector<QByteArray> arguments)
+    {
+        arguments.insert(arguments.begin(), "prog");
+        std::vector<char*> argv;
+        for (QByteArray& argument : arguments)
+            argv.push_back(argument.data());
+        const int argc = static_cast<int>(argv.size());
+        argv.push_back(nullptr);
+        parseCommandLine(argc, argv.data(), appTranslator, qtTranslator);
+    }
+
+    void bringQtCatalogue() const
+    {
+        QDir().mkdir(QStringLiteral("translations"));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(QUAYSIDE_QT_CATALOGUE),
+                                QStringLiteral("translations/qt_zh_CN.qm")));
+    }
+
+    static bool applicationIsChinese()
+    {
+        return QCoreApplication::translate("MainWindow", "English",
+                                           "name of the interface's language") ==
+               QStringLiteral("简体中文");
+    }
+
+    static QString cancel() { return QCoreApplication::translate("QPlatformTheme", "Cancel"); }
+
+    QTemporaryDir workingDirectory;
+    QTranslator appTranslator;
+    QTranslator qtTranslator;
+};
+
+struct Options
+{
+    std::vector<QByteArray> arguments;
+    bool chinese;
+};
+
+class CommandLineOptions : public CommandLineTest, public testing::WithParamInterface<Options>
+{
+};
+
+TEST_P(CommandLineOptions, ChooseTheLanguage)
+{
+    start(GetParam().arguments);
+    EXPECT_EQ(GetParam().chinese, applicationIsChinese());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, CommandLineOptions,
+    testing::Values(Options{{}, false}, Options{{"/language", "zh-CN"}, true},
+                    Options{{"/language", "zh-cn"}, false}, Options{{"/language", "ZH-CN"}, false},
+                    Options{{"/language", "zh-CN "}, false}, Options{{"/Language", "zh-CN"}, false},
+                    Options{{"/language"}, false}, Options{{"/language", "zh-CN", "/x"}, false},
+                    Options{{"/x", "y", "/language", "zh-CN"}, true},
+                    Options{{"/language", "en", "/language", "zh-CN"}, true},
+                    Options{{"/language", "zh-CN", "/language", "en"}, false},
+                    Options{{"language", "zh-CN"}, false}, Options{{"-language", "zh-CN"}, false},
+                    // The value of a pair is never taken for a key.
+                    Options{{"/x", "/language", "zh-CN", "y"}, false},
+                    Options{{"/language", "/language"}, false}));
+
+TEST_F(CommandLineTest, HandsTheServicesOverOnceAndFirst)
+{
+    start({});
+    EXPECT_EQ(&g_PlatformServices, g_recordingHost.services);
+    EXPECT_EQ(1, g_recordingHost.calls.count(QStringLiteral("setPlatformServices")));
+    EXPECT_EQ(QStringLiteral("setPlatformServices"), g_recordingHost.calls.first());
+}
+
+TEST_F(CommandLineTest, AsksTheConfigurationLibraryInOrder)
+{
+    start({"/language", "de"});
+    EXPECT_EQ(QStringList({"setPlatformServices", "InitOrbxConfig", "CreateConfigReg",
+                           "GetCurrentOrbxLanguageId"}),
+              g_recordingHost.calls);
+}
+
+TEST_F(CommandLineTest, PassesTheRequestedLanguageOn)
+{
+    start({"/language", "d\xc3\xa9 \xf0\x9f\x98\x80"});
+    EXPECT_EQ(QString::fromUtf8("d\xc3\xa9 \xf0\x9f\x98\x80"), g_recordingHost.requestedLanguage);
+}
+
+TEST_F(CommandLineTest, PassesAnEmptyLanguageWhereNoneIsGiven)
+{
+    g_recordingHost.requestedLanguage = QStringLiteral("untouched");
+    start({});
+    EXPECT_EQ(QString(), g_recordingHost.requestedLanguage);
+}
+
+TEST_F(CommandLineTest, FailingConfigurationIsAskedNothingMore)
+{
+    g_recordingHost.initResult = 5;
+    g_recordingHost.languageId = 2052;
+    start({});
+    EXPECT_EQ(QStringList({"setPlatformServices", "InitOrbxConfig"}), g_recordingHost.calls);
+    EXPECT_FALSE(applicationIsChinese());
+}
+
+TEST_F(CommandLineTest, FailingConfigurationLeavesTheOptionInForce)
+{
+    g_recordingHost.initResult = -1;
+    start({"/language", "zh-CN"});
+    EXPECT_TRUE(applicationIsChinese());
+}
+
+TEST_F(CommandLineTest, ConfiguredChineseNeedsNoOption)
+{
+    g_recordingHost.languageId = 2052;
+    start({});
+    EXPECT_TRUE(applicationIsChinese());
+}
+
+TEST_F(CommandLineTest, ConfiguredChineseHoldsAgainstAnotherOption)
+{
+    g_recordingHost.languageId = 2052;
+    start({"/language", "en"});
+    EXPECT_TRUE(applicationIsChinese());
+}
+
+TEST_F(CommandLineTest, LanguageIdentifierIsComparedWhole)
+{
+    for (const int identifier : {0x10804, 1028, 2053, -2052}) {
+        g_recordingHost.languageId = identifier;
+        start({});
+        EXPECT_FALSE(applicationIsChinese()) << identifier;
+    }
+}
+
+TEST_F(CommandLineTest, QtTextsComeFromTheWorkingDirectory)
+{
+    bringQtCatalogue();
+    start({"/language", "zh-CN"});
+    EXPECT_EQ(QStringLiteral("取消"), cancel());
+}
+
+TEST_F(CommandLineTest, WithoutQtCatalogueOnlyTheApplicationIsChinese)
+{
+    start({"/language", "zh-CN"});
+    EXPECT_TRUE(applicationIsChinese());
+    EXPECT_EQ(QStringLiteral("Cancel"), cancel());
+}
+
+TEST_F(CommandLineTest, OtherLanguagesInstallNothing)
+{
+    bringQtCatalogue();
+    start({"/language", "en"});
+    EXPECT_TRUE(appTranslator.isEmpty());
+    EXPECT_TRUE(qtTranslator.isEmpty());
+    EXPECT_EQ(QStringLiteral("Cancel"), cancel());
+}
+
+} // namespace

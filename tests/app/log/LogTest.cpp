@@ -1,0 +1,212 @@
+#include "app/ApplicationLog.h"
+#include "app/pages/log/LogFilter.h"
+#include "app/pages/log/LogLines.h"
+#include "app/pages/log/LogModel.h"
+#include "app/pages/log/LogPage.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Level = LogEntry::Level;
+
+TEST(LogLines, TakesLinesApart)
+{
+    LogLines lines;
+    lines.add("2026-03-07 09:05:01 : === Start logging ===\n"
+              "[DEBUG] 2026-03-07 09:05:02 : a : b\n[INFO] 2026-03-07 09:05:03 : \n"
+              "[WARNING] 2026-03-07 09:05:04 : w\n[ERROR] 2026-03-07 09:05:05 : e\n"
+              "2026-03-07 09:05:06 : === End logging ===\r\n");
+    ASSERT_EQ(lines.entries().size(), 6U);
+    const Level levels[] = {Level::None,    Level::Debug, Level::Info,
+                            Level::Warning, Level::Error, Level::None};
+    for (std::size_t i = 0; i < 6; ++i)
+        EXPECT_EQ(lines.entries()[i].level, levels[i]);
+    EXPECT_EQ(lines.entries()[1].time.toStdString(), "2026-03-07 09:05:02");
+    EXPECT_EQ(lines.entries()[1].text.toStdString(), "a : b");
+    EXPECT_EQ(lines.entries()[2].text.toStdString(), "");
+    EXPECT_EQ(lines.entries()[5].text.toStdString(), "=== End logging ===");
+}
+
+TEST(LogLines, PutsFurtherLinesToTheirEntry)
+{
+    LogLines lines;
+    lines.add("stray\n[INFO] 2026-03-07 09:05:03 : one\ntwo\n[INFO] no time\n");
+    ASSERT_EQ(lines.entries().size(), 2U);
+    EXPECT_EQ(lines.entries()[0].text.toStdString(), "stray");
+    EXPECT_EQ(lines.entries()[1].text.toStdString(), "one\ntwo\n[INFO] no time");
+}
+
+TEST(LogLines, WaitsForTheEndOfALine)
+{
+    LogLines lines;
+    lines.add("[INFO] 2026-03-07 09:0");
+    EXPECT_TRUE(lines.entries().empty());
+    lines.add("5:03 : \xE6\xB8");
+    lines.add("\xAF\n");
+    ASSERT_EQ(lines.entries().size(), 1U);
+    EXPECT_EQ(lines.entries()[0].text, QString(QChar(0x6E2F)));
+}
+
+class LogModelTest : public testing::Test
+{
+protected:
+    LogModelTest() : m_path(m_folder.filePath("x.log")), m_model(m_path) {}
+
+    void write(const QByteArray& lines, QIODevice::OpenMode mode = QIODevice::Append)
+    {
+        QFile file(m_path);
+        ASSERT_TRUE(file.open(mode));
+        file.write(lines);
+        file.close();
+        while (m_model.readMore()) {
+        }
+    }
+
+    QTemporaryDir m_folder;
+    QString m_path;
+    LogModel m_model;
+};
+
+const QByteArray info = "[INFO] 2026-03-07 09:05:03 : text\n";
+const QByteArray error = "[ERROR] 2026-03-07 09:05:03 : fault\n";
+
+TEST_F(LogModelTest, GrowsWithTheFile)
+{
+    EXPECT_FALSE(m_model.readMore());
+    write(info);
+    EXPECT_EQ(m_model.rowCount(), 1);
+    write(error + info);
+    EXPECT_EQ(m_model.rowCount(), 3);
+    EXPECT_EQ(m_model.index(1, LogModel::Text).data().toString().toStdString(), "fault");
+    EXPECT_EQ(m_model.index(1, LogModel::Level).data().toString().toStdString(), "Error");
+}
+
+TEST_F(LogModelTest, StartsAnewWithAFileThatBecameShorter)
+{
+    write(info + info + error);
+    write(error, QIODevice::WriteOnly);
+    EXPECT_EQ(m_model.rowCount(), 1);
+    EXPECT_EQ(m_model.index(0, LogModel::Text).data().toString().toStdString(), "fault");
+}
+
+TEST_F(LogModelTest, FiltersByLevelAndText)
+{
+    write("2026-03-07 09:05:01 : === Start logging ===\n[DEBUG] 2026-03-07 09:05:03 : d\n" + info +
+          "[WARNING] 2026-03-07 09:05:03 : w\n" + error);
+    LogFilter filter;
+    filter.setSourceModel(&m_model);
+    const struct
+    {
+        Level level;
+        int rows;
+    } rows[] = {{Level::Debug, 5}, {Level::Info, 3}, {Level::Warning, 2}, {Level::Error, 1}};
+    for (const auto& row : rows) {
+        filter.setLowest(row.level);
+        EXPECT_EQ(filter.rowCount(), row.rows) << static_cast<int>(row.level);
+    }
+    filter.setLowest(Level::Debug);
+    filter.setText("FAULT");
+    EXPECT_EQ(filter.rowCount(), 1);
+}
+
+class LogPageTest : public testing::Test
+{
+protected:
+    LogPageTest()
+    {
+        m_page.resize(700, 300);
+        m_page.show();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }));
+    }
+
+    QTableView& table() { return *m_page.findChild<QTableView*>(); }
+    QString lastLine()
+    {
+        const QAbstractItemModel* model = table().model();
+        return model->index(model->rowCount() - 1, LogModel::Text).data().toString();
+    }
+
+    QTemporaryDir m_folder;
+    LogPage m_page;
+};
+
+TEST_F(LogPageTest, ShowsANewLineAtOnce)
+{
+    const int before = table().model()->rowCount();
+    logWarning("something new");
+    EXPECT_EQ(table().model()->rowCount(), before + 1);
+    EXPECT_EQ(lastLine().toStdString(), "something new");
+}
+
+TEST_F(LogPageTest, FollowsNewLinesOnlyFromTheEnd)
+{
+    for (int i = 0; i < 60; ++i)
+        logInfo(QString::number(i));
+    QScrollBar* bar = table().verticalScrollBar();
+    EXPECT_EQ(bar->value(), bar->maximum());
+    bar->setValue(3);
+    logInfo("later");
+    EXPECT_EQ(bar->value(), 3);
+}
+
+TEST_F(LogPageTest, FiltersByTheChosenLevel)
+{
+    logInfo("harmless");
+    logError("serious");
+    m_page.findChild<QComboBox*>()->setCurrentIndex(3);
+    EXPECT_EQ(lastLine().toStdString(), "serious");
+    logInfo("harmless too");
+    EXPECT_EQ(lastLine().toStdString(), "serious");
+}
+
+TEST_F(LogPageTest, FindFiltersByText)
+{
+    logInfo("needle 4711");
+    logInfo("hay");
+    m_page.find();
+    auto* field = m_page.findChild<QLineEdit*>();
+    EXPECT_EQ(m_page.window()->focusWidget(), field);
+    QTest::keyClicks(field, "4711");
+    EXPECT_EQ(table().model()->rowCount(), 1);
+}
+
+TEST_F(LogPageTest, SavesTheLinesInView)
+{
+    logError("to be saved");
+    m_page.findChild<QLineEdit*>()->setText("to be saved");
+    const QString path = m_folder.filePath("saved.log");
+    m_page.saveAs(path);
+    QFile saved(path);
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    const QByteArray lines = saved.readAll();
+    EXPECT_TRUE(lines.startsWith("[ERROR] "));
+    EXPECT_TRUE(lines.endsWith(" : to be saved\n"));
+    EXPECT_TRUE(m_page.statusText().startsWith("Saved to"));
+}
+
+TEST_F(LogPageTest, SaysThatAFileCannotBeWritten)
+{
+    m_page.saveAs(m_folder.filePath("missing/saved.log"));
+    EXPECT_TRUE(m_page.statusText().contains("could not be written"))
+        << m_page.statusText().toStdString();
+}
+
+TEST(ApplicationLog, LiesBelowTheStateFolder)
+{
+    const QString state = QString::fromLocal8Bit(qgetenv("XDG_STATE_HOME"));
+    EXPECT_TRUE(ApplicationLog::path().startsWith(state + "/"));
+    qputenv("XDG_STATE_HOME", "relative");
+    EXPECT_TRUE(ApplicationLog::path().contains("/.local/state/"));
+    qputenv("XDG_STATE_HOME", state.toLocal8Bit());
+}
+
+} // namespace

@@ -1,0 +1,220 @@
+#include "app/regfile/RegFileReader.h"
+
+#include "app/regfile/RegFileText.h"
+#include "platform/WindowsTypes.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <vector>
+
+namespace {
+
+using Action = RegFileEntry::Action;
+
+const QByteArray header = "Windows Registry Editor Version 5.00\r\n\r\n";
+
+std::vector<RegFileEntry> entriesOf(const QByteArray& file)
+{
+    RegFileReader reader(file);
+    EXPECT_EQ(reader.error().toStdString(), "");
+    std::vector<RegFileEntry> entries;
+    RegFileEntry entry;
+    while (reader.readNext(entry))
+        entries.push_back(entry);
+    return entries;
+}
+
+// The one value of a key.
+RegFileEntry valueOf(const QByteArray& line)
+{
+    const auto entries = entriesOf(header + "[HKEY_CURRENT_USER\\K]\r\n" + line + "\r\n");
+    EXPECT_EQ(entries.size(), 2U) << line.toStdString();
+    return entries.empty() ? RegFileEntry() : entries.back();
+}
+
+struct DataRow
+{
+    QByteArray line;
+    unsigned int type;
+    QByteArray bytes;
+};
+
+std::ostream& operator<<(std::ostream& out, const DataRow& row)
+{
+    return out << row.line.toStdString();
+}
+
+class DataOfAValue : public testing::TestWithParam<DataRow>
+{
+};
+
+TEST_P(DataOfAValue, IsReadWithItsType)
+{
+    const RegFileEntry entry = valueOf(GetParam().line);
+    EXPECT_EQ(entry.action, Action::SetValue) << entry.problem.toStdString();
+    EXPECT_EQ(entry.name.toStdString(), "v");
+    EXPECT_EQ(entry.type, GetParam().type);
+    EXPECT_EQ(entry.data.toHex(' ').toStdString(), GetParam().bytes.toStdString());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    RegFileReader, DataOfAValue,
+    testing::Values(DataRow{"\"v\"=dword:0000002a", REG_DWORD, "2a 00 00 00"},
+                    DataRow{"\"v\"=dword:FFFFFFFF", REG_DWORD, "ff ff ff ff"},
+                    DataRow{"\"v\"=dword:1", REG_DWORD, "01 00 00 00"},
+                    DataRow{"\"v\"=dword:00000001 ; why", REG_DWORD, "01 00 00 00"},
+                    DataRow{"\"v\"=hex:00,7f,FF", REG_BINARY, "00 7f ff"},
+                    DataRow{"\"v\"=hex:", REG_BINARY, ""},
+                    DataRow{"\"v\"=hex(b):ff,01,00,00,00,00,00,00", REG_QWORD,
+                            "ff 01 00 00 00 00 00 00"},
+                    DataRow{"\"v\"=hex(0):01", REG_NONE, "01"},
+                    DataRow{"\"v\"=hex(2):25,00", REG_EXPAND_SZ, "25 00"},
+                    DataRow{"\"v\"=hex(7):61,00,00,00", REG_MULTI_SZ, "61 00 00 00"},
+                    DataRow{"\"v\"=hex:01,\\\r\n  02,\\\r\n  03", REG_BINARY, "01 02 03"},
+                    DataRow{"  \"v\"  =  hex:01, 02", REG_BINARY, "01 02"}));
+
+struct TextRow
+{
+    QByteArray line;
+    QString text;
+};
+
+std::ostream& operator<<(std::ostream& out, const TextRow& row)
+{
+    return out << row.line.toStdString();
+}
+
+class TextOfAValue : public testing::TestWithParam<TextRow>
+{
+};
+
+TEST_P(TextOfAValue, IsReadWithoutItsQuotes)
+{
+    const RegFileEntry entry = valueOf(GetParam().line);
+    EXPECT_EQ(entry.action, Action::SetValue) << entry.problem.toStdString();
+    EXPECT_EQ(entry.type, REG_SZ);
+    EXPECT_EQ(entry.text.toStdString(), GetParam().text.toStdString());
+    EXPECT_TRUE(entry.data.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    RegFileReader, TextOfAValue,
+    testing::Values(TextRow{"\"v\"=\"plain\"", "plain"}, TextRow{"\"v\"=\"\"", ""},
+                    TextRow{"\"v\"=\"C:\\\\Dir\\\\\"", "C:\\Dir\\"},
+                    TextRow{"\"v\"=\"say \\\"yes\\\"\"", "say \"yes\""},
+                    TextRow{"\"v\"=\"a=b;c\" ; comment", "a=b;c"},
+                    TextRow{"\"v\"=\"one\r\ntwo\"", "one\ntwo"},
+                    TextRow{"\"v\"=hex(1):61,00,0d,00,0a,00,62,00,00,00", "a\r\nb"},
+                    TextRow{"\"v\"=\"\xE6\xB8\xAF\"", QString(QChar(0x6E2F))}));
+
+class MalformedLine : public testing::TestWithParam<QByteArray>
+{
+};
+
+TEST_P(MalformedLine, IsReportedWithItsNumberAndReadingGoesOn)
+{
+    const auto entries = entriesOf(header + "[HKEY_CURRENT_USER\\K]\r\n" + GetParam() +
+                                   "\r\n[HKEY_CURRENT_USER\\Next]\r\n");
+    ASSERT_EQ(entries.size(), 3U);
+    EXPECT_EQ(entries[1].action, Action::Malformed);
+    EXPECT_EQ(entries[1].line, 4);
+    EXPECT_FALSE(entries[1].problem.isEmpty());
+    EXPECT_EQ(entries[2].action, Action::CreateKey);
+    EXPECT_EQ(entries[2].line, 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(RegFileReader, MalformedLine,
+                         testing::Values("garbage", "\"v\"", "\"v\" dword:1", "\"v=1",
+                                         "\"v\"=dword:", "\"v\"=dword:123456789", "\"v\"=dword:-1",
+                                         "\"v\"=dword:xyz", "\"v\"=hex:0g", "\"v\"=hex:001",
+                                         "\"v\"=hex:1,,2", "\"v\"=hex(zz):00", "\"v\"=hex 00",
+                                         "\"v\"=other:1", "\"v\"=\"text\" tail",
+                                         "[HKEY_CURRENT_USER\\Open", "[]", "[K] tail"));
+
+TEST(RegFileReader, TakesATextThatNeverClosesForOneMalformedEntry)
+{
+    const auto entries = entriesOf(header + "[HKEY_CURRENT_USER\\K]\r\n\"v\"=\"open\r\n[K2]\r\n");
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_EQ(entries[1].action, Action::Malformed);
+    EXPECT_EQ(entries[1].line, 4);
+}
+
+TEST(RegFileReader, ReadsKeysAndDeletions)
+{
+    const auto entries = entriesOf(header + "[HKEY_LOCAL_MACHINE\\A\\B]\n\"gone\"=-\n@=\"d\"\n"
+                                            "; comment\n\n[-HKEY_CURRENT_USER\\C]\n");
+    ASSERT_EQ(entries.size(), 4U);
+    EXPECT_EQ(entries[0].action, Action::CreateKey);
+    EXPECT_EQ(entries[0].key.toStdString(), "HKEY_LOCAL_MACHINE\\A\\B");
+    EXPECT_EQ(entries[1].action, Action::DeleteValue);
+    EXPECT_EQ(entries[1].name.toStdString(), "gone");
+    EXPECT_EQ(entries[1].key.toStdString(), "HKEY_LOCAL_MACHINE\\A\\B");
+    EXPECT_EQ(entries[2].action, Action::SetValue);
+    EXPECT_EQ(entries[2].name.toStdString(), "");
+    EXPECT_EQ(entries[3].action, Action::DeleteKey);
+    EXPECT_EQ(entries[3].key.toStdString(), "HKEY_CURRENT_USER\\C");
+}
+
+TEST(RegFileReader, RefusesAValueUnderNoKey)
+{
+    const auto entries = entriesOf(header + "[-HKEY_CURRENT_USER\\C]\r\n\"v\"=dword:1\r\n");
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_EQ(entries[1].action, Action::Malformed);
+}
+
+TEST(RegFileReader, KeepsBracketsInTheNameOfAKey)
+{
+    const auto entries = entriesOf(header + "[HKEY_CURRENT_USER\\A]B]\r\n");
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(entries[0].key.toStdString(), "HKEY_CURRENT_USER\\A]B");
+}
+
+class EncodedFile : public testing::TestWithParam<QByteArray>
+{
+};
+
+TEST_P(EncodedFile, IsUnderstood)
+{
+    const auto entries = entriesOf(GetParam());
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(entries[0].key, QString("HKEY_CURRENT_USER\\") + QChar(0x6E2F));
+}
+
+QByteArray bigEndian(QByteArray bytes)
+{
+    for (int i = 0; i + 1 < bytes.size(); i += 2)
+        std::swap(bytes.data()[i], bytes.data()[i + 1]);
+    return bytes;
+}
+
+const QString chinese =
+    regFileHeader + QStringLiteral("\r\n[HKEY_CURRENT_USER\\") + QChar(0x6E2F) + "]\r\n";
+
+INSTANTIATE_TEST_SUITE_P(RegFileReader, EncodedFile,
+                         testing::Values(chinese.toUtf8(), "\xEF\xBB\xBF" + chinese.toUtf8(),
+                                         "\xFF\xFE" + utf16Of(chinese),
+                                         "\xFE\xFF" + bigEndian(utf16Of(chinese)),
+                                         "\n\n" + chinese.toUtf8()));
+
+class RefusedFile : public testing::TestWithParam<QByteArray>
+{
+};
+
+TEST_P(RefusedFile, SaysWhyAndHoldsNoEntry)
+{
+    RegFileReader reader(GetParam());
+    RegFileEntry entry;
+    EXPECT_FALSE(reader.error().isEmpty());
+    EXPECT_FALSE(reader.readNext(entry));
+}
+
+INSTANTIATE_TEST_SUITE_P(RegFileReader, RefusedFile,
+                         testing::Values("", "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\K]\r\n",
+                                         "[HKEY_CURRENT_USER\\K]\r\n",
+                                         "Windows Registry Editor Version 6.00\r\n",
+                                         header + "[HKEY_CURRENT_USER\\\xFF\xFF]\r\n",
+                                         // UTF-16 without its mark
+                                         utf16Of(chinese)));
+
+} // namespace

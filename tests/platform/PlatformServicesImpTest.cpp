@@ -1,0 +1,127 @@
+#include "platform/PlatformServicesImp.h"
+
+#include <QSettings>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <vector>
+
+namespace {
+
+// What operator delete is given, while somebody listens.
+std::vector<void*>* g_freed = nullptr;
+
+} // namespace
+
+void operator delete(void* memory) noexcept
+{
+    if (std::vector<void*>* listener = std::exchange(g_freed, nullptr)) {
+        listener->push_back(memory);
+        g_freed = listener;
+    }
+    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc): the default operator new uses malloc
+}
+
+void operator delete(void* memory, std::size_t /*size*/) noexcept
+{
+    operator delete(memory);
+}
+
+namespace {
+
+// All managers, in the order of the fields. As addresses: two interfaces have no common base.
+std::vector<void*> allManagers(IPlatformServices& services)
+{
+    return {services.userInputManager(), services.directoryManager(), services.cursorManager(),
+            services.fontManager(),      services.resourceManager(),  services.profileManager(),
+            services.messageManager(),   services.registerManager()};
+}
+
+TEST(PlatformServices, AccessorsThatAreNotProvidedReturnNull)
+{
+    PlatformServicesImp services;
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(nullptr, services.clipBoardManager());
+        EXPECT_EQ(nullptr, services.plotManager());
+        EXPECT_EQ(nullptr, services.localeManager());
+    }
+}
+
+TEST(PlatformServices, AccessorsReturnTheSameManagerEveryTime)
+{
+    PlatformServicesImp services;
+    const std::vector<void*> managers = allManagers(services);
+    EXPECT_EQ(0, std::count(managers.begin(), managers.end(), nullptr));
+    EXPECT_EQ(managers, allManagers(services));
+}
+
+TEST(PlatformServices, ObjectsHaveManagersOfTheirOwn)
+{
+    PlatformServicesImp one;
+    PlatformServicesImp other;
+    EXPECT_NE(one.messageManager(), other.messageManager());
+}
+
+TEST(PlatformServices, HoldsOnePointerForEachManager)
+{
+    EXPECT_EQ(9 * sizeof(void*), sizeof(PlatformServicesImp));
+}
+
+TEST(PlatformServices, FieldsAreNullUntilAsked)
+{
+    const PlatformServicesImp services;
+    const auto* words = reinterpret_cast<void* const*>(&services);
+    for (int field = 1; field <= 8; ++field)
+        EXPECT_EQ(nullptr, words[field]) << field;
+}
+
+TEST(PlatformServices, FieldsStandInOrder)
+{
+    PlatformServicesImp services;
+    const std::vector<void*> managers = allManagers(services);
+    const auto* words = reinterpret_cast<void* const*>(&services);
+    EXPECT_EQ(managers, std::vector<void*>(words + 1, words + 9));
+}
+
+TEST(PlatformServices, DestructionWithoutManagersFreesNothing)
+{
+    std::vector<void*> freed;
+    freed.reserve(8);
+    {
+        const PlatformServicesImp services;
+        g_freed = &freed;
+    }
+    g_freed = nullptr;
+    EXPECT_TRUE(freed.empty());
+}
+
+TEST(PlatformServices, ManagersAreReleasedInFieldOrder)
+{
+    std::vector<void*> freed;
+    freed.reserve(1024);
+    auto services = std::make_unique<PlatformServicesImp>();
+    const std::vector<void*> managers = allManagers(*services);
+    g_freed = &freed;
+    services->~PlatformServicesImp();
+    g_freed = nullptr;
+    // What the managers themselves held was freed in between.
+    const auto isManager = [&managers](void* memory) {
+        return std::find(managers.begin(), managers.end(), memory) != managers.end();
+    };
+    freed.erase(std::remove_if(freed.begin(), freed.end(), std::not_fn(isManager)), freed.end());
+    EXPECT_EQ(managers, freed);
+    new (services.get()) PlatformServicesImp;
+}
+
+TEST(PlatformServices, GlobalObjectIsOneOfThem)
+{
+    IPlatformServices* services = &g_PlatformServices;
+    EXPECT_EQ(services->messageManager(), g_PlatformServices.messageManager());
+    EXPECT_NE(nullptr, services->messageManager());
+}
+
+} // namespace

@@ -1,0 +1,90 @@
+#include "tests/platform/ProfileFixture.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+
+class ProfileFamilies : public ProfileFixture
+{
+protected:
+    ProfileFamilies() { write("[S]\nn=0000\nw=0000\n"); }
+
+    static QByteArray digits(int number)
+    {
+        return QByteArray::number(number).rightJustified(4, '0');
+    }
+
+    void writeNarrowNumber(int number) { EXPECT_EQ(1, writeNarrow("S", "n", digits(number))); }
+
+    void writeWideNumber(int number)
+    {
+        EXPECT_EQ(1, writeWide(L"S", L"w", QString(digits(number)).toStdWString().c_str()));
+    }
+
+    // Expects both families to see both values, in a file of the size it had at first.
+    void expectNumbers(int narrowOne, int wideOne)
+    {
+        EXPECT_EQ(QString(digits(narrowOne)).toStdWString(), readWide(L"S", L"n"));
+        EXPECT_EQ(QString(digits(wideOne)).toStdWString(), readWide(L"S", L"w"));
+        EXPECT_EQ(digits(narrowOne).toStdString(), readNarrow("S", "n"));
+        EXPECT_EQ(digits(wideOne).toStdString(), readNarrow("S", "w"));
+        EXPECT_EQ(18, QFileInfo(path).size());
+    }
+};
+
+TEST_F(ProfileFamilies, SeeEachOthersThousandAlternatingWritesOfTheSameSize)
+{
+    for (int i = 1; i <= 500 && !HasFailure(); ++i) {
+        writeNarrowNumber(i);
+        expectNumbers(i, i - 1);
+        writeWideNumber(i);
+        expectNumbers(i, i);
+    }
+}
+
+TEST_F(ProfileFamilies, SeeTheLastOfSeveralNarrowWritesInARow)
+{
+    for (int i = 0; i < 1000 && !HasFailure(); i += 3) {
+        expectNumbers(i, 0);
+        for (int step = 1; step <= 3; ++step)
+            writeNarrowNumber(i + step);
+    }
+}
+
+TEST_F(ProfileFamilies, LoseNothingWhenAWideWriteFollowsANarrowOne)
+{
+    for (int i = 1; i <= 100 && !HasFailure(); ++i) {
+        writeNarrowNumber(i);
+        writeWideNumber(i);
+        EXPECT_EQ(digits(i).toStdString(), readNarrow("S", "n"));
+    }
+}
+
+TEST_F(ProfileFamilies, SeeAFileThatANarrowWriteMadeAnew)
+{
+    for (int i = 1; i <= 50 && !HasFailure(); ++i) {
+        EXPECT_TRUE(QFile::remove(path));
+        writeWideNumber(1000 + i);
+        EXPECT_TRUE(QFile::remove(path));
+        EXPECT_EQ(1, writeNarrow("S", "w", digits(i)));
+        EXPECT_EQ(QString(digits(i)).toStdWString(), readWide(L"S", L"w"));
+    }
+}
+
+// A settings object of somebody else's in this process shares what QSettings keeps of the file.
+TEST_F(ProfileFamilies, SeeEachOthersWritesThroughForeignSettings)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    settings.setIniCodec("utf-8");
+    for (int i = 1; i <= 50 && !HasFailure(); ++i) {
+        writeNarrowNumber(i);
+        settings.sync();
+        EXPECT_EQ(QString(digits(i)), settings.value("S/n").toString());
+        settings.setValue("S/w", QString(digits(i)));
+        settings.sync();
+        expectNumbers(i, i);
+    }
+}
+
+} // namespace

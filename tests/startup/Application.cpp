@@ -1,0 +1,75 @@
+#include "tests/startup/Application.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+// Sanitized programs under an emulator or on a busy machine are slow to start.
+constexpr int timeout = 120000;
+
+} // namespace
+
+Application::Application() : m_environment(QProcessEnvironment::systemEnvironment())
+{
+    setEnvironment(QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral(QUAYSIDE_TEST_HOST_FOLDER));
+    setEnvironment(QStringLiteral("HOST_STORE"), m_folder.filePath(QStringLiteral("store.ini")));
+}
+
+void Application::bringQtCatalogue() const
+{
+    const QDir folder(m_folder.path());
+    folder.mkdir(QStringLiteral("translations"));
+    QFile::copy(QStringLiteral(QUAYSIDE_QT_CATALOGUE),
+                folder.filePath(QStringLiteral("translations/qt_zh_CN.qm")));
+}
+
+void Application::useStandIn()
+{
+    m_environment.remove(QStringLiteral("LD_LIBRARY_PATH"));
+}
+
+void Application::setEnvironment(const QString& name, const QString& value)
+{
+    m_environment.insert(name, value);
+}
+
+bool Application::start(const QStringList& arguments)
+{
+    const QString emulator = QStringLiteral(QUAYSIDE_EMULATOR);
+    const QString program = emulator.isEmpty() ? executable() : emulator;
+    const QStringList guest = emulator.isEmpty() ? QStringList() : QStringList{executable()};
+    m_process.setProcessEnvironment(m_environment);
+    m_process.setWorkingDirectory(m_folder.path());
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.start(program, guest + arguments);
+    return m_process.waitForStarted(timeout);
+}
+
+bool Application::finish()
+{
+    const bool ended = m_process.waitForFinished(timeout);
+    m_output = QString::fromUtf8(m_process.readAllStandardOutput());
+    m_status = m_process.exitCode();
+    return ended && m_process.exitStatus() == QProcess::NormalExit;
+}
+
+bool Application::run(const QStringList& arguments)
+{
+    return start(arguments) && finish();
+}
+
+QStringList Application::values(const QString& key) const
+{
+    QStringList found;
+    for (const QString& line : m_output.split(QLatin1Char('\n'))) {
+        if (line.startsWith(key + QLatin1Char('=')))
+            found << line.mid(key.size() + 1);
+    }
+    return found;
+}
+
+QString Application::executable()
+{
+    return QStringLiteral(QUAYSIDE_EXECUTABLE);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QMap>
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// One run of the real executable in a working directory of its own, by default with the test host
+/// library in the place of the stand-in.
+class Application
+{
+public:
+    Application();
+
+    /// The folder from which the application is started; it lives as long as this object.
+    QString folder() const { return m_folder.path(); }
+    void bringQtCatalogue() const;
+    void useStandIn();
+    void setEnvironment(const QString& name, const QString& value);
+
+    bool start(const QStringList& arguments = QStringList());
+    /// Waits for the end; false when it crashed or did not end in time.
+    bool finish();
+    /// Both.
+    bool run(const QStringList& arguments = QStringList());
+
+    int status() const { return m_status; }
+    QString output() const { return m_output; }
+    /// The lines that begin with "key=", without that.
+    QStringList values(const QString& key) const;
+    QString value(const QString& key) const { return values(key).join(QLatin1Char('|')); }
+
+    static QString executable();
+
+private:
+    QTemporaryDir m_folder;
+    QProcessEnvironment m_environment;
+    QProcess m_process;
+    QString m_output;
+    int m_status = -1;
+};

@@ -1,0 +1,116 @@
+#include "tests/startup/Application.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString english = QStringLiteral("English");
+const QString chinese = QStringLiteral("简体中文");
+
+TEST(StartUp, HandsTheExportedServicesObjectOver)
+{
+    Application application;
+    ASSERT_TRUE(application.run());
+    EXPECT_EQ(QStringLiteral("exported"), application.value("services"));
+}
+
+TEST(StartUp, ShowsOneWindow)
+{
+    Application application;
+    ASSERT_TRUE(application.run());
+    EXPECT_EQ(QStringLiteral("MainWindow"), application.value("class"));
+    EXPECT_FALSE(application.value("title").isEmpty());
+}
+
+TEST(StartUp, SetsTheHighDpiAttributes)
+{
+    Application application;
+    ASSERT_TRUE(application.run());
+    EXPECT_EQ(QStringLiteral("1"), application.value("scaling"));
+    EXPECT_EQ(QStringLiteral("1"), application.value("pixmaps"));
+}
+
+TEST(StartUp, ReturnsTheStatusOfTheEventLoop)
+{
+    for (const int status : {0, 1, 42, 255}) {
+        Application application;
+        application.setEnvironment("HOST_STATUS", QString::number(status));
+        ASSERT_TRUE(application.run());
+        EXPECT_EQ(status, application.status());
+    }
+}
+
+TEST(StartUp, EndsWhenTheLastWindowCloses)
+{
+    Application application;
+    application.setEnvironment("HOST_CLOSE_WINDOW", "1");
+    application.setEnvironment("HOST_STATUS", "9");
+    ASSERT_TRUE(application.run());
+    EXPECT_EQ(0, application.status());
+}
+
+struct Line
+{
+    QStringList arguments;
+    bool isChinese;
+};
+
+class StartUpOptions : public testing::TestWithParam<Line>
+{
+};
+
+TEST_P(StartUpOptions, AreReadFromWhatQtLeaves)
+{
+    Application application;
+    ASSERT_TRUE(application.run(GetParam().arguments));
+    EXPECT_EQ(GetParam().isChinese ? chinese : english, application.value("language"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, StartUpOptions,
+                         testing::Values(Line{{}, false}, Line{{"/language", "zh-CN"}, true},
+                                         Line{{"/language", "zh-cn"}, false},
+                                         Line{{"/language"}, false},
+                                         Line{{"/language", "zh-CN", "/x"}, false},
+                                         Line{{"/x", "y", "/language", "zh-CN"}, true},
+                                         Line{{"/language", "en", "/language", "zh-CN"}, true},
+                                         Line{{"language", "zh-CN"}, false},
+                                         Line{{"/language", "zh-CN", "-reverse"}, true},
+                                         Line{{"/language", "-style", "fusion", "zh-CN"}, true}));
+
+TEST(StartUp, TellsTheConfigurationLibraryTheLanguage)
+{
+    Application application;
+    ASSERT_TRUE(application.run({"/language", "de"}));
+    EXPECT_EQ(QStringLiteral("de"), application.value("init"));
+    EXPECT_EQ(1, application.values("create").size());
+}
+
+TEST(StartUp, FailingConfigurationIsNotAskedForTheLanguage)
+{
+    Application application;
+    application.setEnvironment("HOST_INIT_RESULT", "1");
+    application.setEnvironment("HOST_LANGUAGE", "2052");
+    ASSERT_TRUE(application.run());
+    EXPECT_EQ(0, application.values("create").size());
+    EXPECT_EQ(english, application.value("language"));
+}
+
+TEST(StartUp, ConfiguredChineseNeedsNoOption)
+{
+    Application application;
+    application.bringQtCatalogue();
+    application.setEnvironment("HOST_LANGUAGE", "2052");
+    ASSERT_TRUE(application.run());
+    EXPECT_EQ(chinese, application.value("language"));
+    EXPECT_EQ(QStringLiteral("取消"), application.value("cancel"));
+}
+
+TEST(StartUp, WithoutQtCatalogueQtStaysEnglish)
+{
+    Application application;
+    ASSERT_TRUE(application.run({"/language", "zh-CN"}));
+    EXPECT_EQ(chinese, application.value("language"));
+    EXPECT_EQ(QStringLiteral("Cancel"), application.value("cancel"));
+}
+
+} // namespace
