@@ -877,10 +877,6 @@
         <translation>按键状态</translation>
     </message>
     <message>
-        <source>Known to the service. Left and right cannot be told apart, and no toggle state is told:</source>
-        <translation>服务能识别的键。左右键无法区分，也不提供切换状态：</translation>
-    </message>
-    <message>
         <source>Unknown to the service, as every other code: these always read as up.</source>
         <translation>服务不识别的键，其他代码亦同：始终读作弹起。</translation>
     </message>
@@ -923,6 +919,10 @@
     <message>
         <source>getKeyState answers %1: %2</source>
         <translation>getKeyState 返回 %1：%2</translation>
+    </message>
+    <message>
+        <source>Known to the service, as of the last event from keyboard or mouse. Left and right cannot be told apart, and no toggle state is told:</source>
+        <translation>服务能识别的键，状态以最近一次键盘或鼠标事件为准。左右键无法区分，也不提供切换状态：</translation>
     </message>
 </context>
 <context>

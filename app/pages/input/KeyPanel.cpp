@@ -26,8 +26,10 @@ QLabel* paragraph(const QString& text)
 KeyPanel::KeyPanel(QWidget* parent) : QGroupBox(tr("Key states"), parent)
 {
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(paragraph(tr("Known to the service. Left and right cannot be told apart, and "
-                                   "no toggle state is told:")));
+    layout->addWidget(
+        paragraph(tr("Known to the service, as of the last event from keyboard or "
+                     "mouse. Left and right cannot be told apart, and no toggle state "
+                     "is told:")));
     addLamps(knownKeys(), knownRows, layout);
     layout->addWidget(makeReports());
     layout->addWidget(paragraph(tr("Unknown to the service, as every other code: these always read "

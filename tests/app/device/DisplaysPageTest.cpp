@@ -192,8 +192,10 @@ TEST_F(HandlePanelTest, MakesAndDeletesAnImage)
     control<QSpinBox>("Height")->setValue(5);
     press("&New image");
     waitForJob();
+    made(reinterpret_cast<void*>(1));
     EXPECT_EQ(rows(), QStringList({"0x1 | 0 (image) | 7 \u00d7 5, 32 bits a pixel, format 6"}));
     const MessageBoxAnswer yes(QMessageBox::Yes);
+    control<QTableView>("Graphics handles")->setFocus();
     QTest::keyClick(control<QTableView>("Graphics handles"), Qt::Key_Delete);
     waitForJob();
     EXPECT_TRUE(yes.text().contains("0x1"));

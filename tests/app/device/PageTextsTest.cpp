@@ -6,6 +6,12 @@
 
 #include <memory>
 
+// The macro does not work inside a namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(quayside);
+}
+
 namespace {
 
 struct Row
@@ -19,7 +25,11 @@ class PageTextsTest : public testing::TestWithParam<Row>
 protected:
     void SetUp() override
     {
+        QFont font = QApplication::font();
+        font.setPointSize(9);
+        QApplication::setFont(font);
         if (qstrcmp(GetParam().language, "zh") == 0) {
+            initResources();
             ASSERT_TRUE(m_translator.load(":/translator/kdlm_zh.qm"));
             QApplication::installTranslator(&m_translator);
         }
