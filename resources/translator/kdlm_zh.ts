@@ -1007,10 +1007,6 @@
         <translation>正在读取日志</translation>
     </message>
     <message>
-        <source>Lines shown: %1 of %2. File: %3</source>
-        <translation>显示 %1 行，共 %2 行。文件：%3</translation>
-    </message>
-    <message>
         <source>Save the lines shown</source>
         <translation>保存显示的行</translation>
     </message>
@@ -1037,6 +1033,18 @@
     <message>
         <source>Saved to %2. Lines: %1.</source>
         <translation>已保存到 %2，共 %1 行。</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>文件：</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Lines shown: %1 of %2</source>
+        <translation>显示 %1 行，共 %2 行</translation>
     </message>
 </context>
 <context>

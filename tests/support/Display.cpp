@@ -1,31 +1,22 @@
 #include "tests/support/Display.h"
 
-Display::Display(const QStringList& arguments, Manager manager)
-    : m_formerDisplay(qgetenv("DISPLAY"))
 #include <QThread>
 
-Display::Display(const QString& screen, bool manager)
+Display::Display(const QStringList& arguments, Manager manager)
+    : m_formerDisplay(qgetenv("DISPLAY"))
 {
     m_server.setStandardErrorFile(QProcess::nullDevice());
     // Without -noreset the server starts afresh, and drops whoever is just connecting, each time
     // the last client leaves.
     m_server.start(QStringLiteral("Xvfb"),
-                   QStringList{"-displayfd", "1", "-nolisten", "tcp"} + arguments);
-                   {"-displayfd", "1", "-screen", "0", screen, "-noreset", "-nolisten", "tcp"});
+                   QStringList{"-displayfd", "1", "-noreset", "-nolisten", "tcp"} + arguments);
     if (!m_server.waitForStarted() || !m_server.waitForReadyRead(20000))
         qFatal("Xvfb did not start");
     qputenv("DISPLAY", ":" + m_server.readLine().trimmed());
     qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("QT_XCB_GL_INTEGRATION", "none"); // nothing here draws with OpenGL, whose drivers leak
     if (manager == WithManager)
         startManager();
-    qputenv("QT_XCB_GL_INTEGRATION", "none"); // nothing here draws with OpenGL, whose drivers leak
-    if (!manager)
-        return;
-    m_manager.setStandardErrorFile(QProcess::nullDevice());
-    m_manager.start(QStringLiteral("openbox"), QStringList());
-    if (!m_manager.waitForStarted())
-        qFatal("openbox did not start");
-    waitForManager();
 }
 
 Display::~Display()
@@ -43,6 +34,7 @@ void Display::startManager()
     m_manager.start(QStringLiteral("openbox"), QStringList());
     if (!m_manager.waitForStarted())
         qFatal("openbox did not start");
+    waitForManager();
 }
 
 // A window that is shown before the manager announces itself might never be managed.

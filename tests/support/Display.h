@@ -27,10 +27,9 @@ public:
 
 private:
     void startManager();
-
-    QByteArray m_formerDisplay;
     static void waitForManager();
 
+    QByteArray m_formerDisplay;
     QProcess m_server;
     QProcess m_manager;
 };

@@ -1,6 +1,7 @@
 #include "app/pages/log/LogPage.h"
 
 #include "app/ApplicationLog.h"
+#include "app/frame/PathLabel.h"
 #include "app/pages/EmptyHint.h"
 #include "app/pages/TableLook.h"
 #include "app/pages/log/LogFilter.h"
@@ -26,13 +27,16 @@ LogPage::LogPage(QWidget* parent)
       m_filter(new LogFilter(this)),
       m_table(new QTableView),
       m_level(new QComboBox),
-      m_text(new QLineEdit)
+      m_text(new QLineEdit),
+      m_count(new QLabel)
 {
     m_filter->setSourceModel(m_model);
     makeTable();
     body()->addLayout(makeControls());
     body()->addWidget(m_table, 1);
+    body()->addLayout(makeFooter());
     setFocusProxy(m_table);
+    followTheEnd();
     connect(&ApplicationLog::instance(), &ApplicationLog::written, this, &LogPage::readNew);
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &LogPage::showCount);
     connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &LogPage::showCount);
@@ -86,14 +90,35 @@ QLayout* LogPage::makeControls()
     return line;
 }
 
+QLayout* LogPage::makeFooter()
+{
+    auto* line = new QHBoxLayout;
+    line->addWidget(m_count);
+    line->addStretch();
+    line->addWidget(new QLabel(tr("File:")));
+    auto* file = new PathLabel(ApplicationLog::path());
+    file->setAccessibleName(tr("File"));
+    line->addWidget(file);
+    return line;
+}
+
+// New lines are followed by a view that stands at the end, and by no other.
+void LogPage::followTheEnd()
+{
+    QScrollBar* bar = m_table->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this, bar](int value) { m_atEnd = value >= bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+        if (m_atEnd)
+            bar->setValue(bar->maximum());
+    });
+}
+
 void LogPage::refresh()
 {
     startJob({tr("Reading the log"), [this] { return m_model->readMore(); },
               [this] { return QLocale().toString(m_model->rowCount()); },
-              [this](bool) {
-                  m_table->scrollToBottom();
-                  showCount();
-              }});
+              [this](bool) { showCount(); }});
 }
 
 void LogPage::find()
@@ -102,29 +127,18 @@ void LogPage::find()
     m_text->selectAll();
 }
 
-void LogPage::entered()
-{
-    m_table->scrollToBottom();
-}
-
-// New lines are followed by a view that stands at the end, and by no other.
 void LogPage::readNew()
 {
-    if (isBusy())
-        return;
-    const QScrollBar* bar = m_table->verticalScrollBar();
-    const bool atEnd = bar->value() >= bar->maximum();
-    m_model->readMore();
-    if (atEnd)
-        m_table->scrollToBottom();
+    if (!isBusy())
+        m_model->readMore();
 }
 
 void LogPage::showCount()
 {
     const QLocale locale;
-    setStatus(tr("Lines shown: %1 of %2. File: %3")
-                  .arg(locale.toString(m_filter->rowCount()), locale.toString(m_model->rowCount()),
-                       ApplicationLog::path()));
+    m_count->setText(
+        tr("Lines shown: %1 of %2")
+            .arg(locale.toString(m_filter->rowCount()), locale.toString(m_model->rowCount())));
 }
 
 void LogPage::askSave()

@@ -5,6 +5,7 @@
 class LogFilter;
 class LogModel;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QTableView;
 
@@ -18,7 +19,6 @@ public:
 
     void refresh() override;
     void find() override;
-    void entered() override;
 
     /// Writes the lines in view to a file, as they stand in the log.
     void saveAs(const QString& file);
@@ -26,6 +26,8 @@ public:
 private:
     void makeTable();
     QLayout* makeControls();
+    QLayout* makeFooter();
+    void followTheEnd();
     void readNew();
     void showCount();
     void askSave();
@@ -36,4 +38,6 @@ private:
     QTableView* m_table;
     QComboBox* m_level;
     QLineEdit* m_text;
+    QLabel* m_count;
+    bool m_atEnd = true;
 };

@@ -28,6 +28,7 @@ FindPane::FindPane(QWidget* parent)
     m_inData->setChecked(true);
     m_table->setModel(m_model);
     arrangeTable(*m_table);
+    m_table->setObjectName(QStringLiteral("found"));
     m_table->setAccessibleName(tr("Found"));
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setColumnWidth(HitModel::Key, fontMetrics().averageCharWidth() * 44);

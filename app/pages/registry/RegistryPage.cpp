@@ -79,6 +79,7 @@ RegistryPage::RegistryPage(QWidget* parent)
 void RegistryPage::makeTree()
 {
     m_tree->setModel(m_keys);
+    m_tree->setObjectName(QStringLiteral("keys"));
     m_tree->setAccessibleName(tr("Keys"));
     m_tree->setHeaderHidden(true);
     m_tree->setUniformRowHeights(true);
@@ -91,6 +92,7 @@ void RegistryPage::makeTable()
     const int unit = fontMetrics().averageCharWidth();
     m_table->setModel(m_values);
     arrangeTable(*m_table);
+    m_table->setObjectName(QStringLiteral("values"));
     m_table->setAccessibleName(tr("Values"));
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_table->setColumnWidth(RegistryValueModel::Name, unit * 20);
@@ -152,6 +154,7 @@ QLayout* RegistryPage::makeAddressLine()
 {
     auto* caption = new QLabel(tr("&Go to:"));
     caption->setBuddy(m_address);
+    m_address->setObjectName(QStringLiteral("address"));
     m_address->setAccessibleName(tr("Path of the key"));
     auto* line = new QHBoxLayout;
     line->addWidget(caption);

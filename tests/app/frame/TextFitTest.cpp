@@ -1,0 +1,94 @@
+#include "app/MainWindow.h"
+#include "app/frame/PageRail.h"
+#include "app/pages/Page.h"
+#include "app/pages/PageCatalogue.h"
+#include "host/HostLibraries.h"
+#include "platform/PlatformServicesImp.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+static void initResources()
+{
+    Q_INIT_RESOURCE(quayside);
+}
+
+namespace {
+
+struct Row
+{
+    const char* language;
+    int page;
+};
+
+std::ostream& operator<<(std::ostream& out, const Row& row)
+{
+    return out << row.language << " page " << row.page;
+}
+
+// Every page at 800 x 600, in both languages.
+class TextsOfAPage : public testing::TestWithParam<Row>
+{
+protected:
+    TextsOfAPage()
+    {
+        setPlatformServices(&g_PlatformServices);
+        initResources();
+        if (qstrcmp(GetParam().language, "zh") != 0)
+            return;
+        EXPECT_TRUE(m_translator.load(":/translator/kdlm_zh.qm"));
+        QApplication::installTranslator(&m_translator);
+    }
+    ~TextsOfAPage() override { QApplication::removeTranslator(&m_translator); }
+
+    static bool fits(const QLabel& label)
+    {
+        const int height =
+            label.wordWrap() ? label.heightForWidth(label.width()) : label.sizeHint().height();
+        return label.height() >= height &&
+               (label.wordWrap() || label.width() >= label.sizeHint().width());
+    }
+
+    QTranslator m_translator;
+};
+
+TEST_P(TextsOfAPage, AreNotCutOff)
+{
+    MainWindow window;
+    window.showPage(pageCatalogue()[static_cast<std::size_t>(GetParam().page)].name);
+    window.resize(800, 600);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.currentPage() != nullptr; }));
+    QTest::qWait(20);
+    EXPECT_EQ(window.size(), QSize(800, 600));
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        if (!label->isVisible() || label->text().isEmpty())
+            continue;
+        EXPECT_TRUE(fits(*label)) << label->text().toStdString();
+    }
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty())
+            continue;
+        EXPECT_GE(button->width(), button->minimumSizeHint().width())
+            << button->text().toStdString();
+    }
+}
+
+std::vector<Row> rows()
+{
+    std::vector<Row> all;
+    for (int page = 0; page < static_cast<int>(pageCatalogue().size()); ++page) {
+        all.push_back({"en", page});
+        all.push_back({"zh", page});
+    }
+    return all;
+}
+
+INSTANTIATE_TEST_SUITE_P(MainWindow, TextsOfAPage, testing::ValuesIn(rows()));
+
+} // namespace

@@ -1,0 +1,87 @@
+#include "tests/app/registry/RegistryPageFixture.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <QTreeView>
+
+void RegistryPageFixture::show()
+{
+    m_page.resize(700, 500);
+    m_page.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_page));
+    m_page.refresh();
+}
+
+QTreeView& RegistryPageFixture::tree() const
+{
+    return *m_page.findChild<QTreeView*>();
+}
+
+QTableView& RegistryPageFixture::table() const
+{
+    return *m_page.findChild<QTableView*>("values");
+}
+
+QString RegistryPageFixture::cell(int row, int column) const
+{
+    return table().model()->index(row, column).data().toString();
+}
+
+QString RegistryPageFixture::address() const
+{
+    return m_page.findChild<QLineEdit*>("address")->text();
+}
+
+void RegistryPageFixture::chooseNew(int entry)
+{
+    QList<QAction*> actions = m_page.findChild<QMenu*>()->actions();
+    for (QAction* action : m_page.findChild<QMenu*>()->actions()) {
+        if (action->isSeparator())
+            actions.removeOne(action);
+    }
+    actions.at(entry)->trigger();
+}
+
+QDialog& RegistryPageFixture::dialog()
+{
+    auto* open = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!open)
+        qFatal("no dialog is open");
+    return *open;
+}
+
+void RegistryPageFixture::type(const QString& name, const QString& data)
+{
+    auto* line = dialog().findChild<QLineEdit*>();
+    if (!line->isReadOnly())
+        line->setText(name);
+    if (auto* edit = dialog().findChild<QPlainTextEdit*>())
+        edit->setPlainText(data);
+}
+
+bool RegistryPageFixture::accept()
+{
+    for (QPushButton* button : dialog().findChildren<QPushButton*>()) {
+        auto* box = dialog().findChild<QDialogButtonBox*>();
+        const auto role = box->buttonRole(button);
+        if (role != QDialogButtonBox::AcceptRole)
+            continue;
+        const bool enabled = button->isEnabled();
+        if (enabled)
+            button->click();
+        return enabled;
+    }
+    return false;
+}
+
+void RegistryPageFixture::reject()
+{
+    QTest::keyClick(&dialog(), Qt::Key_Escape);
+}

@@ -1,0 +1,158 @@
+#include "app/pages/registry/RegistryValueModel.h"
+#include "host/HostLibraries.h"
+#include "tests/app/registry/RegistryPageFixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <QTreeView>
+
+namespace {
+
+class RegistryPageTest : public RegistryPageFixture
+{
+protected:
+    void enterAddress(const QString& text)
+    {
+        auto* line = m_page.findChild<QLineEdit*>("address");
+        line->setText(text);
+        QTest::keyClick(line, Qt::Key_Return);
+    }
+};
+
+TEST_F(RegistryPageTest, OpensOnTheRootWithTheKeyboardInTheTree)
+{
+    store("A/v", "1$1");
+    show();
+    m_page.setFocus();
+    EXPECT_TRUE(tree().hasFocus());
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER");
+    EXPECT_TRUE(tree().isExpanded(tree().currentIndex()));
+    EXPECT_EQ(status().toStdString(), "Values: 0. Sub-keys: 1.");
+}
+
+TEST_F(RegistryPageTest, FollowsTheTreeByKeyboard)
+{
+    store("A/B/v", "5$deep");
+    show();
+    tree().setFocus();
+    for (const auto key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Down})
+        QTest::keyClick(&tree(), key);
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+    EXPECT_EQ(cell(0, RegistryValueModel::Data).toStdString(), "deep");
+}
+
+TEST_F(RegistryPageTest, GoesToATypedPathUnderAnyRoot)
+{
+    store("A/B/v", "5$deep");
+    show();
+    enterAddress("hkey_local_machine\\A\\B");
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+    EXPECT_TRUE(tree().hasFocus());
+}
+
+TEST_F(RegistryPageTest, SaysThatATypedPathLeadsNowhere)
+{
+    store("A/v", "1$1");
+    show();
+    enterAddress("HKEY_CURRENT_USER\\A\\missing");
+    EXPECT_EQ(status().toStdString(), "There is no key HKEY_CURRENT_USER\\A\\missing.");
+    enterAddress("HKEY_CURRENT_CONFIG\\A");
+    EXPECT_TRUE(status().contains("none of the four root keys")) << status().toStdString();
+}
+
+TEST_F(RegistryPageTest, MarksWhatAHostLibraryCannotReadAndSaysWhy)
+{
+    store("A/bad", "3$1");
+    show();
+    m_page.goTo("A", "bad");
+    EXPECT_EQ(cell(0, RegistryValueModel::Type).toStdString(), "unreadable");
+    EXPECT_EQ(cell(0, RegistryValueModel::Raw).toStdString(), "3$1");
+    EXPECT_EQ(status().toStdString(), "bad: Tag 3 is refused");
+}
+
+TEST_F(RegistryPageTest, RefreshReadsWhatTheHostLibraryChanged)
+{
+    store("A/v", "5$before");
+    show();
+    m_page.goTo("A", "v");
+    EXPECT_EQ(cell(0, RegistryValueModel::Data).toStdString(), "before");
+    store("A/v", "5$after");
+    store("A/u", "1$1");
+    store("A/sub/v", "1$1");
+    m_page.refresh();
+    EXPECT_EQ(table().model()->rowCount(), 2);
+    EXPECT_EQ(cell(1, RegistryValueModel::Data).toStdString(), "after");
+    EXPECT_EQ(table().currentIndex().row(), 1); // the same value
+    EXPECT_EQ(status().toStdString(), "Values: 2. Sub-keys: 1.");
+}
+
+TEST_F(RegistryPageTest, CopiesThePathAsWindowsWritesIt)
+{
+    store("A/B/v", "1$1");
+    show();
+    m_page.goTo("A/B");
+    tree().setFocus();
+    QTest::keyClick(&tree(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+}
+
+TEST_F(RegistryPageTest, FindsAndGoesToAHit)
+{
+    store("A/B/colour", "5$Blue");
+    store("A/other", "1$1");
+    show();
+    m_page.find();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_TRUE(field);
+    QTest::keyClicks(field, "blue");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Found: 1.");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+    EXPECT_TRUE(table().hasFocus());
+    EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "colour");
+}
+
+TEST_F(RegistryPageTest, EscapeHidesTheSearch)
+{
+    show();
+    m_page.find();
+    QWidget* field = QApplication::focusWidget();
+    EXPECT_TRUE(field->isVisible());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_FALSE(field->isVisible());
+    EXPECT_TRUE(tree().hasFocus());
+}
+
+TEST_F(RegistryPageTest, GivesEveryControlAnAccessibleName)
+{
+    show();
+    m_page.find();
+    for (const QWidget* widget : m_page.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus ||
+            qobject_cast<const QAbstractButton*>(widget))
+            continue;
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
+    }
+}
+
+TEST_F(RegistryPageTest, SaysThatThereIsNoStore)
+{
+    QSettings* settings = std::exchange(g_globalSettings, nullptr);
+    {
+        RegistryPage page;
+        EXPECT_TRUE(page.statusText().contains("no settings store"))
+            << page.statusText().toStdString();
+        page.find();
+        page.refresh();
+        page.goTo("A/B");
+        EXPECT_EQ(page.findChild<QTreeView*>()->model()->rowCount(), 1);
+    }
+    g_globalSettings = settings;
+}
+
+} // namespace
