@@ -24,7 +24,7 @@ public:
             count -= missing;
             if (m_rest.size() < blockSize)
                 return;
-            take(m_rest.data(), std::size_t(1));
+            take(m_rest.data(), std::size_t{1});
         }
         take(bytes, count / blockSize);
         m_rest.assign(bytes + count - count % blockSize, count % blockSize);

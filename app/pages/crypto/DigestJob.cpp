@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 pieceSize = 128 * 1024;
+constexpr qint64 pieceSize = qint64{128} * 1024;
 constexpr std::size_t paddingBlocks = 2048; // as much work as a piece
 
 } // namespace

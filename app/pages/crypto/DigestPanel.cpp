@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::uint64_t lengthLimit = std::uint64_t(1) << 29; // its bits no longer fit 32 bits
+constexpr std::uint64_t lengthLimit = std::uint64_t{1} << 29; // its bits no longer fit 32 bits
 
 QStringList departures(const Digests& digests)
 {

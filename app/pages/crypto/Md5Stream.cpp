@@ -10,7 +10,7 @@
 namespace {
 
 constexpr std::size_t wordsPerBlock = 16;
-constexpr std::uint64_t longPadding = std::uint64_t(1) << 23;
+constexpr std::uint64_t longPadding = std::uint64_t{1} << 23;
 
 using Block = std::array<std::uint32_t, wordsPerBlock>;
 

@@ -33,11 +33,14 @@ TEST_F(RealInputTest, LampsFollowModifiersAndTellNoSides)
         {"ctrl", {"VK_CONTROL", "VK_LCONTROL", "VK_RCONTROL"}},
         {"alt", {"VK_MENU", "VK_LMENU", "VK_RMENU"}},
     };
-    int place = 100;
     // The event of a modifier's own press still tells the state before; the next event tells it.
+    QPoint place = m_window.mapToGlobal(m_window.rect().center());
     const auto moveMouse = [&place] {
-        return Display::xdotool({"mousemove", QString::number(++place), "300"});
+        place.rx() += 1;
+        return Display::xdotool(
+            {"mousemove", QString::number(place.x()), QString::number(place.y())});
     };
+    ASSERT_TRUE(moveMouse());
     for (const auto& [key, lamps] : rows) {
         ASSERT_TRUE(Display::xdotool({"keydown", key}) && moveMouse());
         for (const QString& lamp : lamps)
