@@ -92,24 +92,25 @@ void refillBothEnds(benchmark::State& state)
 // Every other image deleted and made again, against as many images without handles.
 void refillGaps(benchmark::State& state)
 {
+    const auto count = static_cast<std::size_t>(state.range(0));
     PlatformResourceManagerImp manager;
     std::vector<void*> handles;
-    for (std::size_t i = 0; i < AllHandles; ++i)
+    for (std::size_t i = 0; i < count; ++i)
         handles.push_back(image(manager));
-    std::vector<std::unique_ptr<QImage>> images(AllHandles);
+    std::vector<std::unique_ptr<QImage>> images(count);
     std::generate(images.begin(), images.end(), plainImage);
     compare(
         state,
         [&] {
-            for (std::size_t i = 0; i < AllHandles; i += 2)
+            for (std::size_t i = 0; i < count; i += 2)
                 manager.deleteObject(handles[i]);
-            for (std::size_t i = 0; i < AllHandles; i += 2)
+            for (std::size_t i = 0; i < count; i += 2)
                 handles[i] = image(manager);
         },
         [&] {
-            for (std::size_t i = 0; i < AllHandles; i += 2)
+            for (std::size_t i = 0; i < count; i += 2)
                 images[i].reset();
-            for (std::size_t i = 0; i < AllHandles; i += 2)
+            for (std::size_t i = 0; i < count; i += 2)
                 images[i] = plainImage();
         });
 }
@@ -117,6 +118,6 @@ void refillGaps(benchmark::State& state)
 BENCHMARK(fillImages)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(fillBrushes)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(refillBothEnds)->Arg(1000)->Arg(AllHandles - 1)->UseManualTime();
-BENCHMARK(refillGaps)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(refillGaps)->Arg(4096)->Arg(AllHandles)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -6,8 +6,8 @@
 #include <chrono>
 
 /// Runs `ours` and `peer` in turn, so that both see the same state of the machine. The time that is
-/// reported is that of `ours`; "ratio" says how many times that of `peer` it is, the shortest run of
-/// each taken, which other programs disturb least.
+/// reported is that of `ours`; "ratio" says how many times that of `peer` it is, the shortest run
+/// of each taken, which other programs disturb least.
 template <typename Ours, typename Peer>
 void compare(benchmark::State& state, Ours ours, Peer peer)
 {

@@ -124,7 +124,7 @@ struct SortedName
 
 // The same sort and the same comparison as in QDir, so that names that differ only in case, which
 // compare equal, come out in the same order too.
-QStringList sorted(std::vector<SortedName>&& names)
+QStringList sorted(std::vector<SortedName> names)
 {
     if (names.size() > 1) {
         std::sort(names.begin(), names.end(), [](const SortedName& a, const SortedName& b) {
@@ -133,8 +133,8 @@ QStringList sorted(std::vector<SortedName>&& names)
     }
     QStringList result;
     result.reserve(static_cast<int>(names.size()));
-    for (SortedName& name : names)
-        result.append(std::move(name.name));
+    for (const SortedName& name : names)
+        result.append(name.name);
     return result;
 }
 

@@ -13,8 +13,8 @@ namespace {
 using std::chrono::milliseconds;
 using namespace std::chrono_literals;
 
-// A byte order mark is removed at the beginning of each chunk that follows nothing but ASCII, and a
-// text stream, which other programs read these files with, reads chunks of this size.
+// Other programs read these files with text streams, which decode chunks of this size and take a
+// byte order mark away from the beginning of each chunk that only ASCII precedes. So does this.
 constexpr qint64 chunkSize = 16384;
 
 // The last modification, in the unit in which QSettings compares it; 0 when it cannot be told.

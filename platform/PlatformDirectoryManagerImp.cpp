@@ -115,7 +115,8 @@ bool equalIgnoringCase(const QString& a, const QString& b)
 QString findIgnoringCase(const QString& directory, const QString& name, const QString& path)
 {
     const DirectoryListing listing(directory, DirectoryListing::WithoutHidden);
-    for (const QString& entry : candidates(listing, name)) {
+    const QStringList entries = candidates(listing, name);
+    for (const QString& entry : entries) {
         if (equalIgnoringCase(entry, name))
             return listing.absolutePath(entry);
         // The first test only spares the second one: an absolute path ends with the entry's name.
@@ -201,8 +202,9 @@ wchar_t* PlatformDirectoryManagerImp::AddBackslash(wchar_t* path)
         text += separator;
     const std::wstring result = text.toStdWString();
     // Intended: the zeroing supplies the terminator, and only of texts shorter than that.
-    std::wmemset(path, L'\0', zeroed);
-    return std::wmemcpy(path, result.data(), result.size());
+    std::fill_n(path, zeroed, L'\0');
+    std::copy(result.begin(), result.end(), path);
+    return path;
 }
 
 int PlatformDirectoryManagerImp::SHGetFolderPath(HWND /*owner*/, int /*folder*/, void* /*token*/,
@@ -229,7 +231,7 @@ int PlatformDirectoryManagerImp::PathRelativePathToW(wchar_t* relative, const wc
         path.prepend(QStringLiteral("./"));
     const std::wstring result = path.toStdWString();
     // Intended: no terminator.
-    std::wmemcpy(relative, result.data(), std::min(result.size(), longest));
+    std::copy_n(result.begin(), std::min(result.size(), longest), relative);
     return 1;
 }
 
@@ -244,7 +246,7 @@ unsigned int PlatformDirectoryManagerImp::GetTempPathW(unsigned int length, wcha
     // Intended: a length of 0 wraps round to the largest one, and there is no terminator.
     if (length - 1U < result.size())
         return 0;
-    std::wmemcpy(buffer, result.data(), result.size());
+    std::copy(result.begin(), result.end(), buffer);
     return static_cast<unsigned int>(result.size());
 }
 
@@ -297,7 +299,7 @@ wchar_t* PlatformDirectoryManagerImp::PathFindExtensionW(const wchar_t* path)
         suffix.isEmpty() ? std::wstring() : (u'.' + suffix).toStdWString();
     auto buffer = std::unique_ptr<wchar_t[]>(new wchar_t[capacity]);
     // Intended: the zeroing supplies the terminator, and only of texts shorter than that.
-    std::wmemset(buffer.get(), L'\0', zeroed);
-    std::wmemcpy(buffer.get(), extension.data(), std::min(extension.size(), capacity));
+    std::fill_n(buffer.get(), zeroed, L'\0');
+    std::copy_n(extension.begin(), std::min(extension.size(), capacity), buffer.get());
     return buffer.release();
 }

@@ -1,12 +1,11 @@
 #include "platform/PlatformServicesImp.h"
 
+#include "platform/PlatformCursorManagerImp.h"
 #include "platform/PlatformDirectoryManagerImp.h"
 #include "platform/PlatformFontManagerImp.h"
 #include "platform/PlatformMessageManagerImp.h"
 #include "platform/PlatformProfileManagerImp.h"
 #include "platform/PlatformRegisterManagerImp.h"
-#include "platform/PlatformCursorManagerImp.h"
-#include "platform/PlatformMessageManagerImp.h"
 #include "platform/PlatformResourceManagerImp.h"
 #include "platform/PlatformUserInputManagerImp.h"
 
@@ -43,12 +42,12 @@ PlatformServicesImp::PlatformServicesImp() = default;
 PlatformServicesImp::~PlatformServicesImp()
 {
     // In field order; left to themselves, members are destroyed in the reverse of it.
-    m_profileManager.reset();
-    m_directoryManager.reset();
-    m_fontManager.reset();
     m_userInputManager.reset();
+    m_directoryManager.reset();
     m_cursorManager.reset();
+    m_fontManager.reset();
     m_resourceManager.reset();
+    m_profileManager.reset();
     m_messageManager.reset();
     m_registerManager.reset();
 }

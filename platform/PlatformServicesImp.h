@@ -4,13 +4,12 @@
 
 #include <memory>
 
+class PlatformCursorManagerImp;
 class PlatformDirectoryManagerImp;
 class PlatformFontManagerImp;
 class PlatformMessageManagerImp;
 class PlatformProfileManagerImp;
 class PlatformRegisterManagerImp;
-class PlatformCursorManagerImp;
-class PlatformMessageManagerImp;
 class PlatformResourceManagerImp;
 class PlatformUserInputManagerImp;
 
@@ -42,9 +41,6 @@ public:
     void* localeManager() override;
 
 private:
-    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
-    std::unique_ptr<PlatformDirectoryManagerImp> m_directoryManager;
-    std::unique_ptr<PlatformFontManagerImp> m_fontManager;
     // Deletes a manager whose interface has no virtual destructor.
     struct ExactDelete
     {
@@ -53,8 +49,11 @@ private:
     };
 
     std::unique_ptr<PlatformUserInputManagerImp, ExactDelete> m_userInputManager;
+    std::unique_ptr<PlatformDirectoryManagerImp, ExactDelete> m_directoryManager;
     std::unique_ptr<PlatformCursorManagerImp> m_cursorManager;
+    std::unique_ptr<PlatformFontManagerImp> m_fontManager;
     std::unique_ptr<PlatformResourceManagerImp> m_resourceManager;
+    std::unique_ptr<PlatformProfileManagerImp> m_profileManager;
     std::unique_ptr<PlatformMessageManagerImp> m_messageManager;
     std::unique_ptr<PlatformRegisterManagerImp> m_registerManager;
 };

@@ -53,7 +53,7 @@ TEST_P(DirectoryListingOfRandomTrees, AgreesWithQDir)
     for (const QString& directory :
          {tree.path("d"), tree.path("d/"), tree.path("d//"), QString("d"), QString("./d/../d/")})
         compareListings(directory, "*");
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 60; ++i) {
         const QString filter = QString::fromUtf8(tree.nameOf(1, 3));
         if (isPattern(filter)) // QDir would warn of others
             compareListings(tree.path("d/"), filter);
@@ -179,12 +179,14 @@ class ExistenceInRandomTrees : public testing::TestWithParam<unsigned int>
 protected:
     void compare(const QString& path)
     {
-        const QString expected = existsByQDir(path);
-        CStdStr<wchar_t> real;
+        // Through the wide text, as a byte order mark at its start is no part of the path.
         const std::wstring asked = path.toStdWString();
+        const QString expected = existsByQDir(QString::fromStdWString(asked));
+        CStdStr<wchar_t> real;
         ASSERT_EQ(expected.isEmpty() ? 0 : 1, manager.isFileExist(asked.c_str(), real))
             << path.toStdString();
-        ASSERT_EQ(expected.isEmpty() ? path : expected, QString::fromStdWString(real));
+        ASSERT_TRUE((expected.isEmpty() ? asked : expected.toStdWString()) == real)
+            << path.toStdString();
         found += expected.isEmpty() ? 0 : 1;
     }
 
@@ -204,7 +206,7 @@ TEST_P(ExistenceInRandomTrees, AgreesWithQDir)
     for (const QByteArray& folder : {QByteArray("x/"), QByteArray("x/b/"), padded + '/'})
         tree.fill(folder, 120);
     tree.enter();
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < 150; ++i) {
         const QString name = QString::fromUtf8(tree.nameOf(1, 3));
         for (const QString& path : {tree.path("x/") + name, "./x/b/" + name, "x/" + name + '/',
                                     "./" + padded + name + '/', QString(name).toUpper()})

@@ -254,7 +254,7 @@ TEST_F(DirectorySearchDataTest, NullRecordDoesNotAdvance)
 
 TEST_F(DirectorySearchDataTest, NullAndInvalidHandlesAreRefused)
 {
-    for (void* handle : {HANDLE(nullptr), INVALID_HANDLE_VALUE}) {
+    for (void* handle : {HANDLE{}, INVALID_HANDLE_VALUE}) {
         EXPECT_EQ(0, manager.findNextFile(handle, data.get()));
         EXPECT_EQ(0, manager.findClose(handle));
     }

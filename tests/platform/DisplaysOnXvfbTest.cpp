@@ -37,8 +37,7 @@ protected:
     {
         window.setGeometry(200, 150, 400, 300);
         window.show();
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(Display::activate(window));
         movePointer(300, 300);
     }
 

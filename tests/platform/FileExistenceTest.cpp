@@ -30,7 +30,7 @@ protected:
         const int padding = index - 2 - characters - 1;
         const QByteArray outer(padding / 2, '-');
         tree.folder(outer);
-        const QByteArray inner = outer + '/' + QByteArray(padding - padding / 2, '-') + name;
+        QByteArray inner = outer + '/' + QByteArray(padding - padding / 2, '-') + name;
         tree.folder(inner);
         tree.enter();
         return inner;

@@ -194,12 +194,12 @@ TEST_F(TempPath, NeedsRoomForATerminatorThatItDoesNotWrite)
 {
     set(tree.path());
     const std::size_t size = tree.wide().size();
-    for (const std::size_t length : {std::size_t(1), std::size_t(2), size - 1, size}) {
+    for (const std::size_t length : {std::size_t{1}, std::size_t{2}, size - 1, size}) {
         FencedText buffer(256);
         EXPECT_EQ(0U, get(length, buffer));
         EXPECT_TRUE(buffer.intact(0));
     }
-    for (const std::size_t length : {size + 1, size + 2, std::size_t(0xFFFFFFFF)}) {
+    for (const std::size_t length : {size + 1, size + 2, std::size_t{0xFFFFFFFF}}) {
         FencedText buffer(256);
         EXPECT_EQ(size, get(length, buffer));
         EXPECT_TRUE(buffer.intact(size));

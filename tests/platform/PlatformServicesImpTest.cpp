@@ -41,6 +41,17 @@ std::vector<void*> allManagers(IPlatformServices& services)
             services.messageManager(),   services.registerManager()};
 }
 
+// Memory of a manager that is gone may serve a later one while it cleans up.
+std::vector<void*> firstOfEach(const std::vector<void*>& addresses)
+{
+    std::vector<void*> first;
+    for (void* address : addresses) {
+        if (std::find(first.begin(), first.end(), address) == first.end())
+            first.push_back(address);
+    }
+    return first;
+}
+
 TEST(PlatformServices, AccessorsThatAreNotProvidedReturnNull)
 {
     PlatformServicesImp services;
@@ -113,7 +124,7 @@ TEST(PlatformServices, ManagersAreReleasedInFieldOrder)
         return std::find(managers.begin(), managers.end(), memory) != managers.end();
     };
     freed.erase(std::remove_if(freed.begin(), freed.end(), std::not_fn(isManager)), freed.end());
-    EXPECT_EQ(managers, freed);
+    EXPECT_EQ(managers, firstOfEach(freed));
     new (services.get()) PlatformServicesImp;
 }
 

@@ -14,10 +14,17 @@
 class ProfileFixture : public testing::Test
 {
 protected:
+    ProfileFixture() = default;
+    /// Puts the profile below another folder than that for temporary files.
+    explicit ProfileFixture(const QString& parent) : folder(parent + "/quayside-XXXXXX") {}
+
+    /// Makes the file anew. Where one is emptied and written again, some file systems flush it to
+    /// disk, and the tests would take many times as long.
     void write(const QByteArray& content)
     {
         QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.remove();
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         EXPECT_EQ(content.size(), file.write(content));
     }
 

@@ -3,7 +3,9 @@
 #include <QMap>
 #include <QTextStream>
 
+#include <cstring>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -36,6 +38,7 @@ Sections readPlainly(const QString& path)
 QByteArray writtenPlainly(const Sections& sections, const QString& path)
 {
     QFile file(path);
+    file.remove();
     EXPECT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Text));
     QTextStream stream(&file);
     stream.setCodec("utf-8");
@@ -99,7 +102,7 @@ protected:
         Sections sections = readPlainly(path);
         for (auto section = sections.begin(); section != sections.end(); ++section) {
             const QString name = section.key().mid(1, section.key().size() - 2);
-            if (!isAskable(section.key()) || !section.key().endsWith(']') || name.size() < 0)
+            if (!isAskable(section.key()) || !section.key().endsWith(']'))
                 continue;
             for (auto entry = section->begin(); entry != section->end(); ++entry)
                 expectValue(name, entry.key(), entry.value());
@@ -125,14 +128,14 @@ protected:
 
 TEST_F(ProfileNarrowDifferential, OfSmallFiles)
 {
-    for (int i = 0; i < 3000 && !HasFailure(); ++i)
+    for (int i = 0; i < 2000 && !HasFailure(); ++i)
         expectTheSame(soup(60));
 }
 
 // A text stream reads and decodes 16 KiB at a time; here something odd lies on each border.
 TEST_F(ProfileNarrowDifferential, OfFilesOfSeveralChunks)
 {
-    for (int i = 0; i < 300 && !HasFailure(); ++i) {
+    for (int i = 0; i < 200 && !HasFailure(); ++i) {
         QByteArray content = "[S]\nk=v\n";
         for (int border = 16384; border <= 3 * 16384; border += 16384) {
             content += soup(20) + "\nfiller=";
@@ -140,6 +143,18 @@ TEST_F(ProfileNarrowDifferential, OfFilesOfSeveralChunks)
             content += QByteArray(qMax(room, 0), 'x');
         }
         expectTheSame(content + soup(40));
+    }
+}
+
+// The stream takes a byte order mark away from the beginning of each chunk that only ASCII
+// precedes.
+TEST_F(ProfileNarrowDifferential, OfAByteOrderMarkAtABorder)
+{
+    for (int border = 16380; border <= 16388; ++border) {
+        for (const char* first : {"[S]\nfiller=", "[S]\nfiller=\xC3\xA9"}) {
+            const QByteArray filler(border - static_cast<int>(std::strlen(first)) - 1, 'x');
+            expectTheSame(first + filler + "\n\xEF\xBB\xBFk=v\nj=w\n");
+        }
     }
 }
 

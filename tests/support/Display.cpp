@@ -1,6 +1,8 @@
 #include "tests/support/Display.h"
 
+#include <QTest>
 #include <QThread>
+#include <QWidget>
 
 Display::Display(const QStringList& arguments, Manager manager)
     : m_formerDisplay(qgetenv("DISPLAY"))
@@ -49,6 +51,17 @@ void Display::waitForManager()
         QThread::msleep(50);
     }
     qFatal("openbox does not answer");
+}
+
+bool Display::activate(const QWidget& window)
+{
+    const QStringList request{"windowactivate", QString::number(window.winId())};
+    for (int attempt = 0; attempt < 40; ++attempt) {
+        xdotool(request);
+        if (QTest::qWaitFor([&window] { return window.isActiveWindow(); }, 500))
+            return true;
+    }
+    return false;
 }
 
 bool Display::xdotool(const QStringList& arguments)

@@ -2,6 +2,8 @@
 
 #include <QProcess>
 
+class QWidget;
+
 /// A virtual X display, for tests of real windows and real input. Sets DISPLAY and the Qt platform
 /// for this process and its children; make the one that the process itself uses before the
 /// application object.
@@ -21,6 +23,10 @@ public:
 
     Display(const Display&) = delete;
     Display& operator=(const Display&) = delete;
+
+    /// Makes a shown window the active one, as a taskbar would: the manager refuses a request of the
+    /// window's own now and then, and ignores any for a window that it does not manage yet.
+    static bool activate(const QWidget& window);
 
     /// Runs xdotool with these arguments and waits for it; true when it succeeded.
     static bool xdotool(const QStringList& arguments);

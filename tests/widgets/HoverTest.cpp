@@ -42,7 +42,7 @@ protected:
         button->installEventFilter(&g_buttonMonitor);
         button->installEventFilter(&crossings);
         page.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&page));
+        EXPECT_TRUE(Display::activate(page));
         moveOut();
     }
 

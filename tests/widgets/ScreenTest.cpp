@@ -34,7 +34,7 @@ void PrintTo(const Direction& row, std::ostream* out)
 class SlideOnScreen : public StackFixture, public testing::WithParamInterface<Direction>
 {
 protected:
-    SlideOnScreen() { EXPECT_TRUE(QTest::qWaitForWindowActive(&stack)); }
+    SlideOnScreen() { EXPECT_TRUE(Display::activate(stack)); }
 
     // Where the pages meet, read off the colour that page 0 shows in its top right corner or its
     // top left one; -1 once it is gone.
@@ -107,7 +107,7 @@ TEST(IndicatorOnScreen, GoesWhenTheUserClosesIt)
     indicator->resize(150, 150);
     indicator->startAnimation();
     indicator->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(indicator));
+    ASSERT_TRUE(Display::activate(*indicator));
     ASSERT_TRUE(Display::xdotool({"key", "alt+F4"}));
     EXPECT_TRUE(QTest::qWaitFor([&] { return indicator.isNull(); }));
 }
@@ -118,7 +118,7 @@ TEST(IndicatorOnScreen, TurnsOverItsDarkenedParent)
     parent.setPalette(QPalette(Qt::white, Qt::white));
     parent.resize(200, 200);
     parent.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&parent));
+    ASSERT_TRUE(Display::activate(parent));
     QProgressIndicator indicator(&parent);
     indicator.setColor(Qt::red);
     indicator.startAnimation();
@@ -145,7 +145,7 @@ TEST(IndicatorOnScreen, LeavesTheFocusWhereItIs)
     child->setFocusPolicy(Qt::StrongFocus);
     parent.resize(200, 200);
     parent.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&parent));
+    ASSERT_TRUE(Display::activate(parent));
     child->setFocus();
     QProgressIndicator indicator(&parent);
     indicator.startAnimation();
