@@ -113,7 +113,7 @@ QString DigestJob::kdEncode() const
     QString mixed;
     for (int i = 0; i < shorter.size(); ++i)
         mixed += QString(shorter.at(i)) + longer.at(i);
-    mixed += longer.mid(shorter.size());
+    mixed += longer.midRef(shorter.size());
     return QString::fromStdString(MD5().Encode(mixed.toStdString()));
 }
 

@@ -167,6 +167,24 @@ TEST_F(HandlePanelTest, ListsTheHandlesThatHostLibrariesMade)
                                    "0x40001 | 4 (brush) | colour 0x00c0ffee"}));
 }
 
+TEST_F(HandlePanelTest, SaysHowToGetAHandleWhenThereIsNone)
+{
+    QTableView* view = control<QTableView>("Graphics handles");
+    const auto* hint = view->viewport()->findChild<QLabel*>();
+    ASSERT_NE(hint, nullptr);
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_TRUE(hint->text().contains("createImage"));
+    EXPECT_TRUE(view->viewport()->rect().contains(hint->geometry()));
+    EXPECT_GE(hint->height(), hint->heightForWidth(hint->width()));
+    const QImage image = view->viewport()->grab(hint->geometry()).toImage();
+    QImage blank = image;
+    blank.fill(image.pixel(0, 0));
+    EXPECT_NE(image, blank) << "nothing is painted";
+    made(service()->createBrush(1));
+    refresh();
+    EXPECT_FALSE(hint->isVisible());
+}
+
 TEST_F(HandlePanelTest, DoesNotListABrushOfColourZero)
 {
     made(service()->createBrush(0));

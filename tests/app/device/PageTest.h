@@ -61,5 +61,17 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([this] { return !page()->isBusy(); }, 300000));
     }
 
+    /// The size that pages are laid out for; the offscreen platform's own is larger.
+    struct SmallFont
+    {
+        SmallFont()
+        {
+            QFont font = QApplication::font();
+            font.setPointSize(9);
+            QApplication::setFont(font);
+        }
+    };
+
+    SmallFont m_font;
     MainWindow m_window;
 };
