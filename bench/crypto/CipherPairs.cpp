@@ -188,7 +188,7 @@ std::unique_ptr<char[]> peerDecryption(const std::string& passPhrase, std::strin
     int rest = 0;
     EVP_DecryptUpdate(context.get(), out, &length, bytesOf(raw), size);
     EVP_DecryptFinal_ex(context.get(), out + length, &rest);
-    plain[static_cast<std::size_t>(length + rest)] = '\0';
+    out[length + rest] = '\0';
     return plain;
 }
 
