@@ -6,6 +6,7 @@
 
 #include "crypto/AesEncrypt.h"
 
+#include "crypto/RijndaelBitExtraction.h"
 #include "crypto/RijndaelModes.h"
 
 #include <algorithm>
@@ -199,6 +200,9 @@ void AesEncrypt::Encrypt(const char* in, char* out, unsigned long n, int mode)
     if (overlap(in, out, n))
         return encryptInOrder(in, out, n, mode);
     const rijndael::Buffers buffers{in, out, n / static_cast<unsigned long>(m_blockSize)};
+    if (m_blockSize == 16 && mode == CBC && rijndael::hasBitExtraction())
+        return rijndael::cbcEncrypt(
+            rijndael::Cipher<rijndael::ForwardByBitExtraction, 4>(encryption()), buffers, m_chain);
     withCipher<Forward>(m_blockSize, encryption(), [&](const auto& cipher) {
         switch (mode) {
         case CBC: return rijndael::cbcEncrypt(cipher, buffers, m_chain);

@@ -13,8 +13,8 @@ using base64::foreign;
 
 void encodeGroup(const unsigned char* bytes, char* text)
 {
-    const std::uint32_t group = std::uint32_t{bytes[0]} << 16 | std::uint32_t{bytes[1]} << 8 |
-                                std::uint32_t{bytes[2]};
+    const std::uint32_t group =
+        std::uint32_t{bytes[0]} << 16 | std::uint32_t{bytes[1]} << 8 | std::uint32_t{bytes[2]};
     std::memcpy(text, &base64::pairs[group >> 12], 2);
     std::memcpy(text + 2, &base64::pairs[group & 0xfffU], 2);
 }

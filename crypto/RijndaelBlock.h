@@ -50,6 +50,12 @@ constexpr std::size_t shiftOffset(std::size_t columns, std::size_t row)
 /// The encrypting direction: ShiftRows takes its bytes from the columns to the right.
 struct Forward
 {
+    template <int Row>
+    static constexpr Word extract(Word word)
+    {
+        return byteOf<Row>(word);
+    }
+
     static constexpr const RowTables& tables = encryption;
     static constexpr const RowTables& lastTables = lastEncryption;
 
@@ -62,6 +68,12 @@ struct Forward
 /// The decrypting direction: from the columns to the left.
 struct Backward
 {
+    template <int Row>
+    static constexpr Word extract(Word word)
+    {
+        return byteOf<Row>(word);
+    }
+
     static constexpr const RowTables& tables = decryption;
     static constexpr const RowTables& lastTables = lastDecryption;
 
@@ -117,16 +129,24 @@ template <std::size_t Columns>
     return add(a, b.data());
 }
 
+/// What one byte adds to the word in `Column`.
+template <class Direction, std::size_t Column, std::size_t Row, std::size_t Columns>
+[[gnu::always_inline]] inline Word product(const RowTables& tables, const State<Columns>& block)
+{
+    constexpr std::size_t source = Direction::source(Columns, Column, Row);
+    return tables[Row][Direction::template extract<Row>(block[source])];
+}
+
 /// One word of the state after ShiftRows and the look-ups, plus the round key. The second row's
 /// byte takes longest to extract, so its product comes in late.
 template <class Direction, std::size_t Column, std::size_t Columns>
 [[gnu::always_inline]] inline Word mix(const RowTables& tables, const State<Columns>& block,
                                        Word key)
 {
-    const Word early = key ^ tables[3][byteOf<3>(block[Direction::source(Columns, Column, 3)])] ^
-                       tables[0][byteOf<0>(block[Direction::source(Columns, Column, 0)])];
-    const Word late = tables[2][byteOf<2>(block[Direction::source(Columns, Column, 2)])] ^
-                      tables[1][byteOf<1>(block[Direction::source(Columns, Column, 1)])];
+    const Word early = key ^ product<Direction, Column, 3>(tables, block) ^
+                       product<Direction, Column, 0>(tables, block);
+    const Word late =
+        product<Direction, Column, 2>(tables, block) ^ product<Direction, Column, 1>(tables, block);
     return early ^ late;
 }
 
