@@ -134,7 +134,7 @@ TEST_F(WindowOnScreen, AValueIsMadeEditedAndDeletedByKeyboardAlone)
         });
     };
     press({"Down", "Right", "Down"}); // to A/B
-    press({"alt+n", "s"}); // at once: the menu keeps the event loop to itself
+    press({"alt+n", "s"});            // at once: the menu keeps the event loop to itself
     ASSERT_TRUE(dialogIs(true));
     press({"n", "e", "w", "Tab", "Tab", "x", "Tab", "Return"});
     ASSERT_TRUE(dialogIs(false));
