@@ -25,6 +25,14 @@ QSize firstSize(const QWidget& window)
     return screen ? wanted.boundedTo(screen->availableSize() * 0.9) : wanted;
 }
 
+// What the pages need, but no more than the smallest of screens. A minimum of its own keeps a page
+// that is built later from enlarging the window, which start-up has centred by then.
+QSize smallestSize(const QWidget& window)
+{
+    const int unit = window.fontMetrics().height();
+    return QSize(unit * 46, unit * 34).boundedTo({800, 600}).expandedTo(window.minimumSizeHint());
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
@@ -50,7 +58,8 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     connect(m_rail, &PageRail::chosen, this, &MainWindow::choose);
     connect(m_stack, &PageStack::entered, this, &MainWindow::logPage);
     addShortcuts(static_cast<int>(pages.size()));
-    resize(firstSize(*this));
+    setMinimumSize(smallestSize(*this));
+    resize(firstSize(*this).expandedTo(minimumSize()));
 }
 
 void MainWindow::addShortcuts(int pages)

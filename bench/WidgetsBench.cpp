@@ -133,7 +133,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    compareSlide(Comparison(101));
+    compareSlide(Comparison(301));
     compareIndicator(Comparison(501), 1);
     compareIndicator(Comparison(501), 2);
     compareCover(Comparison(101));

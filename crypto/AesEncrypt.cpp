@@ -1,9 +1,17 @@
+// The rounds are limited by chains of look-ups and sums: the sums are to stay in the order that
+// they are written in, and the words in general registers.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC optimize("no-tree-reassoc", "no-tree-slp-vectorize")
+#endif
+
 #include "crypto/AesEncrypt.h"
 
+#include "crypto/RijndaelBitExtraction.h"
 #include "crypto/RijndaelModes.h"
 
 #include <algorithm>
 #include <functional>
+#include <type_traits>
 
 namespace {
 
@@ -32,8 +40,10 @@ void withCipher(int blockSize, const Schedule& schedule, Function function)
 template <class Direction>
 void processBlock(int blockSize, const Schedule& schedule, const char* in, char* out)
 {
-    withCipher<Direction>(blockSize, schedule,
-                          [=](const auto& cipher) { cipher.store(out, cipher(cipher.load(in))); });
+    withCipher<Direction>(blockSize, schedule, [=](const auto& cipher) {
+        constexpr std::size_t columns = std::decay_t<decltype(cipher)>::columns;
+        rijndael::store(out, cipher(rijndael::load<columns>(in), {}));
+    });
 }
 
 Word substituteWord(Word word)
@@ -102,8 +112,10 @@ void AesEncrypt::expandKey(const char* key)
     constexpr int rounds = std::max(KeyWords, Columns) + 6;
     constexpr int total = (rounds + 1) * Columns;
     Word words[KeyWords];
-    for (int i = 0; i < KeyWords; ++i)
-        words[i] = rijndael::loadWord(key + 4 * i);
+    for (Word& word : words) {
+        word = rijndael::loadWord(key);
+        key += sizeof word;
+    }
     for (int placed = 0, group = 0;; ++group) {
         for (int i = 0; i < KeyWords && placed < total; ++i, ++placed)
             m_encryptionKeys[placed / Columns][placed % Columns] = words[i];
@@ -188,6 +200,9 @@ void AesEncrypt::Encrypt(const char* in, char* out, unsigned long n, int mode)
     if (overlap(in, out, n))
         return encryptInOrder(in, out, n, mode);
     const rijndael::Buffers buffers{in, out, n / static_cast<unsigned long>(m_blockSize)};
+    if (m_blockSize == 16 && mode == CBC && rijndael::hasBitExtraction())
+        return rijndael::cbcEncrypt(
+            rijndael::Cipher<rijndael::ForwardByBitExtraction, 4>(encryption()), buffers, m_chain);
     withCipher<Forward>(m_blockSize, encryption(), [&](const auto& cipher) {
         switch (mode) {
         case CBC: return rijndael::cbcEncrypt(cipher, buffers, m_chain);

@@ -13,8 +13,10 @@ using base64::foreign;
 
 void encodeGroup(const unsigned char* bytes, char* text)
 {
-    std::memcpy(text, &base64::pairs[bytes[0] << 4 | bytes[1] >> 4], 2);
-    std::memcpy(text + 2, &base64::pairs[(bytes[1] & 15) << 8 | bytes[2]], 2);
+    const std::uint32_t group =
+        std::uint32_t{bytes[0]} << 16 | std::uint32_t{bytes[1]} << 8 | std::uint32_t{bytes[2]};
+    std::memcpy(text, &base64::pairs[group >> 12], 2);
+    std::memcpy(text + 2, &base64::pairs[group & 0xfffU], 2);
 }
 
 /// One or two bytes left over: filled up with zeros, and as many "=" as bytes are missing.

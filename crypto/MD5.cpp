@@ -70,14 +70,29 @@ void compressWords(md5::State& state, const std::uint32_t* words)
     md5::compress(state, reinterpret_cast<const unsigned char*>(words), 1);
 }
 
+/// How many blocks from here on can be taken as they lie; not more than fit the nearest cache.
+std::size_t plainBlocks(const char* bytes, std::size_t blocks)
+{
+    constexpr std::size_t limit = 64;
+    std::size_t count = 0;
+    while (count < std::min(blocks, limit) && !hasHighBytes(bytes + count * bytesPerBlock))
+        ++count;
+    return count;
+}
+
 /// The blocks that the text fills.
 void compressText(md5::State& state, const char* bytes, std::size_t blocks)
 {
-    for (; blocks != 0; --blocks, bytes += bytesPerBlock) {
-        if (hasHighBytes(bytes))
+    while (blocks != 0) {
+        const std::size_t plain = plainBlocks(bytes, blocks);
+        md5::compress(state, reinterpret_cast<const unsigned char*>(bytes), plain);
+        bytes += plain * bytesPerBlock;
+        blocks -= plain;
+        if (blocks != 0) {
             compressWords(state, loadBlock(bytes).data());
-        else
-            md5::compress(state, reinterpret_cast<const unsigned char*>(bytes), 1);
+            bytes += bytesPerBlock;
+            --blocks;
+        }
     }
 }
 

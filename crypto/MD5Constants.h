@@ -13,7 +13,8 @@ namespace detail {
 constexpr double sine(double x)
 {
     constexpr double turn = 6.283185307179586476925;
-    x -= turn * static_cast<int>(x / turn + 0.5);
+    while (x > turn / 2)
+        x -= turn;
     double term = x;
     double sum = x;
     for (int i = 1; i <= 20; ++i) {

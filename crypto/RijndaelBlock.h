@@ -8,8 +8,9 @@
 #include <cstring>
 #include <utility>
 
-/// One block through the cipher. The number of columns and of rounds are template arguments and the
-/// columns are expanded by fold expressions, so that the compiler keeps the state in registers.
+/// The parts of one block's way through the cipher. The number of columns is a template argument
+/// and the columns are expanded by fold expressions, so that the compiler keeps the state in
+/// registers.
 namespace rijndael {
 
 static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "words are swapped into place");
@@ -49,8 +50,14 @@ constexpr std::size_t shiftOffset(std::size_t columns, std::size_t row)
 /// The encrypting direction: ShiftRows takes its bytes from the columns to the right.
 struct Forward
 {
-    static constexpr const WordTable (&tables)[4] = encryption;
-    static constexpr const ByteTable& lastTable = substitution;
+    template <int Row>
+    static constexpr Word extract(Word word)
+    {
+        return byteOf<Row>(word);
+    }
+
+    static constexpr const RowTables& tables = encryption;
+    static constexpr const RowTables& lastTables = lastEncryption;
 
     static constexpr std::size_t source(std::size_t columns, std::size_t column, std::size_t row)
     {
@@ -61,8 +68,14 @@ struct Forward
 /// The decrypting direction: from the columns to the left.
 struct Backward
 {
-    static constexpr const WordTable (&tables)[4] = decryption;
-    static constexpr const ByteTable& lastTable = inverseSubstitution;
+    template <int Row>
+    static constexpr Word extract(Word word)
+    {
+        return byteOf<Row>(word);
+    }
+
+    static constexpr const RowTables& tables = decryption;
+    static constexpr const RowTables& lastTables = lastDecryption;
 
     static constexpr std::size_t source(std::size_t columns, std::size_t column, std::size_t row)
     {
@@ -70,105 +83,96 @@ struct Backward
     }
 };
 
-template <class Direction, std::size_t Columns>
-class BlockCipher
+template <std::size_t... Column>
+[[gnu::always_inline]] inline State<sizeof...(Column)> load(const char* bytes,
+                                                            std::index_sequence<Column...>)
 {
-public:
-    using Block = State<Columns>;
+    return {loadWord(bytes + 4 * Column)...};
+}
 
-    explicit BlockCipher(const KeyRow* keys) : m_keys(keys) {}
+template <std::size_t Columns>
+[[gnu::always_inline]] inline State<Columns> load(const char* bytes)
+{
+    return load(bytes, std::make_index_sequence<Columns>());
+}
 
-    [[gnu::always_inline]] static Block load(const char* bytes) { return load(bytes, Indices()); }
+template <std::size_t Columns, std::size_t... Column>
+[[gnu::always_inline]] inline void store(char* bytes, const State<Columns>& block,
+                                         std::index_sequence<Column...>)
+{
+    (storeWord(bytes + 4 * Column, block[Column]), ...);
+}
 
-    [[gnu::always_inline]] static void store(char* bytes, const Block& block)
-    {
-        store(bytes, block, Indices());
-    }
+template <std::size_t Columns>
+[[gnu::always_inline]] inline void store(char* bytes, const State<Columns>& block)
+{
+    store(bytes, block, std::make_index_sequence<Columns>());
+}
 
-    [[gnu::always_inline]] static Block add(const Block& a, const Word* b)
-    {
-        return add(a, b, Indices());
-    }
+template <std::size_t Columns, std::size_t... Column>
+[[gnu::always_inline]] inline State<Columns> add(const State<Columns>& a, const Word* b,
+                                                 std::index_sequence<Column...>)
+{
+    return {(a[Column] ^ b[Column])...};
+}
 
-    [[gnu::always_inline]] Block firstKey(const Block& block) const
-    {
-        return add(block, m_keys[0]);
-    }
+/// The sum of two blocks, or of a block and a round key.
+template <std::size_t Columns>
+[[gnu::always_inline]] inline State<Columns> add(const State<Columns>& a, const Word* b)
+{
+    return add(a, b, std::make_index_sequence<Columns>());
+}
 
-    /// A round by tables, with the round key of row `row`.
-    [[gnu::always_inline]] Block tableRound(const Block& block, std::size_t row) const
-    {
-        return tableRound(block, m_keys[row], Indices());
-    }
+template <std::size_t Columns>
+[[gnu::always_inline]] inline State<Columns> add(const State<Columns>& a, const State<Columns>& b)
+{
+    return add(a, b.data());
+}
 
-    /// The last round, which does not mix columns.
-    [[gnu::always_inline]] Block lastRound(const Block& block, std::size_t row) const
-    {
-        return lastRound(block, m_keys[row], Indices());
-    }
+/// What one byte adds to the word in `Column`.
+template <class Direction, std::size_t Column, std::size_t Row, std::size_t Columns>
+[[gnu::always_inline]] inline Word product(const RowTables& tables, const State<Columns>& block)
+{
+    constexpr std::size_t source = Direction::source(Columns, Column, Row);
+    return tables[Row][Direction::template extract<Row>(block[source])];
+}
 
-private:
-    using Indices = std::make_index_sequence<Columns>;
+/// One word of the state after ShiftRows and the look-ups, plus the round key. The second row's
+/// byte takes longest to extract, so its product comes in late.
+template <class Direction, std::size_t Column, std::size_t Columns>
+[[gnu::always_inline]] inline Word mix(const RowTables& tables, const State<Columns>& block,
+                                       Word key)
+{
+    const Word early = key ^ product<Direction, Column, 3>(tables, block) ^
+                       product<Direction, Column, 0>(tables, block);
+    const Word late =
+        product<Direction, Column, 2>(tables, block) ^ product<Direction, Column, 1>(tables, block);
+    return early ^ late;
+}
 
-    template <std::size_t... Column>
-    [[gnu::always_inline]] static Block load(const char* bytes, std::index_sequence<Column...>)
-    {
-        return {loadWord(bytes + 4 * Column)...};
-    }
-
-    template <std::size_t... Column>
-    [[gnu::always_inline]] static void store(char* bytes, const Block& block,
-                                             std::index_sequence<Column...>)
-    {
-        (storeWord(bytes + 4 * Column, block[Column]), ...);
-    }
-
-    template <std::size_t... Column>
-    [[gnu::always_inline]] static Block add(const Block& a, const Word* b,
-                                            std::index_sequence<Column...>)
-    {
-        return {(a[Column] ^ b[Column])...};
-    }
-
-    template <std::size_t Column, int Row>
-    [[gnu::always_inline]] static Byte shifted(const Block& block)
-    {
-        return byteOf<Row>(block[Direction::source(Columns, Column, Row)]);
-    }
-
-    template <std::size_t Column>
-    [[gnu::always_inline]] static Word mixed(const Block& block)
-    {
-        return Direction::tables[0][shifted<Column, 0>(block)] ^
-               Direction::tables[1][shifted<Column, 1>(block)] ^
-               Direction::tables[2][shifted<Column, 2>(block)] ^
-               Direction::tables[3][shifted<Column, 3>(block)];
-    }
-
-    template <std::size_t Column>
-    [[gnu::always_inline]] static Word substituted(const Block& block)
-    {
-        return Word{Direction::lastTable[shifted<Column, 0>(block)]} << 24 |
-               Word{Direction::lastTable[shifted<Column, 1>(block)]} << 16 |
-               Word{Direction::lastTable[shifted<Column, 2>(block)]} << 8 |
-               Word{Direction::lastTable[shifted<Column, 3>(block)]};
-    }
-
-    template <std::size_t... Column>
-    [[gnu::always_inline]] static Block tableRound(const Block& block, const Word* key,
+template <class Direction, std::size_t Columns, std::size_t... Column>
+[[gnu::always_inline]] inline State<Columns> round(const RowTables& tables,
+                                                   const State<Columns>& block, const Word* key,
                                                    std::index_sequence<Column...>)
-    {
-        return {(mixed<Column>(block) ^ key[Column])...};
-    }
+{
+    return {mix<Direction, Column>(tables, block, key[Column])...};
+}
 
-    template <std::size_t... Column>
-    [[gnu::always_inline]] static Block lastRound(const Block& block, const Word* key,
-                                                  std::index_sequence<Column...>)
-    {
-        return {(substituted<Column>(block) ^ key[Column])...};
-    }
+/// A round, by tables of the direction.
+template <class Direction, std::size_t Columns>
+[[gnu::always_inline]] inline State<Columns> round(const State<Columns>& block, const Word* key)
+{
+    return round<Direction>(Direction::tables, block, key, std::make_index_sequence<Columns>());
+}
 
-    const KeyRow* m_keys;
-};
+/// The last round, which does not mix columns. Anything that is to be added to its result can be
+/// added to the key beforehand.
+template <class Direction, std::size_t Columns>
+[[gnu::always_inline]] inline State<Columns> lastRound(const State<Columns>& block,
+                                                       const State<Columns>& key)
+{
+    return round<Direction>(Direction::lastTables, block, key.data(),
+                            std::make_index_sequence<Columns>());
+}
 
 } // namespace rijndael

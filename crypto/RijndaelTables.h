@@ -69,8 +69,9 @@ struct Column
     Byte first, second, third, fourth;
 };
 
-constexpr Column mixColumn{2, 1, 1, 3};
-constexpr Column inverseMixColumn{14, 9, 13, 11};
+inline constexpr Column mixColumn{2, 1, 1, 3};
+inline constexpr Column inverseMixColumn{14, 9, 13, 11};
+inline constexpr Column firstRow{1, 0, 0, 0};
 
 constexpr Word timesColumn(Byte value, const Column& column)
 {
@@ -90,6 +91,15 @@ constexpr WordTable makeProducts(const ByteTable& substitution, const Column& co
     for (std::size_t i = 0; i < table.size(); ++i)
         table[i] = rotateRight(timesColumn(substitution[i], column), 8 * row);
     return table;
+}
+
+using RowTables = std::array<WordTable, 4>;
+
+/// The products for each row of the state.
+constexpr RowTables makeRows(const ByteTable& substitution, const Column& column)
+{
+    return {makeProducts(substitution, column, 0), makeProducts(substitution, column, 1),
+            makeProducts(substitution, column, 2), makeProducts(substitution, column, 3)};
 }
 
 constexpr ByteTable makeIdentity()
@@ -115,22 +125,18 @@ constexpr std::array<Byte, 30> makeRoundConstants()
 inline constexpr ByteTable substitution = makeSubstitution();
 inline constexpr ByteTable inverseSubstitution = invert(substitution);
 
-/// SubBytes and MixColumns in one look-up, for each row of the state.
-inline constexpr WordTable encryption[4] = {
-    makeProducts(substitution, mixColumn, 0), makeProducts(substitution, mixColumn, 1),
-    makeProducts(substitution, mixColumn, 2), makeProducts(substitution, mixColumn, 3)};
+/// SubBytes and MixColumns in one look-up.
+inline constexpr RowTables encryption = makeRows(substitution, mixColumn);
 
-/// Their inverses in one look-up, for each row of the state.
-inline constexpr WordTable decryption[4] = {makeProducts(inverseSubstitution, inverseMixColumn, 0),
-                                            makeProducts(inverseSubstitution, inverseMixColumn, 1),
-                                            makeProducts(inverseSubstitution, inverseMixColumn, 2),
-                                            makeProducts(inverseSubstitution, inverseMixColumn, 3)};
+/// Their inverses in one look-up.
+inline constexpr RowTables decryption = makeRows(inverseSubstitution, inverseMixColumn);
+
+/// The substitutions alone for the last round, already in their rows.
+inline constexpr RowTables lastEncryption = makeRows(substitution, firstRow);
+inline constexpr RowTables lastDecryption = makeRows(inverseSubstitution, firstRow);
 
 /// InvMixColumns alone, for the decryption key schedule.
-inline constexpr WordTable inverseMix[4] = {makeProducts(makeIdentity(), inverseMixColumn, 0),
-                                            makeProducts(makeIdentity(), inverseMixColumn, 1),
-                                            makeProducts(makeIdentity(), inverseMixColumn, 2),
-                                            makeProducts(makeIdentity(), inverseMixColumn, 3)};
+inline constexpr RowTables inverseMix = makeRows(makeIdentity(), inverseMixColumn);
 
 inline constexpr auto roundConstants = makeRoundConstants();
 

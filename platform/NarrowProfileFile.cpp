@@ -20,9 +20,7 @@ constexpr qint64 chunkSize = 16384;
 // The last modification, in the unit in which QSettings compares it; 0 when it cannot be told.
 std::int64_t stampOf(int descriptor)
 {
-    struct stat status
-    {
-    };
+    struct stat status = {};
     if (fstat(descriptor, &status) != 0)
         return 0;
     return status.st_mtim.tv_sec * 1000 + status.st_mtim.tv_nsec / 1000000;

@@ -13,12 +13,13 @@
 /// one. A null section, key, file or buffer gets the failure value, and nothing is written. A file
 /// that cannot be read reads as empty.
 ///
-/// The limits of `QSettings` are those of the wide calls. A section named "General" is one that the
-/// file names otherwise. Values with unquoted commas or semicolons are lists and read as empty
-/// text. Characters beyond the BMP are lost on writing. While another process holds the file's lock
-/// file, a write waits for up to half a minute; one that failed is tried again by the next wide
-/// write to the same file. A file that this process has already read through `QSettings` with
-/// another INI codec keeps the sections read so far as they are.
+/// The limits of `QSettings` are those of the wide calls. The section "General" is "[%General]" in
+/// the file; what stands under "[General]" is out of their reach. A value with an unquoted comma is
+/// a list and reads as empty text; an unquoted semicolon ends a value. Characters beyond the BMP
+/// are dropped on writing. While another process holds the file's lock file, a write waits for up
+/// to half a minute; one that failed is tried again by the next wide write to the same file. A file
+/// that this process has already read through `QSettings` with another INI codec keeps the sections
+/// read so far as they are.
 class PlatformProfileManagerImp : public IPlatformProfileManager
 {
 public:

@@ -25,11 +25,12 @@ class QVariant;
 /// be null, which asks for nothing; arguments that are not mentioned are ignored, and results that
 /// are not mentioned are never written.
 ///
-/// The limits of `QSettings` are those of the registry. A group named "General" is written to an
-/// INI file under another name. Commas and semicolons that somebody else wrote into the file
-/// unquoted make a list, which is no text. With an INI codec set on the store, characters beyond
-/// the BMP are lost on writing. While another process holds the store's lock file, saving waits for
-/// up to half a minute; a save that failed is tried again with the next one.
+/// The limits of `QSettings` are those of the registry. A group named "General" is "[%General]" in
+/// an INI file, and what stands under "[General]" lies at the top of the store. Where somebody else
+/// wrote into the file, an unquoted comma makes a list, which is no text, and an unquoted semicolon
+/// ends the text. With an INI codec set on the store, characters beyond the BMP are dropped on
+/// writing. While another process holds the store's lock file, saving waits for up to half a
+/// minute; a save that failed is tried again with the next one.
 class PlatformRegisterManagerImp : public IPlatformRegisterManager
 {
 public:

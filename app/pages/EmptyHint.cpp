@@ -10,7 +10,9 @@ EmptyHint::EmptyHint(QAbstractItemView* view, const QString& text)
     m_label->setTextFormat(Qt::PlainText);
     m_label->setWordWrap(true);
     m_label->setAlignment(Qt::AlignCenter);
-    m_label->setForegroundRole(QPalette::PlaceholderText);
+    // Not PlaceholderText: where the palette only derives it, its brush has no style and paints
+    // nothing.
+    m_label->setForegroundRole(QPalette::Text);
     m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
     view->viewport()->installEventFilter(this);
     const QAbstractItemModel* model = view->model();

@@ -1,7 +1,13 @@
 #include "app/pages/PageCatalogue.h"
 
 #include "app/pages/Page.h"
+#include "app/pages/crypto/CryptoPage.h"
+#include "app/pages/displays/DisplaysPage.h"
+#include "app/pages/files/FilesPage.h"
+#include "app/pages/fonts/FontsPage.h"
+#include "app/pages/input/InputPage.h"
 #include "app/pages/log/LogPage.h"
+#include "app/pages/profiles/ProfilesPage.h"
 #include "app/pages/registry/RegistryPage.h"
 
 #include <QCoreApplication>
@@ -25,12 +31,14 @@ struct Row
 constexpr Row rows[] = {
     {"registry", QT_TRANSLATE_NOOP("PageCatalogue", "&Registry"), Glyph::Registry,
      &made<RegistryPage>},
-    {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles, &made<Page>},
-    {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<Page>},
-    {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<Page>},
-    {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays, &made<Page>},
-    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<Page>},
-    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<Page>},
+    {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), Glyph::Profiles,
+     &made<ProfilesPage>},
+    {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), Glyph::Files, &made<FilesPage>},
+    {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), Glyph::Fonts, &made<FontsPage>},
+    {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), Glyph::Displays,
+     &made<DisplaysPage>},
+    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), Glyph::Input, &made<InputPage>},
+    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), Glyph::Crypto, &made<CryptoPage>},
     {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), Glyph::Log, &made<LogPage>},
 };
 

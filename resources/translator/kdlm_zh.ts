@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Base64Panel</name>
+    <message>
+        <source>&amp;Text or Base64</source>
+        <translation>文本或 Base64(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Type or paste what is to be converted.</source>
+        <translation>在此输入或粘贴要转换的内容。</translation>
+    </message>
+    <message>
+        <source>Re&amp;sult</source>
+        <translation>结果(&amp;S)</translation>
+    </message>
+    <message>
+        <source>The result appears here.</source>
+        <translation>结果显示在此处。</translation>
+    </message>
+    <message>
+        <source>E&amp;ncode</source>
+        <translation>编码(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Base64Encoder::Encode: URL-safe, with padding</source>
+        <translation>Base64Encoder::Encode：URL 安全，带填充</translation>
+    </message>
+    <message>
+        <source>Decode</source>
+        <translation>解码</translation>
+    </message>
+    <message>
+        <source>Base64Encoder::Decode: URL-safe only, up to the first other character</source>
+        <translation>Base64Encoder::Decode：仅限 URL 安全字母表，遇到其他字符即停止</translation>
+    </message>
+    <message>
+        <source>Make &amp;URL-safe</source>
+        <translation>转为 URL 安全(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Base64Encoder::UrlEncode: standard Base64 to URL-safe without padding</source>
+        <translation>Base64Encoder::UrlEncode：将标准 Base64 转为不带填充的 URL 安全形式</translation>
+    </message>
+    <message>
+        <source>Enter a text first.</source>
+        <translation>请先输入文本。</translation>
+    </message>
+    <message>
+        <source>The text is too long: at most %1 are taken.</source>
+        <translation>文本过长：最多接受 %1。</translation>
+    </message>
+    <message>
+        <source>Bytes encoded: %L1.</source>
+        <translation>已编码 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>This is no URL-safe Base64: the library decodes nothing of it.</source>
+        <translation>这不是 URL 安全的 Base64：库解码不出任何内容。</translation>
+    </message>
+    <message>
+        <source>The library stops at character %L1 and ignores what follows.</source>
+        <translation>库在第 %L1 个字符处停止，其后的内容被忽略。</translation>
+    </message>
+    <message>
+        <source>Bytes decoded: %L1.</source>
+        <translation>已解码 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>They are no text; shown in hexadecimal.</source>
+        <translation>内容不是文本，以十六进制显示。</translation>
+    </message>
+    <message>
+        <source>Made URL-safe, without padding.</source>
+        <translation>已转为 URL 安全形式，不带填充。</translation>
+    </message>
+</context>
+<context>
     <name>BusyOverlay</name>
     <message>
         <source>Cancel</source>
@@ -10,6 +85,470 @@
     <message>
         <source>Work in progress</source>
         <translation>正在处理</translation>
+    </message>
+</context>
+<context>
+    <name>CipherPanel</name>
+    <message>
+        <source>Clear te&amp;xt</source>
+        <translation>明文(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Type or paste a text to encrypt.</source>
+        <translation>在此输入或粘贴要加密的文本。</translation>
+    </message>
+    <message>
+        <source>Base64 of the cip&amp;her text</source>
+        <translation>密文的 Base64(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Paste what a host library has encrypted.</source>
+        <translation>在此粘贴主机库加密后的内容。</translation>
+    </message>
+    <message>
+        <source>E&amp;ncrypt</source>
+        <translation>加密(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Decryp&amp;t</source>
+        <translation>解密(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Encrypt</source>
+        <translation>加密</translation>
+    </message>
+    <message>
+        <source>Decrypt</source>
+        <translation>解密</translation>
+    </message>
+    <message>
+        <source>The text is too long: at most %1 are taken.</source>
+        <translation>文本过长：最多接受 %1。</translation>
+    </message>
+    <message>
+        <source>Bytes encrypted: %L1.</source>
+        <translation>已加密 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>DecryptionAES_Export cannot give this text back: its result holds at most %L1 bytes.</source>
+        <translation>DecryptionAES_Export 无法还原此文本：其结果最多容纳 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>Enter the cipher text first.</source>
+        <translation>请先输入密文。</translation>
+    </message>
+    <message>
+        <source>This is no URL-safe Base64: the library decodes nothing of it.</source>
+        <translation>这不是 URL 安全的 Base64：库解码不出任何内容。</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 characters are Base64; the library ignores what follows.</source>
+        <translation>只有前 %L1 个字符是 Base64，其后的内容被库忽略。</translation>
+    </message>
+    <message>
+        <source>DecryptionAES_Export gives null: its result holds at most %L1 bytes. This is what Encrypt::DecryptionAES gives.</source>
+        <translation>DecryptionAES_Export 返回空指针：其结果最多容纳 %L1 字节。此处显示的是 Encrypt::DecryptionAES 的结果。</translation>
+    </message>
+    <message>
+        <source>Wrong pass phrase, or damaged cipher text:</source>
+        <translation>密码短语错误，或密文已损坏：</translation>
+    </message>
+    <message>
+        <source>Wrong key or IV, or damaged cipher text:</source>
+        <translation>密钥或初始向量错误，或密文已损坏：</translation>
+    </message>
+    <message>
+        <source>the padding does not match, and the library gets an empty text.</source>
+        <translation>填充不匹配，库得到的是空文本。</translation>
+    </message>
+    <message>
+        <source>there is no padding, and the library gets these bytes as they are.</source>
+        <translation>没有填充，库原样得到这些字节。</translation>
+    </message>
+    <message>
+        <source>Damaged cipher text: %L1 bytes are not whole blocks of 16. The library gets them undecrypted.</source>
+        <translation>密文已损坏：%L1 字节不是 16 字节的整数倍。库得到的是未经解密的字节。</translation>
+    </message>
+    <message>
+        <source>the clear text is not valid UTF-8.</source>
+        <translation>明文不是有效的 UTF-8。</translation>
+    </message>
+    <message>
+        <source>Bytes decrypted: %L1.</source>
+        <translation>已解密 %L1 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>CopyButton</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy: %1</source>
+        <translation>复制：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoPage</name>
+    <message>
+        <source>Kinds of work</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption</source>
+        <translation>加密与解密(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Di&amp;gests</source>
+        <translation>摘要(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Base64</source>
+        <translation>Base64(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Digesting</source>
+        <translation>正在计算摘要</translation>
+    </message>
+</context>
+<context>
+    <name>CursorPanel</name>
+    <message>
+        <source>Arrow</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>等待</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>忙碌</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>十字</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>手形</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Forbidden</source>
+        <translation>禁止</translation>
+    </message>
+    <message>
+        <source>shape %1</source>
+        <translation>形状 %1</translation>
+    </message>
+    <message>
+        <source>Pointer and cursor</source>
+        <translation>指针与光标</translation>
+    </message>
+    <message>
+        <source>GetCursorPos, on the screen:</source>
+        <translation>GetCursorPos（屏幕坐标）：</translation>
+    </message>
+    <message>
+        <source>ScreenToClient, in this window:</source>
+        <translation>ScreenToClient（窗口坐标）：</translation>
+    </message>
+    <message>
+        <source>GetCursor, override cursor:</source>
+        <translation>GetCursor（覆盖光标）：</translation>
+    </message>
+    <message>
+        <source>Each SetCursor adds a level to the stack of cursors, and the service never takes one away.</source>
+        <translation>每次 SetCursor 都会在光标栈上增加一层，而服务从不移除任何一层。</translation>
+    </message>
+    <message>
+        <source>Shape of the cursor</source>
+        <translation>光标形状</translation>
+    </message>
+    <message>
+        <source>S&amp;etCursor</source>
+        <translation>SetCursor(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ke back</source>
+        <translation>撤回(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Takes away the levels added here, past the service, which cannot.</source>
+        <translation>绕过服务移除在此处增加的各层；服务本身做不到。</translation>
+    </message>
+    <message>
+        <source>SetCursor with null changes nothing.</source>
+        <translation>以空指针调用 SetCursor 不会有任何变化。</translation>
+    </message>
+    <message>
+        <source>Levels added from here: %1.</source>
+        <translation>在此处增加的层数：%1。</translation>
+    </message>
+    <message>
+        <source>null: none is set</source>
+        <translation>空：未设置</translation>
+    </message>
+</context>
+<context>
+    <name>DigestJob</name>
+    <message>
+        <source>MD5 padding: %L1 blocks left</source>
+        <translation>MD5 填充：还剩 %L1 块</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>DigestPanel</name>
+    <message>
+        <source>it holds bytes of 0x80 or above</source>
+        <translation>含有 0x80 及以上的字节</translation>
+    </message>
+    <message>
+        <source>its length modulo 64 is 57 to 63</source>
+        <translation>长度除以 64 的余数为 57 至 63</translation>
+    </message>
+    <message>
+        <source>it is 512 MiB long or longer</source>
+        <translation>长度达到或超过 512 MiB</translation>
+    </message>
+    <message>
+        <source>The library&apos;s MD5 departs from RFC 1321 here, which gives %1, because of the text: %2.</source>
+        <translation>此处库的 MD5 与 RFC 1321 不同，后者的结果为 %1。原因在于文本：%2。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between reasons</comment>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>Sha256Encode and KdEncode read only the %L1 bytes before the first zero byte.</source>
+        <translation>Sha256Encode 和 KdEncode 只读取第一个零字节之前的 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>SHA-256 and the fingerprint of an empty text are empty.</source>
+        <translation>空文本的 SHA-256 和指纹均为空。</translation>
+    </message>
+    <message>
+        <source>Second text of KdEncode</source>
+        <translation>KdEncode 的第二个文本</translation>
+    </message>
+    <message>
+        <source>&amp;Second text of KdEncode:</source>
+        <translation>KdEncode 的第二个文本(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Digest &amp;now</source>
+        <translation>计算摘要(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Sha256::getHexMessageDigest</source>
+        <translation>Sha256::getHexMessageDigest</translation>
+    </message>
+    <message>
+        <source>Encrypt::Sha256Encode: the digest in URL-safe Base64</source>
+        <translation>Encrypt::Sha256Encode：URL 安全 Base64 形式的摘要</translation>
+    </message>
+    <message>
+        <source>MD5::Encode</source>
+        <translation>MD5::Encode</translation>
+    </message>
+    <message>
+        <source>Encrypt::KdEncode of the text and the second text</source>
+        <translation>对文本与第二个文本调用 Encrypt::KdEncode</translation>
+    </message>
+    <message>
+        <source>Choose a text or a file, then Digest now.</source>
+        <translation>选择文本或文件，然后点击“计算摘要”。</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Cancelled. The results shown are older.</source>
+        <translation>已取消。所显示的仍是先前的结果。</translation>
+    </message>
+    <message>
+        <source>%1 could not be read to its end: %2</source>
+        <translation>无法完整读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>Results for %1</source>
+        <translation>%1 的结果</translation>
+    </message>
+    <message>
+        <source>Bytes digested: %L1.</source>
+        <translation>已计算 %L1 字节的摘要。</translation>
+    </message>
+</context>
+<context>
+    <name>DigestSource</name>
+    <message>
+        <source>Of a te&amp;xt</source>
+        <translation>文本(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Of &amp;a file</source>
+        <translation>文件(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Type or paste a text, or drop a file here.</source>
+        <translation>在此输入或粘贴文本，或将文件拖放到此处。</translation>
+    </message>
+    <message>
+        <source>Path of the file</source>
+        <translation>文件路径</translation>
+    </message>
+    <message>
+        <source>Path of a file; drop one here or browse for it.</source>
+        <translation>文件路径；可拖放到此处，也可浏览选择。</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>浏览(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>the text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Enter the path of a file first.</source>
+        <translation>请先输入文件路径。</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>文件 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>DisplaysPage</name>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>&amp;Monitors</source>
+        <translation>显示器(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;System metrics</source>
+        <translation>系统度量(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Graphics handles</source>
+        <translation>图形句柄(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Looking for handles</source>
+        <translation>正在查找句柄</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 numbers</source>
+        <translation>%L1 / %L2 个编号</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
+    <message>
+        <source>Type a pattern first, such as /etc/*.conf.</source>
+        <translation>请先输入搜索模式，例如 /etc/*.conf。</translation>
+    </message>
+    <message>
+        <source>The service finds nothing for a pattern without a directory, whatever the working directory holds. Put one before it, such as ./%1.</source>
+        <translation>模式中没有目录时，无论工作目录里有什么，服务都找不到任何内容。请在前面加上目录，例如 ./%1。</translation>
+    </message>
+    <message>
+        <source>Type a pattern, such as /etc/*.conf, and press Enter: here stands what findFirstFile and findNextFile report.</source>
+        <translation>输入搜索模式（例如 /etc/*.conf）并按回车键，这里会列出 findFirstFile 和 findNextFile 报告的内容。</translation>
+    </message>
+    <message>
+        <source>Search pattern</source>
+        <translation>搜索模式</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ttern:</source>
+        <translation>模式(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Choose a folder to search</source>
+        <translation>选择要搜索的文件夹</translation>
+    </message>
+    <message>
+        <source>Fi&amp;nd</source>
+        <translation>查找(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Found entries</source>
+        <translation>找到的条目</translation>
+    </message>
+    <message>
+        <source>Folder to search</source>
+        <translation>要搜索的文件夹</translation>
+    </message>
+    <message>
+        <source>Searching %1</source>
+        <translation>正在搜索 %1</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>已找到 %1 项</translation>
+    </message>
+    <message>
+        <source>The service finds nothing for %1.</source>
+        <translation>服务找不到与 %1 匹配的内容。</translation>
+    </message>
+    <message>
+        <source>Nothing found for %1.</source>
+        <translation>没有找到与 %1 匹配的内容。</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 found so far.</source>
+        <translation>已停止：目前找到 %1 项。</translation>
+    </message>
+    <message>
+        <source>%1 found. Size and times are reported for the first one only, and only if it is a file.</source>
+        <translation>找到 %1 项。只有第一项带有大小和时间，而且仅当它是文件时才有。</translation>
     </message>
 </context>
 <context>
@@ -45,6 +584,312 @@
     <message>
         <source>&amp;Values</source>
         <translation>值(&amp;V)</translation>
+    </message>
+</context>
+<context>
+    <name>FindWindowPanel</name>
+    <message>
+        <source>%1, title “%2”, at 0x%3</source>
+        <translation>%1，标题“%2”，地址 0x%3</translation>
+    </message>
+    <message>
+        <source>Class na&amp;me:</source>
+        <translation>类名(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>&amp;Window name:</source>
+        <translation>窗口名(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>Find &amp;now</source>
+        <translation>立即查找(&amp;N)</translation>
+    </message>
+    <message>
+        <source>With a class name, the window name is not looked at. Without both, the first window is found.</source>
+        <translation>给出类名时不再看窗口名；两者都为空时返回第一个窗口。</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>null: no window was found</source>
+        <translation>空：未找到窗口</translation>
+    </message>
+    <message>
+        <source>A window was found.</source>
+        <translation>已找到窗口。</translation>
+    </message>
+    <message>
+        <source>No window was found. Names must match exactly, upper and lower case included.</source>
+        <translation>未找到窗口。名称必须完全一致，区分大小写。</translation>
+    </message>
+</context>
+<context>
+    <name>FontRecordsModel</name>
+    <message>
+        <source>(not installed on this system)</source>
+        <translation>（本系统未安装）</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>字体族</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>Character set</source>
+        <translation>字符集</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+</context>
+<context>
+    <name>FontsPage</name>
+    <message>
+        <source>Global name</source>
+        <translation>全局名称</translation>
+    </message>
+    <message>
+        <source>Family to show</source>
+        <translation>要显示的字体族</translation>
+    </message>
+    <message>
+        <source>All families</source>
+        <translation>所有字体族</translation>
+    </message>
+    <message>
+        <source>Famil&amp;y:</source>
+        <translation>字体族(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>Character set to show</source>
+        <translation>要显示的字符集</translation>
+    </message>
+    <message>
+        <source>All character sets</source>
+        <translation>所有字符集</translation>
+    </message>
+    <message>
+        <source>Re&amp;gister the system&apos;s fonts</source>
+        <translation>注册系统字体(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Registered fonts</source>
+        <translation>已注册的字体</translation>
+    </message>
+    <message>
+        <source>Local name</source>
+        <translation>本地名称</translation>
+    </message>
+    <message>
+        <source>A face name, exactly as registered</source>
+        <translation>字体名称，须与注册时完全一致</translation>
+    </message>
+    <message>
+        <source>Name mapping</source>
+        <translation>名称映射</translation>
+    </message>
+    <message>
+        <source>Loc&amp;al name:</source>
+        <translation>本地名称(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Global name:</source>
+        <translation>全局名称：</translation>
+    </message>
+    <message>
+        <source>No font is registered. Host libraries register theirs when they start; the button above registers those of this system.</source>
+        <translation>尚未注册任何字体。主机库会在启动时注册自己的字体；使用上方的按钮可以注册本系统的字体。</translation>
+    </message>
+    <message>
+        <source>The service reports no record of this family and character set. Names are compared exactly, upper and lower case included.</source>
+        <translation>服务没有报告此字体族和字符集的记录。名称须完全一致，包括大小写。</translation>
+    </message>
+    <message>
+        <source>%1 records</source>
+        <translation>%1 条记录</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Registering the system&apos;s fonts</source>
+        <translation>正在注册系统字体</translation>
+    </message>
+    <message>
+        <source>%1 families left</source>
+        <translation>还剩 %1 个字体族</translation>
+    </message>
+    <message>
+        <source>All families were registered before.</source>
+        <translation>所有字体族此前均已注册。</translation>
+    </message>
+    <message>
+        <source>Registered: %1 records of %2 families.</source>
+        <translation>已注册 %2 个字体族的 %1 条记录。</translation>
+    </message>
+    <message>
+        <source>Stopped. %1</source>
+        <translation>已停止。%1</translation>
+    </message>
+    <message>
+        <source>Left out, because their names do not fit a record: %1.</source>
+        <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>FoundEntriesModel</name>
+    <message>
+        <source>The service has not written this field: a caller finds in it what its record held before the call.</source>
+        <translation>服务没有写入这个字段：调用者看到的是其记录在调用之前的内容。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Last written</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Last accessed</source>
+        <translation>访问时间</translation>
+    </message>
+</context>
+<context>
+    <name>HandleModel</name>
+    <message>
+        <source>Handle</source>
+        <translation>句柄</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>image</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>cursor image</source>
+        <translation>光标图像</translation>
+    </message>
+    <message>
+        <source>brush</source>
+        <translation>画刷</translation>
+    </message>
+    <message>
+        <source>colour 0x%1</source>
+        <translation>颜色 0x%1</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <translation>位于 %1</translation>
+    </message>
+    <message>
+        <source>%1 × %2, %3 bits a pixel, format %4</source>
+        <translation>%1 × %2，每像素 %3 位，格式 %4</translation>
+    </message>
+</context>
+<context>
+    <name>HandlePanel</name>
+    <message>
+        <source>A brush of colour 0 is not listed: the service answers for it as for a free number.</source>
+        <translation>颜色为 0 的画刷不会列出：服务对它的回答与空闲编号相同。</translation>
+    </message>
+    <message>
+        <source>Graphics handles</source>
+        <translation>图形句柄</translation>
+    </message>
+    <message>
+        <source>Delete handle</source>
+        <translation>删除句柄</translation>
+    </message>
+    <message>
+        <source>No graphics handle is alive. Host libraries make them with createImage and createBrush; below you can do the same.</source>
+        <translation>当前没有图形句柄。主机库用 createImage 和 createBrush 创建句柄，您也可以在下方创建。</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>&amp;New image</source>
+        <translation>新建图像(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Colour of a brush, in hexadecimal</source>
+        <translation>画刷颜色（十六进制）</translation>
+    </message>
+    <message>
+        <source>New &amp;brush</source>
+        <translation>新建画刷(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Dele&amp;te...</source>
+        <translation>删除(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Cancelled after %L1 of %L2 numbers; the list is not complete.</source>
+        <translation>已取消，仅查看了 %L2 个编号中的 %L1 个；列表不完整。</translation>
+    </message>
+    <message>
+        <source>The colour must be a hexadecimal number of up to 8 digits, such as 0x0000FF.</source>
+        <translation>颜色必须是不超过 8 位的十六进制数，例如 0x0000FF。</translation>
+    </message>
+    <message>
+        <source>Made handle 0x%1.</source>
+        <translation>已创建句柄 0x%1。</translation>
+    </message>
+    <message>
+        <source>The service made no handle: all 65,535 numbers are taken.</source>
+        <translation>服务未能创建句柄：65,535 个编号均已占用。</translation>
+    </message>
+    <message>
+        <source>Choose a handle first.</source>
+        <translation>请先选择句柄。</translation>
+    </message>
+    <message>
+        <source>Delete the handle %1? A host library that still uses it will find nothing there.</source>
+        <translation>要删除句柄 %1 吗？仍在使用它的主机库将找不到任何对象。</translation>
+    </message>
+    <message>
+        <source>Deleted handle %1.</source>
+        <translation>已删除句柄 %1。</translation>
     </message>
 </context>
 <context>
@@ -188,6 +1033,226 @@
     </message>
 </context>
 <context>
+    <name>KeyInput</name>
+    <message>
+        <source>&amp;Under a pass phrase, as DecryptionAES_Export does</source>
+        <translation>使用密码短语，与 DecryptionAES_Export 相同(&amp;U)</translation>
+    </message>
+    <message>
+        <source>With &amp;key and IV</source>
+        <translation>使用密钥和初始向量(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Pass phra&amp;se:</source>
+        <translation>密码短语(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Written in hexadecimal</source>
+        <translation>以十六进制书写(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Ke&amp;y:</source>
+        <translation>密钥(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>I&amp;V:</source>
+        <translation>初始向量(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 / %2 字节</translation>
+    </message>
+    <message>
+        <source>The key is not hexadecimal: pairs of 0-9 and a-f are needed.</source>
+        <translation>密钥不是十六进制：需要成对的 0-9 和 a-f。</translation>
+    </message>
+    <message>
+        <source>The IV is not hexadecimal: pairs of 0-9 and a-f are needed.</source>
+        <translation>初始向量不是十六进制：需要成对的 0-9 和 a-f。</translation>
+    </message>
+    <message>
+        <source>The key is too short: the cipher takes %1 bytes.</source>
+        <translation>密钥过短：该密码算法需要 %1 字节。</translation>
+    </message>
+    <message>
+        <source>The IV is too short: the cipher takes %1 bytes.</source>
+        <translation>初始向量过短：该密码算法需要 %1 字节。</translation>
+    </message>
+    <message>
+        <source>Enter the pass phrase first.</source>
+        <translation>请先输入密码短语。</translation>
+    </message>
+</context>
+<context>
+    <name>KeyLamp</name>
+    <message>
+        <source>down</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>弹起</translation>
+    </message>
+</context>
+<context>
+    <name>KeyPanel</name>
+    <message>
+        <source>Key states</source>
+        <translation>按键状态</translation>
+    </message>
+    <message>
+        <source>Unknown to the service, as every other code: these always read as up.</source>
+        <translation>服务不识别的键，其他代码亦同：始终读作弹起。</translation>
+    </message>
+    <message>
+        <source>Report with setKeyPressed:</source>
+        <translation>用 setKeyPressed 上报：</translation>
+    </message>
+    <message>
+        <source>Re&amp;turn down</source>
+        <translation>Return 按下(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Space down</source>
+        <translation>Space 按下(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Code of a virtual key</source>
+        <translation>虚拟键代码</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>An&amp;y code:</source>
+        <translation>任意代码(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>弹起</translation>
+    </message>
+    <message>
+        <source>always up</source>
+        <translation>始终弹起</translation>
+    </message>
+    <message>
+        <source>getKeyState answers %1: %2</source>
+        <translation>getKeyState 返回 %1：%2</translation>
+    </message>
+    <message>
+        <source>Known to the service, as of the last event from keyboard or mouse. Left and right cannot be told apart, and no toggle state is told:</source>
+        <translation>服务能识别的键，状态以最近一次键盘或鼠标事件为准。左右键无法区分，也不提供切换状态：</translation>
+    </message>
+</context>
+<context>
+    <name>LineStateText</name>
+    <message>
+        <source>blank</source>
+        <translation>空行</translation>
+    </message>
+    <message>
+        <source>header</source>
+        <translation>节标题</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>comment</source>
+        <translation>注释</translation>
+    </message>
+    <message>
+        <source>no “=”</source>
+        <translation>没有“=”</translation>
+    </message>
+    <message>
+        <source>two “=”</source>
+        <translation>多个“=”</translation>
+    </message>
+    <message>
+        <source>no section</source>
+        <translation>不属于任何节</translation>
+    </message>
+    <message>
+        <source>replaced</source>
+        <translation>被替换</translation>
+    </message>
+    <message>
+        <source>overwritten</source>
+        <translation>被覆盖</translation>
+    </message>
+    <message>
+        <source>unreachable</source>
+        <translation>无法访问</translation>
+    </message>
+    <message>
+        <source>continued</source>
+        <translation>续行</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>找不到</translation>
+    </message>
+    <message>
+        <source>Blank: skipped.</source>
+        <translation>空行：跳过。</translation>
+    </message>
+    <message>
+        <source>Kept: begins a section.</source>
+        <translation>保留：开始一个节。</translation>
+    </message>
+    <message>
+        <source>Kept: the family finds this entry.</source>
+        <translation>保留：该接口能找到此条目。</translation>
+    </message>
+    <message>
+        <source>Dropped. The narrow family has no comments: one with exactly one “=” would be an entry.</source>
+        <translation>丢弃。窄字符接口没有注释语法：若注释中恰好有一个“=”，就会被当作条目。</translation>
+    </message>
+    <message>
+        <source>Dropped: a comment.</source>
+        <translation>丢弃：注释。</translation>
+    </message>
+    <message>
+        <source>Dropped: no “=”.</source>
+        <translation>丢弃：没有“=”。</translation>
+    </message>
+    <message>
+        <source>Dropped: more than one “=”.</source>
+        <translation>丢弃：有多个“=”。</translation>
+    </message>
+    <message>
+        <source>Dropped: stands before the first header, in no section.</source>
+        <translation>丢弃：位于第一个节标题之前，不属于任何节。</translation>
+    </message>
+    <message>
+        <source>Dropped: a later section with the same header replaces this one.</source>
+        <translation>丢弃：后面有相同标题的节取代了本节。</translation>
+    </message>
+    <message>
+        <source>Dropped: the same key comes again later in the section.</source>
+        <translation>丢弃：同一节的后面又出现了相同的键。</translation>
+    </message>
+    <message>
+        <source>Kept in the file, but the header does not end with “]”, so that no section name leads to it.</source>
+        <translation>保留在文件中，但节标题不以“]”结尾，因此没有任何节名可以访问它。</translation>
+    </message>
+    <message>
+        <source>Part of the line above.</source>
+        <translation>属于上一行。</translation>
+    </message>
+    <message>
+        <source>An entry, but the family does not find it under its name.</source>
+        <translation>是条目，但该接口按其名称找不到它。</translation>
+    </message>
+</context>
+<context>
     <name>LogModel</name>
     <message>
         <source>Debug</source>
@@ -310,10 +1375,113 @@
     </message>
 </context>
 <context>
+    <name>LostLinesDialog</name>
+    <message>
+        <source>Lines that would be lost</source>
+        <translation>将会丢失的行</translation>
+    </message>
+    <message>
+        <source>%1 (%2): %3</source>
+        <translation>%1（%2）：%3</translation>
+    </message>
+    <message>
+        <source>The narrow family writes the whole file anew, sorted, and only what it has kept. These lines would be lost:</source>
+        <translation>窄字符接口会按排序重写整个文件，且只写入它保留的内容。以下各行将会丢失：</translation>
+    </message>
+    <message>
+        <source>The wide family writes the whole file anew, and only what it has kept. These lines would be lost:</source>
+        <translation>宽字符接口会重写整个文件，且只写入它保留的内容。以下各行将会丢失：</translation>
+    </message>
+    <message>
+        <source>&amp;Write all the same</source>
+        <translation>仍然写入(&amp;W)</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Quayside</source>
         <translation>Quayside</translation>
+    </message>
+</context>
+<context>
+    <name>MetricsPanel</name>
+    <message>
+        <source>Index</source>
+        <translation>索引</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>System metrics</source>
+        <translation>系统度量</translation>
+    </message>
+    <message>
+        <source>Index of a metric</source>
+        <translation>度量索引</translation>
+    </message>
+    <message>
+        <source>&amp;Any index:</source>
+        <translation>任意索引(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>0 (not provided)</source>
+        <translation>0（未提供）</translation>
+    </message>
+    <message>
+        <source>GetSystemMetrics answers %1</source>
+        <translation>GetSystemMetrics 返回 %1</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorList</name>
+    <message>
+        <source>Monitor %1</source>
+        <translation>显示器 %1</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMap</name>
+    <message>
+        <source>Map of the monitors</source>
+        <translation>显示器布局图</translation>
+    </message>
+    <message>
+        <source>Click to choose a point, or move it with the arrow keys: 20 pixels, with Ctrl 200, with Shift 1. Home takes the pointer&apos;s position.</source>
+        <translation>单击以选择一点，或用方向键移动：每次 20 像素，按住 Ctrl 为 200，按住 Shift 为 1。Home 键取指针位置。</translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation>主显示器</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTable</name>
+    <message>
+        <source>Monitor</source>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>Handle</source>
+        <translation>句柄</translation>
+    </message>
+    <message>
+        <source>Left, top, right, bottom. Right and bottom are the last pixel inside, so that right - left is the width less one.</source>
+        <translation>左、上、右、下。右和下是区域内的最后一个像素，因此右减左等于宽度减一。</translation>
+    </message>
+    <message>
+        <source>Monitors</source>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>%1 (primary)</source>
+        <translation>%1（主）</translation>
     </message>
 </context>
 <context>
@@ -389,6 +1557,369 @@
     <message>
         <source>Copy path</source>
         <translation>复制路径</translation>
+    </message>
+</context>
+<context>
+    <name>PathPanel</name>
+    <message>
+        <source>One path</source>
+        <translation>单个路径</translation>
+    </message>
+    <message>
+        <source>Pat&amp;h:</source>
+        <translation>路径(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>A path or an address to ask the service about</source>
+        <translation>要向服务查询的路径或网址</translation>
+    </message>
+    <message>
+        <source>Seen fro&amp;m:</source>
+        <translation>起始目录(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>The directory that the relative path starts at</source>
+        <translation>相对路径的起始目录</translation>
+    </message>
+    <message>
+        <source>Exists, ignoring case:</source>
+        <translation>存在（忽略大小写）：</translation>
+    </message>
+    <message>
+        <source>Attributes:</source>
+        <translation>属性：</translation>
+    </message>
+    <message>
+        <source>Relative path:</source>
+        <translation>相对路径：</translation>
+    </message>
+    <message>
+        <source>Extension:</source>
+        <translation>扩展名：</translation>
+    </message>
+    <message>
+        <source>Temporary folder:</source>
+        <translation>临时文件夹：</translation>
+    </message>
+    <message>
+        <source>Is a URL:</source>
+        <translation>是 URL：</translation>
+    </message>
+    <message>
+        <source>Yes: %1</source>
+        <translation>是：%1</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>%1 (as for all that is missing)</source>
+        <translation>%1（不存在的路径也是如此）</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+</context>
+<context>
+    <name>PointPanel</name>
+    <message>
+        <source>Pointer</source>
+        <translation>指针</translation>
+    </message>
+    <message>
+        <source>Pointer:</source>
+        <translation>指针：</translation>
+    </message>
+    <message>
+        <source>Point &amp;X:</source>
+        <translation>点 X(&amp;X)：</translation>
+    </message>
+    <message>
+        <source>Point &amp;Y:</source>
+        <translation>点 Y(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>The monitor that holds the point, else null.</source>
+        <translation>包含该点的显示器，否则为空。</translation>
+    </message>
+    <message>
+        <source>The monitor that holds the point, else the primary one.</source>
+        <translation>包含该点的显示器，否则为主显示器。</translation>
+    </message>
+    <message>
+        <source>The monitor that holds the point, else the one with the nearest edge line; edge lines go on beyond the corners.</source>
+        <translation>包含该点的显示器，否则为边线最近的显示器；边线延伸到角之外。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileDocument</name>
+    <message>
+        <source>%1 is a folder.</source>
+        <translation>%1 是文件夹。</translation>
+    </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>文件夹 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>%1 is larger than 512 KiB: not a profile.</source>
+        <translation>%1 超过 512 KiB，不是配置文件。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileEditPanel</name>
+    <message>
+        <source>Change or add a value</source>
+        <translation>修改或添加值</translation>
+    </message>
+    <message>
+        <source>&amp;Section:</source>
+        <translation>节(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation>键(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>值(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>Family to write through</source>
+        <translation>用于写入的接口</translation>
+    </message>
+    <message>
+        <source>Wide family</source>
+        <translation>宽字符接口</translation>
+    </message>
+    <message>
+        <source>Narrow family</source>
+        <translation>窄字符接口</translation>
+    </message>
+    <message>
+        <source>Thro&amp;ugh:</source>
+        <translation>通过(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>写入(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Keep a &amp;backup copy</source>
+        <translation>保留备份(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Copies the file beside itself, as .bak, before it is written.</source>
+        <translation>写入之前在文件旁复制一份 .bak 备份。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLinesModel</name>
+    <message>
+        <source>Narrow: %1
+Wide: %2</source>
+        <translation>窄字符：%1
+宽字符：%2</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <comment>number of a line</comment>
+        <translation>行号</translation>
+    </message>
+    <message>
+        <source>Narrow</source>
+        <translation>窄字符</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>宽字符</translation>
+    </message>
+    <message>
+        <source>Line (raw)</source>
+        <translation>行（原始内容）</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileReadingsModel</name>
+    <message>
+        <source>(no name)</source>
+        <translation>（无名称）</translation>
+    </message>
+    <message>
+        <source>(not found)</source>
+        <translation>（找不到）</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>（空）</translation>
+    </message>
+    <message>
+        <source>The families read different values.</source>
+        <translation>两种接口读到的值不同。</translation>
+    </message>
+    <message>
+        <source>The families read the same value.</source>
+        <translation>两种接口读到的值相同。</translation>
+    </message>
+    <message>
+        <source>Empty: the narrow family answers this for missing values too.</source>
+        <translation>空：值不存在时窄字符接口也返回空。</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>节</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Wide reading</source>
+        <translation>宽字符读取</translation>
+    </message>
+    <message>
+        <source>Narrow reading</source>
+        <translation>窄字符读取</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileWriter</name>
+    <message>
+        <source>Type a key first.</source>
+        <translation>请先输入键。</translation>
+    </message>
+    <message>
+        <source>Type a section first.</source>
+        <translation>请先输入节。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>Nothing written: the narrow family would not read this back. A line with more than one “=” is dropped, and spaces at the ends of names and values are lost.</source>
+        <translation>未写入：窄字符接口将无法读回此值。含有多个“=”的行会被丢弃，名称和值首尾的空格也会丢失。</translation>
+    </message>
+    <message>
+        <source>Nothing written: the wide family would not read this back under that name.</source>
+        <translation>未写入：宽字符接口将无法按该名称读回此值。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfilesPage</name>
+    <message>
+        <source>Profile file</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Path of an INI file</source>
+        <translation>INI 文件的路径</translation>
+    </message>
+    <message>
+        <source>Fil&amp;e:</source>
+        <translation>文件(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>Ope&amp;n...</source>
+        <translation>打开(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Lines of the file</source>
+        <translation>文件的各行</translation>
+    </message>
+    <message>
+        <source>Open a profile, or drop one here: each line appears with a margin that tells how either family of calls reads it.</source>
+        <translation>打开配置文件，或将文件拖放到此处：每一行旁边会标明两种接口如何读取它。</translation>
+    </message>
+    <message>
+        <source>Readings of both families</source>
+        <translation>两种接口的读取结果</translation>
+    </message>
+    <message>
+        <source>What the wide and the narrow calls read stands here side by side.</source>
+        <translation>宽字符接口和窄字符接口读到的内容在此并排显示。</translation>
+    </message>
+    <message>
+        <source>Edit value</source>
+        <translation>编辑值</translation>
+    </message>
+    <message>
+        <source>Open a profile</source>
+        <translation>打开配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles (*.ini);;All files (*)</source>
+        <translation>配置文件 (*.ini);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Type the path of a file first.</source>
+        <translation>请先输入文件路径。</translation>
+    </message>
+    <message>
+        <source>Type the beginning of a line to go to it.</source>
+        <translation>输入一行的开头即可跳转到该行。</translation>
+    </message>
+    <message>
+        <source>Reading through both families</source>
+        <translation>正在通过两种接口读取</translation>
+    </message>
+    <message>
+        <source>%1 values</source>
+        <translation>%1 个值</translation>
+    </message>
+    <message>
+        <source>There is no such file: both families read it as empty. Writing a value creates it.</source>
+        <translation>文件不存在：两种接口都将其读作空。写入值时会创建该文件。</translation>
+    </message>
+    <message>
+        <source>%1 values, %2 of them read differently.</source>
+        <translation>共 %1 个值，其中 %2 个读取结果不同。</translation>
+    </message>
+    <message>
+        <source>Stopped. %1</source>
+        <translation>已停止。%1</translation>
+    </message>
+    <message>
+        <source>Line %1. Narrow: %2 Wide: %3</source>
+        <translation>第 %1 行。窄字符：%2 宽字符：%3</translation>
+    </message>
+    <message>
+        <source>Open a file first.</source>
+        <translation>请先打开文件。</translation>
+    </message>
+    <message>
+        <source>Nothing written.</source>
+        <translation>未写入任何内容。</translation>
+    </message>
+    <message>
+        <source>Nothing written: the backup copy could not be made.</source>
+        <translation>未写入：无法创建备份。</translation>
+    </message>
+    <message>
+        <source>The value could not be written to %1.</source>
+        <translation>无法将值写入 %1。</translation>
+    </message>
+    <message>
+        <source>Written.</source>
+        <translation>已写入。</translation>
+    </message>
+    <message>
+        <source>Written; the backup copy is %1.</source>
+        <translation>已写入；备份为 %1。</translation>
     </message>
 </context>
 <context>

@@ -51,7 +51,7 @@ protected:
 
     static bool applicationIsChinese()
     {
-        return QCoreApplication::translate("MainWindow", "English",
+        return QCoreApplication::translate("HostInformation", "English",
                                            "name of the interface's language") ==
                QStringLiteral("简体中文");
     }

@@ -173,13 +173,12 @@ TEST_P(AesEncryptSchedule, NothingIsWrittenBeyondTheWordsInUse)
 
 TEST_P(AesEncryptSchedule, RefusedKeyChangesNothing)
 {
-    const AesLayout before = layoutOf(cipher);
+    const std::string before = bytesOf(cipher);
     const std::string other(40, 'o');
     cipher.MakeKey(nullptr, other.data(), 16, 16);
     cipher.MakeKey(other.data(), other.data(), 20, 16);
     cipher.MakeKey(other.data(), other.data(), 16, 20);
-    const AesLayout after = layoutOf(cipher);
-    EXPECT_EQ(0, std::memcmp(&before, &after, sizeof before));
+    EXPECT_EQ(toHex(before), toHex(bytesOf(cipher)));
 }
 
 TEST_P(AesEncryptSchedule, LaterKeyReplacesSizesRoundsAndBothChains)

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "crypto/AesEncrypt.h"
+#include "tests/crypto/ObjectLayout.h"
 
 #include <cstdint>
-#include <cstring>
 
 /// The members of AesEncrypt in the order that callers outside rely upon.
 struct AesLayout
@@ -25,8 +25,5 @@ struct AesLayout
 /// What `cipher` holds.
 inline AesLayout layoutOf(const AesEncrypt& cipher)
 {
-    static_assert(sizeof(AesEncrypt) == sizeof(AesLayout));
-    AesLayout layout;
-    std::memcpy(&layout, &cipher, sizeof layout);
-    return layout;
+    return readLayout<AesLayout>(cipher);
 }

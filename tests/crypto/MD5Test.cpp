@@ -6,6 +6,7 @@
 #include "tests/crypto/Digests.h"
 #include "tests/crypto/Md5BlockPeer.h"
 #include "tests/crypto/MemberSlot.h"
+#include "tests/crypto/ObjectLayout.h"
 #include "tests/crypto/VectorFile.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <cstring>
 #include <type_traits>
 
 namespace {
@@ -29,14 +29,11 @@ struct MD5Layout
 };
 
 static_assert(sizeof(MD5) == 32);
-static_assert(sizeof(MD5) == sizeof(MD5Layout));
 static_assert(std::is_polymorphic_v<MD5> && !std::has_virtual_destructor_v<MD5>);
 
 MD5Layout layoutOf(const MD5& md5)
 {
-    MD5Layout layout;
-    std::memcpy(&layout, &md5, sizeof layout);
-    return layout;
+    return readLayout<MD5Layout>(md5);
 }
 
 bool isLong(std::size_t length)

@@ -41,7 +41,7 @@ TEST(RijndaelTables, RoundConstantsAreThePublishedThirty)
 
 struct PublishedWord
 {
-    const rijndael::WordTable* tables;
+    const rijndael::RowTables& tables;
     std::size_t index;
     std::uint32_t first;
 };

@@ -58,7 +58,7 @@ void reportWindow()
     }
     report("desktop", geometry(QApplication::desktop()->geometry()));
     report("cancel", QCoreApplication::translate("QPlatformTheme", "Cancel"));
-    report("language", QCoreApplication::translate("MainWindow", "English",
+    report("language", QCoreApplication::translate("HostInformation", "English",
                                                    "name of the interface's language"));
     report("scaling",
            QString::number(QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling)));

@@ -222,13 +222,27 @@ TEST_F(ProfileWide, WritingWhereNothingCanBeWrittenSucceedsAllTheSame)
     EXPECT_EQ(1, manager.WritePrivateProfileStringW(L"S", L"k", L"v", L"/dev/null/x"));
 }
 
-TEST_F(ProfileWide, AListReadsAsEmptyAndCommasSurviveWriting)
+TEST_F(ProfileWide, AnUnquotedCommaMakesAListAndASemicolonEndsTheValue)
 {
-    write("[S]\nlist=a, b\nquoted=\"a, b\"\n");
+    write("[S]\nlist=a, b\ncut=a;b\nquoted=\"a, b;c\"\n");
     EXPECT_EQ(L"", readWide(L"S", L"list", L"fallback"));
-    EXPECT_EQ(L"a, b", readWide(L"S", L"quoted"));
+    EXPECT_EQ(L"a", readWide(L"S", L"cut"));
+    EXPECT_EQ(L"a, b;c", readWide(L"S", L"quoted"));
     EXPECT_EQ(1, writeWide(L"S", L"k", L" a,b;c=\"d\"\\"));
     EXPECT_EQ(L" a,b;c=\"d\"\\", readWide(L"S", L"k"));
+}
+
+TEST_F(ProfileWide, TheSectionGeneralHasAnotherNameInTheFile)
+{
+    write("[General]\nk=1\n[%General]\nk=2\n");
+    EXPECT_EQ(L"2", readWide(L"General", L"k"));
+    EXPECT_EQ("1", readNarrow("General", "k"));
+}
+
+TEST_F(ProfileWide, CharactersBeyondTheBmpAreDroppedOnWriting)
+{
+    EXPECT_EQ(1, writeWide(L"S", L"k", L"x\U0001F600y"));
+    EXPECT_EQ("[S]\nk=xy\n", content());
 }
 
 } // namespace

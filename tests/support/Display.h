@@ -24,8 +24,8 @@ public:
     Display(const Display&) = delete;
     Display& operator=(const Display&) = delete;
 
-    /// Makes a shown window the active one, as a taskbar would: the manager refuses a request of the
-    /// window's own now and then, and ignores any for a window that it does not manage yet.
+    /// Makes a shown window the active one, as a taskbar would: the manager refuses a request of
+    /// the window's own now and then, and ignores any for a window that it does not manage yet.
     static bool activate(const QWidget& window);
 
     /// Runs xdotool with these arguments and waits for it; true when it succeeded.

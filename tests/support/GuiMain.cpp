@@ -3,10 +3,29 @@
 #include "tests/support/MessageGuard.h"
 
 #include <QApplication>
+#include <QTest>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
 #include <optional>
+
+namespace {
+
+// A window manager that is still starting takes windows without activating them, so the first ones
+// are shown until one becomes active.
+void waitForActivation()
+{
+    for (int attempt = 0; attempt < 40; ++attempt) {
+        QWidget window;
+        window.show();
+        if (QTest::qWaitForWindowActive(&window, 500))
+            return;
+    }
+    qFatal("the window manager activates nothing");
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -19,6 +38,8 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    if (QUAYSIDE_TEST_XVFB)
+        waitForActivation();
     installMessageGuard();
     return RUN_ALL_TESTS();
 }

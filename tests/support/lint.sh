@@ -61,7 +61,7 @@ translations() {
     local copy
     copy=$(mktemp --suffix=.ts)
     cp resources/translator/kdlm_zh.ts "$copy"
-    "$(command -v lupdate || echo /usr/lib/qt5/bin/lupdate)" -silent -locations none app widgets -ts "$copy"
+    "$(command -v lupdate || echo /usr/lib/qt5/bin/lupdate)" -silent -locations none -I . app widgets -ts "$copy"
     if grep -E 'type="(unfinished|obsolete|vanished)"' "$copy"; then return 1; fi
 }
 

@@ -22,9 +22,11 @@ public:
     {
         const qreal ratio = widget.devicePixelRatioF();
         QImage image(widget.size() * ratio, QImage::Format_RGB32);
-        for (int y = 0; y < image.height(); ++y)
+        for (int y = 0; y < image.height(); ++y) {
+            auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
             for (int x = 0; x < image.width(); ++x)
-                image.setPixel(x, y, patternColor(id, x, y));
+                line[x] = patternColor(id, x, y);
+        }
         image.setDevicePixelRatio(ratio);
         QPainter(&widget).drawImage(0, 0, image);
     }
@@ -62,14 +64,16 @@ QRgb PatternPage::colorAt(int x, int y) const
 
 std::string firstDifference(const QImage& picture, const std::function<QRgb(int, int)>& expected)
 {
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
+    const QImage plain = picture.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < plain.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(plain.constScanLine(y));
+        for (int x = 0; x < plain.width(); ++x) {
             const QRgb wanted = expected(x, y);
-            if (picture.pixel(x, y) != wanted)
+            if (line[x] != wanted)
                 return QStringLiteral("(%1, %2) is %3 and not %4")
                     .arg(x)
                     .arg(y)
-                    .arg(picture.pixel(x, y), 8, 16)
+                    .arg(line[x], 8, 16)
                     .arg(wanted, 8, 16)
                     .toStdString();
         }

@@ -37,6 +37,10 @@ class TextsOfAPage : public testing::TestWithParam<Row>
 protected:
     TextsOfAPage()
     {
+        // The font that the pages are laid out for.
+        QFont font = QApplication::font();
+        font.setPointSize(9);
+        QApplication::setFont(font);
         setPlatformServices(&g_PlatformServices);
         initResources();
         if (qstrcmp(GetParam().language, "zh") != 0)

@@ -1,0 +1,38 @@
+#include "app/pages/AnswerField.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+
+AnswerField::AnswerField(const QString& name, const QString& objectName, QWidget* parent)
+    : QLineEdit(parent)
+{
+    setReadOnly(true);
+    setAccessibleName(name);
+    setObjectName(objectName);
+    takeColors();
+}
+
+void AnswerField::setAnswer(const QString& text)
+{
+    setText(text);
+    setCursorPosition(0);
+    setToolTip(text);
+}
+
+void AnswerField::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        takeColors();
+}
+
+// As a label looks: what can be typed into stands out by its own colour.
+void AnswerField::takeColors()
+{
+    QPalette colors = palette();
+    const QPalette application = QGuiApplication::palette();
+    colors.setColor(QPalette::Base, application.color(QPalette::Window));
+    colors.setColor(QPalette::Text, application.color(QPalette::WindowText));
+    if (colors != palette()) // setting them is a change of its own
+        setPalette(colors);
+}

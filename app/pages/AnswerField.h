@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLineEdit>
+
+/// Shows one answer: selectable, reachable by keyboard, and never cut off, since it scrolls.
+class AnswerField : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    /// `name` is the accessible name, and the object name is for finding the field.
+    AnswerField(const QString& name, const QString& objectName, QWidget* parent = nullptr);
+
+    /// Shows `text` from its beginning, and as the tool tip.
+    void setAnswer(const QString& text);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void takeColors();
+};

@@ -1,0 +1,41 @@
+#include "app/pages/crypto/CryptoPage.h"
+
+#include "app/pages/crypto/Base64Panel.h"
+#include "app/pages/crypto/CipherPanel.h"
+#include "app/pages/crypto/DigestJob.h"
+#include "app/pages/crypto/DigestPanel.h"
+
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+CryptoPage::CryptoPage(QWidget* parent) : Page(parent), m_tabs(new QTabWidget)
+{
+    m_tabs->setAccessibleName(tr("Kinds of work"));
+    addPanel<CipherPanel>(tr("&Encryption"));
+    m_digests = addPanel<DigestPanel>(tr("Di&gests"));
+    addPanel<Base64Panel>(tr("&Base64"));
+    body()->addWidget(m_tabs, 1);
+    connect(m_digests, &DigestPanel::requested, this, &CryptoPage::digest);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &CryptoPage::followTab);
+    followTab();
+}
+
+template <typename Panel>
+Panel* CryptoPage::addPanel(const QString& caption)
+{
+    auto* panel = new Panel;
+    connect(panel, &Panel::reported, this, &CryptoPage::report);
+    m_tabs->addTab(panel, caption);
+    return panel;
+}
+
+void CryptoPage::followTab()
+{
+    setFocusProxy(m_tabs->currentWidget());
+}
+
+void CryptoPage::digest(const std::shared_ptr<DigestJob>& job)
+{
+    startJob({tr("Digesting"), [job] { return job->step(); }, [job] { return job->progress(); },
+              [this, job](bool complete) { m_digests->showResult(*job, complete); }});
+}

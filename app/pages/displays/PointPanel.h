@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/pages/displays/MonitorList.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QFormLayout;
+class QLabel;
+class QSpinBox;
+
+/// A point of the virtual desktop and what MonitorFromPoint answers for it, for each of its flags.
+class PointPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PointPanel(QWidget* parent = nullptr);
+
+    void setPoint(const QPoint& point);
+    QPoint point() const;
+    /// Asks anew.
+    void setMonitors(const std::vector<Monitor>& monitors);
+    void setPointer(const QPoint& pointer);
+    /// What MONITOR_DEFAULTTONEAREST gives.
+    HMONITOR nearest() const { return m_nearest; }
+
+signals:
+    /// The point, or what was answered for it, has changed.
+    void asked();
+
+private:
+    QSpinBox* addCoordinate(const QString& caption, QFormLayout* form);
+    QLabel* addAnswer(const QString& flag, const QString& tip, QFormLayout* form);
+    void ask();
+
+    std::vector<Monitor> m_monitors;
+    QSpinBox* m_x;
+    QSpinBox* m_y;
+    QLabel* m_pointer;
+    std::array<QLabel*, 3> m_answers{};
+    HMONITOR m_nearest = nullptr;
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/pages/Page.h"
+#include "app/pages/files/FileSearch.h"
+
+#include <memory>
+
+class EmptyHint;
+class FoundEntriesModel;
+class PathPanel;
+class QLayout;
+class QLineEdit;
+class QTableView;
+
+/// Directory searches, and what the directory service says of single paths.
+class FilesPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit FilesPage(QWidget* parent = nullptr);
+
+    /// Searches again for the last pattern, and asks about the path again.
+    void refresh() override;
+    void find() override;
+
+private:
+    QLayout* makeSearchRow();
+    QTableView* makeTable();
+    void browse();
+    void search();
+    bool step();
+    void finish(bool complete);
+    void showCurrent();
+
+    QLineEdit* m_pattern;
+    FoundEntriesModel* m_model;
+    QTableView* m_table;
+    EmptyHint* m_hint;
+    PathPanel* m_paths;
+    std::unique_ptr<FileSearch> m_search;
+    QString m_searched; ///< the pattern of the rows in the table
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QGroupBox>
+
+class AnswerField;
+class QGridLayout;
+class QLineEdit;
+
+/// What the directory service answers about one path, while it is typed.
+class PathPanel : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit PathPanel(QWidget* parent = nullptr);
+
+    void setPath(const QString& path);
+    /// Asks the service anew.
+    void ask();
+
+private:
+    QLineEdit* addInput(QGridLayout* grid, const QString& label, const QString& hint);
+    AnswerField* addAnswer(QGridLayout* grid, int row, int column, const QString& label,
+                           const char* objectName);
+
+    QLineEdit* m_path;
+    QLineEdit* m_from;
+    AnswerField* m_exists;
+    AnswerField* m_attributes;
+    AnswerField* m_relative;
+    AnswerField* m_extension;
+    AnswerField* m_url;
+    AnswerField* m_temporary;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/pages/Page.h"
+
+#include <QGroupBox>
+
+class QComboBox;
+class QLabel;
+
+/// The pointer's position and the override cursor.
+class CursorPanel : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit CursorPanel(QWidget* parent = nullptr);
+    /// Takes back the levels that were added here.
+    ~CursorPanel() override;
+
+    /// Asks for all of it.
+    void refresh();
+
+signals:
+    void reported(Page::Report kind, const QString& text);
+
+private:
+    QLabel* addValue(QLayout* layout, const QString& caption);
+    QWidget* makeTools();
+    void addShapes();
+    void setCursorShape();
+    void popLevels();
+    void takeBack();
+    void showPosition();
+
+    QLabel* m_screen;
+    QLabel* m_window;
+    QLabel* m_cursor;
+    QComboBox* m_shapes = nullptr;
+    QPushButton* m_takeBack = nullptr;
+    int m_levels = 0;
+};

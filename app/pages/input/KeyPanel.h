@@ -1,0 +1,34 @@
+#pragma once
+
+#include "app/pages/input/KeyLamp.h"
+
+#include <QGroupBox>
+
+class QGridLayout;
+class QLabel;
+class QSpinBox;
+class QVBoxLayout;
+
+/// The state of the virtual keys, as getKeyState tells it.
+class KeyPanel : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit KeyPanel(QWidget* parent = nullptr);
+
+    /// Asks for all of them.
+    void refresh();
+
+private:
+    /// Column by column.
+    void addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayout* layout);
+    QWidget* makeReports();
+    void addReport(QLayout* row, const QString& caption, int qtKey);
+    QWidget* makeQuery();
+    void ask();
+
+    std::vector<KeyLamp*> m_lamps;
+    QSpinBox* m_code = nullptr;
+    QLabel* m_state = nullptr;
+};

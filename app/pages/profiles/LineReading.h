@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+/// What a profile family makes of one line of a file.
+enum class LineState
+{
+    Blank,
+    Header,
+    Entry,
+    Comment,        ///< dropped, as who wrote it meant
+    NoEquals,       ///< dropped
+    TwoEquals,      ///< dropped: more than one "="
+    BeforeHeader,   ///< dropped: no section
+    ReplacedHeader, ///< dropped: the same header comes again
+    ReplacedKey,    ///< dropped: the same key comes again in the section
+    Unreachable,    ///< kept in the file, but no section name leads there
+    Continuation,   ///< part of the line above
+    NotFound        ///< looks like an entry, but the family does not find it
+};
+
+struct LineReading
+{
+    LineState state = LineState::Blank;
+    /// What to ask the family for; of entries only.
+    QString section;
+    QString key;
+};
+
+/// True where the line is no longer in the file after the family has written to it. Blank lines,
+/// which go too, are not counted: they hold nothing.
+bool isLost(LineState state);

@@ -1,0 +1,58 @@
+#include "app/pages/profiles/LostLinesDialog.h"
+
+#include "app/pages/Page.h"
+#include "app/pages/profiles/LineStateText.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QListWidget* lostLines(const ProfileDocument& document, ProfileFamily family)
+{
+    auto* list = new QListWidget;
+    list->setObjectName(QStringLiteral("lostLines"));
+    list->setAccessibleName(LostLinesDialog::tr("Lines that would be lost"));
+    for (const int number : document.lostLines(family)) {
+        const ProfileDocument::Line& line = document.lines()[static_cast<std::size_t>(number) - 1];
+        const LineReading& reading = family == ProfileFamily::Narrow ? line.narrow : line.wide;
+        auto* item = new QListWidgetItem(
+            LostLinesDialog::tr("%1 (%2): %3")
+                .arg(QString::number(number), shortText(reading.state), line.text));
+        item->setToolTip(longText(reading.state, family));
+        list->addItem(item);
+    }
+    list->setCurrentRow(0);
+    return list;
+}
+
+} // namespace
+
+LostLinesDialog::LostLinesDialog(const ProfileDocument& document, ProfileFamily family,
+                                 QWidget* parent)
+    : QDialog(parent)
+{
+    setWindowTitle(tr("Lines that would be lost"));
+    auto* text = new QLabel(
+        family == ProfileFamily::Narrow
+            ? tr("The narrow family writes the whole file anew, sorted, and only what it has kept. "
+                 "These lines would be lost:")
+            : tr("The wide family writes the whole file anew, and only what it has kept. These "
+                 "lines would be lost:"));
+    text->setWordWrap(true);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    auto* write =
+        glowing(buttons->addButton(tr("&Write all the same"), QDialogButtonBox::AcceptRole));
+    write->setObjectName(QStringLiteral("writeAllTheSame"));
+    glowing(buttons->button(QDialogButtonBox::Cancel))->setDefault(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(text);
+    layout->addWidget(lostLines(document, family), 1);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    resize(fontMetrics().averageCharWidth() * 80, fontMetrics().height() * 18);
+}

@@ -1,0 +1,96 @@
+#include "app/pages/profiles/ProfileDocument.h"
+
+#include "app/pages/profiles/NarrowLines.h"
+#include "app/pages/profiles/WideLines.h"
+#include "platform/NarrowProfileFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+
+namespace {
+
+// Far above any profile, and still read without a halt of the window.
+constexpr qint64 largestFile = qint64{512} * 1024;
+
+// Why the path cannot be a profile, or an empty text.
+QString fault(const QFileInfo& file)
+{
+    if (file.isDir())
+        return ProfileDocument::tr("%1 is a folder.").arg(file.filePath());
+    if (!file.exists() && !file.dir().exists())
+        return ProfileDocument::tr("There is no folder %1.").arg(file.path());
+    if (file.exists() && !file.isFile())
+        return ProfileDocument::tr("%1 is not a regular file.").arg(file.filePath());
+    if (file.exists() && !file.isReadable())
+        return ProfileDocument::tr("%1 cannot be read.").arg(file.filePath());
+    if (file.size() > largestFile)
+        return ProfileDocument::tr("%1 is larger than 512 KiB: not a profile.")
+            .arg(file.filePath());
+    return {};
+}
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// As the narrow family decodes it.
+QString textOf(const QString& path)
+{
+    NarrowProfileFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.text() : QString();
+}
+
+} // namespace
+
+QString ProfileDocument::load(const QString& path)
+{
+    const QFileInfo file(path);
+    QString refused = fault(file);
+    if (!refused.isEmpty())
+        return refused;
+    m_path = file.absoluteFilePath();
+    m_exists = file.exists();
+    const QString text = textOf(m_path);
+    const std::vector<LineReading> narrow = NarrowLines(text).readings();
+    const std::vector<LineReading> wide = WideLines(bytesOf(m_path)).readings();
+    const QStringList texts = text.split(QLatin1Char('\n'));
+    m_lines.clear();
+    m_lines.reserve(narrow.size());
+    for (std::size_t i = 0; i < narrow.size(); ++i)
+        m_lines.push_back(
+            {texts.at(static_cast<int>(i)), narrow[i], i < wide.size() ? wide[i] : LineReading{}});
+    return {};
+}
+
+std::vector<ProfileDocument::Name> ProfileDocument::names() const
+{
+    std::vector<Name> names;
+    QSet<Name> seen;
+    const auto add = [&](const LineReading& reading) {
+        const Name name(reading.section, reading.key);
+        if (reading.state != LineState::Entry || seen.contains(name))
+            return;
+        seen.insert(name);
+        names.push_back(name);
+    };
+    for (const Line& line : m_lines) {
+        add(line.wide);
+        add(line.narrow);
+    }
+    return names;
+}
+
+std::vector<int> ProfileDocument::lostLines(ProfileFamily family) const
+{
+    std::vector<int> numbers;
+    int number = 0;
+    for (const Line& line : m_lines) {
+        ++number;
+        if (isLost(family == ProfileFamily::Narrow ? line.narrow.state : line.wide.state))
+            numbers.push_back(number);
+    }
+    return numbers;
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/pages/profiles/LineReading.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <utility>
+#include <vector>
+
+enum class ProfileFamily
+{
+    Wide,
+    Narrow
+};
+
+/// A profile file as it lies on disk, with what each family makes of its lines.
+class ProfileDocument
+{
+    Q_DECLARE_TR_FUNCTIONS(ProfileDocument)
+
+public:
+    struct Line
+    {
+        QString text;
+        LineReading narrow;
+        LineReading wide;
+    };
+    /// Section and key.
+    using Name = std::pair<QString, QString>;
+
+    /// Reads the file; a missing one has no lines. Returns why it cannot be read, or an empty text;
+    /// in the first case the document stays as it was.
+    QString load(const QString& path);
+
+    const QString& path() const { return m_path; }
+    bool exists() const { return m_exists; }
+    std::vector<Line>& lines() { return m_lines; }
+    const std::vector<Line>& lines() const { return m_lines; }
+
+    /// What can be asked for, each name once, in the order of the file.
+    std::vector<Name> names() const;
+    /// The numbers of the lines, from 1 on, that writing through a family loses.
+    std::vector<int> lostLines(ProfileFamily family) const;
+
+private:
+    QString m_path;
+    bool m_exists = false;
+    std::vector<Line> m_lines;
+};

@@ -1,0 +1,319 @@
+#include "app/pages/profiles/ProfilesPage.h"
+
+#include "app/pages/EmptyHint.h"
+#include "app/pages/TableLook.h"
+#include "app/pages/profiles/LineStateText.h"
+#include "app/pages/profiles/LostLinesDialog.h"
+#include "app/pages/profiles/ProfileEditPanel.h"
+#include "app/pages/profiles/ProfileLinesModel.h"
+#include "app/pages/profiles/ProfileReader.h"
+#include "app/pages/profiles/ProfileReadingsModel.h"
+
+#include <QAction>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+QTableView* makeTable(QAbstractItemModel* model, const QString& name, const char* objectName)
+{
+    auto* table = new QTableView;
+    table->setObjectName(QLatin1String(objectName));
+    table->setAccessibleName(name);
+    table->setModel(model);
+    arrangeTable(*table);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 4 / 3);
+    return table;
+}
+
+// The local file that is dragged, if it is one.
+QString draggedFile(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+} // namespace
+
+ProfilesPage::ProfilesPage(QWidget* parent)
+    : Page(parent),
+      m_file(new QLineEdit),
+      m_linesModel(new ProfileLinesModel(this)),
+      m_readingsModel(new ProfileReadingsModel(this)),
+      m_lines(makeLines()),
+      m_readings(makeReadings()),
+      m_panel(new ProfileEditPanel)
+{
+    body()->addLayout(makeFileRow());
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(m_lines);
+    splitter->addWidget(m_readings);
+    body()->addWidget(splitter, 1);
+    body()->addWidget(m_panel);
+    connect(m_panel, &ProfileEditPanel::writeRequested, this, &ProfilesPage::write);
+    addEditAction();
+    setAcceptDrops(true);
+    setFocusProxy(m_file);
+}
+
+QLayout* ProfilesPage::makeFileRow()
+{
+    m_file->setObjectName(QStringLiteral("file"));
+    m_file->setAccessibleName(tr("Profile file"));
+    m_file->setPlaceholderText(tr("Path of an INI file"));
+    m_file->setAcceptDrops(false); // files dropped here are for the page
+    auto* label = new QLabel(tr("Fil&e:"));
+    label->setBuddy(m_file);
+    auto* choose = glowing(new QPushButton(tr("Ope&n...")));
+    choose->setObjectName(QStringLiteral("open"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(m_file, 1);
+    row->addWidget(choose);
+    connect(m_file, &QLineEdit::returnPressed, this, [this] { open(m_file->text()); });
+    connect(choose, &QPushButton::clicked, this, &ProfilesPage::chooseFile);
+    return row;
+}
+
+QTableView* ProfilesPage::makeLines()
+{
+    QTableView* table = makeTable(m_linesModel, tr("Lines of the file"), "lines");
+    const QFontMetrics metrics = table->fontMetrics();
+    const int gap = metrics.height();
+    int margin = 0;
+    for (int state = 0; state <= static_cast<int>(LineState::NotFound); ++state)
+        margin =
+            std::max(margin, metrics.horizontalAdvance(shortText(static_cast<LineState>(state))));
+    QHeaderView* header = table->horizontalHeader();
+    header->resizeSection(ProfileLinesModel::NumberColumn,
+                          metrics.horizontalAdvance(QStringLiteral("99999")) + gap);
+    header->resizeSection(ProfileLinesModel::NarrowColumn, margin + gap);
+    header->resizeSection(ProfileLinesModel::WideColumn, margin + gap);
+    new EmptyHint(table,
+                  tr("Open a profile, or drop one here: each line appears with a margin that "
+                     "tells how either family of calls reads it."));
+    connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &ProfilesPage::showLine);
+    return table;
+}
+
+QTableView* ProfilesPage::makeReadings()
+{
+    QTableView* table = makeTable(m_readingsModel, tr("Readings of both families"), "readings");
+    const int character = table->fontMetrics().averageCharWidth();
+    QHeaderView* header = table->horizontalHeader();
+    header->resizeSection(ProfileReadingsModel::SectionColumn, character * 16);
+    header->resizeSection(ProfileReadingsModel::KeyColumn, character * 18);
+    header->resizeSection(ProfileReadingsModel::WideColumn, character * 28);
+    header->resizeSection(ProfileReadingsModel::DifferenceColumn,
+                          table->fontMetrics().height() * 2);
+    new EmptyHint(table, tr("What the wide and the narrow calls read stands here side by side."));
+    connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &ProfilesPage::showReading);
+    return table;
+}
+
+void ProfilesPage::addEditAction()
+{
+    auto* edit = new QAction(tr("Edit value"), m_readings);
+    edit->setShortcut(Qt::Key_F2);
+    edit->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_readings->addAction(edit);
+    m_readings->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(edit, &QAction::triggered, m_panel, &ProfileEditPanel::editValue);
+    connect(m_readings, &QTableView::activated, m_panel, &ProfileEditPanel::editValue);
+}
+
+void ProfilesPage::chooseFile()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open a profile"), m_document.path(),
+                                                      tr("Profiles (*.ini);;All files (*)"));
+    if (!path.isEmpty())
+        open(path);
+}
+
+void ProfilesPage::open(const QString& path)
+{
+    if (isBusy())
+        return;
+    if (path.isEmpty()) {
+        report(Report::Error, tr("Type the path of a file first."));
+        return;
+    }
+    const QString refused = m_document.load(path);
+    if (!refused.isEmpty()) {
+        m_file->setText(m_document.path());
+        report(Report::Error, refused);
+        return;
+    }
+    m_summary.clear();
+    read();
+}
+
+void ProfilesPage::refresh()
+{
+    if (!m_document.path().isEmpty())
+        open(m_document.path());
+}
+
+void ProfilesPage::find()
+{
+    const QModelIndex current = m_lines->currentIndex();
+    m_lines->setFocus(Qt::ShortcutFocusReason);
+    m_lines->setCurrentIndex(
+        m_linesModel->index(std::max(0, current.row()), ProfileLinesModel::TextColumn));
+    setStatus(tr("Type the beginning of a line to go to it."));
+}
+
+// Shows the document and asks both families for all that it names.
+void ProfilesPage::read()
+{
+    m_file->setText(m_document.path());
+    m_linesModel->setDocument(&m_document);
+    m_readingsModel->clear();
+    m_names = m_document.names();
+    std::reverse(m_names.begin(), m_names.end());
+    startJob(
+        {tr("Reading through both families"),
+         [this] {
+             readStep();
+             return !m_names.empty();
+         },
+         [this] { return tr("%1 values").arg(QLocale().toString(m_readingsModel->rowCount())); },
+         [this](bool complete) { finish(complete); }});
+}
+
+void ProfilesPage::readStep()
+{
+    if (m_names.empty())
+        return;
+    const ProfileDocument::Name name = m_names.back();
+    m_names.pop_back();
+    const ProfileReader reader(m_document.path());
+    ProfileReading reading{name.first, name.second, reader.wide(name.first, name.second),
+                           reader.narrow(name.first, name.second)};
+    if (!reading.wide)
+        m_linesModel->setNotFound(name);
+    m_readingsModel->append({std::move(reading)});
+}
+
+void ProfilesPage::finish(bool complete)
+{
+    if (!m_document.exists()) {
+        report(Report::Warning, tr("There is no such file: both families read it as empty. Writing "
+                                   "a value creates it."));
+        return;
+    }
+    const QString counts = tr("%1 values, %2 of them read differently.")
+                               .arg(QLocale().toString(m_readingsModel->rowCount()),
+                                    QLocale().toString(m_readingsModel->differences()));
+    if (!complete)
+        report(Report::Warning, tr("Stopped. %1").arg(counts));
+    else
+        report(Report::Info, m_summary.isEmpty() ? counts : m_summary + QLatin1Char(' ') + counts);
+}
+
+// The line in words, for those who see no tool tips, and the reading that it gives.
+void ProfilesPage::showLine()
+{
+    const int row = m_lines->currentIndex().row();
+    if (row < 0)
+        return;
+    const ProfileDocument::Line& line = m_document.lines()[static_cast<std::size_t>(row)];
+    for (int i = 0; i < m_readingsModel->rowCount(); ++i) {
+        const ProfileReading& reading = m_readingsModel->reading(i);
+        const auto gives = [&reading](const LineReading& read) {
+            return read.state == LineState::Entry && read.section == reading.section &&
+                   read.key == reading.key;
+        };
+        if (gives(line.narrow) || gives(line.wide)) {
+            m_readings->selectRow(i);
+            break;
+        }
+    }
+    setStatus(tr("Line %1. Narrow: %2 Wide: %3")
+                  .arg(QString::number(row + 1), longText(line.narrow.state, ProfileFamily::Narrow),
+                       longText(line.wide.state, ProfileFamily::Wide)));
+}
+
+void ProfilesPage::showReading()
+{
+    const int row = m_readings->currentIndex().row();
+    if (row >= 0)
+        m_panel->setReading(m_readingsModel->reading(row));
+}
+
+void ProfilesPage::write()
+{
+    if (isBusy())
+        return;
+    if (m_document.path().isEmpty()) {
+        report(Report::Error, tr("Open a file first."));
+        return;
+    }
+    const ProfileChange change = m_panel->change();
+    const QString refused = ProfileWriter(m_document.path()).fault(change);
+    if (!refused.isEmpty()) {
+        report(Report::Error, refused);
+        return;
+    }
+    ProfileDocument now; // what is lost is what the file holds by now
+    now.load(m_document.path());
+    if (now.lostLines(change.family).empty()) {
+        writeNow(change);
+        return;
+    }
+    auto* dialog = new LostLinesDialog(now, change.family, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, change] { writeNow(change); });
+    connect(dialog, &QDialog::rejected, this, [this] { setStatus(tr("Nothing written.")); });
+    dialog->open();
+}
+
+void ProfilesPage::writeNow(const ProfileChange& change)
+{
+    const ProfileWriter writer(m_document.path());
+    QString backup;
+    if (m_panel->keepsBackup() && QFile::exists(m_document.path())) {
+        backup = writer.backUp();
+        if (backup.isEmpty()) {
+            report(Report::Error, tr("Nothing written: the backup copy could not be made."));
+            return;
+        }
+    }
+    if (!writer.write(change)) {
+        report(Report::Error, tr("The value could not be written to %1.").arg(m_document.path()));
+        return;
+    }
+    m_document.load(m_document.path());
+    m_summary =
+        backup.isEmpty() ? tr("Written.") : tr("Written; the backup copy is %1.").arg(backup);
+    read();
+}
+
+void ProfilesPage::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!isBusy() && !draggedFile(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void ProfilesPage::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    open(draggedFile(*event->mimeData()));
+}

@@ -1,0 +1,82 @@
+#include "bench/crypto/Pairs.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+namespace {
+
+constexpr int repetitions = 9;
+constexpr double secondsEach = 0.01;
+
+/// Collects the time of each repetition instead of printing it.
+class Collector : public benchmark::BenchmarkReporter
+{
+public:
+    bool ReportContext(const Context& /*context*/) override { return true; }
+
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        for (const Run& run : runs) {
+            if (run.run_type == Run::RT_Iteration)
+                m_seconds[run.run_name.function_name].push_back(
+                    run.cpu_accumulated_time / static_cast<double>(run.iterations));
+        }
+    }
+
+    double median(const std::string& name)
+    {
+        std::vector<double>& seconds = m_seconds.at(name);
+        std::sort(seconds.begin(), seconds.end());
+        return seconds[seconds.size() / 2];
+    }
+
+private:
+    std::map<std::string, std::vector<double>> m_seconds;
+};
+
+void registerOperation(const std::string& name, const std::function<void()>& operation)
+{
+    const auto run = [operation](benchmark::State& state) {
+        for ([[maybe_unused]] const auto _ : state) {
+            operation();
+            benchmark::ClobberMemory();
+        }
+    };
+    benchmark::RegisterBenchmark(name.c_str(), run)->Repetitions(repetitions)->MinTime(secondsEach);
+}
+
+} // namespace
+
+std::vector<Result> runPairs(const Pairs& pairs)
+{
+    // Repetitions take turns, so that a slow moment of the machine hits both sides of a pair.
+    char program[] = "crypto_bench";
+    char interleave[] = "--benchmark_enable_random_interleaving=true";
+    char* arguments[] = {program, interleave};
+    int count = 2;
+    benchmark::Initialize(&count, arguments);
+    for (const Pair& pair : pairs) {
+        registerOperation(pair.name + " (ours)", pair.ours);
+        registerOperation(pair.name + " (peer)", pair.peer);
+    }
+    Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    std::vector<Result> results;
+    for (const Pair& pair : pairs) {
+        const auto bytes = static_cast<double>(pair.bytes);
+        results.push_back({pair.name, pair.wanted, bytes / collector.median(pair.name + " (ours)"),
+                           bytes / collector.median(pair.name + " (peer)")});
+    }
+    return results;
+}
+
+std::string sampleBytes(std::size_t count)
+{
+    std::mt19937 engine(1);
+    std::string bytes(count, '\0');
+    std::generate(bytes.begin(), bytes.end(), [&engine] { return static_cast<char>(engine()); });
+    return bytes;
+}

@@ -1,0 +1,316 @@
+#include "app/pages/profiles/ProfileDocument.h"
+#include "app/pages/profiles/ProfileReader.h"
+#include "tests/app/pages/ProfileFixture.h"
+#include "tests/app/pages/WindowProbe.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr char text[] = "; by hand\n[Net]\nHost=one\nQuery=a=b\n\n[Net]\nMask=255\n";
+
+class ProfilesPageTest : public testing::Test
+{
+protected:
+    void SetUp() override { m_file.write(text); }
+
+    void open(const QString& path) const
+    {
+        m_probe.type("file", path);
+        QTest::keyClick(&m_probe.control<QWidget>("file"), Qt::Key_Return);
+        ASSERT_TRUE(m_probe.settle());
+    }
+    void open() const { open(m_file.path()); }
+
+    const QAbstractItemModel& model(const char* view) const
+    {
+        return *m_probe.control<QTableView>(view).model();
+    }
+    // A row's cells.
+    QStringList row(const char* view, int number) const
+    {
+        QStringList cells;
+        for (int column = 0; column < model(view).columnCount(); ++column)
+            cells << model(view).index(number, column).data().toString();
+        return cells;
+    }
+
+    void request(const QString& section, const QString& key, const QString& value, int family) const
+    {
+        m_probe.type("section", section);
+        m_probe.type("key", key);
+        m_probe.type("value", value);
+        m_probe.control<QComboBox>("family").setCurrentIndex(family);
+        m_probe.click("write");
+    }
+    // The dialog that asks before lines are lost.
+    static QDialog* question() { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
+    void accept() const
+    {
+        ASSERT_NE(question(), nullptr);
+        question()->findChild<QPushButton*>(QStringLiteral("writeAllTheSame"))->click();
+        ASSERT_TRUE(m_probe.settle());
+    }
+    QStringList files() const { return QDir(m_file.folder()).entryList(QDir::Files, QDir::Name); }
+    QString status() const { return m_probe.page().statusText(); }
+
+    static constexpr int wide = 0;
+    static constexpr int narrow = 1;
+
+    ProfileFixture m_file;
+    WindowProbe m_probe{"profiles"};
+};
+
+TEST_F(ProfilesPageTest, ShowsEachLineWithItsMargin)
+{
+    open();
+    ASSERT_EQ(model("lines").rowCount(), 7);
+    EXPECT_EQ(row("lines", 0), QStringList({"1", "comment", "comment", "; by hand"}));
+    EXPECT_EQ(row("lines", 1), QStringList({"2", "replaced", "header", "[Net]"}));
+    EXPECT_EQ(row("lines", 2), QStringList({"3", "replaced", "kept", "Host=one"}));
+    EXPECT_EQ(row("lines", 3), QStringList({"4", "two “=”", "kept", "Query=a=b"}));
+    EXPECT_EQ(row("lines", 4), QStringList({"5", "blank", "blank", ""}));
+    EXPECT_EQ(row("lines", 6), QStringList({"7", "kept", "kept", "Mask=255"}));
+}
+
+TEST_F(ProfilesPageTest, ShowsBothReadingsWithTheirDifferences)
+{
+    open();
+    ASSERT_EQ(model("readings").rowCount(), 3);
+    EXPECT_EQ(row("readings", 0), QStringList({"Net", "Host", "one", "≠", "(empty)"}));
+    EXPECT_EQ(row("readings", 1), QStringList({"Net", "Query", "a=b", "≠", "(empty)"}));
+    EXPECT_EQ(row("readings", 2), QStringList({"Net", "Mask", "255", "=", "255"}));
+    EXPECT_EQ(status(), QStringLiteral("3 values, 2 of them read differently."));
+}
+
+TEST_F(ProfilesPageTest, TellsWhatTheWideFamilyDoesNotFind)
+{
+    m_file.write("[General]\nSpeed=9600\n");
+    open();
+    ASSERT_EQ(model("readings").rowCount(), 2);
+    EXPECT_EQ(row("readings", 0), QStringList({"(no name)", "Speed", "9600", "≠", "(empty)"}));
+    EXPECT_EQ(row("readings", 1), QStringList({"General", "Speed", "(not found)", "≠", "9600"}));
+}
+
+TEST_F(ProfilesPageTest, ExplainsTheChosenLineAndChoosesItsReading)
+{
+    open();
+    m_probe.control<QTableView>("lines").selectRow(3);
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Line 4. Narrow: Dropped: more than one")));
+    EXPECT_EQ(m_probe.text("key"), QStringLiteral("Query"));
+}
+
+TEST_F(ProfilesPageTest, RefreshReadsTheFileAgain)
+{
+    open();
+    m_file.write("[Net]\nMask=254\n");
+    m_probe.page().refresh();
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(row("readings", 0), QStringList({"Net", "Mask", "254", "=", "254"}));
+}
+
+TEST_F(ProfilesPageTest, OpensADroppedFile)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(m_file.path())});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&m_probe.page(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&m_probe.page(), &drop);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(model("lines").rowCount(), 7);
+}
+
+TEST_F(ProfilesPageTest, TakesNoDropOfAnAddress)
+{
+    QMimeData data;
+    data.setUrls({QUrl(QStringLiteral("https://example.org/a.ini"))});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(&m_probe.page(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(ProfilesPageTest, RefusesAFolderAndKeepsTheOpenFile)
+{
+    open();
+    open(m_file.folder());
+    EXPECT_TRUE(status().endsWith(QStringLiteral("is a folder.")));
+    EXPECT_EQ(model("lines").rowCount(), 7);
+    EXPECT_EQ(m_probe.text("file"), m_file.path());
+}
+
+TEST_F(ProfilesPageTest, RefusesAFileInAMissingFolder)
+{
+    open(m_file.folder() + QStringLiteral("/none/a.ini"));
+    EXPECT_TRUE(status().startsWith(QStringLiteral("There is no folder")));
+}
+
+TEST_F(ProfilesPageTest, RefusesAFileThatIsTooLarge)
+{
+    constexpr int largest = 512 * 1024;
+    m_file.write(QByteArray(largest, '\n'));
+    m_probe.type("file", m_file.path());
+    EXPECT_EQ(ProfileDocument().load(m_file.path()), QString());
+    m_file.write(QByteArray(largest + 1, '\n'));
+    open();
+    EXPECT_TRUE(status().endsWith(QStringLiteral("is larger than 512 KiB: not a profile.")));
+    EXPECT_EQ(model("lines").rowCount(), 0);
+}
+
+TEST_F(ProfilesPageTest, CancelKeepsWhatWasReadSoFar)
+{
+    QByteArray large = "[S]\n";
+    for (int i = 0; i < 5000; ++i)
+        large += "key" + QByteArray::number(i) + "=value\n";
+    m_file.write(large);
+    m_probe.type("file", m_file.path());
+    QTest::keyClick(&m_probe.control<QWidget>("file"), Qt::Key_Return);
+    ASSERT_TRUE(m_probe.page().isBusy());
+    m_probe.page().cancelJob();
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Stopped.")));
+    EXPECT_GT(model("readings").rowCount(), 0);
+    EXPECT_LT(model("readings").rowCount(), 5000);
+}
+
+TEST_F(ProfilesPageTest, WritesThroughTheWideFamily)
+{
+    m_file.write("[Net]\nMask=255\n");
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Query"), QStringLiteral("a=b"), wide);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(ProfileReader(m_file.path()).wide(QStringLiteral("Net"), QStringLiteral("Query")),
+              QStringLiteral("a=b"));
+    EXPECT_EQ(model("readings").rowCount(), 2);
+}
+
+TEST_F(ProfilesPageTest, AsksBeforeANarrowWriteLosesLines)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    ASSERT_NE(question(), nullptr);
+    const auto* list = question()->findChild<QListWidget*>(QStringLiteral("lostLines"));
+    ASSERT_EQ(list->count(), 4);
+    EXPECT_EQ(list->item(3)->text(), QStringLiteral("4 (two “=”): Query=a=b"));
+    question()->reject();
+    EXPECT_EQ(m_file.bytes(), text);
+    EXPECT_EQ(files(), QStringList({"profile.ini"}));
+}
+
+TEST_F(ProfilesPageTest, WritesThroughTheNarrowFamilyAfterABackup)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    accept();
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
+    EXPECT_EQ(ProfileFixture::bytesOf(m_file.path() + QStringLiteral(".bak")), text);
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Written; the backup copy is")));
+}
+
+TEST_F(ProfilesPageTest, NeverOverwritesABackup)
+{
+    open();
+    for (const char* value : {"1", "2"}) {
+        m_file.write(text);
+        request(QStringLiteral("Net"), QStringLiteral("Mask"), QLatin1String(value), narrow);
+        accept();
+    }
+    EXPECT_EQ(files(), QStringList({"profile.ini", "profile.ini.bak", "profile.ini.bak2"}));
+}
+
+TEST_F(ProfilesPageTest, MakesNoBackupWhereNoneIsWanted)
+{
+    open();
+    m_probe.control<QCheckBox>("backup").setChecked(false);
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    accept();
+    EXPECT_EQ(files(), QStringList({"profile.ini"}));
+}
+
+TEST_F(ProfilesPageTest, CreatesAMissingFile)
+{
+    open(m_file.folder() + QStringLiteral("/new.ini"));
+    EXPECT_TRUE(status().startsWith(QStringLiteral("There is no such file")));
+    request(QStringLiteral("S"), QStringLiteral("k"), QStringLiteral("v"), narrow);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(ProfileFixture::bytesOf(m_file.folder() + QStringLiteral("/new.ini")), "[S]\nk=v\n");
+}
+
+TEST_F(ProfilesPageTest, F2PutsTheKeyboardOnTheValue)
+{
+    open();
+    auto& readings = m_probe.control<QTableView>("readings");
+    readings.setFocus();
+    readings.selectRow(2);
+    QTest::keyClick(&readings, Qt::Key_F2);
+    EXPECT_TRUE(m_probe.control<QWidget>("value").hasFocus());
+    EXPECT_EQ(m_probe.text("value"), QStringLiteral("255"));
+}
+
+TEST_F(ProfilesPageTest, ShowsTheValueOfTheChosenFamily)
+{
+    open();
+    m_probe.control<QTableView>("readings").selectRow(1);
+    EXPECT_EQ(m_probe.text("value"), QStringLiteral("a=b"));
+    m_probe.control<QComboBox>("family").setCurrentIndex(narrow);
+    EXPECT_EQ(m_probe.text("value"), QString());
+}
+
+TEST_F(ProfilesPageTest, RefusesToWriteWithoutAFile)
+{
+    request(QStringLiteral("S"), QStringLiteral("k"), QStringLiteral("v"), wide);
+    EXPECT_EQ(status(), QStringLiteral("Open a file first."));
+}
+
+struct Refusal
+{
+    const char* name;
+    const char* section;
+    const char* key;
+    const char* value;
+    int family;
+};
+
+class ProfileRefusalTest : public ProfilesPageTest, public testing::WithParamInterface<Refusal>
+{
+};
+
+TEST_P(ProfileRefusalTest, LeavesTheFileAlone)
+{
+    open();
+    const Refusal& refusal = GetParam();
+    const QString before = status();
+    request(QString::fromUtf8(refusal.section), QString::fromUtf8(refusal.key),
+            QString::fromUtf8(refusal.value), refusal.family);
+    EXPECT_EQ(question(), nullptr);
+    EXPECT_NE(status(), before);
+    EXPECT_EQ(m_file.bytes(), text);
+    EXPECT_EQ(files(), QStringList({"profile.ini"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Inputs, ProfileRefusalTest,
+    testing::Values(Refusal{"NoKey", "S", "", "v", 0}, Refusal{"NoNarrowSection", "", "k", "v", 1},
+                    Refusal{"EqualsInNarrowValue", "S", "k", "a=b", 1},
+                    Refusal{"EqualsInNarrowKey", "S", "a=b", "v", 1},
+                    Refusal{"SpaceAtNarrowValue", "S", "k", " v", 1},
+                    Refusal{"SpaceAtNarrowKey", "S", "k ", "v", 1},
+                    Refusal{"BracketAtNarrowKey", "S", "[k", "v", 1},
+                    Refusal{"BeyondTheBasicPlane", "S", "k", "\xf0\x9f\x98\x80", 0}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+} // namespace
