@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <new>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -17,13 +19,21 @@ std::vector<void*>* g_freed = nullptr;
 
 } // namespace
 
+// Both sides are replaced, so that memory is given back to where it came from.
+void* operator new(std::size_t size)
+{
+    if (void* memory = std::malloc(size)) // NOLINT(cppcoreguidelines-no-malloc)
+        return memory;
+    throw std::bad_alloc();
+}
+
 void operator delete(void* memory) noexcept
 {
     if (std::vector<void*>* listener = std::exchange(g_freed, nullptr)) {
         listener->push_back(memory);
         g_freed = listener;
     }
-    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc): the default operator new uses malloc
+    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc)
 }
 
 void operator delete(void* memory, std::size_t /*size*/) noexcept

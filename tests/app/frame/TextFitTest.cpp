@@ -73,7 +73,9 @@ TEST_P(TextsOfAPage, AreNotCutOff)
     for (const QLabel* label : window.findChildren<QLabel*>()) {
         if (!label->isVisible() || label->text().isEmpty())
             continue;
-        EXPECT_TRUE(fits(*label)) << label->text().toStdString();
+        // A label that has just got its text is laid out at the next turn of the event loop.
+        EXPECT_TRUE(QTest::qWaitFor([label] { return fits(*label); }))
+            << label->text().toStdString();
     }
     for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
         if (!button->isVisible() || button->text().isEmpty())

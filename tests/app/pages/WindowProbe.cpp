@@ -58,7 +58,8 @@ WindowProbe::WindowProbe(const char* page, Language language) : m_translator(ins
     m_window.resize(800, 600);
     m_window.show();
     QApplication::setActiveWindow(&m_window);
-    QTest::qWait(1);
+    if (!QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }))
+        qFatal("the page is not built");
 }
 
 WindowProbe::~WindowProbe() = default;
