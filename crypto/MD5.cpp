@@ -117,15 +117,10 @@ std::string MD5::Encode(std::string text)
     m_wordCount = static_cast<std::uint32_t>(blocks * wordsPerBlock);
     const std::size_t whole = text.size() / bytesPerBlock;
     const char* end = text.data() + whole * bytesPerBlock;
-    md5::State state = {m_a, m_b, m_c, m_d};
-    compressText(state, text.data(), whole);
-    compressPadding(state, loadEnd(end, text.size() % bytesPerBlock), whole, blocks,
+    compressText(m_state, text.data(), whole);
+    compressPadding(m_state, loadEnd(end, text.size() % bytesPerBlock), whole, blocks,
                     storedLength(text.size()));
-    m_a = state[0];
-    m_b = state[1];
-    m_c = state[2];
-    m_d = state[3];
-    return Format(m_a) + Format(m_b) + Format(m_c) + Format(m_d);
+    return Format(m_state[0]) + Format(m_state[1]) + Format(m_state[2]) + Format(m_state[3]);
 }
 
 std::vector<std::uint32_t> MD5::Padding(std::string text)
@@ -144,12 +139,7 @@ std::vector<std::uint32_t> MD5::Padding(std::string text)
 
 void MD5::IterateFunc(unsigned int* block, int /*count*/)
 {
-    md5::State state = {m_a, m_b, m_c, m_d};
-    compressWords(state, block);
-    m_a = state[0];
-    m_b = state[1];
-    m_c = state[2];
-    m_d = state[3];
+    compressWords(m_state, block);
 }
 
 std::string MD5::Format(unsigned int value)

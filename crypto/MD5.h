@@ -29,9 +29,6 @@ public:
     void IterateFunc(unsigned int* block, int count);
 
 private:
-    std::uint32_t m_a = 0x67452301;
-    std::uint32_t m_b = 0xefcdab89;
-    std::uint32_t m_c = 0x98badcfe;
-    std::uint32_t m_d = 0x10325476;
+    std::uint32_t m_state[4] = {0x67452301, 0xefcdab89, 0x98badcfe, 0x10325476};
     std::uint32_t m_wordCount = 0;
 };
