@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <typeinfo>
+#include <utility>
 
 namespace {
 
@@ -110,8 +112,18 @@ void compressPadding(md5::State& state, Block end, std::size_t whole, std::size_
 
 } // namespace
 
-// Intended: the state is not reset.
+// Intended: the state is not reset. Only a plain object does without the padded message: a derived
+// class may pad in another way.
 std::string MD5::Encode(std::string text)
+{
+    if (typeid(*this) == typeid(MD5))
+        takeText(text);
+    else
+        takeWords(Padding(std::move(text)));
+    return Format(m_state[0]) + Format(m_state[1]) + Format(m_state[2]) + Format(m_state[3]);
+}
+
+void MD5::takeText(const std::string& text)
 {
     const std::uint32_t blocks = blockCount(text.size());
     m_wordCount = static_cast<std::uint32_t>(blocks * wordsPerBlock);
@@ -120,7 +132,13 @@ std::string MD5::Encode(std::string text)
     compressText(m_state, text.data(), whole);
     compressPadding(m_state, loadEnd(end, text.size() % bytesPerBlock), whole, blocks,
                     storedLength(text.size()));
-    return Format(m_state[0]) + Format(m_state[1]) + Format(m_state[2]) + Format(m_state[3]);
+}
+
+void MD5::takeWords(std::vector<std::uint32_t> words)
+{
+    const std::size_t count = std::min<std::size_t>(m_wordCount, words.size());
+    for (std::size_t i = 0; i < count / wordsPerBlock; ++i)
+        IterateFunc(&words[i * wordsPerBlock], static_cast<int>(wordsPerBlock));
 }
 
 std::vector<std::uint32_t> MD5::Padding(std::string text)

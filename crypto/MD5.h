@@ -16,10 +16,14 @@ class MD5
 public:
     /// The digest of all bytes of `text` as 32 lower-case hexadecimal characters, and sets the word
     /// count as `Padding` does. The state is not reset: a second call goes on from it.
+    ///
+    /// In a derived class `Padding` is called, with all that it allocates, and the digest is that
+    /// of the words it returns: of their whole blocks of 16, as many as the word count holds too.
+    /// An override that does not call the base's `Padding` leaves the word count as it was.
     virtual std::string Encode(std::string text);
 
-    /// The padded message. Allocates 512 MiB for texts of 57 to 63 bytes modulo 64; `Encode` makes
-    /// do without it.
+    /// The padded message. Allocates 512 MiB for texts of 57 to 63 bytes modulo 64; `Encode` of an
+    /// `MD5` itself makes do without it.
     virtual std::vector<std::uint32_t> Padding(std::string text);
 
     /// `value` as 8 lower-case hexadecimal characters, least significant byte first.
@@ -29,6 +33,9 @@ public:
     void IterateFunc(unsigned int* block, int count);
 
 private:
+    void takeText(const std::string& text);
+    void takeWords(std::vector<std::uint32_t> words);
+
     std::uint32_t m_state[4] = {0x67452301, 0xefcdab89, 0x98badcfe, 0x10325476};
     std::uint32_t m_wordCount = 0;
 };

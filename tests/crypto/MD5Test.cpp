@@ -201,6 +201,65 @@ TEST(MD5Encode, CallsTheOverriddenFormat)
     EXPECT_EQ("xxxx", Marked().Encode("abc"));
 }
 
+TEST(MD5Encode, CallsTheOverriddenPadding)
+{
+    struct Counting : MD5
+    {
+        Words Padding(std::string /*text*/) override
+        {
+            ++calls;
+            return MD5::Padding("abc");
+        }
+        int calls = 0;
+    } md5;
+    EXPECT_EQ("900150983cd24fb0d6963f7d28e17f72", md5.Encode("xyz"));
+    EXPECT_EQ(1, md5.calls);
+}
+
+struct PaddedSize
+{
+    std::size_t words;
+    std::size_t blocks;
+};
+
+class MD5OverriddenPadding : public testing::TestWithParam<PaddedSize>
+{
+};
+
+// The text has 32 words, of which the override drops some or to which it adds some.
+TEST_P(MD5OverriddenPadding, CountsAsFarAsWordsAndWordCountGo)
+{
+    struct Resizing : MD5
+    {
+        Words Padding(std::string text) override
+        {
+            Words words = MD5::Padding(std::move(text));
+            words.resize(GetParam().words);
+            return words;
+        }
+    } md5;
+    const std::string text = ascii(100);
+    Words words = wordsOf(text, 2);
+    words[30] = 800;
+    Md5BlockPeer peer;
+    for (std::size_t i = 0; i < GetParam().blocks; ++i)
+        peer.take(&words[16 * i]);
+    EXPECT_EQ(peer.digest(), md5.Encode(text));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, MD5OverriddenPadding,
+                         testing::Values(PaddedSize{0, 0}, PaddedSize{15, 0}, PaddedSize{16, 1},
+                                         PaddedSize{31, 1}, PaddedSize{32, 2}, PaddedSize{48, 2}));
+
+TEST(MD5Encode, TakesNothingWhereAnOverrideLeavesTheWordCount)
+{
+    struct Own : MD5
+    {
+        Words Padding(std::string /*text*/) override { return Words(16, 1U); }
+    };
+    EXPECT_EQ(Md5BlockPeer().digest(), Own().Encode("abc"));
+}
+
 TEST(MD5LongPadding, HasTheKnownDigestAndNeedsNoMemory)
 {
     const std::string text(60, 'a');
