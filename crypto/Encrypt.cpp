@@ -52,6 +52,13 @@ std::string pad(const std::string& plain)
     return padded.append(count, static_cast<char>(count));
 }
 
+void reportFailure()
+{
+    // This file's own stream initialiser may not have run yet where a static object decrypts.
+    static const std::ios_base::Init streams;
+    std::cout << "去填充失败！解密出错！！" << std::endl;
+}
+
 /// Sets the padding to zeros, or everything where the padding does not match.
 void unpad(std::string& text)
 {
@@ -64,7 +71,7 @@ void unpad(std::string& text)
         std::fill(padding, text.end(), '\0');
     } else {
         std::fill(text.begin(), text.end(), '\0');
-        std::cout << "去填充失败！解密出错！！" << std::endl;
+        reportFailure();
     }
 }
 

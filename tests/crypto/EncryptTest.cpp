@@ -6,6 +6,7 @@
 #include "tests/crypto/Bytes.h"
 #include "tests/crypto/CapturedOutput.h"
 #include "tests/crypto/Digests.h"
+#include "tests/crypto/EarlyDecryption.h"
 
 #include <gtest/gtest.h>
 #include <openssl/evp.h>
@@ -240,6 +241,13 @@ TEST(DecryptionAES, ReadsTheCipherTextUpToTheFirstForeignCharacter)
     const std::string cipher = Encrypt::EncryptionAES(key, iv, "text");
     EXPECT_EQ("text", Encrypt::DecryptionAES(key, iv, cipher + " and more"));
     EXPECT_EQ("text", Encrypt::DecryptionAES(key, iv, Base64Encoder::UrlEncode(cipher)));
+}
+
+// The message of the second one goes to the streams before their initialiser.
+TEST(DecryptionAES, WorksForEarlierStaticObjects)
+{
+    EXPECT_EQ("x", earlyDecryption().plain);
+    EXPECT_EQ("", earlyDecryption().mismatched);
 }
 
 TEST(KdEncode, MixesTheFingerprintsCharacterByCharacter)
