@@ -126,21 +126,26 @@ class ShortKeys : public testing::TestWithParam<std::size_t>
 {
 };
 
-// In strings that hold other bytes behind their end, as small ones do after being shortened.
+/// A string on the heap with other bytes behind its end, which stay there when it is moved.
+std::string shortened(std::size_t length, char byte)
+{
+    std::string text(64, byte);
+    text.resize(length);
+    return text;
+}
+
 TEST_P(ShortKeys, CountAsFilledUpWithZeros)
 {
     const std::size_t length = GetParam();
-    std::string shortKey = key;
-    std::string shortIv = iv;
-    shortKey.resize(length);
-    shortIv.resize(length);
-    std::string longKey = shortKey;
-    std::string longIv = shortIv;
+    std::string longKey(length, 'k');
+    std::string longIv(length, 'v');
     longKey.resize(16, '\0');
     longIv.resize(16, '\0');
     const std::string cipher = Encrypt::EncryptionAES(longKey, longIv, "plain text");
-    EXPECT_EQ(cipher, Encrypt::EncryptionAES(shortKey, shortIv, "plain text"));
-    EXPECT_EQ("plain text", Encrypt::DecryptionAES(shortKey, shortIv, cipher));
+    EXPECT_EQ(cipher,
+              Encrypt::EncryptionAES(shortened(length, 'k'), shortened(length, 'v'), "plain text"));
+    EXPECT_EQ("plain text",
+              Encrypt::DecryptionAES(shortened(length, 'k'), shortened(length, 'v'), cipher));
 }
 
 INSTANTIATE_TEST_SUITE_P(Lengths, ShortKeys, testing::Values(0, 1, 7, 8, 14, 15));
