@@ -20,10 +20,11 @@ const std::string iv = "fedcba9876543210";
 const std::string message = "去填充失败！解密出错！！\n";
 
 /// The cipher text of whole blocks as they are, without padding.
-std::string cipherOf(const std::string& blocks)
+std::string cipherOf(const std::string& blocks, const std::string& cipherKey = key,
+                     const std::string& cipherIv = iv)
 {
     AesEncrypt cipher;
-    cipher.MakeKey(key.data(), iv.data(), 16, 16);
+    cipher.MakeKey(cipherKey.data(), cipherIv.data(), 16, 16);
     std::string out(blocks.size(), '\0');
     cipher.Encrypt(blocks.data(), out.data(), blocks.size(), AesEncrypt::CBC);
     return Base64Encoder::Encode(reinterpret_cast<const unsigned char*>(out.data()),
@@ -120,6 +121,20 @@ TEST(EncryptionAES, UsesOnlySixteenBytesOfKeyAndIv)
               Encrypt::EncryptionAES(key + "more", iv + "more", "text"));
     EXPECT_EQ("text", Encrypt::DecryptionAES(key + "x", iv + "y", //
                                              Encrypt::EncryptionAES(key, iv, "text")));
+}
+
+// A zero byte is one of the sixteen, not the end.
+TEST(EncryptionAES, TakesZeroBytesInKeyAndIvAsTheyAre)
+{
+    const std::string zeroKey("ab\0defghijklmnop", 16);
+    const std::string zeroIv("A\0CDEFGHIJKLMNO\0", 16);
+    const std::string cipher = Encrypt::EncryptionAES(zeroKey, zeroIv, "text");
+    EXPECT_EQ(cipherOf("text" + std::string(12, '\x0c'), zeroKey, zeroIv), cipher);
+    EXPECT_EQ("text", Encrypt::DecryptionAES(zeroKey, zeroIv, cipher));
+    const std::string keyPrefix = "ab" + std::string(14, '\0');
+    const std::string ivPrefix = "A" + std::string(15, '\0');
+    EXPECT_NE(Encrypt::EncryptionAES(keyPrefix, zeroIv, "text"), cipher);
+    EXPECT_NE(Encrypt::EncryptionAES(zeroKey, ivPrefix, "text"), cipher);
 }
 
 class ShortKeys : public testing::TestWithParam<std::size_t>
