@@ -68,12 +68,14 @@ protected:
     void SetUp() override { cipher.MakeKey(key.data(), chain.data(), m_key, m_block); }
 
     /// The schedule as one run of words, in the textbook's way.
-    std::vector<std::uint32_t> expandedWords() const
+    std::vector<std::uint32_t> expandedWords() const { return expandedWords(scheduleWords); }
+
+    std::vector<std::uint32_t> expandedWords(std::size_t count) const
     {
         std::vector<std::uint32_t> words;
         for (std::size_t i = 0; i < keyWords; ++i)
             words.push_back(bigEndian(key.substr(4 * i, 4)));
-        for (std::size_t i = keyWords; i < columns * (rounds + 1); ++i)
+        for (std::size_t i = keyWords; i < count; ++i)
             words.push_back(words[i - keyWords] ^ changed(words.back(), i));
         return words;
     }
@@ -119,6 +121,7 @@ protected:
     const std::size_t keyWords = static_cast<std::size_t>(m_key) / 4;
     const std::size_t columns = static_cast<std::size_t>(m_block) / 4;
     const std::size_t rounds = static_cast<std::size_t>(GetParam().rounds);
+    const std::size_t scheduleWords = columns * (rounds + 1);
     AesEncrypt cipher;
 };
 
@@ -168,6 +171,18 @@ TEST_P(AesEncryptSchedule, NothingIsWrittenBeyondTheWordsInUse)
             EXPECT_EQ(0U, layout.encryptionKeys[row][column]);
             EXPECT_EQ(0U, layout.decryptionKeys[row][column]);
         }
+    }
+}
+
+// The last group is computed as a whole, although the schedule may take only some of its words.
+TEST_P(AesEncryptSchedule, KeyScratchHoldsTheLastGroupOfKeyWords)
+{
+    const std::size_t groups = (scheduleWords + keyWords - 1) / keyWords;
+    const std::vector<std::uint32_t> words = expandedWords(groups * keyWords);
+    const AesLayout layout = layoutOf(cipher);
+    for (std::size_t i = 0; i < 8; ++i) {
+        const std::uint32_t expected = i < keyWords ? words[words.size() - keyWords + i] : 0;
+        EXPECT_EQ(expected, layout.keyScratch[i]) << "word " << i;
     }
 }
 
