@@ -114,6 +114,47 @@ protected:
         return result;
     }
 
+    /// One 16-byte block by the textbook's rounds, under the first four words of each row.
+    std::string encryptedByFirstColumns(std::string state) const
+    {
+        const AesLayout layout = layoutOf(cipher);
+        addRow(state, layout.encryptionKeys[0]);
+        for (std::size_t row = 1; row <= rounds; ++row) {
+            state = shifted(state);
+            for (std::size_t i = 0; i < 16; i += 4)
+                storeWord(state, i, roundWord(state, i, row == rounds));
+            addRow(state, layout.encryptionKeys[row]);
+        }
+        return state;
+    }
+
+    static std::uint32_t roundWord(const std::string& state, std::size_t place, bool isLast)
+    {
+        const std::uint32_t word = substituted(bigEndian(state.substr(place, 4)));
+        return isLast ? word : mixed(word);
+    }
+
+    /// Row r of the four columns, r bytes to the left.
+    static std::string shifted(const std::string& state)
+    {
+        std::string result;
+        for (std::size_t i = 0; i < 16; ++i)
+            result += state[(i + 4 * (i % 4)) % 16];
+        return result;
+    }
+
+    static void addRow(std::string& state, const std::uint32_t* row)
+    {
+        for (std::size_t i = 0; i < 16; i += 4)
+            storeWord(state, i, bigEndian(state.substr(i, 4)) ^ row[i / 4]);
+    }
+
+    static void storeWord(std::string& state, std::size_t place, std::uint32_t word)
+    {
+        for (std::size_t i = 0; i < 4; ++i)
+            state[place + i] = static_cast<char>(word >> (24 - 8 * i));
+    }
+
     const std::string key = RandomBytes(1)(32);
     const std::string chain = RandomBytes(2)(40);
     const int m_key = GetParam().keyLength;
@@ -240,6 +281,22 @@ TEST_P(AesEncryptSchedule, BuffersOf16ByteBlocksLeaveTheBlockScratchAlone)
     }
     EXPECT_EQ(m_block == 16, isZero(layoutOf(cipher).blockScratchA));
     EXPECT_EQ(m_block == 16, isZero(layoutOf(cipher).blockScratchT));
+}
+
+// They take the first four words of each row, and no scratch words, whatever the block size.
+TEST_P(AesEncryptSchedule, Default16ByteOperationsTakeSixteenBytesOfAnySetUp)
+{
+    const std::string in = RandomBytes(4)(16);
+    const std::string before = bytesOf(cipher);
+    GuardedBuffer encrypted(16);
+    cipher.DefEncryptBlock(in.data(), encrypted.data());
+    EXPECT_EQ(toHex(encryptedByFirstColumns(in)), toHex(encrypted.content()));
+    EXPECT_TRUE(encrypted.isIntact());
+    GuardedBuffer decrypted(16);
+    cipher.DefDecryptBlock(encrypted.data(), decrypted.data());
+    EXPECT_EQ(toHex(in), toHex(decrypted.content()));
+    EXPECT_TRUE(decrypted.isIntact());
+    EXPECT_EQ(toHex(before), toHex(bytesOf(cipher)));
 }
 
 INSTANTIATE_TEST_SUITE_P(AllSizes, AesEncryptSchedule,
