@@ -31,8 +31,11 @@ Padding paddingAfter(std::uint64_t length)
     return padding;
 }
 
-void storeWords(const std::uint32_t* words, std::size_t count, unsigned char* bytes)
+/// Replaces `digest` by the words, 4 bytes each.
+void writeDigest(const std::uint32_t* words, std::size_t count, std::vector<unsigned char>& digest)
 {
+    digest.resize(4 * count);
+    unsigned char* bytes = digest.data();
     for (std::size_t i = 0; i < count; ++i) {
         for (int shift = 24; shift >= 0; shift -= 8)
             *bytes++ = static_cast<unsigned char>(words[i] >> shift);
@@ -68,8 +71,7 @@ bool Sha256::encrypt(const std::vector<unsigned char>& message, std::vector<unsi
     const std::size_t whole = message.size() / chunkSize * chunkSize;
     sha256::compress(state, message.data(), whole / chunkSize);
     compressEnd(state, message.data() + whole, message.size() - whole, message.size());
-    digest->resize(4 * stateSize);
-    storeWords(state, stateSize, digest->data());
+    writeDigest(state, stateSize, *digest);
     return true;
 }
 
@@ -134,7 +136,6 @@ bool Sha256::produceFinalHashValue(const std::vector<std::uint32_t>& state,
 {
     if (!digest)
         return false;
-    digest->resize(4 * state.size());
-    storeWords(state.data(), state.size(), digest->data());
+    writeDigest(state.data(), state.size(), *digest);
     return true;
 }
