@@ -53,7 +53,8 @@ Word substituteWord(Word word)
            Word{table[byteOf<2>(word)]} << 8 | Word{table[byteOf<3>(word)]};
 }
 
-Word inverseMixColumn(Word word)
+/// InvMixColumns.
+Word unmixed(Word word)
 {
     const auto& tables = rijndael::inverseMix;
     return tables[0][byteOf<0>(word)] ^ tables[1][byteOf<1>(word)] ^ tables[2][byteOf<2>(word)] ^
@@ -134,7 +135,7 @@ void AesEncrypt::invertSchedule()
     std::copy_n(m_encryptionKeys[m_rounds], Columns, m_decryptionKeys[0]);
     for (int row = 1; row < m_rounds; ++row) {
         std::transform(m_encryptionKeys[m_rounds - row], m_encryptionKeys[m_rounds - row] + Columns,
-                       m_decryptionKeys[row], inverseMixColumn);
+                       m_decryptionKeys[row], unmixed);
     }
     std::copy_n(m_encryptionKeys[0], Columns, m_decryptionKeys[m_rounds]);
 }
