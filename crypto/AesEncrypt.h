@@ -10,7 +10,8 @@ struct Schedule;
 /// chaining register and the modes ECB, CBC and CFB over whole blocks.
 ///
 /// Nothing reports failure: an invalid call returns without effect. Keys, chains and blocks are raw
-/// bytes; no operation looks for or writes a terminator. Key material is not wiped. Use one object
+/// bytes; no operation looks for or writes a terminator. No pointer but a key's is checked: the
+/// others must not be null where the call has an effect. Key material is not wiped. Use one object
 /// from one thread at a time. The order of the members is relied upon by callers outside.
 class AesEncrypt
 {

@@ -29,7 +29,7 @@ public:
     /// `value` as 8 lower-case hexadecimal characters, least significant byte first.
     virtual std::string Format(unsigned int value);
 
-    /// Takes one block of 16 words into the state. `count` is not used.
+    /// Takes one block of 16 words, which must not be null, into the state. `count` is not used.
     void IterateFunc(unsigned int* block, int count);
 
 private:
