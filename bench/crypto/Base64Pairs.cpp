@@ -13,16 +13,6 @@ namespace {
 
 constexpr std::size_t size = 65536;
 
-const unsigned char* bytesOf(const std::string& text)
-{
-    return reinterpret_cast<const unsigned char*>(text.data());
-}
-
-unsigned char* bytesOf(std::string& text)
-{
-    return reinterpret_cast<unsigned char*>(text.data());
-}
-
 std::string ownText(const std::string& bytes)
 {
     return Base64Encoder::Encode(bytesOf(bytes), static_cast<unsigned int>(bytes.size()));

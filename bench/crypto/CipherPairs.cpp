@@ -25,16 +25,6 @@ namespace {
 const std::string key = "0123456789abcdefghijklmnopqrstuv";
 const std::string iv = "fedcba9876543210vutsrqponmlkjihg";
 
-const unsigned char* bytesOf(const std::string& text)
-{
-    return reinterpret_cast<const unsigned char*>(text.data());
-}
-
-unsigned char* bytesOf(std::string& text)
-{
-    return reinterpret_cast<unsigned char*>(text.data());
-}
-
 using Operation = std::function<void()>;
 
 /// Our cipher over a buffer, forwards or backwards.

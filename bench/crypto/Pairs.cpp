@@ -80,3 +80,13 @@ std::string sampleBytes(std::size_t count)
     std::generate(bytes.begin(), bytes.end(), [&engine] { return static_cast<char>(engine()); });
     return bytes;
 }
+
+const unsigned char* bytesOf(const std::string& text)
+{
+    return reinterpret_cast<const unsigned char*>(text.data());
+}
+
+unsigned char* bytesOf(std::string& text)
+{
+    return reinterpret_cast<unsigned char*>(text.data());
+}

@@ -42,3 +42,7 @@ void addMaskProbe(Pairs& pairs);
 
 /// Bytes of any value, always the same.
 std::string sampleBytes(std::size_t count);
+
+/// The characters of `text` as the peers take them.
+const unsigned char* bytesOf(const std::string& text);
+unsigned char* bytesOf(std::string& text);
