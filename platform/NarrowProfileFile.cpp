@@ -69,8 +69,11 @@ QString NarrowProfileFile::text()
 void NarrowProfileFile::rewrite(const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
-    if (!m_file.isSequential())
-        m_file.seek(0);
+    if (m_file.isSequential()) { // a device, which keeps no text and has its stamp from others
+        m_file.write(bytes);
+        return;
+    }
+    m_file.seek(0);
     if (m_file.write(bytes) == bytes.size())
         m_file.resize(bytes.size());
     advanceStamp();

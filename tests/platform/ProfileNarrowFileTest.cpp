@@ -117,6 +117,15 @@ TEST_F(ProfileNarrowFile, ThatDoesNotTakeTheTextDoesNotFailTheWrite)
     EXPECT_EQ("[S]\n", content());
 }
 
+TEST_F(ProfileNarrowFile, ThatIsADeviceKeepsItsStamp)
+{
+    const struct stat before = statusOf("/dev/null");
+    EXPECT_EQ(1, manager.WritePrivateProfileStringA("S", "k", "v", "/dev/null"));
+    const struct stat after = statusOf("/dev/null");
+    EXPECT_EQ(before.st_mtim.tv_sec, after.st_mtim.tv_sec);
+    EXPECT_EQ(before.st_mtim.tv_nsec, after.st_mtim.tv_nsec);
+}
+
 TEST_F(ProfileNarrowFile, MovesOnFromAStampThatLiesAhead)
 {
     write("[S]\nk=v\n");
