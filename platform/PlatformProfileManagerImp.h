@@ -7,7 +7,8 @@
 /// The wide calls open the file as `QSettings` does an INI file, in UTF-8; names are
 /// case-sensitive, and wide strings are NUL-terminated UTF-32. The narrow calls read and rewrite
 /// the file with a line parser of their own (see `NarrowProfile`); narrow strings are UTF-8. What
-/// one family writes, the next call of the other sees. Nothing is kept between calls.
+/// one family writes, the next call of the other sees. Nothing is kept between calls but for the
+/// last time stamp given.
 ///
 /// Sizes are counted in the buffer's own characters: 4 bytes in the wide family, 1 in the narrow
 /// one. A null section, key, file or buffer gets the failure value, and nothing is written. A file
