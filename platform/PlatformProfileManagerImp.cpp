@@ -5,6 +5,7 @@
 
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <cstring>
@@ -24,6 +25,7 @@ public:
     }
 
     QSettings* operator->() { return &m_settings; }
+    QSettings& operator*() { return m_settings; }
 
 private:
     QSettings m_settings;
@@ -38,6 +40,13 @@ QString entryName(const wchar_t* section, const wchar_t* key)
 QString headerOf(const char* section)
 {
     return QLatin1Char('[') + QString::fromUtf8(section) + QLatin1Char(']');
+}
+
+// Those with a separator in them too, which QSettings takes for keys of groups in the section. The
+// section without a name has none: what would be below it are the other sections.
+QStringList keysOf(const QSettings& section)
+{
+    return section.group().isEmpty() ? section.childKeys() : section.allKeys();
 }
 
 wchar_t* copied(const QString& text, wchar_t* out)
@@ -114,7 +123,7 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileSectionW(const wchar_t*
         return 0;
     WideProfile profile(file);
     profile->beginGroup(QString::fromWCharArray(section));
-    const QStringList keys = profile->childKeys();
+    const QStringList keys = keysOf(*profile);
     // The size bounds nothing. Intended.
     wchar_t* end = buffer;
     for (const QString& key : keys) {

@@ -51,7 +51,9 @@ public:
                                                 const wchar_t* file) override;
 
     /// Writes "key=value" and a NUL for each key of a section, then another NUL, whatever the size:
-    /// the buffer must be large enough. Returns the characters written, NULs included.
+    /// the buffer must be large enough. Returns the characters written, NULs included. A key with a
+    /// "/" in its name ("\" in the file) is listed too; so is "T/key" in S for what was written as
+    /// "key" in "S/T".
     unsigned int GetPrivateProfileSectionW(const wchar_t* section, wchar_t* buffer,
                                            unsigned int size, const wchar_t* file) override;
 

@@ -173,6 +173,41 @@ TEST_F(ProfileWide, ASectionIsListedWhateverTheSize)
     buffer.expect(std::wstring(L"k=\U0001F600\u4E2D\0\0", 6));
 }
 
+TEST_F(ProfileWide, ASectionIsListedWithTheKeysThatHoldASeparator)
+{
+    const std::pair<QByteArray, std::wstring> rows[] = {
+        {"[S]\nb=2\nsub\\a=1\n[T]\nc=3\n", std::wstring(L"b=2\0sub/a=1\0\0", 13)},
+        {"[S]\nsub\\deep\\a=1\n", std::wstring(L"sub/deep/a=1\0\0", 14)},
+        {"[S]\nsub\\a=1\nsub=2\n", std::wstring(L"sub=2\0sub/a=1\0\0", 15)},
+    };
+    for (const auto& [file, listing] : rows) {
+        write(file);
+        CanaryBuffer<wchar_t> buffer(32);
+        EXPECT_EQ(listing.size(),
+                  manager.GetPrivateProfileSectionW(L"S", buffer.data(), 32, wide.c_str()));
+        buffer.expect(listing);
+    }
+}
+
+TEST_F(ProfileWide, ASectionIsListedWithTheSeparatorsThatWereWritten)
+{
+    EXPECT_EQ(1, writeWide(L"S", L"sub/a", L"1"));
+    EXPECT_EQ(1, writeWide(L"S/sub", L"b", L"2"));
+    CanaryBuffer<wchar_t> buffer(32);
+    EXPECT_EQ(17U, manager.GetPrivateProfileSectionW(L"S", buffer.data(), 32, wide.c_str()));
+    buffer.expect(std::wstring(L"sub/a=1\0sub/b=2\0\0", 17));
+}
+
+// It has no header, so that any other section would count as a part of it.
+TEST_F(ProfileWide, TheSectionWithoutANameIsListedWithoutTheOthers)
+{
+    EXPECT_EQ(1, writeWide(L"", L"top", L"1"));
+    EXPECT_EQ(1, writeWide(L"S", L"k", L"2"));
+    CanaryBuffer<wchar_t> buffer(16);
+    EXPECT_EQ(7U, manager.GetPrivateProfileSectionW(L"", buffer.data(), 16, wide.c_str()));
+    buffer.expect(std::wstring(L"top=1\0\0", 7));
+}
+
 TEST_F(ProfileWide, AnEmptyOrAbsentSectionIsListedAsOneTerminator)
 {
     write("[Empty]\n");
