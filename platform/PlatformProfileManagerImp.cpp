@@ -49,6 +49,12 @@ QStringList keysOf(const QSettings& section)
     return section.group().isEmpty() ? section.childKeys() : section.allKeys();
 }
 
+// QSettings reads a key without a name as "/", and warns of an empty name.
+QString valueOf(const QSettings& section, const QString& key)
+{
+    return section.value(key.isEmpty() ? QStringLiteral("/") : key).toString();
+}
+
 wchar_t* copied(const QString& text, wchar_t* out)
 {
     return out + text.toWCharArray(out);
@@ -127,7 +133,7 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileSectionW(const wchar_t*
     // The size bounds nothing. Intended.
     wchar_t* end = buffer;
     for (const QString& key : keys) {
-        end = copied(key + QLatin1Char('=') + profile->value(key).toString(), end);
+        end = copied(key + QLatin1Char('=') + valueOf(*profile, key), end);
         *end++ = L'\0';
     }
     *end++ = L'\0';

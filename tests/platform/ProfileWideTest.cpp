@@ -198,6 +198,14 @@ TEST_F(ProfileWide, ASectionIsListedWithTheSeparatorsThatWereWritten)
     buffer.expect(std::wstring(L"sub/a=1\0sub/b=2\0\0", 17));
 }
 
+TEST_F(ProfileWide, ASectionIsListedWithAKeyThatHasNoName)
+{
+    write("[S]\n=1\n");
+    CanaryBuffer<wchar_t> buffer(16);
+    EXPECT_EQ(4U, manager.GetPrivateProfileSectionW(L"S", buffer.data(), 16, wide.c_str()));
+    buffer.expect(std::wstring(L"=1\0\0", 4));
+}
+
 // It has no header, so that any other section would count as a part of it.
 TEST_F(ProfileWide, TheSectionWithoutANameIsListedWithoutTheOthers)
 {
