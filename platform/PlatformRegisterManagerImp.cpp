@@ -60,6 +60,13 @@ QString slashed(QString name)
     return name.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
 
+// An entry may have no name, where "\" was given for one. QSettings reads it as "/", and warns of
+// an empty name.
+QVariant valueOf(const QSettings& store, const QString& name)
+{
+    return store.value(name.isEmpty() ? QStringLiteral("/") : name);
+}
+
 // Neither terminated nor bounded. Intended: callers take the length from the call.
 void copyName(const QString& name, wchar_t* buffer, unsigned int* length)
 {
@@ -207,7 +214,7 @@ unsigned int PlatformRegisterManagerImp::RegQueryInfoKeyW(
     write(values, static_cast<unsigned int>(names.size()));
     write(longestValueName, lengthOf(longestName));
     // Of the value with the longest name, not of the largest value. Intended.
-    write(longestValueData, names.isEmpty() ? 0 : dataLengthOf(m_store->value(longestName)));
+    write(longestValueData, names.isEmpty() ? 0 : dataLengthOf(valueOf(*m_store, longestName)));
     return ERROR_SUCCESS;
 }
 
@@ -258,7 +265,7 @@ unsigned int PlatformRegisterManagerImp::RegEnumValueW(HKEY key, unsigned int in
         return failure;
     const QString& found = names.at(static_cast<int>(index));
     copyName(found, name, nameLength);
-    return readValue(m_store->value(found), type, data, byteCount);
+    return readValue(valueOf(*m_store, found), type, data, byteCount);
 }
 
 unsigned int PlatformRegisterManagerImp::RegQueryValueW(HKEY key, const wchar_t* valueName,
@@ -313,7 +320,7 @@ unsigned int PlatformRegisterManagerImp::createKey(HKEY parent, const wchar_t* s
     if (!m_store || !parent)
         return failure;
     const QString path = slashed(pathBelow(parent, subKey));
-    // The store cannot hold an entry without a name, and would log a warning.
+    // Only "\" makes an entry without a name: QSettings refuses an empty one with a warning.
     if (!path.isEmpty() && !m_store->contains(path))
         m_store->setValue(path, QVariant());
     // The handle is lost and the result left dangling. Intended: callers rely on their own handle

@@ -64,7 +64,8 @@ public:
     /// only one of the two. Null result: 87.
     unsigned int RegOpenKeyW(HKEY key, const wchar_t* subKey, HKEY* result) override;
 
-    /// Writes a value; see `RegValueToQVar` for the types and for how much of the data is kept.
+    /// Writes a value; see `RegValueToQVar` for the types and for how much of the data is kept. A
+    /// name of "\" alone makes one that is listed with an empty name.
     unsigned int RegSetValueExW(HKEY key, const wchar_t* valueName, unsigned int reserved,
                                 unsigned int type, const unsigned char* data,
                                 unsigned int byteCount) override;

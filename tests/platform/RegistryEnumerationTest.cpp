@@ -200,6 +200,23 @@ TEST_F(RegistryEnumeration, AValueThatCannotBeReadFailsWithItsNameWritten)
     }
 }
 
+TEST_F(RegistryEnumeration, AValueNamedBackslashHasAnEmptyName)
+{
+    EXPECT_EQ(0U, setDword(*key, L"\\", 7));
+    CanaryBuffer<wchar_t> name(8);
+    CanaryBuffer<unsigned char> data(8);
+    unsigned int length = 1111;
+    unsigned int type = 1111;
+    unsigned int size = data.size();
+    EXPECT_EQ(0U, manager->RegEnumValueW(*key, 0, name.data(), &length, nullptr, &type, data.data(),
+                                         &size));
+    name.expectUntouched();
+    EXPECT_EQ(0U, length);
+    EXPECT_EQ(REG_DWORD, type);
+    EXPECT_EQ(4U, size);
+    data.expect(std::vector<unsigned char>{7, 0, 0, 0});
+}
+
 TEST_F(RegistryEnumeration, TheStoreIsLeftInNoGroup)
 {
     for (const unsigned int index : {0U, 9U}) {

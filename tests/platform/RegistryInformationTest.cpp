@@ -87,6 +87,15 @@ TEST_F(RegistryInformation, OnlyADwordHasADataLength)
     }
 }
 
+TEST_F(RegistryInformation, AValueNamedBackslashHasAnEmptyName)
+{
+    store.setValue("Key/x", "5$text");
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    EXPECT_EQ(0U, setDword(key, L"\\", 7));
+    store.remove("Key/x");
+    EXPECT_EQ((Answer{0, 0, 1, 0, 4}), of(L"Key"));
+}
+
 TEST_F(RegistryInformation, LengthsCountCharactersNotUtf16Units)
 {
     store.setValue(QString::fromUtf8("Key/😀😀"), "1$1");
