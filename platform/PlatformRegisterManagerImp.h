@@ -54,8 +54,7 @@ public:
 
     /// Opens a key that is an entry, or a group with anything in it; the caller owns the new
     /// handle. Otherwise the result becomes null and 2 is returned. Whether the key exists is asked
-    /// before
-    /// "\" becomes "/", so that a path of several levels has to be written with "/". Null
+    /// before "\" becomes "/", so that a path of several levels has to be written with "/". Null
     /// result: 1.
     unsigned int RegOpenKeyExW(HKEY key, const wchar_t* subKey, unsigned int options,
                                unsigned int access, HKEY* result) override;
