@@ -77,18 +77,20 @@ void copyName(const QString& name, wchar_t* buffer, unsigned int* length)
         *length = static_cast<unsigned int>(characters.size());
 }
 
-unsigned int lengthOf(const QString& name)
+struct Longest
 {
-    return static_cast<unsigned int>(name.toUcs4().size());
-}
+    QString name;
+    unsigned int length = 0; // characters
+};
 
 // The first of the longest names; empty when there are none.
-QString longestOf(const QStringList& names)
+Longest longestOf(const QStringList& names)
 {
-    QString longest = names.value(0);
+    Longest longest;
     for (const QString& name : names) {
-        if (lengthOf(name) > lengthOf(longest))
-            longest = name;
+        const auto length = static_cast<unsigned int>(name.toUcs4().size());
+        if (length > longest.length)
+            longest = {name, length};
     }
     return longest;
 }
@@ -208,13 +210,13 @@ unsigned int PlatformRegisterManagerImp::RegQueryInfoKeyW(
     const GroupScope group(*m_store, groupOf(key));
     const QStringList groups = m_store->childGroups();
     const QStringList names = m_store->childKeys();
-    const QString longestName = longestOf(names);
+    const Longest longest = longestOf(names);
     write(subKeys, static_cast<unsigned int>(groups.size()));
-    write(longestSubKey, lengthOf(longestOf(groups)));
+    write(longestSubKey, longestOf(groups).length);
     write(values, static_cast<unsigned int>(names.size()));
-    write(longestValueName, lengthOf(longestName));
+    write(longestValueName, longest.length);
     // Of the value with the longest name, not of the largest value. Intended.
-    write(longestValueData, names.isEmpty() ? 0 : dataLengthOf(valueOf(*m_store, longestName)));
+    write(longestValueData, names.isEmpty() ? 0 : dataLengthOf(valueOf(*m_store, longest.name)));
     return ERROR_SUCCESS;
 }
 
