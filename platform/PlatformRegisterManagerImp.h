@@ -121,6 +121,9 @@ public:
     unsigned int RegDeleteKeyAndAllSubkeys(const QString& path);
 
 private:
+    // The name as given; empty without a store or a key, where nothing can be asked for either.
+    QString nameToAsk(HKEY key, const wchar_t* name) const;
+
     unsigned int createKey(HKEY parent, const wchar_t* subKey, HKEY*& result);
     unsigned int deleteKey(HKEY parent, const wchar_t* subKey);
     unsigned int enumerateKey(HKEY key, unsigned int index, wchar_t* name,
