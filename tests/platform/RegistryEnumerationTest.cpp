@@ -98,6 +98,24 @@ TEST_F(RegistryEnumeration, ACreatedKeyIsAValueUntilSomethingLiesBelowIt)
     EXPECT_EQ((QStringList{"New", "Sub1", "Sub2"}), all(false));
 }
 
+TEST_F(RegistryEnumeration, ACreatedKeyIsAValueThatCannotBeRead)
+{
+    HKEY* result = nullptr;
+    EXPECT_EQ(0U, manager->RegCreateKeyW(*key, L"New", result));
+    CanaryBuffer<wchar_t> name(8);
+    CanaryBuffer<unsigned char> data(8);
+    unsigned int length = 1111;
+    unsigned int type = 2222;
+    unsigned int size = data.size();
+    EXPECT_EQ(1U, manager->RegEnumValueW(*key, 0, name.data(), &length, nullptr, &type, data.data(),
+                                         &size));
+    name.expect(std::wstring(L"New"));
+    EXPECT_EQ(3U, length);
+    EXPECT_EQ(2222U, type);
+    EXPECT_EQ(8U, size);
+    data.expectUntouched();
+}
+
 TEST_F(RegistryEnumeration, ARootListsTheTopOfTheStore)
 {
     store.setValue("top", "1$1");

@@ -49,6 +49,17 @@ TEST_F(RegistryInformation, CountsAndMeasures)
     EXPECT_EQ((Answer{2, 7, 2, 4, 0}), of(L"Key"));
 }
 
+TEST_F(RegistryInformation, ACreatedKeyCountsAsAValue)
+{
+    store.setValue("Key/a", "1$1");
+    store.setValue("Key/Sub/x", "1$1");
+    EXPECT_EQ((Answer{1, 3, 1, 1, 4}), of(L"Key"));
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    HKEY* result = nullptr;
+    EXPECT_EQ(0U, manager->RegCreateKeyW(key, L"Created", result));
+    EXPECT_EQ((Answer{1, 3, 2, 7, 0}), of(L"Key"));
+}
+
 TEST_F(RegistryInformation, OfAnEmptyStoreIsAllZero)
 {
     Answer answer;
