@@ -150,6 +150,17 @@ TEST_F(RegistryEnumeration, EveryResultMayBeNull)
         0U, manager->RegEnumValueW(*key, 0, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr));
 }
 
+TEST_F(RegistryEnumeration, GivesALengthWithoutAName)
+{
+    unsigned int length = 1111;
+    EXPECT_EQ(
+        0U, manager->RegEnumKeyExW(*key, 0, nullptr, &length, nullptr, nullptr, nullptr, nullptr));
+    EXPECT_EQ(4U, length);
+    EXPECT_EQ(
+        0U, manager->RegEnumValueW(*key, 0, nullptr, &length, nullptr, nullptr, nullptr, nullptr));
+    EXPECT_EQ(5U, length);
+}
+
 TEST_F(RegistryEnumeration, OfNoHandleFails)
 {
     EXPECT_EQ(1U, manager->RegEnumKeyW(nullptr, 0, nullptr, 0));
