@@ -129,6 +129,18 @@ TEST_F(RegistryKeys, TheShortOpenHandsBackTheParentItself)
     }
 }
 
+TEST_F(RegistryKeys, TheShortOpenOfNoHandleHandsItBackOrFails)
+{
+    for (const wchar_t* subKey : {static_cast<const wchar_t*>(nullptr), L""}) {
+        HKEY handle = unchanged;
+        EXPECT_EQ(0U, manager->RegOpenKeyW(nullptr, subKey, &handle));
+        EXPECT_EQ(nullptr, handle);
+    }
+    HKEY handle = unchanged;
+    EXPECT_EQ(1U, manager->RegOpenKeyW(nullptr, L"x", &handle));
+    EXPECT_EQ(unchanged, handle);
+}
+
 TEST_F(RegistryKeys, TheShortOpenOpensASubKey)
 {
     store.setValue("Key/value", "1$1");
