@@ -265,6 +265,25 @@ TEST_P(RegistryCreation, WithoutANameSucceedsAndStoresNothing)
     EXPECT_TRUE(store.allKeys().isEmpty());
 }
 
+TEST_P(RegistryCreation, WithoutANameBelowAKeyMakesThatKeyAnEntry)
+{
+    for (const wchar_t* subKey : {static_cast<const wchar_t*>(nullptr), L"", L"\\"}) {
+        store.clear();
+        store.setValue("A/v", "1$7");
+        const Key a(*this, HKEY_CURRENT_USER, L"A");
+        EXPECT_EQ(0U, create(a, subKey));
+        EXPECT_EQ((QStringList{"A", "A/v"}), store.allKeys());
+        EXPECT_FALSE(store.value("A").isValid());
+    }
+}
+
+TEST_P(RegistryCreation, OfABackslashAloneMakesAnEntryWithoutAName)
+{
+    EXPECT_EQ(0U, create(HKEY_CURRENT_USER, L"\\"));
+    EXPECT_EQ(QStringList(""), store.allKeys());
+    EXPECT_FALSE(store.value("/").isValid());
+}
+
 TEST_P(RegistryCreation, OutlivesTheStoreOnDisk)
 {
     EXPECT_EQ(0U, create(HKEY_CURRENT_USER, L"Key"));
