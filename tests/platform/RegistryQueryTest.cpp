@@ -65,6 +65,36 @@ TEST_F(RegistryQuery, ATextNeedsRoomForATerminatorThatIsNotWritten)
     data.expect(std::vector<unsigned char>{'a', 0, 0, 0, 'b', 0, 0, 0, 'c', 0, 0, 0});
 }
 
+TEST_F(RegistryQuery, HowMuchOfTheDataIsKeptDependsOnTheByteCount)
+{
+    struct Row
+    {
+        unsigned int type;
+        std::vector<unsigned char> data;
+        unsigned int size;
+        QString text;
+        std::vector<unsigned char> readBack;
+    };
+    const Row rows[] = {
+        {REG_DWORD, {0x78, 0x56, 0x34, 0x12}, 4, "1$305419896", {0x78, 0x56, 0x34, 0x12}},
+        {REG_DWORD, {0x78, 0x56, 0x34, 0x12}, 2, "1$120", {0x78, 0, 0, 0}},
+        {REG_QWORD, {0xFF, 1, 0, 0, 0, 0, 0, 0}, 8, "2$255", {0xFF, 0, 0, 0, 0, 0, 0, 0}},
+        {REG_BINARY, {0, 0xFF, 0x1A, 0x2B}, 3, "4$00ff1a", {0, 0xFF, 0x1A}},
+    };
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    for (const Row& row : rows) {
+        EXPECT_EQ(0U, manager->RegSetValueExW(key, L"x", 0, row.type, row.data.data(), row.size));
+        EXPECT_EQ(row.text, stored("Key/x"));
+        CanaryBuffer<unsigned char> data(16);
+        unsigned int type = 1111;
+        unsigned int size = data.size();
+        EXPECT_EQ(0U, manager->RegQueryValueExW(key, L"x", nullptr, &type, data.data(), &size));
+        EXPECT_EQ(row.type, type);
+        EXPECT_EQ(row.readBack.size(), size);
+        data.expect(row.readBack);
+    }
+}
+
 TEST_F(RegistryQuery, ASizeOfZeroMeasuresADwordOnly)
 {
     store.setValue("Key/quad", "2$7");
