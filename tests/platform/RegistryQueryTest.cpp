@@ -246,12 +246,29 @@ TEST_F(RegistryQuery, TheShortQueryUnderARootReadsAtTheTopOfTheStore)
     data.expect(std::wstring(1, L'\x7'));
 }
 
+TEST_F(RegistryQuery, TheShortQuerysResultsMayBeNull)
+{
+    store.setValue("Key/quad", "2$7");
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    EXPECT_EQ(0U, manager->RegQueryValueW(key, L"number", nullptr, nullptr));
+    CanaryBuffer<wchar_t> data(1);
+    EXPECT_EQ(0U, manager->RegQueryValueW(key, L"number", data.data(), nullptr));
+    data.expect(std::wstring(1, L'\x7'));
+    int size = 0;
+    EXPECT_EQ(1U, manager->RegQueryValueW(key, L"quad", nullptr, &size));
+    EXPECT_EQ(0, size);
+    EXPECT_EQ(0U, manager->RegQueryValueW(key, L"number", nullptr, &size));
+    EXPECT_EQ(4, size);
+}
+
 TEST_F(RegistryQuery, TheShortQuerysFailuresLeaveTheResultsAlone)
 {
     store.setValue("Key/text", "5$abc");
+    store.setValue("Key/invalid", QVariant());
     const Key key(*this, HKEY_CURRENT_USER, L"Key");
-    const std::pair<HKEY, const wchar_t*> failures[] = {
-        {nullptr, L"number"}, {key, nullptr}, {key, L""}, {key, L"missing"}, {key, L"text"}};
+    const std::pair<HKEY, const wchar_t*> failures[] = {{nullptr, L"number"}, {key, nullptr},
+                                                        {key, L""},           {key, L"missing"},
+                                                        {key, L"text"},       {key, L"invalid"}};
     for (const auto& [handle, name] : failures) {
         CanaryBuffer<wchar_t> data(3);
         int size = static_cast<int>(data.bytes());
