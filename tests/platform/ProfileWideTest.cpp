@@ -59,7 +59,7 @@ TEST_F(ProfileWide, AShorterValueIsPaddedUpToTheLastCharacterOfTheBuffer)
 TEST_F(ProfileWide, AValueThatFillsTheBufferGetsNoTerminator)
 {
     write("[S]\nk=abcd\n");
-    for (const std::size_t size : {5U, 4U}) {
+    for (const std::size_t size : {5U, 4U, 2U}) {
         CanaryBuffer<wchar_t> buffer(size);
         const std::size_t kept = size - 1;
         // The length is that of the text up to the caller's own NUL, here behind the canaries.
