@@ -4,6 +4,9 @@
 
 namespace {
 
+static_assert(sizeof(PlatformRegisterManagerImp) == 2 * sizeof(void*),
+              "the interface and the store, nothing else");
+
 class RegistryInformation : public RegistryFixture
 {
 protected:
