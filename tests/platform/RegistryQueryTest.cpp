@@ -211,6 +211,23 @@ TEST_F(RegistryQuery, ValuesOutliveTheStoreOnDisk)
     EXPECT_EQ("5$" + QString::fromWCharArray(text), storeOnDisk()->value("Key/text").toString());
 }
 
+TEST_F(RegistryQuery, TheKeyGeneralHasAnotherNameInTheFile)
+{
+    store.setValue("General/v", "1$7");
+    store.setValue("top", "1$8");
+    const Key key(*this, HKEY_CURRENT_USER, L"General");
+    EXPECT_EQ(0U, setDword(key, L"v", 9));
+    EXPECT_EQ("[General]\ntop=1$8\n\n[%General]\nv=1$9\n\n[Key]\nnumber=1$7\n", fileOnDisk());
+}
+
+TEST_F(RegistryQuery, CharactersBeyondTheBmpAreDroppedOnWritingWithAnIniCodec)
+{
+    store.setIniCodec("utf-8");
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    EXPECT_EQ(0U, manager->RegSetValueExW(key, L"number", 0, REG_SZ, bytesOf(L"x\U0001F600y"), 0));
+    EXPECT_EQ("[Key]\nnumber=5$xy\n", fileOnDisk());
+}
+
 TEST_F(RegistryQuery, TheStoreIsLeftInNoGroup)
 {
     const Key key(*this, HKEY_CURRENT_USER, L"Key");
