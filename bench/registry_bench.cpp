@@ -257,7 +257,7 @@ void measureRegistry()
         report("open and close a key of 100 values" + name,
                median(2000, [&store] { store.openAndClose(); }));
     }
-    for (const int values : {100, 1000, 3000}) {
+    for (const int values : {100, 1000, 3000, 10000}) {
         Registry store(values, values);
         store.save();
         report("list " + std::to_string(values) + " values once",

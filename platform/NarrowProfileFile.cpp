@@ -2,6 +2,7 @@
 
 #include <QTextCodec>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <memory>
@@ -33,6 +34,18 @@ void setStamp(int descriptor, std::int64_t stamp)
     times[1].tv_sec = stamp / 1000;
     times[1].tv_nsec = stamp % 1000 * 1000000;
     futimens(descriptor, times.data());
+}
+
+// The stamp of the last rewrite in this process. QSettings may still hold an earlier version of a
+// file under a stamp given here, even if the file was removed or restored by others since.
+std::int64_t latestStamp = 0;
+
+// The stamp of the last rewrite, unless that file's lay so far ahead of this one that following it
+// would lead away from the time of day.
+std::int64_t latestBeside(std::int64_t stamp)
+{
+    constexpr std::int64_t farAhead = milliseconds(1h).count();
+    return latestStamp < stamp + farAhead ? latestStamp : 0;
 }
 
 } // namespace
@@ -69,11 +82,15 @@ QString NarrowProfileFile::text()
 void NarrowProfileFile::rewrite(const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
-    if (!m_file.isSequential())
-        m_file.seek(0);
+    if (m_file.isSequential()) { // a device, which keeps no text and has its stamp from others
+        m_file.write(bytes);
+        return;
+    }
+    m_file.seek(0);
     if (m_file.write(bytes) == bytes.size())
         m_file.resize(bytes.size());
     advanceStamp();
+    latestStamp = stampOf(m_file.handle());
 }
 
 // QSettings, which reads the same files for the wide calls, takes a file of the same size and the
@@ -82,16 +99,28 @@ void NarrowProfileFile::rewrite(const QString& text)
 void NarrowProfileFile::advanceStamp()
 {
     const int descriptor = m_file.handle();
-    const auto stands = [this, descriptor] { return stampOf(descriptor) <= m_foundStamp; };
+    const std::int64_t former = std::max(m_foundStamp, latestBeside(stampOf(descriptor)));
     // Some file systems keep whole or even seconds only.
     for (const milliseconds step : {1ms, 1000ms, 2000ms}) {
-        if (!stands())
+        if (stampOf(descriptor) > former)
             return;
-        setStamp(descriptor, m_foundStamp + step.count());
+        setStamp(descriptor, former + step.count());
     }
-    // Only the owner may choose a stamp. Others can wait until the clock ticks.
-    constexpr int patience = 50;
-    for (int tries = 0; tries < patience && stampOf(descriptor) == m_foundStamp; ++tries) {
+    waitForStamp(former);
+}
+
+// Only the owner may choose a stamp. Others can wait until the clock ticks, but not until it comes
+// to a stamp that lies far ahead: then it is enough to differ from the one found.
+void NarrowProfileFile::waitForStamp(std::int64_t former)
+{
+    constexpr int patience = 50; // milliseconds
+    const int descriptor = m_file.handle();
+    const bool comes = former < stampOf(descriptor) + patience;
+    const auto stands = [this, descriptor, former, comes] {
+        const std::int64_t stamp = stampOf(descriptor);
+        return comes ? stamp <= former : stamp == m_foundStamp;
+    };
+    for (int tries = 0; tries < patience && stands(); ++tries) {
         std::this_thread::sleep_for(1ms);
         futimens(descriptor, nullptr);
     }

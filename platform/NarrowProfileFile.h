@@ -20,11 +20,13 @@ public:
     /// any carriage return.
     QString text();
 
-    /// Replaces the contents with `text` in UTF-8, at a later time stamp than the one found.
+    /// Replaces the contents with `text` in UTF-8, at a later time stamp than the one found and
+    /// than the one that the rewrite before, of any file, gave.
     void rewrite(const QString& text);
 
 private:
     void advanceStamp();
+    void waitForStamp(std::int64_t former);
 
     QFile m_file;
     std::int64_t m_foundStamp = 0; // milliseconds

@@ -5,6 +5,7 @@
 
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <cstring>
@@ -24,6 +25,7 @@ public:
     }
 
     QSettings* operator->() { return &m_settings; }
+    QSettings& operator*() { return m_settings; }
 
 private:
     QSettings m_settings;
@@ -38,6 +40,19 @@ QString entryName(const wchar_t* section, const wchar_t* key)
 QString headerOf(const char* section)
 {
     return QLatin1Char('[') + QString::fromUtf8(section) + QLatin1Char(']');
+}
+
+// Those with a separator in them too, which QSettings takes for keys of groups in the section. The
+// section without a name has none: what would be below it are the other sections.
+QStringList keysOf(const QSettings& section)
+{
+    return section.group().isEmpty() ? section.childKeys() : section.allKeys();
+}
+
+// QSettings reads a key without a name as "/", and warns of an empty name.
+QString valueOf(const QSettings& section, const QString& key)
+{
+    return section.value(key.isEmpty() ? QStringLiteral("/") : key).toString();
 }
 
 wchar_t* copied(const QString& text, wchar_t* out)
@@ -114,11 +129,11 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileSectionW(const wchar_t*
         return 0;
     WideProfile profile(file);
     profile->beginGroup(QString::fromWCharArray(section));
-    const QStringList keys = profile->childKeys();
+    const QStringList keys = keysOf(*profile);
     // The size bounds nothing. Intended.
     wchar_t* end = buffer;
     for (const QString& key : keys) {
-        end = copied(key + QLatin1Char('=') + profile->value(key).toString(), end);
+        end = copied(key + QLatin1Char('=') + valueOf(*profile, key), end);
         *end++ = L'\0';
     }
     *end++ = L'\0';

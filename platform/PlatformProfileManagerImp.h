@@ -7,7 +7,8 @@
 /// The wide calls open the file as `QSettings` does an INI file, in UTF-8; names are
 /// case-sensitive, and wide strings are NUL-terminated UTF-32. The narrow calls read and rewrite
 /// the file with a line parser of their own (see `NarrowProfile`); narrow strings are UTF-8. What
-/// one family writes, the next call of the other sees. Nothing is kept between calls.
+/// one family writes, the next call of the other sees. Nothing is kept between calls but for the
+/// last time stamp given.
 ///
 /// Sizes are counted in the buffer's own characters: 4 bytes in the wide family, 1 in the narrow
 /// one. A null section, key, file or buffer gets the failure value, and nothing is written. A file
@@ -50,7 +51,9 @@ public:
                                                 const wchar_t* file) override;
 
     /// Writes "key=value" and a NUL for each key of a section, then another NUL, whatever the size:
-    /// the buffer must be large enough. Returns the characters written, NULs included.
+    /// the buffer must be large enough. Returns the characters written, NULs included. A key with a
+    /// "/" in its name ("\" in the file) is listed too; so is "T/key" in S for what was written as
+    /// "key" in "S/T".
     unsigned int GetPrivateProfileSectionW(const wchar_t* section, wchar_t* buffer,
                                            unsigned int size, const wchar_t* file) override;
 

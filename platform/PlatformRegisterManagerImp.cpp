@@ -60,6 +60,20 @@ QString slashed(QString name)
     return name.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
 
+// An entry may have no name, where "\" was given for one. QSettings reads it as "/", and warns of
+// an empty name.
+QVariant valueOf(const QSettings& store, const QString& name)
+{
+    return store.value(name.isEmpty() ? QStringLiteral("/") : name);
+}
+
+// Null at or past the end.
+const QString* nameAt(const QStringList& names, unsigned int index)
+{
+    return index < static_cast<unsigned int>(names.size()) ? &names.at(static_cast<int>(index))
+                                                           : nullptr;
+}
+
 // Neither terminated nor bounded. Intended: callers take the length from the call.
 void copyName(const QString& name, wchar_t* buffer, unsigned int* length)
 {
@@ -70,18 +84,20 @@ void copyName(const QString& name, wchar_t* buffer, unsigned int* length)
         *length = static_cast<unsigned int>(characters.size());
 }
 
-unsigned int lengthOf(const QString& name)
+struct Longest
 {
-    return static_cast<unsigned int>(name.toUcs4().size());
-}
+    QString name;
+    unsigned int length = 0; // characters
+};
 
 // The first of the longest names; empty when there are none.
-QString longestOf(const QStringList& names)
+Longest longestOf(const QStringList& names)
 {
-    QString longest = names.value(0);
+    Longest longest;
     for (const QString& name : names) {
-        if (lengthOf(name) > lengthOf(longest))
-            longest = name;
+        const auto length = static_cast<unsigned int>(name.toUcs4().size());
+        if (length > longest.length)
+            longest = {name, length};
     }
     return longest;
 }
@@ -121,8 +137,8 @@ unsigned int PlatformRegisterManagerImp::RegQueryValueExW(HKEY key, const wchar_
                                                           unsigned int* type, unsigned char* data,
                                                           unsigned int* byteCount)
 {
-    const QString name = QString::fromWCharArray(valueName);
-    if (!m_store || !key || name.isEmpty())
+    const QString name = nameToAsk(key, valueName);
+    if (name.isEmpty())
         return failure;
     const GroupScope group(*m_store, valueGroupOf(key, name));
     return readValue(m_store->value(slashed(name)), type, data, byteCount);
@@ -171,8 +187,8 @@ unsigned int PlatformRegisterManagerImp::RegSetValueExW(HKEY key, const wchar_t*
                                                         const unsigned char* data,
                                                         unsigned int byteCount)
 {
-    const QString name = QString::fromWCharArray(valueName);
-    if (!m_store || !key || name.isEmpty())
+    const QString name = nameToAsk(key, valueName);
+    if (name.isEmpty())
         return failure;
     QVariant value;
     if (!RegValueToQVar(value, type, data, byteCount) || value.isNull())
@@ -201,13 +217,13 @@ unsigned int PlatformRegisterManagerImp::RegQueryInfoKeyW(
     const GroupScope group(*m_store, groupOf(key));
     const QStringList groups = m_store->childGroups();
     const QStringList names = m_store->childKeys();
-    const QString longestName = longestOf(names);
+    const Longest longest = longestOf(names);
     write(subKeys, static_cast<unsigned int>(groups.size()));
-    write(longestSubKey, lengthOf(longestOf(groups)));
+    write(longestSubKey, longestOf(groups).length);
     write(values, static_cast<unsigned int>(names.size()));
-    write(longestValueName, lengthOf(longestName));
+    write(longestValueName, longest.length);
     // Of the value with the longest name, not of the largest value. Intended.
-    write(longestValueData, names.isEmpty() ? 0 : dataLengthOf(m_store->value(longestName)));
+    write(longestValueData, names.isEmpty() ? 0 : dataLengthOf(valueOf(*m_store, longest.name)));
     return ERROR_SUCCESS;
 }
 
@@ -224,8 +240,8 @@ unsigned int PlatformRegisterManagerImp::RegDeleteKeyW(HKEY key, const wchar_t* 
 
 unsigned int PlatformRegisterManagerImp::RegDeleteValueW(HKEY key, const wchar_t* valueName)
 {
-    const QString name = QString::fromWCharArray(valueName);
-    if (!m_store || !key || name.isEmpty())
+    const QString name = nameToAsk(key, valueName);
+    if (name.isEmpty())
         return failure;
     const GroupScope group(*m_store, groupOf(key));
     m_store->remove(slashed(name));
@@ -254,18 +270,18 @@ unsigned int PlatformRegisterManagerImp::RegEnumValueW(HKEY key, unsigned int in
     // Listed anew by every call: the host library writes to its store directly, and QSettings tells
     // nobody of it.
     const QStringList names = m_store->childKeys();
-    if (index >= static_cast<unsigned int>(names.size()))
+    const QString* found = nameAt(names, index);
+    if (!found)
         return failure;
-    const QString& found = names.at(static_cast<int>(index));
-    copyName(found, name, nameLength);
-    return readValue(m_store->value(found), type, data, byteCount);
+    copyName(*found, name, nameLength);
+    return readValue(valueOf(*m_store, *found), type, data, byteCount);
 }
 
 unsigned int PlatformRegisterManagerImp::RegQueryValueW(HKEY key, const wchar_t* valueName,
                                                         wchar_t* data, int* byteCount)
 {
-    const QString name = QString::fromWCharArray(valueName);
-    if (!m_store || !key || name.isEmpty())
+    const QString name = nameToAsk(key, valueName);
+    if (name.isEmpty())
         return failure;
     const GroupScope group(*m_store, groupOf(key));
     return readValue(m_store->value(slashed(name)), nullptr, reinterpret_cast<unsigned char*>(data),
@@ -302,6 +318,11 @@ unsigned int PlatformRegisterManagerImp::RegDeleteKeyAndAllSubkeys(const QString
     return 1;
 }
 
+QString PlatformRegisterManagerImp::nameToAsk(HKEY key, const wchar_t* name) const
+{
+    return m_store && key ? QString::fromWCharArray(name) : QString();
+}
+
 #if __GNUC__ >= 12
 #pragma GCC diagnostic push
 // The pointer is meant to dangle: see below.
@@ -313,7 +334,7 @@ unsigned int PlatformRegisterManagerImp::createKey(HKEY parent, const wchar_t* s
     if (!m_store || !parent)
         return failure;
     const QString path = slashed(pathBelow(parent, subKey));
-    // The store cannot hold an entry without a name, and would log a warning.
+    // Only "\" makes an entry without a name: QSettings refuses an empty one with a warning.
     if (!path.isEmpty() && !m_store->contains(path))
         m_store->setValue(path, QVariant());
     // The handle is lost and the result left dangling. Intended: callers rely on their own handle
@@ -328,11 +349,11 @@ unsigned int PlatformRegisterManagerImp::createKey(HKEY parent, const wchar_t* s
 
 unsigned int PlatformRegisterManagerImp::deleteKey(HKEY parent, const wchar_t* subKey)
 {
-    const QString path = slashed(QString::fromWCharArray(subKey));
-    if (!m_store || !parent || path.isEmpty())
+    const QString name = nameToAsk(parent, subKey);
+    if (name.isEmpty())
         return failure;
     const GroupScope group(*m_store, groupOf(parent));
-    RegDeleteKeyAndAllSubkeys(path);
+    RegDeleteKeyAndAllSubkeys(slashed(name));
     return ERROR_SUCCESS;
 }
 
@@ -343,8 +364,9 @@ unsigned int PlatformRegisterManagerImp::enumerateKey(HKEY key, unsigned int ind
         return failure;
     const GroupScope group(*m_store, groupOf(key));
     const QStringList groups = m_store->childGroups();
-    if (index >= static_cast<unsigned int>(groups.size()))
+    const QString* found = nameAt(groups, index);
+    if (!found)
         return failure;
-    copyName(groups.at(static_cast<int>(index)), name, nameLength);
+    copyName(*found, name, nameLength);
     return ERROR_SUCCESS;
 }

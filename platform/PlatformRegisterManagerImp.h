@@ -54,8 +54,7 @@ public:
 
     /// Opens a key that is an entry, or a group with anything in it; the caller owns the new
     /// handle. Otherwise the result becomes null and 2 is returned. Whether the key exists is asked
-    /// before
-    /// "\" becomes "/", so that a path of several levels has to be written with "/". Null
+    /// before "\" becomes "/", so that a path of several levels has to be written with "/". Null
     /// result: 1.
     unsigned int RegOpenKeyExW(HKEY key, const wchar_t* subKey, unsigned int options,
                                unsigned int access, HKEY* result) override;
@@ -64,7 +63,8 @@ public:
     /// only one of the two. Null result: 87.
     unsigned int RegOpenKeyW(HKEY key, const wchar_t* subKey, HKEY* result) override;
 
-    /// Writes a value; see `RegValueToQVar` for the types and for how much of the data is kept.
+    /// Writes a value; see `RegValueToQVar` for the types and for how much of the data is kept. A
+    /// name of "\" alone makes one that is listed with an empty name.
     unsigned int RegSetValueExW(HKEY key, const wchar_t* valueName, unsigned int reserved,
                                 unsigned int type, const unsigned char* data,
                                 unsigned int byteCount) override;
@@ -121,6 +121,9 @@ public:
     unsigned int RegDeleteKeyAndAllSubkeys(const QString& path);
 
 private:
+    // The name as given; empty without a store or a key, where nothing can be asked for either.
+    QString nameToAsk(HKEY key, const wchar_t* name) const;
+
     unsigned int createKey(HKEY parent, const wchar_t* subKey, HKEY*& result);
     unsigned int deleteKey(HKEY parent, const wchar_t* subKey);
     unsigned int enumerateKey(HKEY key, unsigned int index, wchar_t* name,

@@ -82,6 +82,43 @@ TEST_F(ProfileFamilies, SeeAFileThatANarrowWriteMadeAnew)
     }
 }
 
+// QSettings still holds what it read of the file that was removed.
+TEST_F(ProfileFamilies, SeeANarrowWriteToAFileThatWasRemovedBefore)
+{
+    for (int i = 1; i <= 300 && !HasFailure(); ++i) {
+        EXPECT_TRUE(QFile::remove(path));
+        writeNarrowNumber(i);
+        EXPECT_EQ(QString(digits(i)).toStdWString(), readWide(L"S", L"n"));
+    }
+}
+
+TEST_F(ProfileFamilies, SeeANarrowWriteToAFileThatOthersRestoredBefore)
+{
+    const QByteArray former = content();
+    for (int i = 1; i <= 300 && !HasFailure(); ++i) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+        EXPECT_EQ(former.size(), file.write(former));
+        file.close();
+        writeNarrowNumber(i);
+        expectNumbers(i, 0);
+    }
+}
+
+// Each of the two files is left with a stamp that QSettings may know from the other one.
+TEST_F(ProfileFamilies, SeeNarrowWritesToFilesThatTakeTurnsUnderOneName)
+{
+    const QString other = folder.filePath("other.ini");
+    EXPECT_TRUE(QFile::copy(path, other));
+    for (int i = 1; i <= 300 && !HasFailure(); ++i) {
+        EXPECT_TRUE(QFile::rename(path, folder.filePath("third.ini")));
+        EXPECT_TRUE(QFile::rename(other, path));
+        EXPECT_TRUE(QFile::rename(folder.filePath("third.ini"), other));
+        writeNarrowNumber(i);
+        expectNumbers(i, 0);
+    }
+}
+
 // A settings object of somebody else's in this process shares what QSettings keeps of the file.
 TEST_F(ProfileFamilies, SeeEachOthersWritesThroughForeignSettings)
 {

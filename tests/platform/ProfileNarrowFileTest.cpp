@@ -48,6 +48,17 @@ protected:
     {
         return time.tv_sec * 1000LL + time.tv_nsec / 1000000;
     }
+
+    // Leaves the stamp of the last rewrite at this many seconds after the present, or so.
+    void leaveLatestStampAhead(time_t seconds)
+    {
+        // One that lies far ahead is not followed by the next rewrite, whatever was given before.
+        for (const time_t ahead : {time_t(1000000), seconds}) {
+            write("[S]\nk=v\n");
+            setStamp(time(nullptr) + ahead, 0);
+            EXPECT_EQ(1, writeNarrow("S", "k", "w"));
+        }
+    }
 };
 
 TEST_F(ProfileNarrowFile, IsCreatedWhereThereIsNone)
@@ -117,6 +128,15 @@ TEST_F(ProfileNarrowFile, ThatDoesNotTakeTheTextDoesNotFailTheWrite)
     EXPECT_EQ("[S]\n", content());
 }
 
+TEST_F(ProfileNarrowFile, ThatIsADeviceKeepsItsStamp)
+{
+    const struct stat before = statusOf("/dev/null");
+    EXPECT_EQ(1, manager.WritePrivateProfileStringA("S", "k", "v", "/dev/null"));
+    const struct stat after = statusOf("/dev/null");
+    EXPECT_EQ(before.st_mtim.tv_sec, after.st_mtim.tv_sec);
+    EXPECT_EQ(before.st_mtim.tv_nsec, after.st_mtim.tv_nsec);
+}
+
 TEST_F(ProfileNarrowFile, MovesOnFromAStampThatLiesAhead)
 {
     write("[S]\nk=v\n");
@@ -134,6 +154,22 @@ TEST_F(ProfileNarrowFile, HasTheTimeOfTheWriteWhenItsStampIsOld)
     const time_t now = time(nullptr);
     EXPECT_EQ(1, writeNarrow("S", "k", "w"));
     EXPECT_LE(now, status().st_mtim.tv_sec + 1);
+}
+
+TEST_F(ProfileNarrowFile, FollowsAStampGivenToAnotherUnlessThatLiesAnHourAhead)
+{
+    const QByteArray other = folder.filePath("other.ini").toUtf8();
+    const std::pair<time_t, bool> rows[] = {{3540, true}, {3660, false}};
+    for (const auto& [ahead, followed] : rows) {
+        QFile::remove(other);
+        leaveLatestStampAhead(ahead);
+        EXPECT_EQ(1, manager.WritePrivateProfileStringA("S", "k", "v", other));
+        const qint64 expected = milliseconds(status().st_mtim) + 1;
+        if (followed)
+            EXPECT_EQ(expected, milliseconds(statusOf(other).st_mtim));
+        else
+            EXPECT_GT(time(nullptr) + 60, statusOf(other).st_mtim.tv_sec);
+    }
 }
 
 // A file in a folder that everybody can reach; the test's own cannot be.
@@ -164,17 +200,50 @@ TEST_F(ProfileSharedFile, ThatMayOnlyBeReadFailsTheWriteAndStays)
     EXPECT_STREQ("v", buffer);
 }
 
-TEST_F(ProfileSharedFile, OfSomebodyElseMovesOnWithTheClock)
+// A file of somebody else's, whose stamp only the clock moves.
+class ProfileForeignFile : public ProfileSharedFile
 {
-    if (geteuid() != 0)
-        GTEST_SKIP() << "only an administrator can own a file as somebody else";
-    EXPECT_EQ(0, chmod(file.constData(), 0666));
-    const Unprivileged user;
-    for (int i = 0; i < 20; ++i) {
-        const qint64 before = milliseconds(statusOf(file).st_mtim);
-        EXPECT_EQ(1, manager.WritePrivateProfileStringA("S", "k", "w", file));
-        EXPECT_LT(before, milliseconds(statusOf(file).st_mtim));
+protected:
+    void SetUp() override
+    {
+        if (geteuid() != 0)
+            GTEST_SKIP() << "only an administrator can own a file as somebody else";
+        EXPECT_EQ(0, chmod(file.constData(), 0666));
     }
+
+    void expectToMoveOn()
+    {
+        const Unprivileged user;
+        for (int i = 0; i < 20; ++i) {
+            const qint64 before = milliseconds(statusOf(file).st_mtim);
+            EXPECT_EQ(1, manager.WritePrivateProfileStringA("S", "k", "w", file));
+            EXPECT_LT(before, milliseconds(statusOf(file).st_mtim));
+        }
+    }
+};
+
+TEST_F(ProfileForeignFile, MovesOnWithTheClock)
+{
+    leaveLatestStampAhead(0);
+    expectToMoveOn();
+}
+
+TEST_F(ProfileForeignFile, MovesOnWithTheClockThoughTheLatestStampLiesAhead)
+{
+    leaveLatestStampAhead(1000);
+    expectToMoveOn();
+}
+
+TEST_F(ProfileForeignFile, WaitsForAStampThatTheClockSoonPasses)
+{
+    leaveLatestStampAhead(0);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(1, writeNarrow("S", "k", "v"));
+    {
+        const Unprivileged user;
+        EXPECT_EQ(1, manager.WritePrivateProfileStringA("S", "k", "w", file));
+    }
+    EXPECT_LT(milliseconds(status().st_mtim), milliseconds(statusOf(file).st_mtim));
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 
 namespace {
 
+static_assert(sizeof(PlatformProfileManagerImp) == sizeof(void*), "the interface, nothing else");
+
 class ProfileStubs : public ProfileFixture
 {
 protected:

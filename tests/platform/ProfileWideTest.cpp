@@ -59,7 +59,7 @@ TEST_F(ProfileWide, AShorterValueIsPaddedUpToTheLastCharacterOfTheBuffer)
 TEST_F(ProfileWide, AValueThatFillsTheBufferGetsNoTerminator)
 {
     write("[S]\nk=abcd\n");
-    for (const std::size_t size : {5U, 4U}) {
+    for (const std::size_t size : {5U, 4U, 2U}) {
         CanaryBuffer<wchar_t> buffer(size);
         const std::size_t kept = size - 1;
         // The length is that of the text up to the caller's own NUL, here behind the canaries.
@@ -171,6 +171,49 @@ TEST_F(ProfileWide, ASectionIsListedWhateverTheSize)
     CanaryBuffer<wchar_t> buffer(16);
     EXPECT_EQ(6U, manager.GetPrivateProfileSectionW(L"S", buffer.data(), 0, wide.c_str()));
     buffer.expect(std::wstring(L"k=\U0001F600\u4E2D\0\0", 6));
+}
+
+TEST_F(ProfileWide, ASectionIsListedWithTheKeysThatHoldASeparator)
+{
+    const std::pair<QByteArray, std::wstring> rows[] = {
+        {"[S]\nb=2\nsub\\a=1\n[T]\nc=3\n", std::wstring(L"b=2\0sub/a=1\0\0", 13)},
+        {"[S]\nsub\\deep\\a=1\n", std::wstring(L"sub/deep/a=1\0\0", 14)},
+        {"[S]\nsub\\a=1\nsub=2\n", std::wstring(L"sub=2\0sub/a=1\0\0", 15)},
+    };
+    for (const auto& [file, listing] : rows) {
+        write(file);
+        CanaryBuffer<wchar_t> buffer(32);
+        EXPECT_EQ(listing.size(),
+                  manager.GetPrivateProfileSectionW(L"S", buffer.data(), 32, wide.c_str()));
+        buffer.expect(listing);
+    }
+}
+
+TEST_F(ProfileWide, ASectionIsListedWithTheSeparatorsThatWereWritten)
+{
+    EXPECT_EQ(1, writeWide(L"S", L"sub/a", L"1"));
+    EXPECT_EQ(1, writeWide(L"S/sub", L"b", L"2"));
+    CanaryBuffer<wchar_t> buffer(32);
+    EXPECT_EQ(17U, manager.GetPrivateProfileSectionW(L"S", buffer.data(), 32, wide.c_str()));
+    buffer.expect(std::wstring(L"sub/a=1\0sub/b=2\0\0", 17));
+}
+
+TEST_F(ProfileWide, ASectionIsListedWithAKeyThatHasNoName)
+{
+    write("[S]\n=1\n");
+    CanaryBuffer<wchar_t> buffer(16);
+    EXPECT_EQ(4U, manager.GetPrivateProfileSectionW(L"S", buffer.data(), 16, wide.c_str()));
+    buffer.expect(std::wstring(L"=1\0\0", 4));
+}
+
+// It has no header, so that any other section would count as a part of it.
+TEST_F(ProfileWide, TheSectionWithoutANameIsListedWithoutTheOthers)
+{
+    EXPECT_EQ(1, writeWide(L"", L"top", L"1"));
+    EXPECT_EQ(1, writeWide(L"S", L"k", L"2"));
+    CanaryBuffer<wchar_t> buffer(16);
+    EXPECT_EQ(7U, manager.GetPrivateProfileSectionW(L"", buffer.data(), 16, wide.c_str()));
+    buffer.expect(std::wstring(L"top=1\0\0", 7));
 }
 
 TEST_F(ProfileWide, AnEmptyOrAbsentSectionIsListedAsOneTerminator)

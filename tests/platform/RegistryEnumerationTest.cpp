@@ -98,6 +98,24 @@ TEST_F(RegistryEnumeration, ACreatedKeyIsAValueUntilSomethingLiesBelowIt)
     EXPECT_EQ((QStringList{"New", "Sub1", "Sub2"}), all(false));
 }
 
+TEST_F(RegistryEnumeration, ACreatedKeyIsAValueThatCannotBeRead)
+{
+    HKEY* result = nullptr;
+    EXPECT_EQ(0U, manager->RegCreateKeyW(*key, L"New", result));
+    CanaryBuffer<wchar_t> name(8);
+    CanaryBuffer<unsigned char> data(8);
+    unsigned int length = 1111;
+    unsigned int type = 2222;
+    unsigned int size = data.size();
+    EXPECT_EQ(1U, manager->RegEnumValueW(*key, 0, name.data(), &length, nullptr, &type, data.data(),
+                                         &size));
+    name.expect(std::wstring(L"New"));
+    EXPECT_EQ(3U, length);
+    EXPECT_EQ(2222U, type);
+    EXPECT_EQ(8U, size);
+    data.expectUntouched();
+}
+
 TEST_F(RegistryEnumeration, ARootListsTheTopOfTheStore)
 {
     store.setValue("top", "1$1");
@@ -130,6 +148,17 @@ TEST_F(RegistryEnumeration, EveryResultMayBeNull)
         0U, manager->RegEnumKeyExW(*key, 0, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr));
     EXPECT_EQ(
         0U, manager->RegEnumValueW(*key, 0, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr));
+}
+
+TEST_F(RegistryEnumeration, GivesALengthWithoutAName)
+{
+    unsigned int length = 1111;
+    EXPECT_EQ(
+        0U, manager->RegEnumKeyExW(*key, 0, nullptr, &length, nullptr, nullptr, nullptr, nullptr));
+    EXPECT_EQ(4U, length);
+    EXPECT_EQ(
+        0U, manager->RegEnumValueW(*key, 0, nullptr, &length, nullptr, nullptr, nullptr, nullptr));
+    EXPECT_EQ(5U, length);
 }
 
 TEST_F(RegistryEnumeration, OfNoHandleFails)
@@ -198,6 +227,23 @@ TEST_F(RegistryEnumeration, AValueThatCannotBeReadFailsWithItsNameWritten)
         EXPECT_EQ(12U, size);
         data.expectUntouched();
     }
+}
+
+TEST_F(RegistryEnumeration, AValueNamedBackslashHasAnEmptyName)
+{
+    EXPECT_EQ(0U, setDword(*key, L"\\", 7));
+    CanaryBuffer<wchar_t> name(8);
+    CanaryBuffer<unsigned char> data(8);
+    unsigned int length = 1111;
+    unsigned int type = 1111;
+    unsigned int size = data.size();
+    EXPECT_EQ(0U, manager->RegEnumValueW(*key, 0, name.data(), &length, nullptr, &type, data.data(),
+                                         &size));
+    name.expectUntouched();
+    EXPECT_EQ(0U, length);
+    EXPECT_EQ(REG_DWORD, type);
+    EXPECT_EQ(4U, size);
+    data.expect(std::vector<unsigned char>{7, 0, 0, 0});
 }
 
 TEST_F(RegistryEnumeration, TheStoreIsLeftInNoGroup)

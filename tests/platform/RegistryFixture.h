@@ -71,6 +71,15 @@ protected:
         return std::make_unique<QSettings>(copy, QSettings::IniFormat);
     }
 
+    /// Saves the store; what its file then holds.
+    QByteArray fileOnDisk()
+    {
+        store.sync();
+        QFile file(store.fileName());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
     QString stored(const QString& path) { return store.value(path).toString(); }
 
     QTemporaryDir folder;

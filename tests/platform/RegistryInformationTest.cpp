@@ -4,6 +4,9 @@
 
 namespace {
 
+static_assert(sizeof(PlatformRegisterManagerImp) == 2 * sizeof(void*),
+              "the interface and the store, nothing else");
+
 class RegistryInformation : public RegistryFixture
 {
 protected:
@@ -49,6 +52,17 @@ TEST_F(RegistryInformation, CountsAndMeasures)
     EXPECT_EQ((Answer{2, 7, 2, 4, 0}), of(L"Key"));
 }
 
+TEST_F(RegistryInformation, ACreatedKeyCountsAsAValue)
+{
+    store.setValue("Key/a", "1$1");
+    store.setValue("Key/Sub/x", "1$1");
+    EXPECT_EQ((Answer{1, 3, 1, 1, 4}), of(L"Key"));
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    HKEY* result = nullptr;
+    EXPECT_EQ(0U, manager->RegCreateKeyW(key, L"Created", result));
+    EXPECT_EQ((Answer{1, 3, 2, 7, 0}), of(L"Key"));
+}
+
 TEST_F(RegistryInformation, OfAnEmptyStoreIsAllZero)
 {
     Answer answer;
@@ -85,6 +99,15 @@ TEST_F(RegistryInformation, OnlyADwordHasADataLength)
         store.setValue("Key/value", text);
         EXPECT_EQ(length, of(L"Key").longestValueData) << text;
     }
+}
+
+TEST_F(RegistryInformation, AValueNamedBackslashHasAnEmptyName)
+{
+    store.setValue("Key/x", "5$text");
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    EXPECT_EQ(0U, setDword(key, L"\\", 7));
+    store.remove("Key/x");
+    EXPECT_EQ((Answer{0, 0, 1, 0, 4}), of(L"Key"));
 }
 
 TEST_F(RegistryInformation, LengthsCountCharactersNotUtf16Units)

@@ -129,6 +129,18 @@ TEST_F(RegistryKeys, TheShortOpenHandsBackTheParentItself)
     }
 }
 
+TEST_F(RegistryKeys, TheShortOpenOfNoHandleHandsItBackOrFails)
+{
+    for (const wchar_t* subKey : {static_cast<const wchar_t*>(nullptr), L""}) {
+        HKEY handle = unchanged;
+        EXPECT_EQ(0U, manager->RegOpenKeyW(nullptr, subKey, &handle));
+        EXPECT_EQ(nullptr, handle);
+    }
+    HKEY handle = unchanged;
+    EXPECT_EQ(1U, manager->RegOpenKeyW(nullptr, L"x", &handle));
+    EXPECT_EQ(unchanged, handle);
+}
+
 TEST_F(RegistryKeys, TheShortOpenOpensASubKey)
 {
     store.setValue("Key/value", "1$1");
@@ -251,6 +263,25 @@ TEST_P(RegistryCreation, WithoutANameSucceedsAndStoresNothing)
     EXPECT_EQ(0U, create(HKEY_CURRENT_USER, nullptr));
     EXPECT_EQ(0U, create(HKEY_CURRENT_USER, L""));
     EXPECT_TRUE(store.allKeys().isEmpty());
+}
+
+TEST_P(RegistryCreation, WithoutANameBelowAKeyMakesThatKeyAnEntry)
+{
+    for (const wchar_t* subKey : {static_cast<const wchar_t*>(nullptr), L"", L"\\"}) {
+        store.clear();
+        store.setValue("A/v", "1$7");
+        const Key a(*this, HKEY_CURRENT_USER, L"A");
+        EXPECT_EQ(0U, create(a, subKey));
+        EXPECT_EQ((QStringList{"A", "A/v"}), store.allKeys());
+        EXPECT_FALSE(store.value("A").isValid());
+    }
+}
+
+TEST_P(RegistryCreation, OfABackslashAloneMakesAnEntryWithoutAName)
+{
+    EXPECT_EQ(0U, create(HKEY_CURRENT_USER, L"\\"));
+    EXPECT_EQ(QStringList(""), store.allKeys());
+    EXPECT_FALSE(store.value("/").isValid());
 }
 
 TEST_P(RegistryCreation, OutlivesTheStoreOnDisk)

@@ -65,6 +65,36 @@ TEST_F(RegistryQuery, ATextNeedsRoomForATerminatorThatIsNotWritten)
     data.expect(std::vector<unsigned char>{'a', 0, 0, 0, 'b', 0, 0, 0, 'c', 0, 0, 0});
 }
 
+TEST_F(RegistryQuery, HowMuchOfTheDataIsKeptDependsOnTheByteCount)
+{
+    struct Row
+    {
+        unsigned int type;
+        std::vector<unsigned char> data;
+        unsigned int size;
+        QString text;
+        std::vector<unsigned char> readBack;
+    };
+    const Row rows[] = {
+        {REG_DWORD, {0x78, 0x56, 0x34, 0x12}, 4, "1$305419896", {0x78, 0x56, 0x34, 0x12}},
+        {REG_DWORD, {0x78, 0x56, 0x34, 0x12}, 2, "1$120", {0x78, 0, 0, 0}},
+        {REG_QWORD, {0xFF, 1, 0, 0, 0, 0, 0, 0}, 8, "2$255", {0xFF, 0, 0, 0, 0, 0, 0, 0}},
+        {REG_BINARY, {0, 0xFF, 0x1A, 0x2B}, 3, "4$00ff1a", {0, 0xFF, 0x1A}},
+    };
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    for (const Row& row : rows) {
+        EXPECT_EQ(0U, manager->RegSetValueExW(key, L"x", 0, row.type, row.data.data(), row.size));
+        EXPECT_EQ(row.text, stored("Key/x"));
+        CanaryBuffer<unsigned char> data(16);
+        unsigned int type = 1111;
+        unsigned int size = data.size();
+        EXPECT_EQ(0U, manager->RegQueryValueExW(key, L"x", nullptr, &type, data.data(), &size));
+        EXPECT_EQ(row.type, type);
+        EXPECT_EQ(row.readBack.size(), size);
+        data.expect(row.readBack);
+    }
+}
+
 TEST_F(RegistryQuery, ASizeOfZeroMeasuresADwordOnly)
 {
     store.setValue("Key/quad", "2$7");
@@ -181,6 +211,23 @@ TEST_F(RegistryQuery, ValuesOutliveTheStoreOnDisk)
     EXPECT_EQ("5$" + QString::fromWCharArray(text), storeOnDisk()->value("Key/text").toString());
 }
 
+TEST_F(RegistryQuery, TheKeyGeneralHasAnotherNameInTheFile)
+{
+    store.setValue("General/v", "1$7");
+    store.setValue("top", "1$8");
+    const Key key(*this, HKEY_CURRENT_USER, L"General");
+    EXPECT_EQ(0U, setDword(key, L"v", 9));
+    EXPECT_EQ("[General]\ntop=1$8\n\n[%General]\nv=1$9\n\n[Key]\nnumber=1$7\n", fileOnDisk());
+}
+
+TEST_F(RegistryQuery, CharactersBeyondTheBmpAreDroppedOnWritingWithAnIniCodec)
+{
+    store.setIniCodec("utf-8");
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    EXPECT_EQ(0U, manager->RegSetValueExW(key, L"number", 0, REG_SZ, bytesOf(L"x\U0001F600y"), 0));
+    EXPECT_EQ("[Key]\nnumber=5$xy\n", fileOnDisk());
+}
+
 TEST_F(RegistryQuery, TheStoreIsLeftInNoGroup)
 {
     const Key key(*this, HKEY_CURRENT_USER, L"Key");
@@ -216,12 +263,29 @@ TEST_F(RegistryQuery, TheShortQueryUnderARootReadsAtTheTopOfTheStore)
     data.expect(std::wstring(1, L'\x7'));
 }
 
+TEST_F(RegistryQuery, TheShortQuerysResultsMayBeNull)
+{
+    store.setValue("Key/quad", "2$7");
+    const Key key(*this, HKEY_CURRENT_USER, L"Key");
+    EXPECT_EQ(0U, manager->RegQueryValueW(key, L"number", nullptr, nullptr));
+    CanaryBuffer<wchar_t> data(1);
+    EXPECT_EQ(0U, manager->RegQueryValueW(key, L"number", data.data(), nullptr));
+    data.expect(std::wstring(1, L'\x7'));
+    int size = 0;
+    EXPECT_EQ(1U, manager->RegQueryValueW(key, L"quad", nullptr, &size));
+    EXPECT_EQ(0, size);
+    EXPECT_EQ(0U, manager->RegQueryValueW(key, L"number", nullptr, &size));
+    EXPECT_EQ(4, size);
+}
+
 TEST_F(RegistryQuery, TheShortQuerysFailuresLeaveTheResultsAlone)
 {
     store.setValue("Key/text", "5$abc");
+    store.setValue("Key/invalid", QVariant());
     const Key key(*this, HKEY_CURRENT_USER, L"Key");
-    const std::pair<HKEY, const wchar_t*> failures[] = {
-        {nullptr, L"number"}, {key, nullptr}, {key, L""}, {key, L"missing"}, {key, L"text"}};
+    const std::pair<HKEY, const wchar_t*> failures[] = {{nullptr, L"number"}, {key, nullptr},
+                                                        {key, L""},           {key, L"missing"},
+                                                        {key, L"text"},       {key, L"invalid"}};
     for (const auto& [handle, name] : failures) {
         CanaryBuffer<wchar_t> data(3);
         int size = static_cast<int>(data.bytes());
