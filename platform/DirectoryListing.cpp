@@ -1,17 +1,17 @@
 #include "platform/DirectoryListing.h"
 
+#include "platform/NameOrder.h"
+
 #include <QDir>
 #include <QRegularExpression>
 #include <QTextCodec>
 #include <QVarLengthArray>
 
-#include <algorithm>
 #include <cstring>
 #include <dirent.h>
 #include <memory>
 #include <optional>
 #include <sys/stat.h>
-#include <vector>
 
 namespace {
 
@@ -115,29 +115,6 @@ private:
     std::unique_ptr<DIR, int (*)(DIR*)> m_directory;
 };
 
-// A name and what it is ordered by.
-struct SortedName
-{
-    QString name;
-    QString folded;
-};
-
-// The same sort and the same comparison as in QDir, so that names that differ only in case, which
-// compare equal, come out in the same order too.
-QStringList sorted(std::vector<SortedName> names)
-{
-    if (names.size() > 1) {
-        std::sort(names.begin(), names.end(), [](const SortedName& a, const SortedName& b) {
-            return a.folded.compare(b.folded) < 0;
-        });
-    }
-    QStringList result;
-    result.reserve(static_cast<int>(names.size()));
-    for (const SortedName& name : names)
-        result.append(name.name);
-    return result;
-}
-
 } // namespace
 
 DirectoryListing::DirectoryListing(const QString& directory, Hidden hidden)
@@ -163,15 +140,15 @@ QStringList DirectoryListing::names(const QString& filter) const
     if (m_nativeDirectory.isEmpty() || !isUtf8(codec))
         return QDir(m_directory).entryList({filter}, filtersOf(m_hidden), QDir::NoSort);
     const DirectoryReader reader(m_nativeDirectory);
-    std::vector<SortedName> found;
+    NameOrder found;
     QString name;
     while (const dirent* entry = reader.next()) {
         if (m_hidden == WithoutHidden && entry->d_name[0] == '.')
             continue;
         if (decode(codec, entry->d_name, name) && nameFilter.matches(name))
-            found.push_back({name, name.toLower()});
+            found.add(name);
     }
-    return sorted(std::move(found));
+    return found.take();
 }
 
 bool DirectoryListing::isFolder(const QString& name) const

@@ -1,0 +1,73 @@
+#include "platform/NameOrder.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int keyUnits = 4;
+constexpr int unitBits = 16;
+
+} // namespace
+
+void NameOrder::add(const QString& name)
+{
+    const QString lower = name.toLower();
+    m_entries.push_back({0, m_folded.size(), lower.size(), m_names.size()});
+    m_folded.append(QStringView(lower).utf16(), static_cast<std::size_t>(lower.size()));
+    m_names.append(name);
+}
+
+// The same algorithm as in QDir and the same answer to every comparison, hence the same order, also
+// of those that compare equal; but most comparisons look at one number only.
+QStringList NameOrder::take()
+{
+    const int skipped = commonLength();
+    for (Entry& entry : m_entries)
+        entry.key = keyOf(entry, skipped);
+    std::sort(m_entries.begin(), m_entries.end(),
+              [this](const Entry& a, const Entry& b) { return isLess(a, b); });
+    QStringList result;
+    result.reserve(m_names.size());
+    for (const Entry& entry : m_entries)
+        result.append(m_names.at(entry.index));
+    *this = {};
+    return result;
+}
+
+QStringView NameOrder::folded(const Entry& entry) const
+{
+    return {m_folded.data() + entry.start, entry.length};
+}
+
+// How many code units all names begin with alike.
+int NameOrder::commonLength() const
+{
+    if (m_entries.empty())
+        return 0;
+    const QStringView first = folded(m_entries.front());
+    auto length = static_cast<int>(first.size());
+    for (const Entry& entry : m_entries) {
+        const QStringView other = folded(entry);
+        const auto end = first.begin() + std::min<qsizetype>(length, other.size());
+        const auto differing = std::mismatch(first.begin(), end, other.begin()).first;
+        length = static_cast<int>(differing - first.begin());
+    }
+    return length;
+}
+
+// A missing code unit counts as zero, which no name contains.
+std::uint64_t NameOrder::keyOf(const Entry& entry, int skipped) const
+{
+    const QStringView text = folded(entry);
+    std::uint64_t key = 0;
+    for (int i = skipped; i < skipped + keyUnits; ++i)
+        key = key << unitBits | (i < text.size() ? text.at(i).unicode() : 0U);
+    return key;
+}
+
+bool NameOrder::isLess(const Entry& a, const Entry& b) const
+{
+    if (a.key != b.key)
+        return a.key < b.key;
+    return folded(a).compare(folded(b)) < 0;
+}

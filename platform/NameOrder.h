@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// Collects names and puts them into the order of QDir: by their lower-case text in UTF-16 code
+/// units. Names that differ only in case compare equal; they come out as QDir's own sort leaves
+/// them, which depends on the order in which they went in.
+class NameOrder
+{
+public:
+    void add(const QString& name);
+
+    /// The names in order; leaves the collection empty.
+    QStringList take();
+
+private:
+    struct Entry
+    {
+        std::uint64_t key; // the first code units behind what all names have in common
+        std::size_t start; // of the lower-case text in m_folded
+        int length;
+        int index; // in m_names
+    };
+
+    QStringView folded(const Entry& entry) const;
+    int commonLength() const;
+    std::uint64_t keyOf(const Entry& entry, int skipped) const;
+    bool isLess(const Entry& a, const Entry& b) const;
+
+    QStringList m_names;
+    std::u16string m_folded; // one behind the other
+    std::vector<Entry> m_entries;
+};
