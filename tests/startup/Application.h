@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/ChildProcess.h"
+
 #include <QMap>
 #include <QProcess>
 #include <QStringList>
@@ -35,7 +37,7 @@ public:
 private:
     QTemporaryDir m_folder;
     QProcessEnvironment m_environment;
-    QProcess m_process;
+    ChildProcess m_process;
     QString m_output;
     int m_status = -1;
 };

@@ -10,7 +10,7 @@ namespace {
 
 QStringList linesOf(const QString& program, const QStringList& arguments)
 {
-    QProcess process;
+    ChildProcess process;
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished()) << program.toStdString();
     EXPECT_EQ(0, process.exitCode());
