@@ -33,10 +33,10 @@ std::string endBanner()
 std::string currTime()
 {
     const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
+    // Not its re-entrant sister: only localtime notices that the time zone was changed.
+    const std::tm* local = std::localtime(&now);
     char buffer[64];
-    const std::size_t length = std::strftime(buffer, sizeof buffer, "%Y-%m-%d %H:%M:%S", &local);
+    const std::size_t length = std::strftime(buffer, sizeof buffer, "%Y-%m-%d %H:%M:%S", local);
     return std::string(buffer, length);
 }
 

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <type_traits>
 
 namespace {
@@ -54,6 +55,23 @@ TEST(CurrTime, IsTheLocalTimeNow)
     EXPECT_LE(before, parsed);
     EXPECT_GE(after, parsed);
     EXPECT_EQ(19U, text.size());
+}
+
+// A device may get its time zone while the program runs. The expectation must not use localtime, which
+// would take the new zone over by itself.
+TEST(CurrTime, FollowsAChangeOfTheTimeZone)
+{
+    const QByteArray former = qgetenv("TZ");
+    currTime();
+    qputenv("TZ", "Asia/Shanghai");
+    const std::string text = currTime();
+    const std::time_t there = std::time(nullptr) + 8 * 3600;
+    qputenv("TZ", former);
+    tzset();
+
+    std::tm fields{};
+    ASSERT_NE(nullptr, strptime(text.c_str(), "%Y-%m-%d %H:%M:%S", &fields));
+    EXPECT_NEAR(static_cast<double>(there), static_cast<double>(timegm(&fields)), 2);
 }
 
 TEST_F(LoggerTest, HasItsMembersInOrderAndNoVirtualOperation)
