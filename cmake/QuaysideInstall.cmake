@@ -5,11 +5,15 @@ include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Quayside)
 install(TARGETS quayside RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS
-    quayside_host quayside_support quayside_platform quayside_crypto quayside_widgets
+    quayside_support quayside_platform quayside_crypto quayside_widgets
     quayside_resources quayside_app
   EXPORT QuaysideTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+# Beside the maker's libraries the stand-in would be found in their place: it has the same name.
+if(NOT QUAYSIDE_HOST_LIBRARIES)
+  install(TARGETS quayside_host EXPORT QuaysideTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
 foreach(folder app crypto host platform widgets)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder}
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/quayside
