@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# summarise.sh BUILD: adds up the test programs' results in BUILD/test-results and prints
-# "N passed, N failed" as its last line. A program that left no result counts as one failure.
+# summarise.sh BUILD: adds up the results in BUILD/test-results of the test programs that
+# BUILD/selected-tests.txt names and prints "N passed, N failed" as its last line. A program that left
+# no result counts as one failure; a skipped test counts as neither.
 set -euo pipefail
 build=$1
 passed=0
@@ -15,8 +16,9 @@ while read -r name; do
     head=$(grep -m1 '<testsuites ' "$result")
     number() { sed -n "s/.* $1=\"\([0-9]*\)\".*/\1/p" <<<"$head"; }
     bad=$(($(number failures) + $(number errors)))
-    passed=$((passed + $(number tests) - $(number disabled) - bad))
+    skipped=$(grep -c 'result="skipped"' "$result" || true)
+    passed=$((passed + $(number tests) - $(number disabled) - skipped - bad))
     failed=$((failed + bad))
-done <"$build/tests/names.txt"
+done <"$build/selected-tests.txt"
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
