@@ -18,10 +18,11 @@ if(QUAYSIDE_SANITIZE)
     -fsanitize=${QUAYSIDE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(quayside_flags INTERFACE -fsanitize=${QUAYSIDE_SANITIZE})
 else()
+  set(delivered $<OR:$<CONFIG:Release>,$<CONFIG:RelWithDebInfo>,$<CONFIG:MinSizeRel>>)
   target_compile_options(quayside_flags INTERFACE
-    $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong>)
+    $<${delivered}:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong>)
   target_link_options(quayside_flags INTERFACE
-    $<$<NOT:$<CONFIG:Debug>>:-Wl,-z,relro -Wl,-z,now>)
+    $<${delivered}:-Wl,-z,relro -Wl,-z,now>)
 endif()
 
 # quayside_configure(<target>): the common properties of a library or program.

@@ -42,7 +42,8 @@ tidy() {
 clazy() {
     local output
     output=$(printf '%s\0' "${product_sources[@]}" |
-        xargs -0 -n 2 -P "$jobs" clazy-standalone -p "$build" -checks=level1 2>&1)
+        xargs -0 -n 2 -P "$jobs" clazy-standalone -p "$build" -checks=level1 2>&1) ||
+        { echo "$output" && return 1; }
     if grep -E '\[-Wclazy' <<<"$output"; then return 1; fi
     if grep -E ' error: ' <<<"$output"; then return 1; fi
 }
