@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <sys/stat.h>
+#include <utility>
 
 namespace {
 
@@ -146,7 +147,7 @@ QStringList DirectoryListing::names(const QString& filter) const
         if (m_hidden == WithoutHidden && entry->d_name[0] == '.')
             continue;
         if (decode(codec, entry->d_name, name) && nameFilter.matches(name))
-            found.add(name);
+            found.add(std::move(name));
     }
     return found.take();
 }

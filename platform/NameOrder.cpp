@@ -1,6 +1,7 @@
 #include "platform/NameOrder.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -9,12 +10,12 @@ constexpr int unitBits = 16;
 
 } // namespace
 
-void NameOrder::add(const QString& name)
+void NameOrder::add(QString name)
 {
     const QString lower = name.toLower();
     m_entries.push_back({0, m_folded.size(), lower.size(), m_names.size()});
     m_folded.append(QStringView(lower).utf16(), static_cast<std::size_t>(lower.size()));
-    m_names.append(name);
+    m_names.push_back(std::move(name));
 }
 
 // The same algorithm as in QDir and the same answer to every comparison, hence the same order, also
@@ -27,9 +28,9 @@ QStringList NameOrder::take()
     std::sort(m_entries.begin(), m_entries.end(),
               [this](const Entry& a, const Entry& b) { return isLess(a, b); });
     QStringList result;
-    result.reserve(m_names.size());
+    result.reserve(static_cast<int>(m_names.size()));
     for (const Entry& entry : m_entries)
-        result.append(m_names.at(entry.index));
+        result.append(std::move(m_names[entry.index]));
     *this = {};
     return result;
 }

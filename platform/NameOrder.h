@@ -15,7 +15,7 @@
 class NameOrder
 {
 public:
-    void add(const QString& name);
+    void add(QString name);
 
     /// The names in order; leaves the collection empty.
     QStringList take();
@@ -26,7 +26,7 @@ private:
         std::uint64_t key; // the first code units behind what all names have in common
         std::size_t start; // of the lower-case text in m_folded
         int length;
-        int index; // in m_names
+        std::size_t index; // in m_names
     };
 
     QStringView folded(const Entry& entry) const;
@@ -34,7 +34,7 @@ private:
     std::uint64_t keyOf(const Entry& entry, int skipped) const;
     bool isLess(const Entry& a, const Entry& b) const;
 
-    QStringList m_names;
+    std::vector<QString> m_names;
     std::u16string m_folded; // one behind the other
     std::vector<Entry> m_entries;
 };
