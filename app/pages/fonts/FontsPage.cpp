@@ -98,7 +98,7 @@ QWidget* FontsPage::makeMapping()
 {
     m_localName->setObjectName(QStringLiteral("localName"));
     m_localName->setAccessibleName(tr("Local name"));
-    m_localName->setPlaceholderText(tr("A face name, exactly as registered"));
+    m_localName->setPlaceholderText(tr("A registered face name"));
     auto* box = new QGroupBox(tr("Name mapping"));
     auto* row = new QHBoxLayout(box);
     auto* local = new QLabel(tr("Loc&al name:"));

@@ -219,7 +219,8 @@ void RegistryPage::showKey(const QModelIndex& current)
     m_hint->setText(current == m_keys->rootItem() && !m_keys->hasChildren(current)
                         ? tr("The registry is empty. Create a key with New, or import a registry "
                              "file.")
-                        : tr("This key holds no values."));
+                        : tr("This key holds no values. Choose a key below it, or create a value "
+                             "with New."));
     const QLocale locale;
     setStatus(tr("Values: %1. Sub-keys: %2.")
                   .arg(locale.toString(m_values->rowCount()),
