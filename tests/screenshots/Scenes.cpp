@@ -36,15 +36,19 @@ void arrangeFonts(PageDriver& driver)
 {
     driver.press("FontsPage", "Re&gister the system's fonts");
     auto& records = driver.control<QTableView>("records");
-    records.selectRow(0);
+    const QModelIndexList found =
+        records.model()->match(records.model()->index(0, 0), Qt::DisplayRole,
+                               QStringLiteral("WenQuanYi Micro Hei"), 1, Qt::MatchExactly);
+    records.selectRow(found.isEmpty() ? 0 : found.first().row());
+    records.scrollTo(records.currentIndex(), QAbstractItemView::PositionAtCenter);
     records.setFocus();
 }
 
 // A point beside the monitors, for which the three flags give three answers.
 void arrangeDisplays(PageDriver& driver)
 {
-    driver.named<QSpinBox>("PointPanel", "Point &X:").setValue(3600);
-    driver.named<QSpinBox>("PointPanel", "Point &Y:").setValue(120);
+    driver.named<QSpinBox>("PointPanel", "Point &X:").setValue(4600);
+    driver.named<QSpinBox>("PointPanel", "Point &Y:").setValue(900);
 }
 
 void arrangeInput(PageDriver& driver)
