@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyle>
 
 namespace {
 
@@ -19,6 +20,8 @@ QLabel* plain(const QString& text)
 
 StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent)
 {
+    // In line with the rail's buttons.
+    setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
     const QString library = HostInformation::libraryPath();
     add(tr("Host library:"),
         library.isEmpty() ? static_cast<QWidget*>(plain(tr("unknown")))

@@ -134,5 +134,6 @@ void Page::showStatus(Report kind, const QString& text)
 QPushButton* glowing(QPushButton* button)
 {
     button->installEventFilter(&g_buttonMonitor);
+    button->setIcon(QIcon()); // some styles give one to the common buttons of dialogs alone
     return button;
 }

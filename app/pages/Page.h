@@ -105,5 +105,5 @@ private:
 
 class QPushButton;
 
-/// Gives a button the glow under the mouse; returns it.
+/// Gives a button the look of the window's: the glow under the mouse and no icon; returns it.
 QPushButton* glowing(QPushButton* button);

@@ -3,19 +3,17 @@
 # saves gallery.png, with a page that arrives from the right and a glowing button, and
 # gallery-back.png, with a page that arrives from the left and a disabled button that keeps its glow.
 set -euo pipefail
+# shellcheck source=tests/support/virtual-display.sh
+. "$(dirname "${BASH_SOURCE[0]}")/../../tests/support/virtual-display.sh"
 build=$1
 folder=$2
 
-exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x800x24 -nolisten tcp 2>/dev/null)
-xvfb=$!
-read -r number <&3
-export DISPLAY=:$number
-openbox >/dev/null 2>&1 &
-until wmctrl -m >/dev/null 2>&1; do sleep 0.1; done
+start_display 1280x800
+trap end_display EXIT
 "$build/examples/gallery/widget_gallery" &
 gallery=$!
-trap 'kill "$gallery" "$xvfb" 2>/dev/null || true' EXIT
-window=$(xdotool search --sync --onlyvisible --pid "$gallery" | head -n 1)
+trap 'end "$gallery"; end_display' EXIT
+window=$(timeout 30 xdotool search --sync --onlyvisible --pid "$gallery" | head -n 1)
 
 # hover X Y: moves the mouse to a place in the window.
 hover() { xdotool mousemove --window "$window" "$1" "$2"; }

@@ -695,10 +695,6 @@
         <translation>本地名称</translation>
     </message>
     <message>
-        <source>A face name, exactly as registered</source>
-        <translation>字体名称，须与注册时完全一致</translation>
-    </message>
-    <message>
         <source>Name mapping</source>
         <translation>名称映射</translation>
     </message>
@@ -749,6 +745,10 @@
     <message>
         <source>Left out, because their names do not fit a record: %1.</source>
         <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
+    </message>
+    <message>
+        <source>A registered face name</source>
+        <translation>已注册的字体名称</translation>
     </message>
 </context>
 <context>
@@ -2178,10 +2178,6 @@ Wide: %2</source>
         <translation>注册表为空。请用“新建”创建项，或导入注册表文件。</translation>
     </message>
     <message>
-        <source>This key holds no values.</source>
-        <translation>此项中没有值。</translation>
-    </message>
-    <message>
         <source>Values: %1. Sub-keys: %2.</source>
         <translation>值：%1 个。子项：%2 个。</translation>
     </message>
@@ -2232,6 +2228,10 @@ Wide: %2</source>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>This key holds no values. Choose a key below it, or create a value with New.</source>
+        <translation>此项中没有值。请选择其下的项，或用“新建”创建值。</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "app/pages/crypto/CryptoPage.h"
 
+#include "app/pages/TabLook.h"
 #include "app/pages/crypto/Base64Panel.h"
 #include "app/pages/crypto/CipherPanel.h"
 #include "app/pages/crypto/DigestJob.h"
@@ -14,6 +15,7 @@ CryptoPage::CryptoPage(QWidget* parent) : Page(parent), m_tabs(new QTabWidget)
     addPanel<CipherPanel>(tr("&Encryption"));
     m_digests = addPanel<DigestPanel>(tr("Di&gests"));
     addPanel<Base64Panel>(tr("&Base64"));
+    arrangeTabs(*m_tabs);
     body()->addWidget(m_tabs, 1);
     connect(m_digests, &DigestPanel::requested, this, &CryptoPage::digest);
     connect(m_tabs, &QTabWidget::currentChanged, this, &CryptoPage::followTab);

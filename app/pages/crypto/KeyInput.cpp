@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace {
@@ -30,8 +29,7 @@ bool isHexadecimal(const QString& text)
 KeyInput::KeyInput(QWidget* parent)
     : QWidget(parent),
       m_usePassPhrase(new QRadioButton(tr("&Under a pass phrase, as DecryptionAES_Export does"))),
-      m_useKeys(new QRadioButton(tr("With &key and IV"))),
-      m_stack(new QStackedWidget)
+      m_useKeys(new QRadioButton(tr("With &key and IV")))
 {
     auto* choice = new QHBoxLayout;
     choice->addWidget(m_usePassPhrase);
@@ -40,12 +38,14 @@ KeyInput::KeyInput(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(choice);
-    layout->addWidget(m_stack);
-    m_stack->addWidget(makePassPhrase());
-    m_stack->addWidget(makeKeys());
-    m_stack->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    connect(m_useKeys, &QRadioButton::toggled, this,
-            [this](bool keys) { m_stack->setCurrentIndex(keys ? 1 : 0); });
+    // No stack: it would keep the room of the taller one free.
+    QWidget* passPhrasePlace = makePassPhrase();
+    QWidget* keysPlace = makeKeys();
+    layout->addWidget(passPhrasePlace);
+    layout->addWidget(keysPlace);
+    connect(m_useKeys, &QRadioButton::toggled, passPhrasePlace, &QWidget::setHidden);
+    connect(m_useKeys, &QRadioButton::toggled, keysPlace, &QWidget::setVisible);
+    keysPlace->hide();
     m_usePassPhrase->setChecked(true);
     setFocusProxy(m_passPhrase);
 }
@@ -56,7 +56,6 @@ QWidget* KeyInput::makePassPhrase()
     auto* grid = new QGridLayout(place);
     grid->setContentsMargins(0, 0, 0, 0);
     m_passPhrase = addSecret(tr("Pass phra&se:"), grid);
-    grid->setRowStretch(grid->rowCount(), 1);
     return place;
 }
 

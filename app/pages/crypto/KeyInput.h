@@ -10,7 +10,6 @@ class QCheckBox;
 class QGridLayout;
 class QLineEdit;
 class QRadioButton;
-class QStackedWidget;
 
 /// Takes a pass phrase, or key and IV. What is typed is masked.
 class KeyInput : public QWidget
@@ -40,7 +39,6 @@ private:
 
     QRadioButton* m_usePassPhrase;
     QRadioButton* m_useKeys;
-    QStackedWidget* m_stack;
     QLineEdit* m_passPhrase = nullptr;
     QLineEdit* m_key = nullptr;
     QLineEdit* m_iv = nullptr;

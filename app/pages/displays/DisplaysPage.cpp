@@ -1,5 +1,6 @@
 #include "app/pages/displays/DisplaysPage.h"
 
+#include "app/pages/TabLook.h"
 #include "app/pages/displays/HandlePanel.h"
 #include "app/pages/displays/MetricsPanel.h"
 #include "app/pages/displays/MonitorMap.h"
@@ -51,6 +52,7 @@ void DisplaysPage::makeTabs()
     m_tabs->addTab(m_table, tr("&Monitors"));
     m_tabs->addTab(m_metrics, tr("&System metrics"));
     m_tabs->addTab(m_handles, tr("&Graphics handles"));
+    arrangeTabs(*m_tabs);
     body()->addWidget(m_tabs, 2);
     connect(m_handles, &HandlePanel::reported, this, &DisplaysPage::report);
     connect(m_handles, &HandlePanel::scanRequested, this, &DisplaysPage::scan);

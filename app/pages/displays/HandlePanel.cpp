@@ -2,11 +2,11 @@
 
 #include "app/pages/EmptyHint.h"
 #include "app/pages/MnemonicText.h"
+#include "app/pages/TableLook.h"
 #include "platform/PlatformServicesImp.h"
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -49,11 +49,8 @@ void HandlePanel::makeTable()
 {
     m_view->setModel(m_model);
     m_view->setAccessibleName(tr("Graphics handles"));
-    m_view->verticalHeader()->hide();
-    m_view->horizontalHeader()->setStretchLastSection(true);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    arrangeTable(*m_view);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_view->setTabKeyNavigation(false);
     auto* action = new QAction(tr("Delete handle"), m_view);
     action->setShortcut(QKeySequence::Delete);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -113,8 +110,7 @@ void HandlePanel::refresh()
 void HandlePanel::showResult(const HandleScan& scan, bool complete)
 {
     m_model->setHandles(scan.found());
-    m_view->resizeColumnToContents(HandleModel::HandleColumn);
-    m_view->resizeColumnToContents(HandleModel::TypeColumn);
+    fitColumnsToContents(*m_view);
     const int row = m_model->rowOf(m_selected);
     if (row >= 0)
         m_view->selectRow(row);

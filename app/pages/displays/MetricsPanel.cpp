@@ -1,9 +1,9 @@
 #include "app/pages/displays/MetricsPanel.h"
 
+#include "app/pages/TableLook.h"
 #include "platform/PlatformServicesImp.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QSpinBox>
 #include <QTableWidget>
@@ -53,11 +53,8 @@ MetricsPanel::MetricsPanel(QWidget* parent)
 {
     m_table->setHorizontalHeaderLabels({tr("Index"), tr("Name"), tr("Value")});
     m_table->setAccessibleName(tr("System metrics"));
-    m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    arrangeTable(*m_table);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setTabKeyNavigation(false);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_table, 1);
     layout->addWidget(makeQuery());
@@ -88,7 +85,7 @@ void MetricsPanel::refresh()
 {
     for (int row = 0; row < m_table->rowCount(); ++row)
         fillRow(row);
-    m_table->resizeColumnsToContents();
+    fitColumnsToContents(*m_table);
     ask();
 }
 

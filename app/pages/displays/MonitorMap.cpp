@@ -177,13 +177,15 @@ void MonitorMap::paintMonitor(QPainter& painter, const Monitor& monitor) const
 {
     const bool isAnswer = monitor.handle == m_answer;
     const double line = fontMetrics().height() / 10.0;
+    const QRectF full = mapped(monitor.full);
+    painter.fillRect(full, palette().mid());
+    // In dark palettes that hardly differs from the base.
+    painter.fillRect(full, QBrush(palette().color(QPalette::WindowText), Qt::BDiagPattern));
+    painter.fillRect(mapped(monitor.work), palette().base());
     painter.setPen(QPen(palette().color(isAnswer ? QPalette::Highlight : QPalette::WindowText),
                         isAnswer ? 2 * line : line));
-    painter.setBrush(palette().mid());
-    painter.drawRect(mapped(monitor.full));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().base());
-    painter.drawRect(mapped(monitor.work).adjusted(line, line, -line, -line));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(full);
 }
 
 void MonitorMap::paintCaption(QPainter& painter, const Monitor& monitor) const

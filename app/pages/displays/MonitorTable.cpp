@@ -1,6 +1,6 @@
 #include "app/pages/displays/MonitorTable.h"
 
-#include <QHeaderView>
+#include "app/pages/TableLook.h"
 
 namespace {
 
@@ -25,11 +25,8 @@ MonitorTable::MonitorTable(QWidget* parent) : QTableWidget(0, 5, parent)
     horizontalHeaderItem(1)->setToolTip(tip);
     horizontalHeaderItem(2)->setToolTip(tip);
     setAccessibleName(tr("Monitors"));
-    verticalHeader()->hide();
-    horizontalHeader()->setStretchLastSection(true);
+    arrangeTable(*this);
     setEditTriggers(NoEditTriggers);
-    setSelectionBehavior(SelectRows);
-    setTabKeyNavigation(false);
 }
 
 void MonitorTable::setMonitors(const std::vector<Monitor>& monitors)
@@ -45,5 +42,5 @@ void MonitorTable::setMonitors(const std::vector<Monitor>& monitors)
             setItem(row, column, new QTableWidgetItem(cells.at(column)));
         ++row;
     }
-    resizeColumnsToContents();
+    fitColumnsToContents(*this);
 }

@@ -87,18 +87,10 @@ QTableView* FilesPage::makeTable()
     arrangeTable(*table);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    QHeaderView* header = table->horizontalHeader();
-    const QFontMetrics metrics = table->fontMetrics();
-    const int gap = metrics.height();
-    header->resizeSection(FoundEntriesModel::NameColumn, metrics.averageCharWidth() * 32);
-    header->resizeSection(FoundEntriesModel::AttributesColumn,
-                          metrics.horizontalAdvance(QStringLiteral("0x10 DIRECTORY")) + gap);
-    header->resizeSection(FoundEntriesModel::SizeColumn,
-                          metrics.horizontalAdvance(QStringLiteral("9,999,999,999")) + gap);
-    for (int column = FoundEntriesModel::LastWriteColumn; column < FoundEntriesModel::ColumnCount;
-         ++column)
-        header->resizeSection(
-            column, metrics.horizontalAdvance(QStringLiteral("2000-00-00 00:00:00")) + gap);
+    const QString time = QStringLiteral("2000-00-00 00:00:00");
+    fitColumns(*table,
+               {QStringLiteral("Name of a file with date.ext"), QStringLiteral("0x10 DIRECTORY"),
+                QStringLiteral("999,999,999"), time, time, time});
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &FilesPage::showCurrent);
     return table;

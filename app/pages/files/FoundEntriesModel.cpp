@@ -77,9 +77,6 @@ QVariant FoundEntriesModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole: return text(entry, index.column());
     case Qt::ToolTipRole: return toolTip(entry, index.column());
-    case Qt::TextAlignmentRole:
-        return index.column() == SizeColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                                            : QVariant();
     case Qt::ForegroundRole:
         if (isDetail(index.column()) && !entry.details)
             return QGuiApplication::palette().placeholderText();
@@ -117,11 +114,7 @@ QString FoundEntriesModel::toolTip(const FoundEntry& entry, int column) const
 
 QVariant FoundEntriesModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal)
-        return {};
-    if (role == Qt::TextAlignmentRole && section == SizeColumn)
-        return {Qt::AlignRight | Qt::AlignVCenter};
-    if (role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     switch (section) {
     case NameColumn: return tr("Name");

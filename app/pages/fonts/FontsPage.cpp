@@ -2,6 +2,7 @@
 
 #include "app/pages/AnswerField.h"
 #include "app/pages/EmptyHint.h"
+#include "app/pages/SharedWidth.h"
 #include "app/pages/TableLook.h"
 #include "app/pages/fonts/CharacterSets.h"
 #include "app/pages/fonts/FontRecordsModel.h"
@@ -80,16 +81,10 @@ QTableView* FontsPage::makeTable()
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 7 / 4);
-    QHeaderView* header = table->horizontalHeader();
-    const QFontMetrics metrics = table->fontMetrics();
-    const int gap = metrics.height();
-    header->resizeSection(FontRecordsModel::FaceColumn, metrics.averageCharWidth() * 18);
-    header->resizeSection(FontRecordsModel::StyleColumn, metrics.averageCharWidth() * 12);
-    header->resizeSection(FontRecordsModel::CharSetColumn,
-                          metrics.horizontalAdvance(CharacterSets::title(GB2312_CHARSET)) + gap);
-    header->resizeSection(FontRecordsModel::ScriptColumn,
-                          metrics.horizontalAdvance(QStringLiteral("CHINESE_GB2312")) + gap);
-    header->resizeSection(FontRecordsModel::PreviewColumn, metrics.averageCharWidth() * 8);
+    fitColumns(*table,
+               {QStringLiteral("Family"), QStringLiteral("Bold Oblique"),
+                CharacterSets::title(VIETNAMESE_CHARSET), QStringLiteral("CHINESE_GB2312")});
+    new SharedWidth(table, FontRecordsModel::FaceColumn, QStringLiteral("WenQuanYi Micro"));
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
                 if (current.isValid())
@@ -103,7 +98,7 @@ QWidget* FontsPage::makeMapping()
 {
     m_localName->setObjectName(QStringLiteral("localName"));
     m_localName->setAccessibleName(tr("Local name"));
-    m_localName->setPlaceholderText(tr("A face name, exactly as registered"));
+    m_localName->setPlaceholderText(tr("A registered face name"));
     auto* box = new QGroupBox(tr("Name mapping"));
     auto* row = new QHBoxLayout(box);
     auto* local = new QLabel(tr("Loc&al name:"));

@@ -4,6 +4,7 @@
 #include "platform/PlatformServicesImp.h"
 
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -34,7 +35,10 @@ FindWindowPanel::FindWindowPanel(QWidget* parent)
     m_result->setWordWrap(true);
     m_result->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_result->setAccessibleName(tr("Result"));
-    form->addRow(button);
+    auto* row = new QHBoxLayout;
+    row->addWidget(button);
+    row->addStretch();
+    form->addRow(QString(), row);
     form->addRow(m_result);
 }
 

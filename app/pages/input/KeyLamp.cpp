@@ -49,8 +49,9 @@ void KeyLamp::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     const double side = fontMetrics().height() * 0.7;
     const QRectF lamp(side / 4, (height() - side) / 2, side, side);
-    const auto group = m_known ? QPalette::Active : QPalette::Disabled;
-    const QColor line = palette().color(group, QPalette::WindowText);
+    // Fainter, but not as faint as disabled texts are: the names are there to be read.
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(m_known ? 1 : 0.6);
     painter.setPen(QPen(line, side / 10, m_known ? Qt::SolidLine : Qt::DotLine));
     if (m_known)
         painter.setBrush(palette().color(m_lit ? QPalette::Highlight : QPalette::Base));

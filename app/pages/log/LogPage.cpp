@@ -45,12 +45,11 @@ LogPage::LogPage(QWidget* parent)
 
 void LogPage::makeTable()
 {
-    const int unit = fontMetrics().averageCharWidth();
     m_table->setModel(m_filter);
     arrangeTable(*m_table);
     m_table->setAccessibleName(tr("Log"));
-    m_table->setColumnWidth(LogModel::Time, unit * 24);
-    m_table->setColumnWidth(LogModel::Level, unit * 16);
+    fitColumns(*m_table,
+               {QStringLiteral("2000-00-00 00:00:00"), QStringLiteral("[x] Information")});
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* copyAction = new QAction(tr("Copy"), m_table);
     copyAction->setShortcut(QKeySequence::Copy);

@@ -102,6 +102,8 @@ QVariant ProfileLinesModel::foreground(const ProfileDocument::Line& line, int co
 
 QVariant ProfileLinesModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole && section == NumberColumn)
+        return {Qt::AlignRight | Qt::AlignVCenter};
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     switch (section) {

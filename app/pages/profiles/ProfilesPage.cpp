@@ -1,6 +1,7 @@
 #include "app/pages/profiles/ProfilesPage.h"
 
 #include "app/pages/EmptyHint.h"
+#include "app/pages/SharedWidth.h"
 #include "app/pages/TableLook.h"
 #include "app/pages/profiles/LineStateText.h"
 #include "app/pages/profiles/LostLinesDialog.h"
@@ -115,13 +116,10 @@ QTableView* ProfilesPage::makeLines()
 QTableView* ProfilesPage::makeReadings()
 {
     QTableView* table = makeTable(m_readingsModel, tr("Readings of both families"), "readings");
-    const int character = table->fontMetrics().averageCharWidth();
-    QHeaderView* header = table->horizontalHeader();
-    header->resizeSection(ProfileReadingsModel::SectionColumn, character * 16);
-    header->resizeSection(ProfileReadingsModel::KeyColumn, character * 18);
-    header->resizeSection(ProfileReadingsModel::WideColumn, character * 28);
-    header->resizeSection(ProfileReadingsModel::DifferenceColumn,
+    fitColumns(*table, {QStringLiteral("Name of section"), QStringLiteral("Name of a key")});
+    table->setColumnWidth(ProfileReadingsModel::DifferenceColumn,
                           table->fontMetrics().height() * 2);
+    new SharedWidth(table, ProfileReadingsModel::WideColumn, QStringLiteral("255.255.255.0"));
     new EmptyHint(table, tr("What the wide and the narrow calls read stands here side by side."));
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ProfilesPage::showReading);

@@ -31,7 +31,7 @@ FindPane::FindPane(QWidget* parent)
     m_table->setObjectName(QStringLiteral("found"));
     m_table->setAccessibleName(tr("Found"));
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setColumnWidth(HitModel::Key, fontMetrics().averageCharWidth() * 44);
+    fitColumns(*m_table, {QStringLiteral("HKEY_CURRENT_USER\\Software\\Maker\\Program")});
     m_hint = new EmptyHint(m_table, tr("What is found is listed here; Enter goes to it."));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

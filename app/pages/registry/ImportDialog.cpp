@@ -28,11 +28,11 @@ QTableView* makeTable(ImportModel* model)
     table->setModel(model);
     arrangeTable(*table);
     table->setAccessibleName(ImportDialog::tr("Statements of the file"));
-    const int unit = table->fontMetrics().averageCharWidth();
-    table->setColumnWidth(ImportModel::Result, unit * 44);
-    table->setColumnWidth(ImportModel::Key, unit * 36);
-    table->setColumnWidth(ImportModel::Name, unit * 20);
-    table->setColumnWidth(ImportModel::Data, unit * 30);
+    fitColumns(
+        *table,
+        {QStringLiteral("[x] Refused: a sentence of some length that says why it cannot be set"),
+         QStringLiteral("HKEY_CURRENT_USER\\Software"), QStringLiteral("Name of a value"),
+         QStringLiteral("12345 (0x00003039)")});
     return table;
 }
 
@@ -58,6 +58,6 @@ ImportDialog::ImportDialog(const QString& file, const RegistryImport& import, QW
     layout->addWidget(makeTable(model), 1);
     layout->addWidget(only);
     layout->addWidget(buttons);
-    const QSize wanted(fontMetrics().averageCharWidth() * 110, fontMetrics().lineSpacing() * 26);
+    const QSize wanted(fontMetrics().height() * 68, fontMetrics().lineSpacing() * 26);
     resize(parent ? wanted.boundedTo(parent->window()->size() * 0.95) : wanted);
 }

@@ -82,6 +82,7 @@ void RegistryEditor::ask(const QString& question, const QString& detail,
     box->setInformativeText(detail);
     box->setAttribute(Qt::WA_DeleteOnClose);
     QPushButton* yes = glowing(box->addButton(tr("Delete"), QMessageBox::AcceptRole));
+    glowing(qobject_cast<QPushButton*>(box->button(QMessageBox::Cancel)));
     box->setDefaultButton(QMessageBox::Cancel);
     connect(box, &QMessageBox::buttonClicked, this, [yes, confirmed](QAbstractButton* button) {
         if (button == yes)

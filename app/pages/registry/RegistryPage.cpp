@@ -1,6 +1,7 @@
 #include "app/pages/registry/RegistryPage.h"
 
 #include "app/pages/EmptyHint.h"
+#include "app/pages/SharedWidth.h"
 #include "app/pages/TableLook.h"
 #include "app/pages/registry/FindPane.h"
 #include "app/pages/registry/RegistryEditor.h"
@@ -88,15 +89,13 @@ void RegistryPage::makeTree()
 
 void RegistryPage::makeTable()
 {
-    const int unit = fontMetrics().averageCharWidth();
     m_table->setModel(m_values);
     arrangeTable(*m_table);
     m_table->setObjectName(QStringLiteral("values"));
     m_table->setAccessibleName(tr("Values"));
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_table->setColumnWidth(RegistryValueModel::Name, unit * 20);
-    m_table->setColumnWidth(RegistryValueModel::Type, unit * 14);
-    m_table->setColumnWidth(RegistryValueModel::Data, unit * 26);
+    fitColumns(*m_table, {QStringLiteral("[x] Name of value"), QStringLiteral("REG_QWORD")});
+    new SharedWidth(m_table, RegistryValueModel::Data, QStringLiteral("1234 (0x000004d2)"));
     m_hint = new EmptyHint(m_table, QString());
 }
 
@@ -220,7 +219,8 @@ void RegistryPage::showKey(const QModelIndex& current)
     m_hint->setText(current == m_keys->rootItem() && !m_keys->hasChildren(current)
                         ? tr("The registry is empty. Create a key with New, or import a registry "
                              "file.")
-                        : tr("This key holds no values."));
+                        : tr("This key holds no values. Choose a key below it, or create a value "
+                             "with New."));
     const QLocale locale;
     setStatus(tr("Values: %1. Sub-keys: %2.")
                   .arg(locale.toString(m_values->rowCount()),

@@ -57,6 +57,7 @@ void ValueDialog::build()
     m_data->setMinimumSize(fontMetrics().averageCharWidth() * 48, fontMetrics().lineSpacing() * 5);
     m_note->setTextFormat(Qt::PlainText);
     m_note->setWordWrap(true);
+    m_note->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     // Two lines of a note change nothing in the dialog's size.
     m_note->setMinimumHeight(fontMetrics().lineSpacing() * 2);
     auto* note = new QHBoxLayout;
