@@ -28,7 +28,7 @@ elif [ -n "$window" ]; then
     sleep 1 # the first frames
     timeout 20 import -window "$window" "$picture"
     echo "$picture"
-    wmctrl -i -c "$(printf '0x%x' "$window")"
+    wmctrl -i -c "$(printf '0x%x' "$window")" || true
     within 10 has_ended "$application" || echo "The window does not close" >&2
 fi
 end "$application"
