@@ -1,8 +1,10 @@
 #include "tests/hostlibrary/Slots.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QSettings>
+#include <QStackedWidget>
 #include <QTimer>
 
 #include <cstdio>
@@ -47,6 +49,20 @@ QString geometry(const QRect& rect)
         .arg(rect.height());
 }
 
+// The place of the page in view and the name of the checked button.
+void reportPage(const QWidget& window)
+{
+    for (const auto* stack : window.findChildren<QStackedWidget*>()) {
+        if (!stack->inherits("QAnimationStackedWidget"))
+            continue;
+        for (const auto* button : window.findChildren<QAbstractButton*>()) {
+            if (button->parentWidget()->inherits("PageRail") && button->isChecked())
+                report("page", QStringLiteral("%1 %2").arg(QString::number(stack->currentIndex()),
+                                                           button->objectName()));
+        }
+    }
+}
+
 void reportWindow()
 {
     for (const QWidget* widget : QApplication::topLevelWidgets()) {
@@ -55,6 +71,7 @@ void reportWindow()
         report("class", QString::fromLatin1(widget->metaObject()->className()));
         report("title", widget->windowTitle());
         report("window", geometry(QRect(widget->pos(), widget->size())));
+        reportPage(*widget);
     }
     report("desktop", geometry(QApplication::desktop()->geometry()));
     report("cancel", QCoreApplication::translate("QPlatformTheme", "Cancel"));
