@@ -13,7 +13,8 @@
 
 namespace {
 
-// A file's icon, as a file manager shows it: a press starts to drag it.
+// A file's icon, as a file manager shows it: a press starts to drag it, with its path as a text for
+// those who take no files.
 class FileIcon : public QWidget
 {
 public:
@@ -31,6 +32,7 @@ protected:
     {
         auto* contents = new QMimeData;
         contents->setUrls({m_file});
+        contents->setText(m_file.toString());
         auto* drag = new QDrag(this);
         drag->setMimeData(contents);
         taken = drag->exec(Qt::CopyAction);
