@@ -33,6 +33,12 @@ QSize smallestSize(const QWidget& window)
     return QSize(unit * 46, unit * 34).boundedTo({800, 600}).expandedTo(window.minimumSizeHint());
 }
 
+bool takesTab(const QWidget& widget, const QWidget& window)
+{
+    return (widget.focusPolicy() & Qt::TabFocus) != 0 && !widget.focusProxy() &&
+           widget.isEnabled() && widget.window() == &window && widget.isVisibleTo(&window);
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
@@ -72,6 +78,23 @@ void MainWindow::addShortcuts(int pages)
     connect(refresh, &QShortcut::activated, this, [this] { onCurrentPage(&Page::refresh); });
     auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
     connect(find, &QShortcut::activated, this, [this] { onCurrentPage(&Page::find); });
+}
+
+// Qt would take a page, or a panel in it, for the control that has its focus, and go past the
+// controls before that one.
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    const auto after = [next](const QWidget& widget) {
+        return next ? widget.nextInFocusChain() : widget.previousInFocusChain();
+    };
+    const QWidget* from = focusWidget() ? focusWidget() : this;
+    for (QWidget* widget = after(*from); widget != from; widget = after(*widget)) {
+        if (!takesTab(*widget, *this))
+            continue;
+        widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
 }
 
 void MainWindow::showPage(const QString& name)

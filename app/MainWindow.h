@@ -23,6 +23,9 @@ public:
     /// The page in view; null until it has been made.
     Page* currentPage() const;
 
+protected:
+    bool focusNextPrevChild(bool next) override;
+
 private:
     void addShortcuts(int pages);
     void choose(int page);

@@ -115,8 +115,8 @@ QStringList WindowProbe::unreachable() const
     }
     QStringList names;
     for (const QWidget* widget : widgets) {
-        const bool wanted = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isEnabled() &&
-                            widget->isVisibleTo(&page());
+        const bool wanted = (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy() &&
+                            widget->isEnabled() && widget->isVisibleTo(&page());
         if (wanted && !reached.contains(widget))
             names << QString::fromLatin1(widget->metaObject()->className()) + widget->objectName();
     }
@@ -128,7 +128,8 @@ QStringList WindowProbe::nameless() const
     QStringList names;
     const auto widgets = page().findChildren<QWidget*>();
     for (QWidget* widget : widgets) {
-        if ((widget->focusPolicy() & Qt::TabFocus) == 0)
+        // A control that another one stands for, such as the field of a spin box, is not read out.
+        if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->focusProxy())
             continue;
         const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
         if (!accessible || accessible->text(QAccessible::Name).isEmpty())
