@@ -51,7 +51,7 @@ QLayout* FontsPage::makeFilterRow()
     m_charSet->setAccessibleName(tr("Character set to show"));
     m_charSet->view()->setAccessibleName(m_charSet->accessibleName());
     m_charSet->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_charSet->setMinimumContentsLength(16);
+    m_charSet->setMinimumContentsLength(22);
     m_charSet->addItem(tr("All character sets"), DEFAULT_CHARSET);
     for (const BYTE code : CharacterSets::codes()) {
         if (code != DEFAULT_CHARSET)

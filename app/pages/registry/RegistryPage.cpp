@@ -94,7 +94,7 @@ void RegistryPage::makeTable()
     m_table->setObjectName(QStringLiteral("values"));
     m_table->setAccessibleName(tr("Values"));
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
-    fitColumns(*m_table, {QStringLiteral("[x] Name of value"), QStringLiteral("REG_QWORD")});
+    fitColumns(*m_table, {QStringLiteral("[x] Value name"), QStringLiteral("REG_QWORD")});
     new SharedWidth(m_table, RegistryValueModel::Data, QStringLiteral("1234 (0x000004d2)"));
     m_hint = new EmptyHint(m_table, QString());
 }
