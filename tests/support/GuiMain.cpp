@@ -33,7 +33,8 @@ int main(int argc, char** argv)
     const HermeticEnvironment environment;
     std::optional<Display> display;
     if (QUAYSIDE_TEST_XVFB)
-        display.emplace();
+        display.emplace(QStringList{"-screen", "0",
+                                    qEnvironmentVariable("QUAYSIDE_TEST_SCREEN", "1280x800x24")});
     else
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
