@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QFont>
 
-/// While it lives, the application has the size of font that the pages are laid out for; that of the
-/// offscreen platform is larger.
+/// While it lives, the application has the size of font that the pages are laid out for; that of
+/// the offscreen platform is larger.
 class SmallFont
 {
 public:
