@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 struct Frame
@@ -80,6 +82,69 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 using SlidePicture = StackFixture;
+
+// How many pixels are neither red nor blue.
+int foreignPixels(const QImage& picture)
+{
+    const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
+    int count = 0;
+    for (int y = 0; y < plain.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(plain.constScanLine(y));
+        count += static_cast<int>(std::count_if(line, line + plain.width(), [](QRgb color) {
+            return color != qRgb(255, 0, 0) && color != qRgb(0, 0, 255);
+        }));
+    }
+    return count;
+}
+
+class SlideSeam : public testing::Test
+{
+protected:
+    // Sizes that are no whole number of device pixels at a fractional scale.
+    SlideSeam()
+    {
+        fill(stack, Qt::green);
+        for (const Qt::GlobalColor color : {Qt::red, Qt::blue}) {
+            auto* page = new QWidget;
+            page->setAutoFillBackground(true);
+            fill(*page, color);
+            stack.addWidget(page);
+        }
+        stack.resize(201, 121);
+        stack.show();
+        turn();
+        stack.setDuration(1000000);
+    }
+
+    static void fill(QWidget& widget, const QColor& color)
+    {
+        QPalette palette;
+        palette.setColor(QPalette::Window, color);
+        widget.setPalette(palette);
+    }
+
+    void expectPagesOnly()
+    {
+        for (int offset = 1; offset <= 200; ++offset) {
+            stack.slotValueChanged(offset);
+            EXPECT_EQ(0, foreignPixels(stack.grab().toImage())) << "at " << offset;
+        }
+    }
+
+    QAnimationStackedWidget stack;
+};
+
+TEST_F(SlideSeam, ShowsNothingBetweenThePagesFromTheRight)
+{
+    stack.nextTo(1);
+    expectPagesOnly();
+}
+
+TEST_F(SlideSeam, ShowsNothingBetweenThePagesFromTheLeft)
+{
+    stack.forwardTo(1);
+    expectPagesOnly();
+}
 
 TEST_F(SlidePicture, OfOnePageShowsItOverItself)
 {
