@@ -43,7 +43,16 @@ protected:
         button->installEventFilter(&crossings);
         page.show();
         EXPECT_TRUE(Display::activate(page));
+        forgetTheMouse();
+    }
+
+    // The window may appear under the mouse, wherever the test before has left that.
+    void forgetTheMouse()
+    {
         moveOut();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return page.underMouse() && !button->underMouse(); }));
+        crossings.entered = 0;
+        crossings.left = 0;
     }
 
     void moveTo(const QWidget& widget) { moveTo(widget.mapToGlobal(widget.rect().center())); }
