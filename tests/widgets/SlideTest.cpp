@@ -135,6 +135,9 @@ TEST_P(SlideRequest, IgnoresEveryRequestWhileItRuns)
                                  forwardTo(2), forwardTo(1), forwardTo(0)}) {
         later(stack);
         EXPECT_EQ(start, animation->startValue());
+        stack.slotValueChanged(80);
+        EXPECT_EQ("", firstDifference(stack.grab().toImage(),
+                                      slideFrame(0, GetParam().to, GetParam().fromLeft, 80)));
     }
     animation->setCurrentTime(600);
     turn();
