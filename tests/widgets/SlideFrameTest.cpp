@@ -294,35 +294,26 @@ TEST_F(SlidePicture, StepsPaintOneSideEach)
     stack.slotValueChanged(80);
     const int ratio = qRound(stack.devicePixelRatioF());
     const auto frame = slideFrame(0, 1, false, 80);
-    for (const bool leaving : {true, false}) {
-        QImage image(stack.size() * ratio, QImage::Format_ARGB32_Premultiplied);
-        image.setDevicePixelRatio(ratio);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        if (leaving)
-            stack.paintPrevious(painter, 0);
-        else
-            stack.paintNext(painter, 1);
-        painter.end();
-        EXPECT_EQ("", firstDifference(image, [&](int x, int y) {
-                      return (x < 80 * ratio) == leaving ? frame(x, y) : 0U;
-                  }));
-    }
+    const QImage left =
+        pictureOfStep([this](QPainter& painter) { stack.paintPrevious(painter, 0); });
+    EXPECT_EQ(
+        "", firstDifference(left, [&](int x, int y) { return x < 80 * ratio ? frame(x, y) : 0U; }));
+    const QImage right = pictureOfStep([this](QPainter& painter) { stack.paintNext(painter, 1); });
+    EXPECT_EQ("", firstDifference(right,
+                                  [&](int x, int y) { return x < 80 * ratio ? 0U : frame(x, y); }));
 }
 
 TEST_F(SlidePicture, StepsPaintNothingForAnIndexWithoutPage)
 {
     stack.next();
     stack.slotValueChanged(80);
-    QImage image(200, 120, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    for (const int index : {-1, 3}) {
-        stack.paintPrevious(painter, index);
-        stack.paintNext(painter, index);
-    }
-    painter.end();
-    EXPECT_EQ("", firstDifference(image, [](int, int) { return 0U; }));
+    const QImage picture = pictureOfStep([this](QPainter& painter) {
+        for (const int index : {-1, 3}) {
+            stack.paintPrevious(painter, index);
+            stack.paintNext(painter, index);
+        }
+    });
+    EXPECT_EQ("", firstDifference(picture, [](int, int) { return 0U; }));
 }
 
 } // namespace

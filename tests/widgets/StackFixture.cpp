@@ -1,6 +1,7 @@
 #include "tests/widgets/StackFixture.h"
 
 #include <QCoreApplication>
+#include <QPainter>
 #include <QPointer>
 #include <QVariantAnimation>
 
@@ -84,4 +85,16 @@ std::function<QRgb(int, int)> StackFixture::slideFrame(int leaving, int arriving
             color = out.colorAt(x - line, y);
         return color == 0 ? background : color;
     };
+}
+
+QImage StackFixture::pictureOfStep(const std::function<void(QPainter&)>& step) const
+{
+    const int ratio = qRound(stack.devicePixelRatioF());
+    QImage image(stack.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    step(painter);
+    painter.end();
+    return image;
 }

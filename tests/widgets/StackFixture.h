@@ -35,6 +35,9 @@ protected:
     std::function<QRgb(int, int)> slideFrame(int leaving, int arriving, bool fromLeft,
                                              int offset) const;
 
+    /// What a painting step leaves in a transparent picture of the stack's size.
+    QImage pictureOfStep(const std::function<void(QPainter&)>& step) const;
+
     static constexpr QRgb background = qRgb(250, 3, 251);
 
     ProbedStack stack;
