@@ -178,6 +178,19 @@ INSTANTIATE_TEST_SUITE_P(Requests, SlideRequest,
 
 class RejectedIndex : public StackFixture, public testing::WithParamInterface<int>
 {
+protected:
+    // Nothing tells the direction but the side on which the leaving page is painted.
+    void expectDirection(bool fromLeft)
+    {
+        stack.slotValueChanged(80);
+        const int line = 80 * qRound(stack.devicePixelRatioF());
+        const auto frame = slideFrame(0, 1, fromLeft, 80);
+        const QImage picture =
+            pictureOfStep([this](QPainter& painter) { stack.paintPrevious(painter, 0); });
+        EXPECT_EQ("", firstDifference(picture, [&](int x, int y) {
+                      return (x < line) == fromLeft ? 0U : frame(x, y);
+                  }));
+    }
 };
 
 TEST_P(RejectedIndex, FreezesTheStackInNextTo)
@@ -238,6 +251,19 @@ TEST_P(RejectedIndex, IsHarmlessInNextToWhileASlideRuns)
     stack.next();
     turn();
     EXPECT_EQ(2, stack.currentIndex());
+}
+
+TEST_P(RejectedIndex, TurnsTheDirectionInForwardTo)
+{
+    stack.forwardTo(GetParam());
+    expectDirection(true);
+}
+
+TEST_P(RejectedIndex, TurnsTheDirectionBackInNextTo)
+{
+    stack.forwardTo(GetParam());
+    stack.nextTo(GetParam());
+    expectDirection(false);
 }
 
 INSTANTIATE_TEST_SUITE_P(Indices, RejectedIndex,
