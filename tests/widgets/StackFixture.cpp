@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QPainter>
 #include <QPointer>
+#include <QTest>
 #include <QVariantAnimation>
 
 #include <stdexcept>
@@ -38,17 +39,23 @@ private:
 
 } // namespace
 
-QVariantAnimation* animationOf(ProbedStack& stack)
+QVariantAnimation* slideToTheEnd(ProbedStack& stack)
 {
     const SenderProbe probe(stack);
-    stack.setDuration(0);
     stack.next();
-    turn();
+    if (QTest::qWaitFor([&probe] { return !probe.found.isNull(); }))
+        if (auto* animation = qobject_cast<QVariantAnimation*>(probe.found))
+            return animation;
+    throw std::runtime_error("no animation has ended a slide");
+}
+
+QVariantAnimation* animationOf(ProbedStack& stack)
+{
+    stack.setDuration(0);
+    QVariantAnimation* animation = slideToTheEnd(stack);
     stack.setCurrentIndex(0);
     stack.setDuration(600);
-    if (auto* animation = qobject_cast<QVariantAnimation*>(probe.found))
-        return animation;
-    throw std::runtime_error("no animation has ended a slide");
+    return animation;
 }
 
 StackFixture::StackFixture()

@@ -18,6 +18,10 @@ public:
 /// One turn of the event loop.
 void turn();
 
+/// Slides to the next page, in whatever time the stack takes for it, and returns its animation. The
+/// stack must have a page.
+QVariantAnimation* slideToTheEnd(ProbedStack& stack);
+
 /// The stack's animation, learnt from a slide of no duration; leaves the stack on its first page,
 /// idle, with slides of 600 ms. The stack must have a page.
 QVariantAnimation* animationOf(ProbedStack& stack);
