@@ -228,6 +228,34 @@ TEST_P(RejectedIndex, LeavesThePageToBeSeenAfterASlide)
                                   [this](int x, int y) { return page(0).colorAt(x, y); }));
 }
 
+// Beside a page that is smaller than the stack the painting of a frozen one is to be seen.
+TEST_P(RejectedIndex, LeavesTheStackPainting)
+{
+    page(0).setFixedSize(90, 50);
+    turn();
+    stack.nextTo(GetParam());
+    stack.slotValueChanged(120);
+    const int line = 120 * qRound(stack.devicePixelRatioF());
+    const auto leaving = slideFrame(0, 0, false, 120);
+    EXPECT_EQ("", firstDifference(stack.grab().toImage(), [&](int x, int y) {
+                  const QRgb live = page(0).colorAt(x, y);
+                  const QRgb below = x < line ? leaving(x, y) : background;
+                  return live == 0 ? below : live;
+              }));
+}
+
+TEST_P(RejectedIndex, LeavesTheStackPaintingTheLastTarget)
+{
+    animationOf(stack); // slides to page 1
+    page(0).setFixedSize(90, 50);
+    turn();
+    stack.nextTo(GetParam());
+    EXPECT_EQ("", firstDifference(stack.grab().toImage(), [this](int x, int y) {
+                  const QRgb live = page(0).colorAt(x, y);
+                  return live == 0 ? page(1).colorAt(x, y) : live;
+              }));
+}
+
 TEST_P(RejectedIndex, IsHarmlessInForwardTo)
 {
     stack.setDuration(0);
