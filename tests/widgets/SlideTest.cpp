@@ -403,17 +403,43 @@ TEST(StackWithoutPages, IgnoresRequests)
     }
 }
 
-TEST(StackWithoutPages, IsNotFrozenByNext)
+// Gives an empty stack its first pages and asks for the second.
+int pageAfterNext(QAnimationStackedWidget& stack)
 {
-    QAnimationStackedWidget stack;
     stack.setDuration(0);
-    stack.next();
-    stack.forward();
     stack.addWidget(new QWidget);
     stack.addWidget(new QWidget);
     stack.next();
     turn();
-    EXPECT_EQ(1, stack.currentIndex());
+    return stack.currentIndex();
+}
+
+class IndexWithoutPages : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(IndexWithoutPages, FreezesTheStackInNextTo)
+{
+    QAnimationStackedWidget stack;
+    stack.nextTo(GetParam());
+    EXPECT_EQ(0, pageAfterNext(stack));
+}
+
+TEST_P(IndexWithoutPages, IsHarmlessInForwardTo)
+{
+    QAnimationStackedWidget stack;
+    stack.forwardTo(GetParam());
+    EXPECT_EQ(1, pageAfterNext(stack));
+}
+
+INSTANTIATE_TEST_SUITE_P(Indices, IndexWithoutPages, testing::Values(0, 1, -1));
+
+TEST(StackWithoutPages, IsNotFrozenByNext)
+{
+    QAnimationStackedWidget stack;
+    stack.next();
+    stack.forward();
+    EXPECT_EQ(1, pageAfterNext(stack));
 }
 
 } // namespace
