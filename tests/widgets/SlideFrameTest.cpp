@@ -303,6 +303,21 @@ TEST_F(SlidePicture, StepsPaintOneSideEach)
                                   [&](int x, int y) { return x < 80 * ratio ? 0U : frame(x, y); }));
 }
 
+// The offset that no animation has set yet counts as 0, and the new page arrives from the right.
+TEST_F(SlidePicture, StepsPaintTheArrivingPageWholeBeforeAnySlide)
+{
+    EXPECT_EQ("", firstDifference(
+                      pictureOfStep([this](QPainter& painter) { stack.paintNext(painter, 1); }),
+                      [this](int x, int y) { return page(1).colorAt(x, y); }));
+}
+
+TEST_F(SlidePicture, StepsPaintNothingOfTheLeavingPageBeforeAnySlide)
+{
+    EXPECT_EQ("", firstDifference(
+                      pictureOfStep([this](QPainter& painter) { stack.paintPrevious(painter, 0); }),
+                      [](int, int) { return 0U; }));
+}
+
 TEST_F(SlidePicture, StepsPaintNothingForAnIndexWithoutPage)
 {
     stack.next();
