@@ -8,13 +8,19 @@ folder=$2
 
 exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x800x24 -nolisten tcp 2>/dev/null)
 xvfb=$!
+gallery=
+trap 'kill ${gallery:+"$gallery"} "$xvfb" 2>/dev/null || true' EXIT
 read -r number <&3
 export DISPLAY=:$number
 openbox >/dev/null 2>&1 &
-until wmctrl -m >/dev/null 2>&1; do sleep 0.1; done
+tries=0
+until wmctrl -m >/dev/null 2>&1; do
+    tries=$((tries + 1))
+    [ "$tries" -lt 200 ] || { echo "take-pictures.sh: openbox does not answer" >&2; exit 1; }
+    sleep 0.1
+done
 "$build/examples/gallery/widget_gallery" &
 gallery=$!
-trap 'kill "$gallery" "$xvfb" 2>/dev/null || true' EXIT
 window=$(xdotool search --sync --onlyvisible --pid "$gallery" | head -n 1)
 
 # hover X Y: moves the mouse to a place in the window.
