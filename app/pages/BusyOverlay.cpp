@@ -7,8 +7,11 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -57,6 +60,8 @@ void BusyOverlay::cover(const QString& title)
     m_title->setText(title);
     m_progress->setText(QString(QLatin1Char(' '))); // keeps the line's height
     setGeometry(parentWidget()->rect());
+    if (parentWidget()->isVisible())
+        setPicture(parentWidget()->grab());
     raise();
     show();
     // An indicator takes the size of its parent when it is made.
@@ -78,14 +83,29 @@ void BusyOverlay::setProgress(const QString& text)
 void BusyOverlay::uncover()
 {
     hide();
+    setPicture({});
     if (m_wheel)
         m_wheel->close();
 }
 
+// Whatever lies below an opaque widget is left alone by the repaints of those above.
+void BusyOverlay::setPicture(const QPixmap& picture)
+{
+    m_picture = picture;
+    setAttribute(Qt::WA_OpaquePaintEvent, !picture.isNull());
+    update();
+}
+
 bool BusyOverlay::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == parentWidget() && event->type() == QEvent::Resize)
-        setGeometry(parentWidget()->rect());
+    static constexpr QEvent::Type outdating[] = {QEvent::Resize, QEvent::PaletteChange,
+                                                 QEvent::StyleChange, QEvent::FontChange};
+    if (watched == parentWidget()) {
+        if (event->type() == QEvent::Resize)
+            setGeometry(parentWidget()->rect());
+        if (std::count(std::begin(outdating), std::end(outdating), event->type()) > 0)
+            setPicture({});
+    }
     return QWidget::eventFilter(watched, event);
 }
 
@@ -95,6 +115,12 @@ void BusyOverlay::keyPressEvent(QKeyEvent* event)
         emit cancelRequested();
     else
         QWidget::keyPressEvent(event);
+}
+
+void BusyOverlay::paintEvent(QPaintEvent* /*event*/)
+{
+    if (!m_picture.isNull())
+        QPainter(this).drawPixmap(0, 0, m_picture);
 }
 
 void BusyOverlay::resizeEvent(QResizeEvent* event)
