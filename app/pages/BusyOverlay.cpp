@@ -25,14 +25,15 @@ QColor wheelColor(const QPalette& palette)
 
 } // namespace
 
-BusyOverlay::BusyOverlay(QWidget* page)
-    : QWidget(page),
+BusyOverlay::BusyOverlay(QWidget* content)
+    : QWidget(content->parentWidget()),
+      m_content(content),
       m_title(new QLabel),
       m_progress(new QLabel),
       m_cancel(new QPushButton(tr("Cancel"))),
       m_panel(makePanel())
 {
-    page->installEventFilter(this);
+    content->installEventFilter(this);
     setAccessibleName(tr("Work in progress"));
     m_cancel->installEventFilter(&g_buttonMonitor);
     connect(m_cancel, &QPushButton::clicked, this, &BusyOverlay::cancelRequested);
@@ -59,9 +60,8 @@ void BusyOverlay::cover(const QString& title)
 {
     m_title->setText(title);
     m_progress->setText(QString(QLatin1Char(' '))); // keeps the line's height
-    setGeometry(parentWidget()->rect());
-    if (parentWidget()->isVisible())
-        setPicture(parentWidget()->grab());
+    setGeometry(m_content->geometry());
+    takePicture();
     raise();
     show();
     // An indicator takes the size of its parent when it is made.
@@ -76,8 +76,11 @@ void BusyOverlay::cover(const QString& title)
 
 void BusyOverlay::setProgress(const QString& text)
 {
+    constexpr qint64 pictureLifeMs = 500;
     m_progress->setText(text);
     arrange();
+    if (m_sincePicture.hasExpired(pictureLifeMs))
+        takePicture();
 }
 
 void BusyOverlay::uncover()
@@ -86,6 +89,13 @@ void BusyOverlay::uncover()
     setPicture({});
     if (m_wheel)
         m_wheel->close();
+}
+
+void BusyOverlay::takePicture()
+{
+    m_sincePicture.start();
+    if (m_content->isVisible())
+        setPicture(m_content->grab());
 }
 
 // Whatever lies below an opaque widget is left alone by the repaints of those above.
@@ -100,9 +110,9 @@ bool BusyOverlay::eventFilter(QObject* watched, QEvent* event)
 {
     static constexpr QEvent::Type outdating[] = {QEvent::Resize, QEvent::PaletteChange,
                                                  QEvent::StyleChange, QEvent::FontChange};
-    if (watched == parentWidget()) {
+    if (watched == m_content) {
         if (event->type() == QEvent::Resize)
-            setGeometry(parentWidget()->rect());
+            setGeometry(m_content->geometry());
         if (std::count(std::begin(outdating), std::end(outdating), event->type()) > 0)
             setPicture({});
     }

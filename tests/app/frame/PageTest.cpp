@@ -162,7 +162,7 @@ TEST_F(PageTest, TheOverlayFollowsThePagesSize)
     m_page.cancelJob();
 }
 
-TEST_F(PageTest, ThePageIsNotPaintedAgainUnderTheWheel)
+TEST_F(PageTest, ThePageIsSeldomPaintedUnderTheWheel)
 {
     PaintCounter field;
     m_page.field->installEventFilter(&field);
@@ -170,8 +170,8 @@ TEST_F(PageTest, ThePageIsNotPaintedAgainUnderTheWheel)
     PaintCounter wheel;
     overlay().findChild<QProgressIndicator*>()->installEventFilter(&wheel);
     field.count = 0;
-    ASSERT_TRUE(QTest::qWaitFor([&wheel] { return wheel.count > 5; }));
-    EXPECT_EQ(field.count, 0);
+    ASSERT_TRUE(QTest::qWaitFor([&wheel] { return wheel.count > 20; }));
+    EXPECT_LT(3 * field.count, wheel.count);
     m_page.cancelJob();
     EXPECT_TRUE(QTest::qWaitFor([&field] { return field.count > 0; }));
 }
@@ -205,6 +205,24 @@ TEST_F(PageTest, TheOverlayShowsThePageItselfOnceThatHasChanged)
         EXPECT_EQ(covered, m_page.grab().toImage()) << &change - changes;
         m_page.cancelJob();
     }
+}
+
+TEST_F(PageTest, WhatThePageFillsInDuringAJobIsSeen)
+{
+    start(1000000);
+    overlay().findChild<QProgressIndicator*>()->hide();
+    m_page.field->setText("arrived");
+    const auto seen = [this] {
+        overlay().findChild<QFrame*>()->hide();
+        const QImage covered = m_page.grab().toImage();
+        overlay().hide();
+        const QImage page = m_page.grab().toImage();
+        overlay().show();
+        return covered == page;
+    };
+    EXPECT_FALSE(seen()); // still the picture
+    EXPECT_TRUE(QTest::qWaitFor(seen));
+    m_page.cancelJob();
 }
 
 TEST_F(PageTest, TheWheelIsGoneAfterTheJob)
