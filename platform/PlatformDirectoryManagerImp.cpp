@@ -32,7 +32,7 @@ DirectorySearch* searchOf(void* handle)
 // At most MAX_PATH characters, and zeros behind a shorter name.
 void writeName(_WIN32_FIND_DATAW* data, const QString& name)
 {
-    if (name.size() > MAX_PATH) { // only among Qt's resources
+    if (name.size() > MAX_PATH) { // only among Qt's resources and search paths
         std::wcsncpy(data->cFileName, name.toStdWString().c_str(), MAX_PATH);
         return;
     }

@@ -16,10 +16,11 @@ public:
     /// Returns a search handle, positioned on the first entry, that the caller gives back to
     /// `findClose`; INVALID_HANDLE_VALUE if nothing is found, for a pattern without "/" and for
     /// null arguments.
-    /// Of `data`, the name (padded with zeros) and the attributes are written: 16 for a directory,
-    /// else 128; and, only for a regular file, the size in bytes and the three times, which are
-    /// seconds since 1970-01-01 UTC in the low word (all ones where they do not fit), not 100
-    /// nanoseconds since 1601.
+    /// Of `data`, the name and the attributes are written: the first 260 characters of the name,
+    /// padded with zeros (a name of 260 or more, as one with a search path of Qt's in front may be,
+    /// gets no terminator); 16 for a directory, else 128; and, only for a regular file, the size in
+    /// bytes and the three times, which are seconds since 1970-01-01 UTC in the low word (all ones
+    /// where they do not fit), not 100 nanoseconds since 1601.
     void* findFirstFile(const wchar_t* pattern, _WIN32_FIND_DATAW* data) override;
 
     /// Goes on to the next entry and writes its name and attributes, and nothing else, to `data`.

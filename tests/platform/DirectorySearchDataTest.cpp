@@ -2,7 +2,7 @@
 
 #include "tests/platform/DirectorySearch.h"
 
-#include <QDateTime>
+#include <QDir>
 
 #include <cstddef>
 #include <fcntl.h>
@@ -179,6 +179,28 @@ TEST_F(DirectorySearchDataTest, LongestNamesFit)
     EXPECT_EQ(QStringList({one, two}), searchTree("*"));
     EXPECT_EQ(255U, wcslen(data->cFileName));
 }
+
+// A name on the file system is never that long, but one that a search path stands before is.
+class DirectorySearchNameLimit : public DirectorySearch, public testing::WithParamInterface<int>
+{
+};
+
+TEST_P(DirectorySearchNameLimit, IsTheSizeOfItsField)
+{
+    const QByteArray file(200, 'x');
+    const QByteArray prefix(GetParam() - file.size() - 1, 'p');
+    tree.file(file, 7);
+    QDir::setSearchPaths(prefix, {tree.path()});
+    ASSERT_TRUE(find(prefix + ':' + file));
+    QDir::setSearchPaths(prefix, {});
+    std::wstring expected = QString(prefix + ':' + file).toStdWString();
+    expected.resize(MAX_PATH, L'\0');
+    EXPECT_EQ(expected, std::wstring(data->cFileName, MAX_PATH));
+    EXPECT_TRUE(data.untouched(data->cAlternateFileName));
+    EXPECT_EQ(7U, data->nFileSizeLow);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lengths, DirectorySearchNameLimit, testing::Values(259, 260, 261, 300));
 
 TEST_F(DirectorySearchDataTest, NextEntryKeepsTheSizeAndTimesOfTheFirst)
 {
