@@ -162,6 +162,24 @@ TEST_F(DirectorySearchDataTest, CreationIsTheBirthTimeWhereTheFileSystemKeepsIt)
     EXPECT_EQ(0U, data->ftCreationTime.dwHighDateTime);
 }
 
+TEST_F(DirectorySearchDataTest, CreationIsTheLastChangeWhereNoBirthTimeIsKept)
+{
+    const char* const file = "/proc/self/comm";
+    const int descriptor = open(file, O_RDONLY | O_CLOEXEC); // while it is open, its times stay
+    ASSERT_GE(descriptor, 0);
+    const timespec times[] = {{1111111111, 0}, {1222222222, 0}};
+    ASSERT_EQ(0, utimensat(AT_FDCWD, file, times, 0));
+    struct statx status;
+    ASSERT_EQ(0, statx(AT_FDCWD, file, 0, STATX_BTIME | STATX_CTIME, &status));
+    ASSERT_EQ(0U, status.stx_mask & STATX_BTIME);
+    void* handle = manager.findFirstFile(L"/proc/self/comm", data.get());
+    ASSERT_EQ(1, manager.findClose(handle));
+    EXPECT_EQ(static_cast<DWORD>(status.stx_ctime.tv_sec), data->ftCreationTime.dwLowDateTime);
+    EXPECT_EQ(0U, data->ftCreationTime.dwHighDateTime);
+    EXPECT_EQ(1222222222U, data->ftLastWriteTime.dwLowDateTime);
+    close(descriptor);
+}
+
 TEST_F(DirectorySearchDataTest, NameIsPaddedWithZeros)
 {
     tree.file("abc");
