@@ -110,6 +110,8 @@ INSTANTIATE_TEST_SUITE_P(
                     // The one contains the other's text, though it lies outside.
                     RelativeRow{L"/a/b", L"/a/bc/d", L"./../bc/d"},
                     RelativeRow{L"/b", L"/a/b/c", L"./../a/b/c"},
+                    // Every text contains the empty one, which is the working folder.
+                    RelativeRow{L"", L"x/y", L"./x/y"},
                     // The same folder, written in two ways.
                     RelativeRow{L"/a/b/", L"/a/b", L"."}, RelativeRow{L"/a/b", L"/a/b/", L"./."},
                     RelativeRow{L"/", L"/a", L"./a"}, RelativeRow{L"/a", L"x/y", L"x/y"},
