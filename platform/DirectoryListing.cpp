@@ -127,11 +127,6 @@ DirectoryListing::DirectoryListing(const QString& directory, Hidden hidden)
         m_nativeDirectory = QFile::encodeName(m_directory);
 }
 
-QStringList DirectoryListing::names() const
-{
-    return names(QStringLiteral("*"));
-}
-
 QStringList DirectoryListing::names(const QString& filter) const
 {
     const NameFilter nameFilter(filter);
