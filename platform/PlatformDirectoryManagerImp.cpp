@@ -137,9 +137,10 @@ void* PlatformDirectoryManagerImp::findFirstFile(const wchar_t* pattern, _WIN32_
     const int split = path.lastIndexOf(separator);
     if (split < 0)
         return INVALID_HANDLE_VALUE;
-    const QDir directory(path.left(split + 1));
+    const QString folder = path.left(split + 1);
     const QString name = path.mid(split + 1);
-    const DirectoryListing listing(path.left(split + 1), DirectoryListing::WithHidden);
+    const QDir directory(folder);
+    const DirectoryListing listing(folder, DirectoryListing::WithHidden);
     // A name that exists as it stands may hold wildcard characters, and needs no listing.
     const bool isFile = QFileInfo(directory, name).isFile();
     const QStringList names = isFile ? QStringList(name) : listing.names(name);
