@@ -3,6 +3,8 @@
 #include "platform/NameOrder.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTextCodec>
 #include <QVarLengthArray>

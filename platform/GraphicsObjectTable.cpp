@@ -3,6 +3,7 @@
 #include <QImage>
 
 #include <limits>
+#include <optional>
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include <QDir>
 
 #include <cstddef>
+#include <cwchar>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -5,8 +5,12 @@
 
 #include <QImage>
 
+#include <gtest/gtest.h>
+
 #include <cstring>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace {
 

@@ -6,9 +6,11 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <cstring>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
 #include <limits>
-#include <optional>
 
 namespace {
 
