@@ -240,7 +240,7 @@ TEST_F(DirectorySearchDataTest, NextEntryWritesOnlyNameAndAttributes)
     tree.file("a", 5);
     tree.folder("b");
     void* handle = manager.findFirstFile(tree.wide("*").c_str(), data.get());
-    Fenced<_WIN32_FIND_DATAW> next;
+    CanaryRecord<_WIN32_FIND_DATAW> next;
     ASSERT_EQ(1, manager.findNextFile(handle, next.get()));
     EXPECT_EQ(16U, next->dwFileAttributes);
     EXPECT_TRUE(next.untouched(next->ftCreationTime));
@@ -249,7 +249,7 @@ TEST_F(DirectorySearchDataTest, NextEntryWritesOnlyNameAndAttributes)
     EXPECT_TRUE(next.untouched(next->nFileSizeHigh));
     EXPECT_TRUE(next.untouched(next->nFileSizeLow));
     EXPECT_TRUE(next.untouched(next->cAlternateFileName));
-    EXPECT_TRUE(next.intact());
+    next.expectIntact();
     EXPECT_EQ(1, manager.findClose(handle));
 }
 
@@ -276,7 +276,7 @@ TEST_F(DirectorySearchDataTest, NothingFollowsTheLastEntryHoweverOftenItIsAsked)
     tree.file("b");
     void* handle = manager.findFirstFile(tree.wide("*").c_str(), data.get());
     EXPECT_EQ(1, manager.findNextFile(handle, data.get()));
-    Fenced<_WIN32_FIND_DATAW> next;
+    CanaryRecord<_WIN32_FIND_DATAW> next;
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(0, manager.findNextFile(handle, next.get()));
     EXPECT_TRUE(next.untouched(*next.get()));
