@@ -81,8 +81,9 @@ public:
     virtual int SHGetFolderPath(HWND owner, int folder, void* token, unsigned int flags,
                                 wchar_t* path) = 0;
 
-    /// Writes the path from the directory `from` to `to`, at most 4,096 characters, without a
-    /// terminator: the caller zeroes the buffer. The attributes are ignored. Returns 1; 0 if
+    /// Writes the path from the directory `from` to `to`, with "./" in front where `to` contains
+    /// `from` as text, and "./" alone where they are equal: at most 4,096 characters, without a
+    /// terminator, so the caller zeroes the buffer. The attributes are ignored. Returns 1; 0 if
     /// `relative`, `from` or `to` is null.
     virtual int PathRelativePathToW(wchar_t* relative, const wchar_t* from,
                                     unsigned int fromAttributes, const wchar_t* to,
@@ -100,8 +101,9 @@ public:
     virtual unsigned int GetFileAttributesW(const wchar_t* path) = 0;
 
     /// FILE_ATTRIBUTE_READONLY changes nothing and demands a file, not a directory, that everybody
-    /// may read. FILE_ATTRIBUTE_HIDDEN then renames the file to "." followed by the whole path.
-    /// Other attributes are ignored. Returns 1, or 0 where a step failed and for null.
+    /// may read. FILE_ATTRIBUTE_HIDDEN then renames what is there, file or directory, to "."
+    /// followed by the whole path, unless that exists. Other attributes are ignored. Returns 1, or
+    /// 0 where a step failed and for null.
     virtual int SetFileAttributesW(const wchar_t* path, unsigned int attributes) = 0;
 
     /// 1 if `path` is relative, else 0; 0 for an empty path and for null.
@@ -157,9 +159,10 @@ public:
 
     /// Calls `procedure` for the records of the family that `filter` names, by its global or its
     /// local name, or of all families in the order of their local names where `filter` is null or
-    /// its name is empty. Of a family, the records of the filter's character set are passed, all
-    /// with DEFAULT_CHARSET or without a filter, in the order in which they were added; they stay
-    /// the catalogue's. `dc` and `flags` are ignored.
+    /// its name is empty, unless a font was added under the empty global name: then its family is
+    /// the one that is named. Of a family, the records of the filter's character set are passed,
+    /// all with DEFAULT_CHARSET or without a filter, in the order in which they were added; they
+    /// stay the catalogue's. `dc` and `flags` are ignored.
     ///
     /// The procedure receives the record (which continues as an ENUMLOGFONTEXW), null,
     /// TRUETYPE_FONTTYPE and `callerValue`. Intended: where it returns 0 the family's next record
