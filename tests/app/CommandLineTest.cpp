@@ -168,6 +168,13 @@ TEST_F(CommandLineTest, QtTextsComeFromTheWorkingDirectory)
     EXPECT_EQ(QStringLiteral("取消"), cancel());
 }
 
+TEST_F(CommandLineTest, QtsOwnDialogsAreChinese)
+{
+    bringQtCatalogue();
+    start({"/language", "zh-CN"});
+    EXPECT_EQ(QStringLiteral("查找范围："), QCoreApplication::translate("QFileDialog", "Look in:"));
+}
+
 TEST_F(CommandLineTest, WithoutQtCatalogueOnlyTheApplicationIsChinese)
 {
     start({"/language", "zh-CN"});
