@@ -182,12 +182,21 @@ TEST_F(CommandLineTest, WithoutQtCatalogueOnlyTheApplicationIsChinese)
     EXPECT_EQ(QStringLiteral("Cancel"), cancel());
 }
 
+TEST_F(CommandLineTest, CatalogueThatDoesNotLoadIsInstalledAllTheSame)
+{
+    start({"/language", "zh-CN"});
+    EXPECT_TRUE(qtTranslator.isEmpty());
+    EXPECT_TRUE(QCoreApplication::removeTranslator(&qtTranslator));
+}
+
 TEST_F(CommandLineTest, OtherLanguagesInstallNothing)
 {
     bringQtCatalogue();
     start({"/language", "en"});
     EXPECT_TRUE(appTranslator.isEmpty());
     EXPECT_TRUE(qtTranslator.isEmpty());
+    EXPECT_FALSE(QCoreApplication::removeTranslator(&appTranslator));
+    EXPECT_FALSE(QCoreApplication::removeTranslator(&qtTranslator));
     EXPECT_EQ(QStringLiteral("Cancel"), cancel());
 }
 
