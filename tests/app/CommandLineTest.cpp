@@ -152,6 +152,23 @@ TEST_F(CommandLineTest, ConfiguredChineseHoldsAgainstAnotherOption)
     EXPECT_TRUE(applicationIsChinese());
 }
 
+TEST_F(CommandLineTest, ConfiguredChineseNeedsNoReadableOptions)
+{
+    g_recordingHost.languageId = 2052;
+    g_recordingHost.requestedLanguage = QStringLiteral("untouched");
+    start({"/language", "zh-CN", "/x"});
+    EXPECT_EQ(QString(), g_recordingHost.requestedLanguage);
+    EXPECT_TRUE(applicationIsChinese());
+}
+
+TEST_F(CommandLineTest, ConfiguredChineseHoldsAgainstAnotherSpelling)
+{
+    g_recordingHost.languageId = 2052;
+    start({"/language", "zh-cn"});
+    EXPECT_EQ(QStringLiteral("zh-cn"), g_recordingHost.requestedLanguage);
+    EXPECT_TRUE(applicationIsChinese());
+}
+
 TEST_F(CommandLineTest, LanguageIdentifierIsComparedWhole)
 {
     for (const int identifier : {0x10804, 1028, 2053, -2052}) {
