@@ -74,16 +74,35 @@ TEST(CurrTime, FollowsAChangeOfTheTimeZone)
     EXPECT_NEAR(static_cast<double>(there), static_cast<double>(timegm(&fields)), 2);
 }
 
+// The members of a logger, in order.
+struct Mirror
+{
+    std::ofstream file;
+    int target;
+    std::string path;
+    int level;
+};
+
+// What a logger holds where the mirror has this member.
+template <typename Member>
+const Member& memberOf(const Logger& logger, Member Mirror::*member)
+{
+    const Mirror mirror{};
+    const auto offset =
+        reinterpret_cast<const char*>(&(mirror.*member)) - reinterpret_cast<const char*>(&mirror);
+    return *reinterpret_cast<const Member*>(reinterpret_cast<const char*>(&logger) + offset);
+}
+
 TEST_F(LoggerTest, HasItsMembersInOrderAndNoVirtualOperation)
 {
-    struct Mirror
-    {
-        std::ofstream file;
-        int target;
-        std::string path;
-        int level;
-    };
+    start();
+    const Logger logger(Logger::file_and_console, Logger::error, path());
+    written();
     EXPECT_EQ(sizeof(Mirror), sizeof(Logger));
+    EXPECT_TRUE(memberOf(logger, &Mirror::file).is_open());
+    EXPECT_EQ(2, memberOf(logger, &Mirror::target));
+    EXPECT_EQ(path(), memberOf(logger, &Mirror::path));
+    EXPECT_EQ(3, memberOf(logger, &Mirror::level));
     EXPECT_FALSE(std::is_polymorphic_v<Logger>);
     EXPECT_TRUE(std::is_signed_v<std::underlying_type_t<Logger::log_level>>);
 }
