@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <iostream>
+#include <sstream>
 #include <type_traits>
 
 namespace {
@@ -223,6 +225,49 @@ TEST_F(LoggerTest, FileIsFlushedAfterEveryLine)
     Logger logger(Logger::file, Logger::debug, path());
     logger.INFO("text");
     EXPECT_EQ(startBanner + "[INFO] TIME : text\n", content());
+}
+
+// Takes what is written to std::cout while it lives, and counts how often that is flushed.
+class SyncCounter : public std::stringbuf
+{
+public:
+    SyncCounter() : m_former(std::cout.rdbuf(this)) {}
+    ~SyncCounter() override { std::cout.rdbuf(m_former); }
+
+    int count() const { return m_count; }
+
+protected:
+    int sync() override
+    {
+        ++m_count;
+        return 0;
+    }
+
+private:
+    std::streambuf* m_former;
+    int m_count = 0;
+};
+
+TEST_F(LoggerTest, DefaultLoggerFlushesItsAnnouncement)
+{
+    const SyncCounter output;
+    const Logger logger;
+    EXPECT_EQ(1, output.count());
+    EXPECT_EQ(startBanner, timeless(QString::fromStdString(output.str())));
+}
+
+TEST_F(LoggerTest, StandardOutputIsNotFlushedOtherwise)
+{
+    for (const auto target : {Logger::console, Logger::file_and_console}) {
+        const SyncCounter output;
+        {
+            Logger logger(target, Logger::debug, path());
+            logger.INFO("text");
+        }
+        EXPECT_EQ(0, output.count()) << target;
+        EXPECT_EQ(startBanner + "[INFO] TIME : text\n",
+                  timeless(QString::fromStdString(output.str())));
+    }
 }
 
 TEST_F(LoggerTest, TextIsWrittenAsGiven)
