@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QLabel>
 #include <QSettings>
 #include <QTimer>
 
@@ -55,6 +56,8 @@ void reportWindow()
         report("class", QString::fromLatin1(widget->metaObject()->className()));
         report("title", widget->windowTitle());
         report("window", geometry(QRect(widget->pos(), widget->size())));
+        for (const QLabel* label : widget->findChildren<QLabel*>())
+            report("label", label->text().simplified());
     }
     report("desktop", geometry(QApplication::desktop()->geometry()));
     report("cancel", QCoreApplication::translate("QPlatformTheme", "Cancel"));

@@ -77,6 +77,18 @@ INSTANTIATE_TEST_SUITE_P(Rows, StartUpOptions,
                                          Line{{"/language", "zh-CN", "-reverse"}, true},
                                          Line{{"/language", "-style", "fusion", "zh-CN"}, true}));
 
+// The status line names the language; its text is fixed when the window is made.
+TEST(StartUp, MakesTheWindowAfterTheTranslators)
+{
+    for (const bool isChinese : {true, false}) {
+        Application application;
+        ASSERT_TRUE(application.run(isChinese ? QStringList{"/language", "zh-CN"} : QStringList()));
+        const QStringList labels = application.values("label");
+        EXPECT_EQ(isChinese, labels.contains(chinese));
+        EXPECT_EQ(!isChinese, labels.contains(english));
+    }
+}
+
 TEST(StartUp, TellsTheConfigurationLibraryTheLanguage)
 {
     Application application;
