@@ -22,9 +22,6 @@ void setPlatformServices(IPlatformServices* services);
 void updateCStringManagerData(const void* string);
 int strcpy_s(char* destination, int size, const char* source);
 void* GetProcAddress(void* module, const char* name);
-int InitOrbxConfig(const wchar_t* language);
-void CreateConfigReg();
-int GetCurrentOrbxLanguageId();
 #pragma GCC visibility pop
 
 namespace {
@@ -105,20 +102,4 @@ int strcpy_s(char* destination, int size, const char* source)
 void* GetProcAddress(void* module, const char* name)
 {
     return dlsym(module, name);
-}
-
-int InitOrbxConfig(const wchar_t* language)
-{
-    report("init", QString::fromWCharArray(language));
-    return environmentNumber("HOST_INIT_RESULT");
-}
-
-void CreateConfigReg()
-{
-    report("create", QString());
-}
-
-int GetCurrentOrbxLanguageId()
-{
-    return environmentNumber("HOST_LANGUAGE");
 }
