@@ -70,6 +70,12 @@ bool initialisesStreams(const QString& constructor)
         .contains("ios_base4InitC1");
 }
 
+// What readelf says of the executable; runs of blanks are one.
+QString elf(const QString& option)
+{
+    return linesOf("readelf", {option, Application::executable()}).join('\n').simplified();
+}
+
 int indexOf(const QStringList& constructors, const QString& part)
 {
     const int index = constructors.indexOf(QRegularExpression(".*" + part + ".*"));
@@ -91,6 +97,30 @@ TEST(Binary, HoldsTheGlobalObjectsOfTheKitAndTheCodec)
     const QString names = symbols().values().join('\n');
     EXPECT_TRUE(names.contains("g_buttonMonitor"));
     EXPECT_TRUE(names.contains("base64_chars"));
+}
+
+TEST(Hardening, ExecutableIsPositionIndependent)
+{
+    EXPECT_TRUE(elf("-hW").contains("Type: DYN"));
+    EXPECT_TRUE(elf("-dW").contains(QRegularExpression(R"(\(FLAGS_1\) Flags: [A-Z ]*\bPIE\b)")));
+}
+
+// Tables of addresses are filled at start and are read-only from then on.
+TEST(Hardening, RelocationsAreReadOnly)
+{
+    if (!QUAYSIDE_HARDENED)
+        GTEST_SKIP() << "sanitized and debug builds are not hardened";
+    EXPECT_TRUE(elf("-lW").contains("GNU_RELRO"));
+    EXPECT_TRUE(elf("-dW").contains(QRegularExpression(R"(\(FLAGS_1\) Flags: [A-Z ]*\bNOW\b)")));
+}
+
+TEST(Hardening, StacksAreGuarded)
+{
+    if (!QUAYSIDE_HARDENED)
+        GTEST_SKIP() << "sanitized and debug builds are not hardened";
+    const QStringList imports =
+        linesOf("nm", {"-D", "--undefined-only", Application::executable()});
+    EXPECT_FALSE(imports.filter("__stack_chk_fail").isEmpty());
 }
 
 TEST(StaticConstruction, FollowsTheOrderOfStartUp)
