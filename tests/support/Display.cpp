@@ -27,7 +27,10 @@ Display::~Display()
         process->terminate();
         process->waitForFinished(5000);
     }
-    qputenv("DISPLAY", m_formerDisplay);
+    if (m_formerDisplay.isNull())
+        qunsetenv("DISPLAY");
+    else
+        qputenv("DISPLAY", m_formerDisplay);
 }
 
 void Display::startManager()
