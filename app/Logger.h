@@ -44,9 +44,14 @@ public:
     Logger(const Logger&) = delete;
     Logger& operator=(const Logger&) = delete;
 
+    /// Writes one line of level `debug`, as `output` does; the text is bytes, without a line feed
+    /// of its own.
     void DEBUG(const std::string& text);
+    /// Writes one line of level `info`.
     void INFO(const std::string& text);
+    /// Writes one line of level `warning`.
     void WARNING(const std::string& text);
+    /// Writes one line of level `error`. The plural is intended: the name is part of the interface.
     void ERRORS(const std::string& text);
 
     /// Writes one line. The threshold filters standard output only: the file, where there is one,

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
+
+#include <vector>
 
 class Page;
 class PageRail;

@@ -1,5 +1,7 @@
+// A slide's frame, the indicator's painting, and what an indicator costs that covers a page.
+
 #include "bench/BenchPages.h"
-#include "bench/Comparison.h"
+#include "bench/Ratio.h"
 #include "widgets/QAnimationStackedWidget.h"
 #include "widgets/QProgressIndicator.h"
 
@@ -22,7 +24,7 @@ void show(QWidget& widget)
 }
 
 // One frame of a slide against pictures of the same two pages.
-void compareSlide(const Comparison& comparison)
+void slideAgainstGrabbingBothPages(benchmark::State& state)
 {
     QAnimationStackedWidget stack;
     QWidget* table = makeTablePage().release();
@@ -42,7 +44,7 @@ void compareSlide(const Comparison& comparison)
         table->grab();
         form->grab();
     };
-    comparison.run("slide, one frame, 1280 x 800", frame, "grabbing both pages", grab, 1.15);
+    compare(state, frame, grab, 1.15);
 }
 
 // What the indicator shows, painted as plainly as can be, with all figures known beforehand.
@@ -64,8 +66,10 @@ protected:
     }
 };
 
-void compareIndicator(const Comparison& comparison, int ratio)
+// At a scale of so many times the usual resolution.
+void indicatorAgainstFillAndTwelveRectangles(benchmark::State& state)
 {
+    const auto ratio = static_cast<int>(state.range(0));
     QProgressIndicator indicator;
     HandPainted peer;
     indicator.setDisplayedWhenStopped(true);
@@ -77,9 +81,8 @@ void compareIndicator(const Comparison& comparison, int ratio)
     const auto paint = [&image](QWidget& widget) {
         widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
     };
-    comparison.run(
-        "indicator, 400 x 300 at " + std::to_string(ratio * 100) + " %", [&] { paint(indicator); },
-        "fill and 12 rounded rectangles", [&] { paint(peer); }, 1.1);
+    compare(
+        state, [&] { paint(indicator); }, [&] { paint(peer); }, 1.1);
 }
 
 // Draws its widget from a picture kept until the widget changes.
@@ -94,38 +97,75 @@ protected:
     }
 };
 
-// One step of an indicator that covers a page: what lies under it is painted again, too.
-void compareCover(const Comparison& comparison)
+// A page under an indicator. A step of it paints what lies below again, too.
+class Cover
 {
+public:
+    Cover() : page(makeTablePage().release()), m_indicator(new QProgressIndicator(&window))
+    {
+        auto* layout = new QVBoxLayout(&window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(page);
+        show(window);
+        m_indicator->setDisplayedWhenStopped(true);
+        m_indicator->resize(screenSize);
+        m_indicator->raise();
+        m_indicator->show();
+    }
+
+    /// One step against the indicator's own painting.
+    void compareStep(benchmark::State& state)
+    {
+        QImage image(screenSize, QImage::Format_RGB32);
+        compare(
+            state, [this] { m_indicator->repaint(); },
+            [&] { m_indicator->render(&image, QPoint(), QRegion(), QWidget::DrawChildren); });
+    }
+
+    void putBelow(QWidget& widget) { widget.stackUnder(m_indicator); }
+
     QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    layout->setContentsMargins(0, 0, 0, 0);
-    QWidget* page = makeTablePage().release();
-    layout->addWidget(page);
-    show(window);
-    auto* indicator = new QProgressIndicator(&window);
-    indicator->setDisplayedWhenStopped(true);
-    indicator->show();
-    QImage image(screenSize, QImage::Format_RGB32);
-    const auto alone = [&] {
-        indicator->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    };
-    const auto step = [&] { indicator->repaint(); };
-    comparison.run("indicator's step over a table", step, "its own painting", alone);
+    QWidget* page;
 
-    page->setGraphicsEffect(new KeptPicture);
-    comparison.run("  the table drawn from a kept picture", step, "its own painting", alone);
-    page->setGraphicsEffect(nullptr);
+private:
+    QProgressIndicator* m_indicator;
+};
 
-    auto* picture = new QLabel(&window);
-    picture->setPixmap(page->grab());
-    picture->setAttribute(Qt::WA_OpaquePaintEvent);
-    page->hide();
-    picture->setGeometry(window.rect());
-    picture->show();
-    picture->stackUnder(indicator);
-    comparison.run("  the table hidden behind its picture", step, "its own painting", alone);
+void stepOverPageAgainstItsOwnPainting(benchmark::State& state)
+{
+    Cover().compareStep(state);
 }
+
+void stepOverKeptPictureAgainstItsOwnPainting(benchmark::State& state)
+{
+    Cover cover;
+    cover.page->setGraphicsEffect(new KeptPicture);
+    cover.compareStep(state);
+}
+
+// The page stays in view, behind an opaque picture of itself.
+void stepOverOpaquePictureAgainstItsOwnPainting(benchmark::State& state)
+{
+    Cover cover;
+    QLabel picture(&cover.window);
+    picture.setPixmap(cover.page->grab());
+    picture.setAttribute(Qt::WA_OpaquePaintEvent);
+    picture.setGeometry(cover.window.rect());
+    picture.show();
+    cover.putBelow(picture);
+    cover.compareStep(state);
+}
+
+void rounds(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(301);
+}
+
+BENCHMARK(slideAgainstGrabbingBothPages)->Apply(rounds);
+BENCHMARK(indicatorAgainstFillAndTwelveRectangles)->Arg(1)->Arg(2)->Apply(rounds);
+BENCHMARK(stepOverPageAgainstItsOwnPainting)->Apply(rounds);
+BENCHMARK(stepOverKeptPictureAgainstItsOwnPainting)->Apply(rounds);
+BENCHMARK(stepOverOpaquePictureAgainstItsOwnPainting)->Apply(rounds);
 
 } // namespace
 
@@ -133,9 +173,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    compareSlide(Comparison(301));
-    compareIndicator(Comparison(501), 1);
-    compareIndicator(Comparison(501), 2);
-    compareCover(Comparison(101));
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

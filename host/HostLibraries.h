@@ -24,7 +24,8 @@ void updateCStringManagerData(const void* string);
 /// Returns 0, or an error number when it does not fit or an argument is invalid.
 int strcpy_s(char* destination, int size, const char* source);
 
-/// The address of the function `name` in `module`, or null.
+/// The address of the function `name` in `module`, or null where it has none; null for a null
+/// module or name.
 void* GetProcAddress(HINSTANCE module, const char* name);
 
 // The configuration library is optional: each of its functions is a weak reference of its own, null

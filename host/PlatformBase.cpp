@@ -65,5 +65,6 @@ int strcpy_s(char* destination, int size, const char* source)
 
 void* GetProcAddress(HINSTANCE module, const char* name)
 {
-    return name ? dlsym(module, name) : nullptr;
+    // To dlsym null is a module too: every library of the process.
+    return module && name ? dlsym(module, name) : nullptr;
 }

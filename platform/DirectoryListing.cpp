@@ -3,6 +3,8 @@
 #include "platform/NameOrder.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTextCodec>
 #include <QVarLengthArray>
@@ -125,11 +127,6 @@ DirectoryListing::DirectoryListing(const QString& directory, Hidden hidden)
         m_directory += u'/';
     if (isOnFileSystem(m_directory))
         m_nativeDirectory = QFile::encodeName(m_directory);
-}
-
-QStringList DirectoryListing::names() const
-{
-    return names(QStringLiteral("*"));
 }
 
 QStringList DirectoryListing::names(const QString& filter) const

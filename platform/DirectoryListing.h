@@ -20,11 +20,9 @@ public:
     /// The directory may be one of Qt's resources, or start with one of Qt's search paths.
     DirectoryListing(const QString& directory, Hidden hidden);
 
-    /// The names of all entries, in the order of QDir: by name ignoring case.
-    QStringList names() const;
-
-    /// The same of those that match `filter`, which may hold the wildcards of
-    /// `QDir::setNameFilters` and ignores case. A filter that is no valid pattern matches nothing.
+    /// The names of the entries that match `filter`, in the order of QDir: by name ignoring case.
+    /// The filter may hold the wildcards of `QDir::setNameFilters` and ignores case; one that is no
+    /// valid pattern matches nothing.
     QStringList names(const QString& filter) const;
 
     /// Whether the entry `name` is, at this moment, a folder or a link to one.

@@ -3,6 +3,7 @@
 #include <QImage>
 
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -36,7 +37,10 @@ void destroyImage(void* object)
 
 GraphicsObjectTable::~GraphicsObjectTable()
 {
-    for (const std::optional<void*>& object : m_ranges[ImageType].objects())
+    const auto images = m_ranges.find(ImageType);
+    if (images == m_ranges.end())
+        return;
+    for (const std::optional<void*>& object : images->second.objects())
         destroyImage(object.value_or(nullptr));
 }
 

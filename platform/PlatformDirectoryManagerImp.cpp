@@ -32,7 +32,7 @@ DirectorySearch* searchOf(void* handle)
 // At most MAX_PATH characters, and zeros behind a shorter name.
 void writeName(_WIN32_FIND_DATAW* data, const QString& name)
 {
-    if (name.size() > MAX_PATH) { // only among Qt's resources
+    if (name.size() > MAX_PATH) { // only among Qt's resources and search paths
         std::wcsncpy(data->cFileName, name.toStdWString().c_str(), MAX_PATH);
         return;
     }
@@ -137,9 +137,10 @@ void* PlatformDirectoryManagerImp::findFirstFile(const wchar_t* pattern, _WIN32_
     const int split = path.lastIndexOf(separator);
     if (split < 0)
         return INVALID_HANDLE_VALUE;
-    const QDir directory(path.left(split + 1));
+    const QString folder = path.left(split + 1);
     const QString name = path.mid(split + 1);
-    const DirectoryListing listing(path.left(split + 1), DirectoryListing::WithHidden);
+    const QDir directory(folder);
+    const DirectoryListing listing(folder, DirectoryListing::WithHidden);
     // A name that exists as it stands may hold wildcard characters, and needs no listing.
     const bool isFile = QFileInfo(directory, name).isFile();
     const QStringList names = isFile ? QStringList(name) : listing.names(name);

@@ -8,6 +8,8 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <cwchar>
 #include <memory>

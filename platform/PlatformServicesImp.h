@@ -25,8 +25,7 @@ public:
     PlatformServicesImp(const PlatformServicesImp&) = delete;
     PlatformServicesImp& operator=(const PlatformServicesImp&) = delete;
 
-    // Each accessor returns the same manager every time. A manager whose constructor throws is not
-    // kept, and the exception goes on to the caller.
+    // A manager whose constructor throws is not kept, and the exception goes on to the caller.
     IPlatformUserInputManager* userInputManager() override;
     void* clipBoardManager() override;
     IPlatformDirectoryManager* directoryManager() override;
@@ -35,7 +34,6 @@ public:
     IPlatformResourceManager* resourceManager() override;
     IPlatformProfileManager* profileManager() override;
     IPlatformMessageManager* messageManager() override;
-    /// The first call captures the host library's settings store, which must be set up by then.
     IPlatformRegisterManager* registerManager() override;
     void* plotManager() override;
     void* localeManager() override;

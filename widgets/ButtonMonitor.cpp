@@ -37,7 +37,8 @@ ButtonMonitor::ButtonMonitor(QObject* parent) : QObject(parent) {}
 
 bool ButtonMonitor::eventFilter(QObject* watched, QEvent* event)
 {
-    if (auto* button = dynamic_cast<QPushButton*>(watched)) {
+    auto* button = dynamic_cast<QPushButton*>(watched);
+    if (button && event) {
         if (event->type() == QEvent::Enter)
             setGlow(*button, true);
         else if (event->type() == QEvent::Leave)

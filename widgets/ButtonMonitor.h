@@ -9,10 +9,13 @@ class ButtonMonitor : public QObject
     Q_OBJECT
 
 public:
+    /// A monitor besides the global one, which has no parent. It watches nothing until it is
+    /// installed.
     explicit ButtonMonitor(QObject* parent = nullptr);
 
     /// Sets the glow when the mouse enters an enabled push button, and clears it when it leaves
-    /// one. Any other graphics effect of the button is lost. Returns false.
+    /// one. Any other graphics effect of the button is lost. Does nothing when `watched` or
+    /// `event` is null. Returns false.
     bool eventFilter(QObject* watched, QEvent* event) override;
 };
 

@@ -114,6 +114,14 @@ void QAnimationStackedWidget::paintEvent(QPaintEvent* /*event*/)
     paintNext(painter, m_targetIndex);
 }
 
+// On the edge of a device pixel: at a fractional scale the painter rounds each slice by itself, and
+// the background would show between the two.
+double QAnimationStackedWidget::meetingLine() const
+{
+    const double ratio = devicePixelRatioF();
+    return qRound(m_offset.toDouble() * ratio) / ratio;
+}
+
 void QAnimationStackedWidget::paintPrevious(QPainter& painter, int index)
 {
     QWidget* page = widget(index);
@@ -122,7 +130,7 @@ void QAnimationStackedWidget::paintPrevious(QPainter& painter, int index)
     const int w = page->width();
     const int h = page->height();
     const QPixmap picture = pictureOf(*page, devicePixelRatioF());
-    const double v = m_offset.toDouble();
+    const double v = meetingLine();
     if (m_fromLeft)
         drawSlice(painter, picture, 0, v, w - v, h);
     else
@@ -136,7 +144,7 @@ void QAnimationStackedWidget::paintNext(QPainter& painter, int index)
         return;
     page->resize(size()); // it may never have been shown
     const QPixmap picture = pictureOf(*page, devicePixelRatioF());
-    const double v = m_offset.toDouble();
+    const double v = meetingLine();
     if (m_fromLeft)
         drawSlice(painter, picture, width() - v, 0, v, height());
     else

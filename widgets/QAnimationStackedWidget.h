@@ -58,6 +58,7 @@ public:
 
 private:
     void slideTo(int index);
+    double meetingLine() const;
 
     QVariantAnimation* m_animation; // Intended: never deleted, see the constructor.
     int m_duration = 600;

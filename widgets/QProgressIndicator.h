@@ -33,24 +33,33 @@ public:
     /// The colour of the spokes, black at first.
     const QColor& color() const { return m_color; }
 
+    /// 20 x 20 pixels, whatever the size of the parent.
     QSize sizeHint() const override;
+
+    /// `w` itself: the indicator is best square.
     int heightForWidth(int w) const override;
 
-    /// Turns the wheel by one spoke, whichever timer the event comes from.
+    /// Turns the wheel by one spoke, whichever timer the event comes from; it may be null.
     void timerEvent(QTimerEvent* event) override;
 
+    /// Darkens the whole area and paints the wheel on it; while stopped only if that is wanted, see
+    /// `setDisplayedWhenStopped`. The event is not looked at.
     void paintEvent(QPaintEvent* event) override;
 
 public slots:
     /// Turns the wheel from its first position; while it turns already, only goes back to that.
     void startAnimation();
 
+    /// Stops the wheel where it stands; it and the darkening go unless displayed when stopped.
+    /// Harmless while stopped.
     void stopAnimation();
 
     /// Sets the time between two steps, in milliseconds. While the wheel turns the time starts
-    /// anew, also when the value is the same.
+    /// anew, also when the value is the same. The value is not checked: with a negative one no
+    /// timer runs, although `isAnimated()` is true, and the wheel stands still.
     void setAnimationDelay(int delay);
 
+    /// Sets whether the wheel and the darkening stay visible while stopped.
     void setDisplayedWhenStopped(bool state);
 
     /// Sets the colour of the spokes; its alpha is not used.

@@ -7,8 +7,11 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,14 +25,15 @@ QColor wheelColor(const QPalette& palette)
 
 } // namespace
 
-BusyOverlay::BusyOverlay(QWidget* page)
-    : QWidget(page),
+BusyOverlay::BusyOverlay(QWidget* content)
+    : QWidget(content->parentWidget()),
+      m_content(content),
       m_title(new QLabel),
       m_progress(new QLabel),
       m_cancel(new QPushButton(tr("Cancel"))),
       m_panel(makePanel())
 {
-    page->installEventFilter(this);
+    content->installEventFilter(this);
     setAccessibleName(tr("Work in progress"));
     m_cancel->installEventFilter(&g_buttonMonitor);
     connect(m_cancel, &QPushButton::clicked, this, &BusyOverlay::cancelRequested);
@@ -56,7 +60,8 @@ void BusyOverlay::cover(const QString& title)
 {
     m_title->setText(title);
     m_progress->setText(QString(QLatin1Char(' '))); // keeps the line's height
-    setGeometry(parentWidget()->rect());
+    setGeometry(m_content->geometry());
+    takePicture();
     raise();
     show();
     // An indicator takes the size of its parent when it is made.
@@ -71,21 +76,46 @@ void BusyOverlay::cover(const QString& title)
 
 void BusyOverlay::setProgress(const QString& text)
 {
+    constexpr qint64 pictureLifeMs = 500;
     m_progress->setText(text);
     arrange();
+    if (m_sincePicture.hasExpired(pictureLifeMs))
+        takePicture();
 }
 
 void BusyOverlay::uncover()
 {
     hide();
+    setPicture({});
     if (m_wheel)
         m_wheel->close();
 }
 
+void BusyOverlay::takePicture()
+{
+    m_sincePicture.start();
+    if (m_content->isVisible())
+        setPicture(m_content->grab());
+}
+
+// Whatever lies below an opaque widget is left alone by the repaints of those above.
+void BusyOverlay::setPicture(const QPixmap& picture)
+{
+    m_picture = picture;
+    setAttribute(Qt::WA_OpaquePaintEvent, !picture.isNull());
+    update();
+}
+
 bool BusyOverlay::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == parentWidget() && event->type() == QEvent::Resize)
-        setGeometry(parentWidget()->rect());
+    static constexpr QEvent::Type outdating[] = {QEvent::Resize, QEvent::PaletteChange,
+                                                 QEvent::StyleChange, QEvent::FontChange};
+    if (watched == m_content) {
+        if (event->type() == QEvent::Resize)
+            setGeometry(m_content->geometry());
+        if (std::count(std::begin(outdating), std::end(outdating), event->type()) > 0)
+            setPicture({});
+    }
     return QWidget::eventFilter(watched, event);
 }
 
@@ -95,6 +125,12 @@ void BusyOverlay::keyPressEvent(QKeyEvent* event)
         emit cancelRequested();
     else
         QWidget::keyPressEvent(event);
+}
+
+void BusyOverlay::paintEvent(QPaintEvent* /*event*/)
+{
+    if (!m_picture.isNull())
+        QPainter(this).drawPixmap(0, 0, m_picture);
 }
 
 void BusyOverlay::resizeEvent(QResizeEvent* event)

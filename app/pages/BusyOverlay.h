@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QElapsedTimer>
+#include <QPixmap>
 #include <QPointer>
 #include <QWidget>
 
@@ -9,13 +11,17 @@ class QPushButton;
 
 /// Covers a page while a long job runs: a turning wheel, what is being done, how far it has come,
 /// and a button (Escape) that cancels.
+///
+/// It shows a picture of the page, so that the page is not painted again at every step of the
+/// wheel. With the progress the picture is taken anew twice a second, so that what the page fills
+/// in meanwhile is seen. A page that changes its size or its looks shows through until then.
 class BusyOverlay : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Hidden at first; follows the size of `page`.
-    explicit BusyOverlay(QWidget* page);
+    /// Hidden at first; lies over `content`, in the same parent, and follows its size.
+    explicit BusyOverlay(QWidget* content);
 
     /// Shows itself over the page and takes the keyboard focus.
     void cover(const QString& title);
@@ -30,12 +36,18 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* makePanel();
     void arrange();
+    void takePicture();
+    void setPicture(const QPixmap& picture);
 
+    QWidget* m_content;
+    QPixmap m_picture;
+    QElapsedTimer m_sincePicture;
     QPointer<QProgressIndicator> m_wheel;
     QLabel* m_title;
     QLabel* m_progress;

@@ -38,7 +38,7 @@ Page::Page(QWidget* parent)
       m_body(new QVBoxLayout),
       m_statusIcon(new QLabel),
       m_status(new QLabel),
-      m_overlay(new BusyOverlay(this))
+      m_overlay(new BusyOverlay(m_content))
 {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);

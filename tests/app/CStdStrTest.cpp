@@ -80,6 +80,25 @@ TEST_F(CStdStrTest, CopyIntoAMapKeyAnnouncesOnce)
     EXPECT_EQ(&map.begin()->first, g_recordingHost.lastAnnounced);
 }
 
+TEST_F(CStdStrTest, CopyIntoAMapEntryAnnouncesKeyAndValue)
+{
+    const WideString key(L"key");
+    const WideString value(L"value");
+    std::map<WideString, WideString> map;
+    map.emplace(key, value);
+    EXPECT_EQ(2, announced());
+}
+
+// Into the pair, and out of it into the map.
+TEST_F(CStdStrTest, InsertionOfAPairAnnouncesTheKeyTwice)
+{
+    const WideString key(L"key");
+    std::map<WideString, int> map;
+    map.insert(std::make_pair(key, 1)); // NOLINT(modernize-use-emplace): the pair is the point
+    EXPECT_EQ(2, announced());
+    EXPECT_EQ(&map.begin()->first, g_recordingHost.lastAnnounced);
+}
+
 TEST_F(CStdStrTest, OrdersByCodePointAndCase)
 {
     EXPECT_LT(WideString(L"B"), WideString(L"a"));

@@ -152,6 +152,23 @@ TEST_F(CommandLineTest, ConfiguredChineseHoldsAgainstAnotherOption)
     EXPECT_TRUE(applicationIsChinese());
 }
 
+TEST_F(CommandLineTest, ConfiguredChineseNeedsNoReadableOptions)
+{
+    g_recordingHost.languageId = 2052;
+    g_recordingHost.requestedLanguage = QStringLiteral("untouched");
+    start({"/language", "zh-CN", "/x"});
+    EXPECT_EQ(QString(), g_recordingHost.requestedLanguage);
+    EXPECT_TRUE(applicationIsChinese());
+}
+
+TEST_F(CommandLineTest, ConfiguredChineseHoldsAgainstAnotherSpelling)
+{
+    g_recordingHost.languageId = 2052;
+    start({"/language", "zh-cn"});
+    EXPECT_EQ(QStringLiteral("zh-cn"), g_recordingHost.requestedLanguage);
+    EXPECT_TRUE(applicationIsChinese());
+}
+
 TEST_F(CommandLineTest, LanguageIdentifierIsComparedWhole)
 {
     for (const int identifier : {0x10804, 1028, 2053, -2052}) {
@@ -168,11 +185,25 @@ TEST_F(CommandLineTest, QtTextsComeFromTheWorkingDirectory)
     EXPECT_EQ(QStringLiteral("取消"), cancel());
 }
 
+TEST_F(CommandLineTest, QtsOwnDialogsAreChinese)
+{
+    bringQtCatalogue();
+    start({"/language", "zh-CN"});
+    EXPECT_EQ(QStringLiteral("查找范围："), QCoreApplication::translate("QFileDialog", "Look in:"));
+}
+
 TEST_F(CommandLineTest, WithoutQtCatalogueOnlyTheApplicationIsChinese)
 {
     start({"/language", "zh-CN"});
     EXPECT_TRUE(applicationIsChinese());
     EXPECT_EQ(QStringLiteral("Cancel"), cancel());
+}
+
+TEST_F(CommandLineTest, CatalogueThatDoesNotLoadIsInstalledAllTheSame)
+{
+    start({"/language", "zh-CN"});
+    EXPECT_TRUE(qtTranslator.isEmpty());
+    EXPECT_TRUE(QCoreApplication::removeTranslator(&qtTranslator));
 }
 
 TEST_F(CommandLineTest, OtherLanguagesInstallNothing)
@@ -181,6 +212,8 @@ TEST_F(CommandLineTest, OtherLanguagesInstallNothing)
     start({"/language", "en"});
     EXPECT_TRUE(appTranslator.isEmpty());
     EXPECT_TRUE(qtTranslator.isEmpty());
+    EXPECT_FALSE(QCoreApplication::removeTranslator(&appTranslator));
+    EXPECT_FALSE(QCoreApplication::removeTranslator(&qtTranslator));
     EXPECT_EQ(QStringLiteral("Cancel"), cancel());
 }
 

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <iostream>
+#include <sstream>
 #include <type_traits>
 
 namespace {
@@ -74,16 +76,35 @@ TEST(CurrTime, FollowsAChangeOfTheTimeZone)
     EXPECT_NEAR(static_cast<double>(there), static_cast<double>(timegm(&fields)), 2);
 }
 
+// The members of a logger, in order.
+struct Mirror
+{
+    std::ofstream file;
+    int target;
+    std::string path;
+    int level;
+};
+
+// What a logger holds where the mirror has this member.
+template <typename Member>
+const Member& memberOf(const Logger& logger, Member Mirror::*member)
+{
+    const Mirror mirror{};
+    const auto offset =
+        reinterpret_cast<const char*>(&(mirror.*member)) - reinterpret_cast<const char*>(&mirror);
+    return *reinterpret_cast<const Member*>(reinterpret_cast<const char*>(&logger) + offset);
+}
+
 TEST_F(LoggerTest, HasItsMembersInOrderAndNoVirtualOperation)
 {
-    struct Mirror
-    {
-        std::ofstream file;
-        int target;
-        std::string path;
-        int level;
-    };
+    start();
+    const Logger logger(Logger::file_and_console, Logger::error, path());
+    written();
     EXPECT_EQ(sizeof(Mirror), sizeof(Logger));
+    EXPECT_TRUE(memberOf(logger, &Mirror::file).is_open());
+    EXPECT_EQ(2, memberOf(logger, &Mirror::target));
+    EXPECT_EQ(path(), memberOf(logger, &Mirror::path));
+    EXPECT_EQ(3, memberOf(logger, &Mirror::level));
     EXPECT_FALSE(std::is_polymorphic_v<Logger>);
     EXPECT_TRUE(std::is_signed_v<std::underlying_type_t<Logger::log_level>>);
 }
@@ -204,6 +225,49 @@ TEST_F(LoggerTest, FileIsFlushedAfterEveryLine)
     Logger logger(Logger::file, Logger::debug, path());
     logger.INFO("text");
     EXPECT_EQ(startBanner + "[INFO] TIME : text\n", content());
+}
+
+// Takes what is written to std::cout while it lives, and counts how often that is flushed.
+class SyncCounter : public std::stringbuf
+{
+public:
+    SyncCounter() : m_former(std::cout.rdbuf(this)) {}
+    ~SyncCounter() override { std::cout.rdbuf(m_former); }
+
+    int count() const { return m_count; }
+
+protected:
+    int sync() override
+    {
+        ++m_count;
+        return 0;
+    }
+
+private:
+    std::streambuf* m_former;
+    int m_count = 0;
+};
+
+TEST_F(LoggerTest, DefaultLoggerFlushesItsAnnouncement)
+{
+    const SyncCounter output;
+    const Logger logger;
+    EXPECT_EQ(1, output.count());
+    EXPECT_EQ(startBanner, timeless(QString::fromStdString(output.str())));
+}
+
+TEST_F(LoggerTest, StandardOutputIsNotFlushedOtherwise)
+{
+    for (const auto target : {Logger::console, Logger::file_and_console}) {
+        const SyncCounter output;
+        {
+            Logger logger(target, Logger::debug, path());
+            logger.INFO("text");
+        }
+        EXPECT_EQ(0, output.count()) << target;
+        EXPECT_EQ(startBanner + "[INFO] TIME : text\n",
+                  timeless(QString::fromStdString(output.str())));
+    }
 }
 
 TEST_F(LoggerTest, TextIsWrittenAsGiven)

@@ -105,6 +105,13 @@ TEST(GetProcAddress, FindsFunctionsOfAModule)
     dlclose(module);
 }
 
+TEST(GetProcAddress, FindsNothingWithoutAModule)
+{
+    ASSERT_NE(nullptr, dlsym(RTLD_DEFAULT, "malloc"));
+    EXPECT_EQ(nullptr, GetProcAddress(nullptr, "malloc"));
+    EXPECT_EQ(nullptr, GetProcAddress(nullptr, nullptr));
+}
+
 TEST(StandIn, DoesNothingAboutCopiedStrings)
 {
     updateCStringManagerData(nullptr);

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QLabel>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTimer>
@@ -23,9 +24,6 @@ void setPlatformServices(IPlatformServices* services);
 void updateCStringManagerData(const void* string);
 int strcpy_s(char* destination, int size, const char* source);
 void* GetProcAddress(void* module, const char* name);
-int InitOrbxConfig(const wchar_t* language);
-void CreateConfigReg();
-int GetCurrentOrbxLanguageId();
 #pragma GCC visibility pop
 
 namespace {
@@ -72,6 +70,8 @@ void reportWindow()
         report("title", widget->windowTitle());
         report("window", geometry(QRect(widget->pos(), widget->size())));
         reportPage(*widget);
+        for (const QLabel* label : widget->findChildren<QLabel*>())
+            report("label", label->text().simplified());
     }
     report("desktop", geometry(QApplication::desktop()->geometry()));
     report("cancel", QCoreApplication::translate("QPlatformTheme", "Cancel"));
@@ -119,20 +119,4 @@ int strcpy_s(char* destination, int size, const char* source)
 void* GetProcAddress(void* module, const char* name)
 {
     return dlsym(module, name);
-}
-
-int InitOrbxConfig(const wchar_t* language)
-{
-    report("init", QString::fromWCharArray(language));
-    return environmentNumber("HOST_INIT_RESULT");
-}
-
-void CreateConfigReg()
-{
-    report("create", QString());
-}
-
-int GetCurrentOrbxLanguageId()
-{
-    return environmentNumber("HOST_LANGUAGE");
 }

@@ -94,15 +94,15 @@ TEST(DirectoryListing, UsesTheLocalesEncoding)
     QTextCodec::setCodecForLocale(codec);
 }
 
-TEST(DirectoryListing, WithoutAFilterListsEverything)
+TEST(DirectoryListing, ListsHiddenEntriesWhereAsked)
 {
     FileTree tree;
     tree.file("a");
     tree.file(".b");
     const QString path = tree.path();
     EXPECT_EQ(QStringList({".b", "a"}),
-              DirectoryListing(path, DirectoryListing::WithHidden).names());
-    EXPECT_EQ(QStringList("a"), DirectoryListing(path, DirectoryListing::WithoutHidden).names());
+              DirectoryListing(path, DirectoryListing::WithHidden).names("*"));
+    EXPECT_EQ(QStringList("a"), DirectoryListing(path, DirectoryListing::WithoutHidden).names("*"));
 }
 
 TEST(DirectoryListing, AgreesWithQDirWhereThereIsNothingToList)

@@ -2,7 +2,7 @@
 
 #include "platform/PlatformDirectoryManagerImp.h"
 #include "tests/platform/FileTree.h"
-#include "tests/support/Fenced.h"
+#include "tests/support/CanaryRecord.h"
 
 #include <QStringList>
 
@@ -23,7 +23,7 @@ protected:
             names << QString::fromWCharArray(data->cFileName);
         } while (manager.findNextFile(handle, data.get()) == 1);
         EXPECT_EQ(1, manager.findClose(handle));
-        EXPECT_TRUE(data.intact());
+        data.expectIntact();
         return names;
     }
 
@@ -37,11 +37,11 @@ protected:
         if (handle == INVALID_HANDLE_VALUE)
             return testing::AssertionFailure() << "nothing found";
         manager.findClose(handle);
-        return data.intact() ? testing::AssertionSuccess()
-                             : testing::AssertionFailure() << "written outside the record";
+        data.expectIntact();
+        return testing::AssertionSuccess();
     }
 
     FileTree tree;
     PlatformDirectoryManagerImp manager;
-    Fenced<_WIN32_FIND_DATAW> data;
+    CanaryRecord<_WIN32_FIND_DATAW> data;
 };

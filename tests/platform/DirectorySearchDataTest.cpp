@@ -2,9 +2,10 @@
 
 #include "tests/platform/DirectorySearch.h"
 
-#include <QDateTime>
+#include <QDir>
 
 #include <cstddef>
+#include <cwchar>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -162,6 +163,24 @@ TEST_F(DirectorySearchDataTest, CreationIsTheBirthTimeWhereTheFileSystemKeepsIt)
     EXPECT_EQ(0U, data->ftCreationTime.dwHighDateTime);
 }
 
+TEST_F(DirectorySearchDataTest, CreationIsTheLastChangeWhereNoBirthTimeIsKept)
+{
+    const char* const file = "/proc/self/comm";
+    const int descriptor = open(file, O_RDONLY | O_CLOEXEC); // while it is open, its times stay
+    ASSERT_GE(descriptor, 0);
+    const timespec times[] = {{1111111111, 0}, {1222222222, 0}};
+    ASSERT_EQ(0, utimensat(AT_FDCWD, file, times, 0));
+    struct statx status;
+    ASSERT_EQ(0, statx(AT_FDCWD, file, 0, STATX_BTIME | STATX_CTIME, &status));
+    ASSERT_EQ(0U, status.stx_mask & STATX_BTIME);
+    void* handle = manager.findFirstFile(L"/proc/self/comm", data.get());
+    ASSERT_EQ(1, manager.findClose(handle));
+    EXPECT_EQ(static_cast<DWORD>(status.stx_ctime.tv_sec), data->ftCreationTime.dwLowDateTime);
+    EXPECT_EQ(0U, data->ftCreationTime.dwHighDateTime);
+    EXPECT_EQ(1222222222U, data->ftLastWriteTime.dwLowDateTime);
+    close(descriptor);
+}
+
 TEST_F(DirectorySearchDataTest, NameIsPaddedWithZeros)
 {
     tree.file("abc");
@@ -179,6 +198,28 @@ TEST_F(DirectorySearchDataTest, LongestNamesFit)
     EXPECT_EQ(QStringList({one, two}), searchTree("*"));
     EXPECT_EQ(255U, wcslen(data->cFileName));
 }
+
+// A name on the file system is never that long, but one that a search path stands before is.
+class DirectorySearchNameLimit : public DirectorySearch, public testing::WithParamInterface<int>
+{
+};
+
+TEST_P(DirectorySearchNameLimit, IsTheSizeOfItsField)
+{
+    const QByteArray file(200, 'x');
+    const QByteArray prefix(GetParam() - file.size() - 1, 'p');
+    tree.file(file, 7);
+    QDir::setSearchPaths(prefix, {tree.path()});
+    ASSERT_TRUE(find(prefix + ':' + file));
+    QDir::setSearchPaths(prefix, {});
+    std::wstring expected = QString(prefix + ':' + file).toStdWString();
+    expected.resize(MAX_PATH, L'\0');
+    EXPECT_EQ(expected, std::wstring(data->cFileName, MAX_PATH));
+    EXPECT_TRUE(data.untouched(data->cAlternateFileName));
+    EXPECT_EQ(7U, data->nFileSizeLow);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lengths, DirectorySearchNameLimit, testing::Values(259, 260, 261, 300));
 
 TEST_F(DirectorySearchDataTest, NextEntryKeepsTheSizeAndTimesOfTheFirst)
 {
@@ -199,7 +240,7 @@ TEST_F(DirectorySearchDataTest, NextEntryWritesOnlyNameAndAttributes)
     tree.file("a", 5);
     tree.folder("b");
     void* handle = manager.findFirstFile(tree.wide("*").c_str(), data.get());
-    Fenced<_WIN32_FIND_DATAW> next;
+    CanaryRecord<_WIN32_FIND_DATAW> next;
     ASSERT_EQ(1, manager.findNextFile(handle, next.get()));
     EXPECT_EQ(16U, next->dwFileAttributes);
     EXPECT_TRUE(next.untouched(next->ftCreationTime));
@@ -208,7 +249,7 @@ TEST_F(DirectorySearchDataTest, NextEntryWritesOnlyNameAndAttributes)
     EXPECT_TRUE(next.untouched(next->nFileSizeHigh));
     EXPECT_TRUE(next.untouched(next->nFileSizeLow));
     EXPECT_TRUE(next.untouched(next->cAlternateFileName));
-    EXPECT_TRUE(next.intact());
+    next.expectIntact();
     EXPECT_EQ(1, manager.findClose(handle));
 }
 
@@ -235,7 +276,7 @@ TEST_F(DirectorySearchDataTest, NothingFollowsTheLastEntryHoweverOftenItIsAsked)
     tree.file("b");
     void* handle = manager.findFirstFile(tree.wide("*").c_str(), data.get());
     EXPECT_EQ(1, manager.findNextFile(handle, data.get()));
-    Fenced<_WIN32_FIND_DATAW> next;
+    CanaryRecord<_WIN32_FIND_DATAW> next;
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(0, manager.findNextFile(handle, next.get()));
     EXPECT_TRUE(next.untouched(*next.get()));

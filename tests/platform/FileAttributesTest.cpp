@@ -146,6 +146,16 @@ TEST_F(FileAttributes, HidingPutsADotInFrontOfTheName)
     EXPECT_EQ(3, QFileInfo(".file").size());
 }
 
+TEST_F(FileAttributes, HidingRenamesFoldersWithAllThatIsInThem)
+{
+    tree.folder("folder");
+    tree.file("folder/file", 3);
+    tree.enter();
+    EXPECT_EQ(1, manager.SetFileAttributesW(L"folder", FILE_ATTRIBUTE_HIDDEN));
+    EXPECT_FALSE(QFileInfo::exists("folder"));
+    EXPECT_EQ(3, QFileInfo(".folder/file").size());
+}
+
 TEST_F(FileAttributes, HidingPutsTheDotInFrontOfTheWholePath)
 {
     tree.folder("a");

@@ -6,6 +6,8 @@
 
 namespace {
 
+static_assert(sizeof(PlatformDirectoryManagerImp) == sizeof(void*), "the interface, nothing else");
+
 TEST(FileServices, DirectoryManagerIsMadeOnce)
 {
     PlatformServicesImp services;

@@ -77,6 +77,18 @@ TEST_F(FindWindow, FindsTitlesBeyondTheBmp)
     EXPECT_EQ(nullptr, find(nullptr, L"\U0001F601 \u4E2D"));
 }
 
+TEST_F(FindWindow, FindsTitlesWithTheirPlaceholderForChanges)
+{
+    QLabel label;
+    label.setWindowTitle(QStringLiteral("doc[*]"));
+    for (const bool modified : {false, true}) {
+        label.setWindowModified(modified);
+        EXPECT_EQ(&label, find(nullptr, L"doc[*]"));
+        for (const wchar_t* shown : {L"doc", L"doc*"})
+            EXPECT_EQ(nullptr, find(nullptr, shown)) << shown;
+    }
+}
+
 TEST_F(FindWindow, NeverFindsAnEmptyTitle)
 {
     const QLabel untitled;

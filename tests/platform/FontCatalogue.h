@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/PlatformFontManagerImp.h"
-#include "tests/support/Fenced.h"
+#include "tests/support/CanaryRecord.h"
 
 #include <gtest/gtest.h>
 

@@ -183,7 +183,7 @@ TEST_F(FontEnumeration, FilterNameOfThirtyTwoCharactersNeedsNoTerminator)
 {
     const std::wstring name(LF_FACESIZE, L'n');
     add(L"X", name);
-    Fenced<tagLOGFONTW> filter;
+    CanaryRecord<tagLOGFONTW> filter;
     setName(*filter.get(), name);
     filter->lfCharSet = DEFAULT_CHARSET;
     EXPECT_EQ(0, manager.enumFontFamiliesEx(nullptr, filter.get(), write, 0, 0));
@@ -193,12 +193,12 @@ TEST_F(FontEnumeration, FilterNameOfThirtyTwoCharactersNeedsNoTerminator)
 TEST_F(FontEnumeration, FilterIsNotWritten)
 {
     add(L"X", L"x");
-    Fenced<tagLOGFONTW> filter;
+    CanaryRecord<tagLOGFONTW> filter;
     filter->lfFaceName[0] = L'\0';
     const tagLOGFONTW before = *filter.get();
     manager.enumFontFamiliesEx(nullptr, filter.get(), write, 0, 0);
     EXPECT_EQ(0, memcmp(&before, filter.get(), sizeof(before)));
-    EXPECT_TRUE(filter.intact());
+    filter.expectIntact();
 }
 
 /// Adds fonts from within the procedure and remembers where the records lie.

@@ -33,14 +33,14 @@ TEST_P(FontScript, IsWrittenToTheCallersRecordAndTheCatalogues)
 {
     const std::wstring expected =
         GetParam().name + std::wstring(LF_FACESIZE - wcslen(GetParam().name), L'\0');
-    Fenced<ENUMLOGFONTEXW> added;
+    CanaryRecord<ENUMLOGFONTEXW> added;
     setName(added->elfLogFont, L"x");
     added->elfLogFont.lfFaceName[1] = L'\0';
     added->elfLogFont.lfCharSet = GetParam().charSet;
     manager.addLogFont(L"X", added.get());
     EXPECT_EQ(expected, std::wstring(added->elfScript, LF_FACESIZE));
     EXPECT_TRUE(added.untouched(added->elfStyle));
-    EXPECT_TRUE(added.intact());
+    added.expectIntact();
     std::wstring stored;
     const auto script = [](const tagLOGFONTW* font, const tagTEXTMETRICW*, unsigned int,
                            long result) {
@@ -72,7 +72,7 @@ TEST_F(FontManager, CharacterSetWithoutANameLeavesTheScriptAlone)
     for (int charSet = 0; charSet < 256; ++charSet) {
         if (std::find(std::begin(named), std::end(named), charSet) != std::end(named))
             continue;
-        Fenced<ENUMLOGFONTEXW> added;
+        CanaryRecord<ENUMLOGFONTEXW> added;
         added->elfLogFont.lfCharSet = static_cast<BYTE>(charSet);
         manager.addLogFont(L"X", added.get());
         EXPECT_TRUE(added.untouched(added->elfScript)) << charSet;

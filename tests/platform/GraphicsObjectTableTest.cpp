@@ -5,9 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdint>
 #include <limits>
 #include <map>
+#include <memory>
 #include <random>
+#include <vector>
 
 namespace {
 

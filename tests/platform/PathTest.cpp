@@ -1,12 +1,14 @@
 #include "platform/PlatformDirectoryManagerImp.h"
 #include "tests/platform/FileTree.h"
-#include "tests/support/Fenced.h"
+#include "tests/support/CanaryBuffer.h"
 
 #include <QDir>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
+#include <string>
 
 namespace {
 
@@ -27,11 +29,10 @@ class AddBackslash : public testing::TestWithParam<TextRow>
 
 TEST_P(AddBackslash, EndsThePathWithASeparator)
 {
-    FencedText buffer(256, GetParam().text);
+    CanaryBuffer<wchar_t> buffer(256, GetParam().text);
     EXPECT_EQ(buffer.data(), PlatformDirectoryManagerImp().AddBackslash(buffer.data()));
     const std::wstring& result = GetParam().result;
-    EXPECT_EQ(result + repeated(256 - result.size(), L'\0'), buffer.characters(256));
-    EXPECT_TRUE(buffer.intact());
+    buffer.expect(result + repeated(256 - result.size(), L'\0'));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -48,20 +49,18 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(AddBackslashLimit, LongTextGetsNoTerminator)
 {
     for (const std::size_t length : {255U, 256U, 300U, 5000U}) {
-        FencedText buffer(length + 1, repeated(length, L'x'));
+        CanaryBuffer<wchar_t> buffer(length + 1, repeated(length, L'x'));
         EXPECT_EQ(buffer.data(), PlatformDirectoryManagerImp().AddBackslash(buffer.data()));
-        EXPECT_EQ(repeated(length, L'x') + L'/', buffer.characters(length + 1));
-        EXPECT_TRUE(buffer.intact());
+        buffer.expect(repeated(length, L'x') + L'/');
     }
 }
 
 TEST(AddBackslashLimit, WritesNoMoreThanTheTextBehindTheZeroedPart)
 {
-    FencedText buffer(400, repeated(300, L'x'));
+    CanaryBuffer<wchar_t> buffer(400, repeated(300, L'x'));
     PlatformDirectoryManagerImp().AddBackslash(buffer.data());
     // The separator takes the terminator's place, and what follows is not touched.
-    EXPECT_EQ(repeated(300, L'x') + L'/', buffer.characters(301));
-    EXPECT_TRUE(buffer.intact(301));
+    buffer.expect(repeated(300, L'x') + L'/');
 }
 
 TEST(AddBackslashLimit, NullGivesNull)
@@ -72,10 +71,10 @@ TEST(AddBackslashLimit, NullGivesNull)
 TEST(SHGetFolderPath, SucceedsAndWritesNothing)
 {
     PlatformDirectoryManagerImp manager;
-    FencedText buffer(260);
+    CanaryBuffer<wchar_t> buffer(260);
     for (const int folder : {-1, 0, 5, 0x1A, 0x8000})
         EXPECT_EQ(0, manager.SHGetFolderPath(&manager, folder, nullptr, 0, buffer.data()));
-    EXPECT_TRUE(buffer.intact(0));
+    buffer.expectUntouched();
     EXPECT_EQ(0, manager.SHGetFolderPath(nullptr, 0, nullptr, 0, nullptr));
 }
 
@@ -94,11 +93,10 @@ TEST_P(RelativePath, IsWrittenWithoutTerminator)
 {
     const RelativeRow& row = GetParam();
     for (const unsigned int attributes : {0U, 16U, ~0U}) {
-        FencedText buffer(64);
+        CanaryBuffer<wchar_t> buffer(64);
         EXPECT_EQ(1, PlatformDirectoryManagerImp().PathRelativePathToW(
                          buffer.data(), row.from, attributes, row.to, ~attributes));
-        EXPECT_EQ(row.result, buffer.characters(row.result.size()));
-        EXPECT_TRUE(buffer.intact(row.result.size()));
+        buffer.expect(row.result);
     }
 }
 
@@ -110,6 +108,8 @@ INSTANTIATE_TEST_SUITE_P(
                     // The one contains the other's text, though it lies outside.
                     RelativeRow{L"/a/b", L"/a/bc/d", L"./../bc/d"},
                     RelativeRow{L"/b", L"/a/b/c", L"./../a/b/c"},
+                    // Every text contains the empty one, which is the working folder.
+                    RelativeRow{L"", L"x/y", L"./x/y"},
                     // The same folder, written in two ways.
                     RelativeRow{L"/a/b/", L"/a/b", L"."}, RelativeRow{L"/a/b", L"/a/b/", L"./."},
                     RelativeRow{L"/", L"/a", L"./a"}, RelativeRow{L"/a", L"x/y", L"x/y"},
@@ -120,23 +120,22 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(RelativePathLimit, NullArgumentsFail)
 {
     PlatformDirectoryManagerImp manager;
-    FencedText buffer(16);
+    CanaryBuffer<wchar_t> buffer(16);
     EXPECT_EQ(0, manager.PathRelativePathToW(nullptr, L"/a", 0, L"/b", 0));
     EXPECT_EQ(0, manager.PathRelativePathToW(buffer.data(), nullptr, 0, L"/b", 0));
     EXPECT_EQ(0, manager.PathRelativePathToW(buffer.data(), L"/a", 0, nullptr, 0));
-    EXPECT_TRUE(buffer.intact(0));
+    buffer.expectUntouched();
 }
 
 TEST(RelativePathLimit, LongPathsAreCutAt4096Characters)
 {
     for (const std::size_t length : {4095U, 4096U, 4097U, 9000U}) {
-        FencedText buffer(5000);
+        CanaryBuffer<wchar_t> buffer(5000);
         const std::wstring name = repeated(length - 2, L'x');
         EXPECT_EQ(1, PlatformDirectoryManagerImp().PathRelativePathToW(buffer.data(), L"/a", 0,
                                                                        (L"/a/" + name).c_str(), 0));
         const std::size_t written = std::min<std::size_t>(length, 4096);
-        EXPECT_EQ((L"./" + name).substr(0, written), buffer.characters(written));
-        EXPECT_TRUE(buffer.intact(written));
+        buffer.expect((L"./" + name).substr(0, written));
     }
 }
 
@@ -148,7 +147,7 @@ protected:
 
     static void set(const QString& directory) { qputenv("TMPDIR", directory.toUtf8()); }
 
-    static unsigned int get(std::size_t length, FencedText& buffer)
+    static unsigned int get(std::size_t length, CanaryBuffer<wchar_t>& buffer)
     {
         return PlatformDirectoryManagerImp().GetTempPathW(static_cast<unsigned int>(length),
                                                           buffer.data());
@@ -165,29 +164,27 @@ TEST_F(TempPath, EndsWithOneSeparatorAndHasNoTerminator)
     const std::wstring expected = tree.wide();
     for (const QString& directory : {tree.path(), tree.path("."), tree.path() + '/'}) {
         set(directory);
-        FencedText buffer(256);
+        CanaryBuffer<wchar_t> buffer(256);
         EXPECT_EQ(expected.size(), get(256, buffer));
-        EXPECT_EQ(expected, buffer.characters(expected.size()));
-        EXPECT_TRUE(buffer.intact(expected.size()));
+        buffer.expect(expected);
     }
 }
 
 TEST_F(TempPath, RootStaysOneSeparator)
 {
     set("/");
-    FencedText buffer(8);
+    CanaryBuffer<wchar_t> buffer(8);
     EXPECT_EQ(1U, get(8, buffer));
-    EXPECT_EQ(std::wstring(L"/"), buffer.characters(1));
-    EXPECT_TRUE(buffer.intact(1));
+    buffer.expect(std::wstring(L"/"));
 }
 
 TEST_F(TempPath, MissingDirectoryFails)
 {
     set(tree.path("missing"));
-    FencedText buffer(256);
+    CanaryBuffer<wchar_t> buffer(256);
     EXPECT_EQ(0U, get(256, buffer));
     EXPECT_EQ(0U, get(0, buffer));
-    EXPECT_TRUE(buffer.intact(0));
+    buffer.expectUntouched();
 }
 
 TEST_F(TempPath, NeedsRoomForATerminatorThatItDoesNotWrite)
@@ -195,23 +192,23 @@ TEST_F(TempPath, NeedsRoomForATerminatorThatItDoesNotWrite)
     set(tree.path());
     const std::size_t size = tree.wide().size();
     for (const std::size_t length : {std::size_t{1}, std::size_t{2}, size - 1, size}) {
-        FencedText buffer(256);
+        CanaryBuffer<wchar_t> buffer(256);
         EXPECT_EQ(0U, get(length, buffer));
-        EXPECT_TRUE(buffer.intact(0));
+        buffer.expectUntouched();
     }
     for (const std::size_t length : {size + 1, size + 2, std::size_t{0xFFFFFFFF}}) {
-        FencedText buffer(256);
+        CanaryBuffer<wchar_t> buffer(256);
         EXPECT_EQ(size, get(length, buffer));
-        EXPECT_TRUE(buffer.intact(size));
+        buffer.expect(tree.wide());
     }
 }
 
 TEST_F(TempPath, LengthZeroIsUnlimited)
 {
     set(tree.path());
-    FencedText buffer(256);
+    CanaryBuffer<wchar_t> buffer(256);
     EXPECT_EQ(tree.wide().size(), get(0, buffer));
-    EXPECT_EQ(tree.wide(), buffer.characters(tree.wide().size()));
+    buffer.expect(tree.wide());
 }
 
 TEST_F(TempPath, LengthsCountCodePoints)
@@ -220,11 +217,10 @@ TEST_F(TempPath, LengthsCountCodePoints)
     set(tree.path("😀😁"));
     const std::wstring expected = tree.wide("😀😁/");
     ASSERT_EQ(tree.wide().size() + 3, expected.size());
-    FencedText buffer(256);
+    CanaryBuffer<wchar_t> buffer(256);
     EXPECT_EQ(0U, get(expected.size(), buffer));
     EXPECT_EQ(expected.size(), get(expected.size() + 1, buffer));
-    EXPECT_EQ(expected, buffer.characters(expected.size()));
-    EXPECT_TRUE(buffer.intact(expected.size()));
+    buffer.expect(expected);
 }
 
 TEST_F(TempPath, NullBufferFails)

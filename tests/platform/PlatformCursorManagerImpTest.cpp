@@ -1,7 +1,7 @@
 #include "platform/PlatformCursorManagerImp.h"
 
-#include "tests/platform/GuardedBytes.h"
 #include "tests/platform/Handles.h"
+#include "tests/support/CanaryRecord.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -120,9 +120,9 @@ TEST_F(Cursors, HaveTheGlobalPosition)
     for (const QPoint& position : {QPoint(0, 0), QPoint(3, 700), QPoint(799, 1)}) {
         QCursor::setPos(position);
         const POINT expected{position.x(), position.y()};
-        GuardedBytes point(sizeof(POINT));
-        EXPECT_EQ(1, manager.GetCursorPos(reinterpret_cast<POINT*>(point.data())));
-        point.expect(&expected, sizeof expected);
+        CanaryRecord<POINT> point;
+        EXPECT_EQ(1, manager.GetCursorPos(point.get()));
+        point.expect(expected);
     }
 }
 

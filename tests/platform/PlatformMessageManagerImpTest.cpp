@@ -4,6 +4,8 @@
 
 namespace {
 
+static_assert(sizeof(PlatformMessageManagerImp) == sizeof(void*), "the interface, nothing else");
+
 class MessageManager : public testing::Test
 {
 protected:

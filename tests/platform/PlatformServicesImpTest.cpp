@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <new>
+#include <ostream>
 #include <utility>
 #include <vector>
 
@@ -17,14 +18,23 @@ namespace {
 // What operator delete is given, while somebody listens.
 std::vector<void*>* g_freed = nullptr;
 
+// How many allocations succeed before each one fails; a negative number: all do.
+int g_allocationsLeft = -1;
+int g_blocksInUse = 0;
+
 } // namespace
 
 // Both sides are replaced, so that memory is given back to where it came from.
 void* operator new(std::size_t size)
 {
-    if (void* memory = std::malloc(size)) // NOLINT(cppcoreguidelines-no-malloc)
-        return memory;
-    throw std::bad_alloc();
+    void* memory =
+        g_allocationsLeft == 0 ? nullptr : std::malloc(size); // NOLINT(cppcoreguidelines-no-malloc)
+    if (!memory)
+        throw std::bad_alloc();
+    if (g_allocationsLeft > 0)
+        --g_allocationsLeft;
+    ++g_blocksInUse;
+    return memory;
 }
 
 void operator delete(void* memory) noexcept
@@ -33,6 +43,8 @@ void operator delete(void* memory) noexcept
         listener->push_back(memory);
         g_freed = listener;
     }
+    if (memory)
+        --g_blocksInUse;
     std::free(memory); // NOLINT(cppcoreguidelines-no-malloc)
 }
 
@@ -137,6 +149,67 @@ TEST(PlatformServices, ManagersAreReleasedInFieldOrder)
     EXPECT_EQ(managers, firstOfEach(freed));
     new (services.get()) PlatformServicesImp;
 }
+
+// An accessor of a manager that needs more memory than its own, and its field.
+struct Accessor
+{
+    const char* name;
+    void* (*manager)(IPlatformServices& services);
+    int field;
+};
+
+std::ostream& operator<<(std::ostream& stream, const Accessor& accessor)
+{
+    return stream << accessor.name;
+}
+
+class ThrowingConstructor : public testing::TestWithParam<Accessor>
+{
+protected:
+    // Asks for the manager where memory runs out after so many allocations.
+    bool throwsAfter(int allocations)
+    {
+        g_allocationsLeft = allocations;
+        bool thrown = false;
+        try {
+            manager = GetParam().manager(services);
+        } catch (const std::bad_alloc&) {
+            thrown = true;
+        }
+        g_allocationsLeft = -1;
+        return thrown;
+    }
+
+    const void* field() const
+    {
+        return reinterpret_cast<void* const*>(&services)[GetParam().field];
+    }
+
+    PlatformServicesImp services;
+    const void* manager = nullptr;
+};
+
+// The first allocation is the manager's own, those that follow are its constructor's.
+TEST_P(ThrowingConstructor, LeavesNothingBehind)
+{
+    int allocations = 0;
+    const int blocks = g_blocksInUse;
+    while (throwsAfter(allocations)) {
+        ASSERT_EQ(nullptr, field()) << allocations;
+        ASSERT_EQ(blocks, g_blocksInUse) << allocations;
+        ++allocations;
+    }
+    EXPECT_GE(allocations, 2);
+    EXPECT_NE(nullptr, manager);
+    EXPECT_EQ(manager, field());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ThrowingConstructor,
+    testing::Values(Accessor{"userInputManager",
+                             [](IPlatformServices& s) -> void* { return s.userInputManager(); }, 1},
+                    Accessor{"fontManager",
+                             [](IPlatformServices& s) -> void* { return s.fontManager(); }, 4}));
 
 TEST(PlatformServices, GlobalObjectIsOneOfThem)
 {

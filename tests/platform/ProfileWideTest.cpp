@@ -1,5 +1,5 @@
-#include "tests/platform/CanaryBuffer.h"
 #include "tests/platform/ProfileFixture.h"
+#include "tests/support/CanaryBuffer.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "platform/PlatformRegisterManagerImp.h"
-#include "tests/platform/CanaryBuffer.h"
+#include "tests/support/CanaryBuffer.h"
 
 #include <QVariant>
 

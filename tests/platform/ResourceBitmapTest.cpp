@@ -1,12 +1,16 @@
 #include "platform/PlatformResourceManagerImp.h"
 
-#include "tests/platform/GuardedBytes.h"
 #include "tests/platform/Handles.h"
+#include "tests/support/CanaryBuffer.h"
+#include "tests/support/CanaryRecord.h"
 
 #include <QImage>
 
-#include <cstring>
+#include <gtest/gtest.h>
+
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -77,18 +81,17 @@ INSTANTIATE_TEST_SUITE_P(Formats, BitmapOfFormat,
 TEST_P(BitmapOfFormat, IsDescribedInQtsTerms)
 {
     void* handle = enter(pattern(17, 5, GetParam().format));
-    BITMAP expected;
-    std::memset(&expected, 0xA5, sizeof expected); // padding included
-    expected.bmType = GetParam().format;
-    expected.bmWidth = 17;
-    expected.bmHeight = 5;
-    expected.bmWidthBytes = GetParam().bytesPerLine;
-    expected.bmPlanes = GetParam().planes;
-    expected.bmBitsPixel = GetParam().depth;
-    expected.bmBits = const_cast<uchar*>(image(handle)->constBits());
-    GuardedBytes record(sizeof(BITMAP));
-    EXPECT_EQ(1, manager.GetBitmap(reinterpret_cast<BITMAP*>(record.data()), handle));
-    record.expect(&expected, sizeof expected);
+    CanaryRecord<BITMAP> expected;
+    expected->bmType = GetParam().format;
+    expected->bmWidth = 17;
+    expected->bmHeight = 5;
+    expected->bmWidthBytes = GetParam().bytesPerLine;
+    expected->bmPlanes = GetParam().planes;
+    expected->bmBitsPixel = GetParam().depth;
+    expected->bmBits = const_cast<uchar*>(image(handle)->constBits());
+    CanaryRecord<BITMAP> record;
+    EXPECT_EQ(1, manager.GetBitmap(record.get(), handle));
+    record.expect(*expected.get());
 }
 
 TEST_F(ResourceBitmaps, HandOutTheMemoryOfASharedImage)
@@ -134,8 +137,8 @@ TEST_F(ResourceBitmaps, AreDescribedUpToTheLastHandle)
 TEST_F(ResourceBitmaps, AreNotDescribedWithoutAnImage)
 {
     for (void* handle : handlesWithoutImage()) {
-        GuardedBytes record(sizeof(BITMAP));
-        EXPECT_EQ(0, manager.GetBitmap(reinterpret_cast<BITMAP*>(record.data()), handle));
+        CanaryRecord<BITMAP> record;
+        EXPECT_EQ(0, manager.GetBitmap(record.get(), handle));
         record.expectUntouched();
     }
 }
@@ -148,7 +151,7 @@ TEST_F(ResourceBitmaps, AreNotDescribedToNull)
 TEST_F(ResourceBitmaps, CopyTheirPixelsForTheExactCount)
 {
     const QImage source = pattern(17, 5, QImage::Format_RGB888); // lines of 51 bytes, padded to 52
-    GuardedBytes buffer(300);
+    CanaryBuffer<unsigned char> buffer(300);
     EXPECT_EQ(260, manager.GetBitmapBits(260, buffer.data(), enter(source)));
     buffer.expect(source.constBits(), 260);
 }
@@ -157,7 +160,7 @@ TEST_F(ResourceBitmaps, CopyNothingForAnyOtherCount)
 {
     void* handle = enter(pattern(17, 5, QImage::Format_RGB888));
     for (const unsigned int count : {0U, 1U, 255U, 259U, 261U, 0x80000104U, ~0U}) {
-        GuardedBytes buffer(300);
+        CanaryBuffer<unsigned char> buffer(300);
         EXPECT_EQ(0, manager.GetBitmapBits(count, buffer.data(), handle)) << count;
         buffer.expectUntouched();
     }
@@ -169,7 +172,7 @@ TEST_F(ResourceBitmaps, CopyNothingWithoutAnImage)
     handles.push_back(manager.createImage(0, 0, 0));
     for (void* handle : handles) {
         for (const unsigned int count : {0U, 64U}) {
-            GuardedBytes buffer(64);
+            CanaryBuffer<unsigned char> buffer(64);
             EXPECT_EQ(0, manager.GetBitmapBits(count, buffer.data(), handle));
             buffer.expectUntouched();
         }
@@ -209,7 +212,7 @@ TEST_P(CursorImage, IsCopiedAsItIsStored)
     PlatformResourceManagerImp manager;
     QImage stored = pattern(6, 4, GetParam().format);
     void* handle = manager.addObject(ObjType::ObjCursor, &stored);
-    GuardedBytes buffer(256);
+    CanaryBuffer<unsigned char> buffer(256);
     const auto count = static_cast<int>(stored.sizeInBytes());
     EXPECT_EQ(count,
               manager.GetCursorBits(handle, GetParam().width, GetParam().height, buffer.data(), 8));
@@ -221,7 +224,7 @@ class CursorBits : public testing::Test
 protected:
     PlatformResourceManagerImp manager;
     QImage stored = pattern(6, 4, QImage::Format_RGBA8888);
-    GuardedBytes buffer{256};
+    CanaryBuffer<unsigned char> buffer{256};
 };
 
 TEST_F(CursorBits, AreCopiedOnlyForEightBitsPerPixel)

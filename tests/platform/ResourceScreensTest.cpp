@@ -1,14 +1,16 @@
 #include "platform/PlatformResourceManagerImp.h"
 
-#include "tests/platform/GuardedBytes.h"
 #include "tests/platform/VirtualScreen.h"
+#include "tests/support/CanaryRecord.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <cstring>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
 #include <limits>
-#include <optional>
 
 namespace {
 
@@ -150,13 +152,12 @@ protected:
     // Describes the monitor into a guarded record and compares all of it.
     static void expectInfo(QScreen* monitor, const MONITORINFO& expected)
     {
-        GuardedBytes record(sizeof(MONITORINFO));
-        EXPECT_EQ(1, PlatformResourceManagerImp().GetMonitorInfoW(
-                         monitor, reinterpret_cast<MONITORINFO*>(record.data())));
-        record.expect(&expected, sizeof expected);
+        CanaryRecord<MONITORINFO> record;
+        EXPECT_EQ(1, PlatformResourceManagerImp().GetMonitorInfoW(monitor, record.get()));
+        record.expect(expected);
     }
 
-    static constexpr DWORD CbSizeUntouched = 0xA5A5A5A5;
+    static constexpr DWORD CbSizeUntouched = 0x5A5A5A5A;
 };
 
 TEST_F(MonitorInfo, EndsOnTheLastPixelAndLeavesCbSizeAlone)
@@ -183,8 +184,8 @@ TEST_F(MonitorInfo, FollowsAChangeOfThePrimaryScreen)
 TEST_F(MonitorInfo, NeedsAMonitorAndARecord)
 {
     PlatformResourceManagerImp manager;
-    GuardedBytes record(sizeof(MONITORINFO));
-    EXPECT_EQ(0, manager.GetMonitorInfoW(nullptr, reinterpret_cast<MONITORINFO*>(record.data())));
+    CanaryRecord<MONITORINFO> record;
+    EXPECT_EQ(0, manager.GetMonitorInfoW(nullptr, record.get()));
     record.expectUntouched();
     EXPECT_EQ(0, manager.GetMonitorInfoW(first, nullptr));
     EXPECT_EQ(0, manager.GetMonitorInfoW(nullptr, nullptr));

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdint>
 #include <cstring>
 #include <cwchar>
 #include <dlfcn.h>
@@ -18,7 +19,10 @@ constexpr wchar_t Marker = L'#';
 class Module
 {
 public:
-    explicit Module(const char* path) : m_handle(dlopen(path, RTLD_NOW | RTLD_LOCAL)) {}
+    explicit Module(const char* path, int scope = RTLD_LOCAL)
+        : m_handle(dlopen(path, RTLD_NOW | scope))
+    {
+    }
     ~Module() { dlclose(m_handle); }
 
     Module(const Module&) = delete;
@@ -134,6 +138,15 @@ TEST_F(ResourceStrings, AreHandedOutByAddressIntoAMisalignedWord)
 TEST_F(ResourceStrings, AreEmptyWithoutTheModulesFunction)
 {
     EXPECT_EQ(0, manager.loadString(stringless.handle(), 3, buffer(), 10));
+    expectContent(std::wstring(1, L'\0'));
+}
+
+TEST_F(ResourceStrings, AreEmptyWithoutAModule)
+{
+    // Null must not stand for all modules whose functions everybody sees.
+    const Module visible(QUAYSIDE_STRING_MODULE, RTLD_GLOBAL);
+    ASSERT_NE(nullptr, dlsym(RTLD_DEFAULT, "loadstring"));
+    EXPECT_EQ(0, manager.loadString(nullptr, 3, buffer(), 10));
     expectContent(std::wstring(1, L'\0'));
 }
 

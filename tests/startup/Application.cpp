@@ -3,10 +3,15 @@
 #include <QDir>
 #include <QFile>
 
+#include <gtest/gtest.h>
+
 namespace {
 
 // Sanitized programs under an emulator or on a busy machine are slow to start.
 constexpr int timeout = 120000;
+
+// The offscreen platform says so of every window whose size hints change.
+const QLatin1String offscreenLimit("This plugin does not support propagateSizeHints()");
 
 } // namespace
 
@@ -41,7 +46,6 @@ bool Application::start(const QStringList& arguments)
     const QStringList guest = emulator.isEmpty() ? QStringList() : QStringList{executable()};
     m_process.setProcessEnvironment(m_environment);
     m_process.setWorkingDirectory(m_folder.path());
-    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(program, guest + arguments);
     return m_process.waitForStarted(timeout);
 }
@@ -50,6 +54,10 @@ bool Application::finish()
 {
     const bool ended = m_process.waitForFinished(timeout);
     m_output = QString::fromUtf8(m_process.readAllStandardOutput());
+    m_errors = QString::fromUtf8(m_process.readAllStandardError()).split('\n', Qt::SkipEmptyParts);
+    m_errors.removeAll(offscreenLimit);
+    if (!m_errors.isEmpty())
+        ADD_FAILURE() << "unexpected messages:\n" << m_errors.join('\n').toStdString();
     m_status = m_process.exitCode();
     return ended && m_process.exitStatus() == QProcess::NormalExit;
 }

@@ -21,13 +21,16 @@ public:
     void setEnvironment(const QString& name, const QString& value);
 
     bool start(const QStringList& arguments = QStringList());
-    /// Waits for the end; false when it crashed or did not end in time.
+    /// Waits for the end; false when it crashed or did not end in time. Whatever it wrote on
+    /// standard error, Qt's warnings above all, fails the test.
     bool finish();
     /// Both.
     bool run(const QStringList& arguments = QStringList());
 
     int status() const { return m_status; }
     QString output() const { return m_output; }
+    /// The unexpected lines of standard error.
+    QStringList errors() const { return m_errors; }
     /// The lines that begin with "key=", without that.
     QStringList values(const QString& key) const;
     QString value(const QString& key) const { return values(key).join(QLatin1Char('|')); }
@@ -39,5 +42,6 @@ private:
     QProcessEnvironment m_environment;
     ChildProcess m_process;
     QString m_output;
+    QStringList m_errors;
     int m_status = -1;
 };

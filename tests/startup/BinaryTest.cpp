@@ -70,6 +70,12 @@ bool initialisesStreams(const QString& constructor)
         .contains("ios_base4InitC1");
 }
 
+// What readelf says of the executable; runs of blanks are one.
+QString elf(const QString& option)
+{
+    return linesOf("readelf", {option, Application::executable()}).join('\n').simplified();
+}
+
 int indexOf(const QStringList& constructors, const QString& part)
 {
     const int index = constructors.indexOf(QRegularExpression(".*" + part + ".*"));
@@ -93,6 +99,30 @@ TEST(Binary, HoldsTheGlobalObjectsOfTheKitAndTheCodec)
     EXPECT_TRUE(names.contains("base64_chars"));
 }
 
+TEST(Hardening, ExecutableIsPositionIndependent)
+{
+    EXPECT_TRUE(elf("-hW").contains("Type: DYN"));
+    EXPECT_TRUE(elf("-dW").contains(QRegularExpression(R"(\(FLAGS_1\) Flags: [A-Z ]*\bPIE\b)")));
+}
+
+// Tables of addresses are filled at start and are read-only from then on.
+TEST(Hardening, RelocationsAreReadOnly)
+{
+    if (!QUAYSIDE_HARDENED)
+        GTEST_SKIP() << "sanitized and debug builds are not hardened";
+    EXPECT_TRUE(elf("-lW").contains("GNU_RELRO"));
+    EXPECT_TRUE(elf("-dW").contains(QRegularExpression(R"(\(FLAGS_1\) Flags: [A-Z ]*\bNOW\b)")));
+}
+
+TEST(Hardening, StacksAreGuarded)
+{
+    if (!QUAYSIDE_HARDENED)
+        GTEST_SKIP() << "sanitized and debug builds are not hardened";
+    const QStringList imports =
+        linesOf("nm", {"-D", "--undefined-only", Application::executable()});
+    EXPECT_FALSE(imports.filter("__stack_chk_fail").isEmpty());
+}
+
 TEST(StaticConstruction, FollowsTheOrderOfStartUp)
 {
     const QStringList order = constructors();
@@ -104,15 +134,19 @@ TEST(StaticConstruction, FollowsTheOrderOfStartUp)
     EXPECT_LT(monitor, alphabet);
     EXPECT_LT(alphabet, resources);
     EXPECT_EQ(order.size() - 1, resources);
-    int streams = 0;
-    for (int i = 0; i < order.size(); ++i) {
-        if (!initialisesStreams(order[i]))
-            continue;
-        ++streams;
-        EXPECT_GT(i, monitor) << order[i].toStdString();
-        EXPECT_LT(i, alphabet) << order[i].toStdString();
-    }
-    EXPECT_GT(streams, 0);
+}
+
+// Whatever else runs before main would find no place of its own in that order.
+TEST(StaticConstruction, NothingElseIsConstructedButStreams)
+{
+    const QStringList order = constructors();
+    const int monitor = indexOf(order, "ButtonMonitor.cpp");
+    const int alphabet = indexOf(order, "Base64Encoder.cpp");
+    const QStringList streams = order.mid(monitor + 1, alphabet - monitor - 1);
+    EXPECT_FALSE(streams.isEmpty());
+    for (const QString& constructor : streams)
+        EXPECT_TRUE(initialisesStreams(constructor)) << constructor.toStdString();
+    EXPECT_EQ(order.size() - 2, alphabet);
 }
 
 TEST(StaticConstruction, NothingComesBeforeTheServicesObject)

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace {
 
 const QString english = QStringLiteral("English");
@@ -77,6 +79,18 @@ INSTANTIATE_TEST_SUITE_P(Rows, StartUpOptions,
                                          Line{{"/language", "zh-CN", "-reverse"}, true},
                                          Line{{"/language", "-style", "fusion", "zh-CN"}, true}));
 
+// The status line names the language; its text is fixed when the window is made.
+TEST(StartUp, MakesTheWindowAfterTheTranslators)
+{
+    for (const bool isChinese : {true, false}) {
+        Application application;
+        ASSERT_TRUE(application.run(isChinese ? QStringList{"/language", "zh-CN"} : QStringList()));
+        const QStringList labels = application.values("label");
+        EXPECT_EQ(isChinese, labels.contains(chinese));
+        EXPECT_EQ(!isChinese, labels.contains(english));
+    }
+}
+
 TEST(StartUp, TellsTheConfigurationLibraryTheLanguage)
 {
     Application application;
@@ -94,6 +108,43 @@ TEST(StartUp, FailingConfigurationIsNotAskedForTheLanguage)
     EXPECT_EQ(0, application.values("create").size());
     EXPECT_EQ(english, application.value("language"));
 }
+
+struct Host
+{
+    const char* folder;
+    const char* option; ///< the value of "/language"; null for no option
+    bool isChinese;
+    int calls; ///< of functions of configuration, as far as they report
+};
+
+std::ostream& operator<<(std::ostream& stream, const Host& host)
+{
+    return stream << host.folder << ' ' << (host.option ? host.option : "");
+}
+
+class StartUpWithout : public testing::TestWithParam<Host>
+{
+};
+
+TEST_P(StartUpWithout, SomeFunctionsOfConfiguration)
+{
+    Application application;
+    application.setEnvironment("LD_LIBRARY_PATH", GetParam().folder);
+    application.setEnvironment("HOST_LANGUAGE", "2052");
+    const QString option = GetParam().option;
+    ASSERT_TRUE(
+        application.run(option.isNull() ? QStringList() : QStringList{"/language", option}));
+    EXPECT_EQ(GetParam().isChinese ? chinese : english, application.value("language"));
+    EXPECT_EQ(GetParam().calls,
+              application.values("init").size() + application.values("create").size());
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, StartUpWithout,
+                         testing::Values(Host{QUAYSIDE_HOST_UNCONFIGURED, nullptr, false, 0},
+                                         Host{QUAYSIDE_HOST_UNCONFIGURED, "zh-CN", true, 0},
+                                         Host{QUAYSIDE_HOST_WITHOUT_REGISTRY, nullptr, true, 1},
+                                         Host{QUAYSIDE_HOST_WITHOUT_LANGUAGE, nullptr, false, 2},
+                                         Host{QUAYSIDE_HOST_WITHOUT_LANGUAGE, "zh-CN", true, 2}));
 
 TEST(StartUp, ConfiguredChineseNeedsNoOption)
 {

@@ -23,11 +23,14 @@ Display::Display(const QStringList& arguments, Manager manager)
 
 Display::~Display()
 {
-    for (QProcess* process : {&m_manager, &m_server}) {
+    for (ChildProcess* process : {&m_manager, &m_server}) {
         process->terminate();
         process->waitForFinished(5000);
     }
-    qputenv("DISPLAY", m_formerDisplay);
+    if (m_formerDisplay.isNull())
+        qunsetenv("DISPLAY");
+    else
+        qputenv("DISPLAY", m_formerDisplay);
 }
 
 void Display::startManager()
@@ -42,7 +45,7 @@ void Display::startManager()
 // A window that is shown before the manager announces itself might never be managed.
 void Display::waitForManager()
 {
-    QProcess query;
+    ChildProcess query;
     query.setStandardErrorFile(QProcess::nullDevice());
     for (int attempt = 0; attempt < 200; ++attempt) {
         query.start(QStringLiteral("wmctrl"), {"-m"});
@@ -66,5 +69,9 @@ bool Display::activate(const QWidget& window)
 
 bool Display::xdotool(const QStringList& arguments)
 {
-    return QProcess::execute(QStringLiteral("xdotool"), arguments) == 0;
+    ChildProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(QStringLiteral("xdotool"), arguments);
+    return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QProcess>
+#include "tests/support/ChildProcess.h"
 
 class QWidget;
 
@@ -36,6 +36,6 @@ private:
     static void waitForManager();
 
     QByteArray m_formerDisplay;
-    QProcess m_server;
-    QProcess m_manager;
+    ChildProcess m_server;
+    ChildProcess m_manager;
 };

@@ -4,6 +4,16 @@
 
 #include <ctime>
 
+namespace {
+
+// What would change how Qt looks, or whom it talks to.
+constexpr const char* usersSettings[] = {
+    "LANGUAGE",        "QT_STYLE_OVERRIDE",       "QT_QPA_PLATFORMTHEME",
+    "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR",
+    "QT_FONT_DPI",     "QT_PLUGIN_PATH",          "DBUS_SESSION_BUS_ADDRESS"};
+
+} // namespace
+
 HermeticEnvironment::HermeticEnvironment()
 {
     const QDir home(m_home.path());
@@ -22,8 +32,10 @@ HermeticEnvironment::HermeticEnvironment()
     folder("TMPDIR", "tmp");
     qputenv("TZ", "Europe/Berlin");
     qputenv("LC_ALL", "C.UTF-8");
-    qunsetenv("LANGUAGE");
-    qunsetenv("QT_STYLE_OVERRIDE");
-    qunsetenv("QT_QPA_PLATFORMTHEME");
     tzset();
+    for (const char* variable : usersSettings)
+        qunsetenv(variable);
+    const QByteArray scaleFactor = qgetenv("QUAYSIDE_TEST_SCALE_FACTOR");
+    if (!scaleFactor.isEmpty())
+        qputenv("QT_SCALE_FACTOR", scaleFactor);
 }

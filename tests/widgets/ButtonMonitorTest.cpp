@@ -242,6 +242,7 @@ TEST_F(Glow, FilterSwallowsNothing)
     }
     EXPECT_FALSE(g_buttonMonitor.eventFilter(nullptr, nullptr));
     EXPECT_FALSE(g_buttonMonitor.eventFilter(&label, nullptr));
+    EXPECT_FALSE(g_buttonMonitor.eventFilter(&button, nullptr));
 }
 
 class RecordingButton : public QPushButton

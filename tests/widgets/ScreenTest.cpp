@@ -101,6 +101,18 @@ TEST_F(StackOnScreen, MayBeClosedAndDestroyedWhileItSlides)
     EXPECT_TRUE(stack.isVisible());
 }
 
+// The first key that a new display gets makes the window manager let go of all its shortcuts and
+// take them anew; one that is pressed in between reaches nobody. A user would press it again.
+bool closedByKeys(const QPointer<QProgressIndicator>& window)
+{
+    const auto isGone = [&window] { return window.isNull(); };
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        if (Display::xdotool({"key", "alt+F4"}) && QTest::qWaitFor(isGone, 1000))
+            return true;
+    }
+    return false;
+}
+
 TEST(IndicatorOnScreen, GoesWhenTheUserClosesIt)
 {
     QPointer<QProgressIndicator> indicator = new QProgressIndicator;
@@ -108,8 +120,7 @@ TEST(IndicatorOnScreen, GoesWhenTheUserClosesIt)
     indicator->startAnimation();
     indicator->show();
     ASSERT_TRUE(Display::activate(*indicator));
-    ASSERT_TRUE(Display::xdotool({"key", "alt+F4"}));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return indicator.isNull(); }));
+    EXPECT_TRUE(closedByKeys(indicator));
 }
 
 TEST(IndicatorOnScreen, TurnsOverItsDarkenedParent)

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 struct Frame
@@ -80,6 +82,69 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 using SlidePicture = StackFixture;
+
+// How many pixels are neither red nor blue.
+int foreignPixels(const QImage& picture)
+{
+    const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
+    int count = 0;
+    for (int y = 0; y < plain.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(plain.constScanLine(y));
+        count += static_cast<int>(std::count_if(line, line + plain.width(), [](QRgb color) {
+            return color != qRgb(255, 0, 0) && color != qRgb(0, 0, 255);
+        }));
+    }
+    return count;
+}
+
+class SlideSeam : public testing::Test
+{
+protected:
+    // Sizes that are no whole number of device pixels at a fractional scale.
+    SlideSeam()
+    {
+        fill(stack, Qt::green);
+        for (const Qt::GlobalColor color : {Qt::red, Qt::blue}) {
+            auto* page = new QWidget;
+            page->setAutoFillBackground(true);
+            fill(*page, color);
+            stack.addWidget(page);
+        }
+        stack.resize(201, 121);
+        stack.show();
+        turn();
+        stack.setDuration(1000000);
+    }
+
+    static void fill(QWidget& widget, const QColor& color)
+    {
+        QPalette palette;
+        palette.setColor(QPalette::Window, color);
+        widget.setPalette(palette);
+    }
+
+    void expectPagesOnly()
+    {
+        for (int offset = 1; offset <= 200; ++offset) {
+            stack.slotValueChanged(offset);
+            EXPECT_EQ(0, foreignPixels(stack.grab().toImage())) << "at " << offset;
+        }
+    }
+
+    QAnimationStackedWidget stack;
+};
+
+TEST_F(SlideSeam, ShowsNothingBetweenThePagesFromTheRight)
+{
+    stack.nextTo(1);
+    expectPagesOnly();
+}
+
+TEST_F(SlideSeam, ShowsNothingBetweenThePagesFromTheLeft)
+{
+    stack.forwardTo(1);
+    expectPagesOnly();
+}
 
 TEST_F(SlidePicture, OfOnePageShowsItOverItself)
 {
@@ -229,35 +294,41 @@ TEST_F(SlidePicture, StepsPaintOneSideEach)
     stack.slotValueChanged(80);
     const int ratio = qRound(stack.devicePixelRatioF());
     const auto frame = slideFrame(0, 1, false, 80);
-    for (const bool leaving : {true, false}) {
-        QImage image(stack.size() * ratio, QImage::Format_ARGB32_Premultiplied);
-        image.setDevicePixelRatio(ratio);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        if (leaving)
-            stack.paintPrevious(painter, 0);
-        else
-            stack.paintNext(painter, 1);
-        painter.end();
-        EXPECT_EQ("", firstDifference(image, [&](int x, int y) {
-                      return (x < 80 * ratio) == leaving ? frame(x, y) : 0U;
-                  }));
-    }
+    const QImage left =
+        pictureOfStep([this](QPainter& painter) { stack.paintPrevious(painter, 0); });
+    EXPECT_EQ(
+        "", firstDifference(left, [&](int x, int y) { return x < 80 * ratio ? frame(x, y) : 0U; }));
+    const QImage right = pictureOfStep([this](QPainter& painter) { stack.paintNext(painter, 1); });
+    EXPECT_EQ("", firstDifference(right,
+                                  [&](int x, int y) { return x < 80 * ratio ? 0U : frame(x, y); }));
+}
+
+// The offset that no animation has set yet counts as 0, and the new page arrives from the right.
+TEST_F(SlidePicture, StepsPaintTheArrivingPageWholeBeforeAnySlide)
+{
+    EXPECT_EQ("", firstDifference(
+                      pictureOfStep([this](QPainter& painter) { stack.paintNext(painter, 1); }),
+                      [this](int x, int y) { return page(1).colorAt(x, y); }));
+}
+
+TEST_F(SlidePicture, StepsPaintNothingOfTheLeavingPageBeforeAnySlide)
+{
+    EXPECT_EQ("", firstDifference(
+                      pictureOfStep([this](QPainter& painter) { stack.paintPrevious(painter, 0); }),
+                      [](int, int) { return 0U; }));
 }
 
 TEST_F(SlidePicture, StepsPaintNothingForAnIndexWithoutPage)
 {
     stack.next();
     stack.slotValueChanged(80);
-    QImage image(200, 120, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    for (const int index : {-1, 3}) {
-        stack.paintPrevious(painter, index);
-        stack.paintNext(painter, index);
-    }
-    painter.end();
-    EXPECT_EQ("", firstDifference(image, [](int, int) { return 0U; }));
+    const QImage picture = pictureOfStep([this](QPainter& painter) {
+        for (const int index : {-1, 3}) {
+            stack.paintPrevious(painter, index);
+            stack.paintNext(painter, index);
+        }
+    });
+    EXPECT_EQ("", firstDifference(picture, [](int, int) { return 0U; }));
 }
 
 } // namespace

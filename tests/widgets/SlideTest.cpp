@@ -135,6 +135,9 @@ TEST_P(SlideRequest, IgnoresEveryRequestWhileItRuns)
                                  forwardTo(2), forwardTo(1), forwardTo(0)}) {
         later(stack);
         EXPECT_EQ(start, animation->startValue());
+        stack.slotValueChanged(80);
+        EXPECT_EQ("", firstDifference(stack.grab().toImage(),
+                                      slideFrame(0, GetParam().to, GetParam().fromLeft, 80)));
     }
     animation->setCurrentTime(600);
     turn();
@@ -175,6 +178,19 @@ INSTANTIATE_TEST_SUITE_P(Requests, SlideRequest,
 
 class RejectedIndex : public StackFixture, public testing::WithParamInterface<int>
 {
+protected:
+    // Nothing tells the direction but the side on which the leaving page is painted.
+    void expectDirection(bool fromLeft)
+    {
+        stack.slotValueChanged(80);
+        const int line = 80 * qRound(stack.devicePixelRatioF());
+        const auto frame = slideFrame(0, 1, fromLeft, 80);
+        const QImage picture =
+            pictureOfStep([this](QPainter& painter) { stack.paintPrevious(painter, 0); });
+        EXPECT_EQ("", firstDifference(picture, [&](int x, int y) {
+                      return (x < line) == fromLeft ? 0U : frame(x, y);
+                  }));
+    }
 };
 
 TEST_P(RejectedIndex, FreezesTheStackInNextTo)
@@ -212,6 +228,34 @@ TEST_P(RejectedIndex, LeavesThePageToBeSeenAfterASlide)
                                   [this](int x, int y) { return page(0).colorAt(x, y); }));
 }
 
+// Beside a page that is smaller than the stack the painting of a frozen one is to be seen.
+TEST_P(RejectedIndex, LeavesTheStackPainting)
+{
+    page(0).setFixedSize(90, 50);
+    turn();
+    stack.nextTo(GetParam());
+    stack.slotValueChanged(120);
+    const int line = 120 * qRound(stack.devicePixelRatioF());
+    const auto leaving = slideFrame(0, 0, false, 120);
+    EXPECT_EQ("", firstDifference(stack.grab().toImage(), [&](int x, int y) {
+                  const QRgb live = page(0).colorAt(x, y);
+                  const QRgb below = x < line ? leaving(x, y) : background;
+                  return live == 0 ? below : live;
+              }));
+}
+
+TEST_P(RejectedIndex, LeavesTheStackPaintingTheLastTarget)
+{
+    animationOf(stack); // slides to page 1
+    page(0).setFixedSize(90, 50);
+    turn();
+    stack.nextTo(GetParam());
+    EXPECT_EQ("", firstDifference(stack.grab().toImage(), [this](int x, int y) {
+                  const QRgb live = page(0).colorAt(x, y);
+                  return live == 0 ? page(1).colorAt(x, y) : live;
+              }));
+}
+
 TEST_P(RejectedIndex, IsHarmlessInForwardTo)
 {
     stack.setDuration(0);
@@ -237,6 +281,19 @@ TEST_P(RejectedIndex, IsHarmlessInNextToWhileASlideRuns)
     EXPECT_EQ(2, stack.currentIndex());
 }
 
+TEST_P(RejectedIndex, TurnsTheDirectionInForwardTo)
+{
+    stack.forwardTo(GetParam());
+    expectDirection(true);
+}
+
+TEST_P(RejectedIndex, TurnsTheDirectionBackInNextTo)
+{
+    stack.forwardTo(GetParam());
+    stack.nextTo(GetParam());
+    expectDirection(false);
+}
+
 INSTANTIATE_TEST_SUITE_P(Indices, RejectedIndex,
                          testing::Values(0, 3, 4, INT_MAX, -1, -2, INT_MIN));
 
@@ -246,8 +303,7 @@ TEST_F(Slide, TakesSixHundredMillisecondsUnlessToldOtherwise)
 {
     QElapsedTimer clock;
     clock.start();
-    stack.next();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return stack.currentIndex() == 1; }));
+    EXPECT_EQ(600, slideToTheEnd(stack)->duration());
     EXPECT_GE(clock.elapsed(), 590);
 }
 
@@ -347,17 +403,43 @@ TEST(StackWithoutPages, IgnoresRequests)
     }
 }
 
-TEST(StackWithoutPages, IsNotFrozenByNext)
+// Gives an empty stack its first pages and asks for the second.
+int pageAfterNext(QAnimationStackedWidget& stack)
 {
-    QAnimationStackedWidget stack;
     stack.setDuration(0);
-    stack.next();
-    stack.forward();
     stack.addWidget(new QWidget);
     stack.addWidget(new QWidget);
     stack.next();
     turn();
-    EXPECT_EQ(1, stack.currentIndex());
+    return stack.currentIndex();
+}
+
+class IndexWithoutPages : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(IndexWithoutPages, FreezesTheStackInNextTo)
+{
+    QAnimationStackedWidget stack;
+    stack.nextTo(GetParam());
+    EXPECT_EQ(0, pageAfterNext(stack));
+}
+
+TEST_P(IndexWithoutPages, IsHarmlessInForwardTo)
+{
+    QAnimationStackedWidget stack;
+    stack.forwardTo(GetParam());
+    EXPECT_EQ(1, pageAfterNext(stack));
+}
+
+INSTANTIATE_TEST_SUITE_P(Indices, IndexWithoutPages, testing::Values(0, 1, -1));
+
+TEST(StackWithoutPages, IsNotFrozenByNext)
+{
+    QAnimationStackedWidget stack;
+    stack.next();
+    stack.forward();
+    EXPECT_EQ(1, pageAfterNext(stack));
 }
 
 } // namespace

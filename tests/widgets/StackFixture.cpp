@@ -1,7 +1,9 @@
 #include "tests/widgets/StackFixture.h"
 
 #include <QCoreApplication>
+#include <QPainter>
 #include <QPointer>
+#include <QTest>
 #include <QVariantAnimation>
 
 #include <stdexcept>
@@ -37,17 +39,23 @@ private:
 
 } // namespace
 
-QVariantAnimation* animationOf(ProbedStack& stack)
+QVariantAnimation* slideToTheEnd(ProbedStack& stack)
 {
     const SenderProbe probe(stack);
-    stack.setDuration(0);
     stack.next();
-    turn();
+    if (QTest::qWaitFor([&probe] { return !probe.found.isNull(); }))
+        if (auto* animation = qobject_cast<QVariantAnimation*>(probe.found))
+            return animation;
+    throw std::runtime_error("no animation has ended a slide");
+}
+
+QVariantAnimation* animationOf(ProbedStack& stack)
+{
+    stack.setDuration(0);
+    QVariantAnimation* animation = slideToTheEnd(stack);
     stack.setCurrentIndex(0);
     stack.setDuration(600);
-    if (auto* animation = qobject_cast<QVariantAnimation*>(probe.found))
-        return animation;
-    throw std::runtime_error("no animation has ended a slide");
+    return animation;
 }
 
 StackFixture::StackFixture()
@@ -84,4 +92,16 @@ std::function<QRgb(int, int)> StackFixture::slideFrame(int leaving, int arriving
             color = out.colorAt(x - line, y);
         return color == 0 ? background : color;
     };
+}
+
+QImage StackFixture::pictureOfStep(const std::function<void(QPainter&)>& step) const
+{
+    const int ratio = qRound(stack.devicePixelRatioF());
+    QImage image(stack.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    step(painter);
+    painter.end();
+    return image;
 }

@@ -1,9 +1,11 @@
+#include "tests/crypto/ObjectLayout.h"
+#include "tests/widgets/StackFixture.h"
 #include "widgets/ButtonMonitor.h"
-#include "widgets/QAnimationStackedWidget.h"
 #include "widgets/QProgressIndicator.h"
 
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <QVariantAnimation>
 
 #include <gtest/gtest.h>
 
@@ -111,6 +113,97 @@ TEST(ProgressIndicatorMetaObject, CallsTheSlotsByName)
     EXPECT_TRUE(indicator.isAnimated());
     EXPECT_TRUE(QMetaObject::invokeMethod(&indicator, "stopAnimation"));
     EXPECT_FALSE(indicator.isAnimated());
+}
+
+static_assert(sizeof(ButtonMonitor) == sizeof(QObject), "the monitor has no members");
+
+struct StackLayout
+{
+    unsigned char base[sizeof(QStackedWidget)];
+    const QVariantAnimation* animation;
+    int duration;
+    int targetIndex;
+    bool animating;
+    bool fromLeft;
+    alignas(QVariant) unsigned char offset[sizeof(QVariant)];
+};
+
+static_assert(sizeof(StackLayout) == sizeof(QAnimationStackedWidget));
+
+struct IndicatorLayout
+{
+    unsigned char base[sizeof(QWidget)];
+    int angle;
+    int timerId;
+    int delay;
+    bool displayedWhenStopped;
+    alignas(QColor) unsigned char color[sizeof(QColor)];
+};
+
+static_assert(sizeof(IndicatorLayout) == sizeof(QProgressIndicator));
+
+// What the bytes of a member hold.
+template <typename T>
+T memberOf(const unsigned char (&bytes)[sizeof(T)])
+{
+    T value;
+    std::memcpy(static_cast<void*>(&value), bytes, sizeof value);
+    return value;
+}
+
+using StackObjectLayout = StackFixture;
+
+TEST_F(StackObjectLayout, BeginsWithTheAnimationAndItsDuration)
+{
+    EXPECT_EQ(600, readLayout<StackLayout>(stack).duration);
+    const QVariantAnimation* animation = animationOf(stack);
+    stack.setDuration(1234);
+    const auto layout = readLayout<StackLayout>(stack);
+    EXPECT_EQ(animation, layout.animation);
+    EXPECT_EQ(1234, layout.duration);
+}
+
+TEST_F(StackObjectLayout, GoesOnWithTheTargetAndTheFlags)
+{
+    auto layout = readLayout<StackLayout>(stack);
+    EXPECT_FALSE(layout.animating);
+    EXPECT_FALSE(layout.fromLeft);
+    stack.forwardTo(3);
+    layout = readLayout<StackLayout>(stack);
+    EXPECT_FALSE(layout.animating);
+    EXPECT_TRUE(layout.fromLeft);
+    stack.nextTo(2);
+    layout = readLayout<StackLayout>(stack);
+    EXPECT_EQ(2, layout.targetIndex);
+    EXPECT_TRUE(layout.animating);
+    EXPECT_FALSE(layout.fromLeft);
+}
+
+TEST(IndicatorObjectLayout, HoldsItsInitialValues)
+{
+    const QProgressIndicator indicator;
+    const auto layout = readLayout<IndicatorLayout>(indicator);
+    EXPECT_EQ(0, layout.angle);
+    EXPECT_EQ(-1, layout.timerId);
+    EXPECT_EQ(40, layout.delay);
+    EXPECT_FALSE(layout.displayedWhenStopped);
+    EXPECT_EQ(QColor(Qt::black), memberOf<QColor>(layout.color));
+}
+
+TEST(IndicatorObjectLayout, FollowsItsChanges)
+{
+    QProgressIndicator indicator;
+    indicator.setAnimationDelay(50);
+    indicator.setDisplayedWhenStopped(true);
+    indicator.setColor(QColor(1, 2, 3, 4));
+    indicator.startAnimation();
+    indicator.timerEvent(nullptr);
+    const auto layout = readLayout<IndicatorLayout>(indicator);
+    EXPECT_EQ(30, layout.angle);
+    EXPECT_GT(layout.timerId, 0);
+    EXPECT_EQ(50, layout.delay);
+    EXPECT_TRUE(layout.displayedWhenStopped);
+    EXPECT_EQ(QColor(1, 2, 3, 4), memberOf<QColor>(layout.color));
 }
 
 } // namespace

@@ -28,6 +28,18 @@ public:
     QLineEdit* field;
 };
 
+class PaintCounter : public QObject
+{
+public:
+    int count = 0;
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 class PageTest : public testing::Test
 {
 protected:
@@ -147,6 +159,69 @@ TEST_F(PageTest, TheOverlayFollowsThePagesSize)
     QTest::qWait(20);
     EXPECT_EQ(overlay().size(), QSize(500, 400));
     EXPECT_EQ(overlay().findChild<QProgressIndicator*>()->size(), QSize(500, 400));
+    m_page.cancelJob();
+}
+
+TEST_F(PageTest, ThePageIsSeldomPaintedUnderTheWheel)
+{
+    PaintCounter field;
+    m_page.field->installEventFilter(&field);
+    start(1000000);
+    PaintCounter wheel;
+    overlay().findChild<QProgressIndicator*>()->installEventFilter(&wheel);
+    field.count = 0;
+    ASSERT_TRUE(QTest::qWaitFor([&wheel] { return wheel.count > 20; }));
+    EXPECT_LT(3 * field.count, wheel.count);
+    m_page.cancelJob();
+    EXPECT_TRUE(QTest::qWaitFor([&field] { return field.count > 0; }));
+}
+
+TEST_F(PageTest, TheOverlayLooksAsThePageBelowIt)
+{
+    start(1000000);
+    overlay().findChild<QProgressIndicator*>()->hide();
+    overlay().findChild<QFrame*>()->hide();
+    const QImage covered = m_page.grab().toImage();
+    overlay().hide();
+    EXPECT_EQ(covered, m_page.grab().toImage());
+    m_page.cancelJob();
+}
+
+TEST_F(PageTest, TheOverlayShowsThePageItselfOnceThatHasChanged)
+{
+    const std::function<void(OnePage&)> changes[] = {
+        [](OnePage& page) { page.resize(700, 500); },
+        [](OnePage& page) { page.setPalette(QPalette(Qt::darkGreen)); },
+        [](OnePage& page) { page.setFont(QFont(page.font().family(), 30)); },
+        [](OnePage& page) { page.setStyleSheet("QLineEdit { background: red; }"); }};
+    for (const auto& change : changes) {
+        start(1000000);
+        overlay().findChild<QProgressIndicator*>()->hide();
+        overlay().findChild<QFrame*>()->hide();
+        change(m_page);
+        QTest::qWait(20);
+        const QImage covered = m_page.grab().toImage();
+        overlay().hide();
+        EXPECT_EQ(covered, m_page.grab().toImage()) << &change - changes;
+        m_page.cancelJob();
+    }
+}
+
+TEST_F(PageTest, WhatThePageFillsInDuringAJobIsSeen)
+{
+    start(1000000);
+    overlay().findChild<QProgressIndicator*>()->hide();
+    m_page.field->setText("arrived");
+    const auto seen = [this] {
+        overlay().findChild<QFrame*>()->hide();
+        const QImage covered = m_page.grab().toImage();
+        overlay().hide();
+        const QImage page = m_page.grab().toImage();
+        overlay().show();
+        return covered == page;
+    };
+    EXPECT_FALSE(seen()); // still the picture
+    EXPECT_TRUE(QTest::qWaitFor(seen));
     m_page.cancelJob();
 }
 

@@ -26,7 +26,7 @@ QByteArray written(Encoding encoding, const std::function<void(RegFileWriter&)>&
 
 QByteArray body(const std::function<void(RegFileWriter&)>& write)
 {
-    const QByteArray header = regFileHeader.toUtf8() + "\r\n";
+    const QByteArray header = QString(regFileHeader).toUtf8() + "\r\n";
     const QByteArray file = written(Encoding::Utf8, write);
     EXPECT_TRUE(file.startsWith(header));
     return file.mid(header.size());
@@ -87,7 +87,7 @@ TEST(RegFileWriter, PutsLineEndsOfACommentIntoOneLine)
 TEST(RegFileWriter, BeginsUtf16WithItsByteOrderMark)
 {
     const QByteArray file = written(Encoding::Utf16, [](RegFileWriter&) {});
-    EXPECT_EQ(file, "\xFF\xFE" + utf16Of(regFileHeader + "\r\n"));
+    EXPECT_EQ(file, "\xFF\xFE" + utf16Of(QString(regFileHeader) + "\r\n"));
 }
 
 TEST(RegFileWriter, TellsOfADeviceThatTakesNothing)

@@ -35,7 +35,7 @@ protected:
 
     static void import(const QString& body)
     {
-        RegistryImport task((regFileHeader + "\n" + body).toUtf8());
+        RegistryImport task((QString(regFileHeader) + "\n" + body).toUtf8());
         while (task.read()) {
         }
         while (task.apply()) {

@@ -1,0 +1,6 @@
+#include <cstdio>
+
+[[gnu::visibility("default")]] void CreateConfigReg()
+{
+    std::puts("create=");
+}

@@ -1,0 +1,6 @@
+#include <QtGlobal>
+
+[[gnu::visibility("default")]] int GetCurrentOrbxLanguageId()
+{
+    return qEnvironmentVariableIntValue("HOST_LANGUAGE");
+}
