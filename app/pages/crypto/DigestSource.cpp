@@ -1,6 +1,7 @@
 #include "app/pages/crypto/DigestSource.h"
 
 #include "app/pages/Page.h"
+#include "app/pages/PlainText.h"
 #include "app/pages/crypto/DigestJob.h"
 
 #include <QDragEnterEvent>
@@ -103,7 +104,7 @@ std::unique_ptr<DigestJob> DigestSource::makeJob(const QByteArray& second, QStri
 {
     if (m_fromFile->isChecked())
         return makeFileJob(second, problem);
-    return std::make_unique<DigestJob>(m_text->toPlainText().toUtf8(), second);
+    return std::make_unique<DigestJob>(textOf(*m_text).toUtf8(), second);
 }
 
 // Only regular files: others may block, or never end.

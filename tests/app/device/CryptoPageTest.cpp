@@ -83,6 +83,31 @@ TEST_F(CryptoPageTest, EncryptsAndDecryptsWithKeyAndIv)
     EXPECT_EQ(clear()->toPlainText(), "text");
 }
 
+// The field itself keeps no carriage return, and QPlainTextEdit gives no no-break space back.
+TEST_F(CryptoPageTest, DecryptsCopiesAndEncryptsEveryCharacter)
+{
+    const QString plain = QStringLiteral("a\r\nb\u00a0");
+    const QString text = QString::fromStdString(encrypted(passPhrase, plain.toStdString()));
+    enterPassPhrase(passPhrase);
+    cipher()->setPlainText(text);
+    pressDecrypt();
+    QTest::mouseClick(control<QPushButton>("Copy: Clear text"), Qt::LeftButton);
+    EXPECT_EQ(QApplication::clipboard()->text(), plain);
+    cipher()->clear();
+    pressEncrypt();
+    EXPECT_EQ(cipher()->toPlainText(), text);
+}
+
+TEST_F(CryptoPageTest, EncryptsWhatWasTypedIntoADecryptedText)
+{
+    enterPassPhrase(passPhrase);
+    cipher()->setPlainText(QString::fromStdString(encrypted(passPhrase, "a\r\nb")));
+    pressDecrypt();
+    QTest::keyClicks(clear(), QStringLiteral("x\u00a0"));
+    pressEncrypt();
+    EXPECT_EQ(cipher()->toPlainText().toStdString(), encrypted(passPhrase, "x\u00a0a\nb"));
+}
+
 TEST_F(CryptoPageTest, TakesKeyAndIvInHexadecimal)
 {
     enterKeys("30313233343536373839616263646566", "66656463626139383736353433323130", true);

@@ -67,7 +67,7 @@ protected:
 
 TEST_F(DigestPanelTest, GivesWhatTheClassesGiveForATextInUtf8)
 {
-    for (const char* text : {"abc", "", "The quick brown fox", "\u7801\u5934 quay"}) {
+    for (const char* text : {"abc", "", "The quick brown fox", "\u7801\u5934 quay", "a\u00a0b"}) {
         digestText(QString::fromUtf8(text), "second");
         expectDigestsOf(text, "second");
     }
