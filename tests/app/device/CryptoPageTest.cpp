@@ -108,6 +108,17 @@ TEST_F(CryptoPageTest, EncryptsWhatWasTypedIntoADecryptedText)
     EXPECT_EQ(cipher()->toPlainText().toStdString(), encrypted(passPhrase, "x\u00a0a\nb"));
 }
 
+TEST_F(CryptoPageTest, ShowsDecryptedBytesThatAreNoTextInHexadecimal)
+{
+    enterKeys("0123456789abcdef", "fedcba9876543210");
+    cipher()->setPlainText(QString::fromStdString(Encrypt::EncryptionAES(
+        "0123456789abcdef", "fedcba9876543210", std::string("\xff\0A", 3))));
+    pressDecrypt();
+    EXPECT_EQ(clear()->toPlainText(), "ff 00 41");
+    EXPECT_NE(status().find("They are no text; shown in hexadecimal."), std::string::npos)
+        << status();
+}
+
 TEST_F(CryptoPageTest, TakesKeyAndIvInHexadecimal)
 {
     enterKeys("30313233343536373839616263646566", "66656463626139383736353433323130", true);
