@@ -65,6 +65,14 @@ void Page::find() {}
 
 void Page::entered() {}
 
+void Page::takeFocus()
+{
+    if (isBusy())
+        m_overlay->setFocus();
+    else
+        setFocus();
+}
+
 QString Page::statusText() const
 {
     return m_status->text();

@@ -57,6 +57,9 @@ public:
     /// True while a job runs; the page's controls are then disabled.
     bool isBusy() const { return m_job.isRunning(); }
 
+    /// Takes the keyboard: the control that gets it first, or Cancel while a job runs.
+    void takeFocus();
+
     /// The text of the last report.
     QString statusText() const;
 

@@ -140,6 +140,30 @@ TEST_F(MainWindowTest, AltAndADigitChooseAPage)
     }
 }
 
+TEST_F(MainWindowTest, ABusyPageIsCancelledByKeyboardAfterAVisitElsewhere)
+{
+    show();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window.currentPage()->isBusy(); }));
+    m_window.currentPage()->setFocus();
+    bool cancelled = false;
+    m_window.currentPage()->startJob({"Endless",
+                                      [] {
+                                          QTest::qSleep(1);
+                                          return true;
+                                      },
+                                      {},
+                                      [&cancelled](bool complete) { cancelled = !complete; }});
+    for (const int page : {7, 0}) {
+        QTest::keyClick(&m_window, static_cast<Qt::Key>(Qt::Key_1 + page), Qt::AltModifier);
+        ASSERT_TRUE(reaches(page));
+        QTest::qWait(50);
+    }
+    ASSERT_TRUE(QApplication::focusWidget());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(cancelled);
+    m_window.currentPage()->cancelJob();
+}
+
 TEST_F(MainWindowTest, TheRailTakesArrowKeysAndIsOneStopForTab)
 {
     show();
