@@ -13,6 +13,8 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 namespace {
 
 class DigestPanelTest : public PageTest
@@ -82,6 +84,20 @@ TEST_F(DigestPanelTest, GivesWhatTheClassesGiveForAFile)
     waitForJob();
     expectDigestsOf(content);
     EXPECT_EQ(status(), "Bytes digested: 3,000,000.");
+}
+
+// One & would make a mnemonic of the letter behind it.
+TEST_F(DigestPanelTest, NamesAFileWithAnAmpersand)
+{
+    QFile file(m_folder.filePath("R&D.txt"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.close();
+    digestFile(file.fileName());
+    waitForJob();
+    const auto boxes = page()->findChildren<QGroupBox*>();
+    EXPECT_TRUE(std::any_of(boxes.begin(), boxes.end(), [](const QGroupBox* box) {
+        return box->title() == "Results for R&&D.txt";
+    }));
 }
 
 TEST_F(DigestPanelTest, SaysWhereTheMd5DepartsFromTheStandard)
