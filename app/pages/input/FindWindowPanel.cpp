@@ -15,8 +15,8 @@ QString description(HWND handle)
 {
     const auto* widget = static_cast<const QWidget*>(handle);
     return FindWindowPanel::tr("%1, title \u201c%2\u201d, at 0x%3")
-        .arg(QString::fromLatin1(widget->metaObject()->className()), widget->windowTitle())
-        .arg(reinterpret_cast<quintptr>(handle), 0, 16);
+        .arg(QString::fromLatin1(widget->metaObject()->className()), widget->windowTitle(),
+             QString::number(reinterpret_cast<quintptr>(handle), 16));
 }
 
 } // namespace

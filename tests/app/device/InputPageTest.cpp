@@ -132,6 +132,12 @@ TEST_F(InputPageTest, FindsWindows)
     EXPECT_EQ(status(), "A window was found.");
 }
 
+TEST_F(InputPageTest, ShowsATitleWithPlaceholders)
+{
+    m_window.setWindowTitle("%1 %2 %3");
+    EXPECT_NE(found("MainWindow", "").find("title \u201c%1 %2 %3\u201d"), std::string::npos);
+}
+
 TEST_F(InputPageTest, SaysThatNoWindowWasFound)
 {
     const std::pair<const char*, const char*> rows[] = {
