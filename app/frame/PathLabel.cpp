@@ -1,5 +1,7 @@
 #include "app/frame/PathLabel.h"
 
+#include "app/pages/PlainToolTip.h"
+
 #include <QAction>
 #include <QClipboard>
 #include <QDir>
@@ -22,7 +24,7 @@ QString shown(const QString& path, PathLabel::Form form)
 PathLabel::PathLabel(const QString& path, Form form, QWidget* parent)
     : QFrame(parent), m_path(path), m_text(shown(path, form))
 {
-    setToolTip(path);
+    setToolTip(plainToolTip(path));
     setAccessibleDescription(path);
     auto* action = new QAction(tr("Copy path"), this);
     connect(action, &QAction::triggered, this, &PathLabel::copy);

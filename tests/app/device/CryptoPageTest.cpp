@@ -111,8 +111,8 @@ TEST_F(CryptoPageTest, EncryptsWhatWasTypedIntoADecryptedText)
 TEST_F(CryptoPageTest, ShowsDecryptedBytesThatAreNoTextInHexadecimal)
 {
     enterKeys("0123456789abcdef", "fedcba9876543210");
-    cipher()->setPlainText(QString::fromStdString(Encrypt::EncryptionAES(
-        "0123456789abcdef", "fedcba9876543210", std::string("\xff\0A", 3))));
+    cipher()->setPlainText(QString::fromStdString(
+        Encrypt::EncryptionAES("0123456789abcdef", "fedcba9876543210", std::string("\xff\0A", 3))));
     pressDecrypt();
     EXPECT_EQ(clear()->toPlainText(), "ff 00 41");
     EXPECT_NE(status().find("They are no text; shown in hexadecimal."), std::string::npos)

@@ -6,6 +6,7 @@
 #include "app/pages/Page.h"
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/app/pages/ShownToolTip.h"
 #include "widgets/QAnimationStackedWidget.h"
 
 #include <QLabel>
@@ -205,6 +206,12 @@ TEST_F(MainWindowTest, TellsItsSurroundingsInTheStatusLine)
     EXPECT_EQ(
         texts.filter("~/data/window_test/registry.ini|" + g_globalSettings->fileName()).size(), 1)
         << texts.join('\n').toStdString();
+}
+
+TEST(PathLabelTest, ShowsAPathThatLooksLikeMarkupInItsToolTip)
+{
+    const PathLabel label(QStringLiteral("/<b>bold"));
+    EXPECT_EQ(shownToolTip(label.toolTip()).toStdString(), "/<b>bold");
 }
 
 TEST_F(MainWindowTest, FitsASmallScreen)

@@ -3,6 +3,7 @@
 #include "app/pages/log/LogLines.h"
 #include "app/pages/log/LogModel.h"
 #include "app/pages/log/LogPage.h"
+#include "tests/app/pages/ShownToolTip.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -88,6 +89,13 @@ TEST_F(LogModelTest, GrowsWithTheFile)
     EXPECT_EQ(m_model.rowCount(), 3);
     EXPECT_EQ(m_model.index(1, LogModel::Text).data().toString().toStdString(), "fault");
     EXPECT_EQ(m_model.index(1, LogModel::Level).data().toString().toStdString(), "Error");
+}
+
+TEST_F(LogModelTest, ShowsMarkupInItsToolTipAsItStands)
+{
+    write("[INFO] 2026-03-07 09:05:03 : <b>bold</b>\n");
+    const QModelIndex index = m_model.index(0, LogModel::Text);
+    EXPECT_EQ(shownToolTip(index.data(Qt::ToolTipRole).toString()).toStdString(), "<b>bold</b>");
 }
 
 TEST_F(LogModelTest, StartsAnewWithAFileThatBecameShorter)

@@ -1,3 +1,4 @@
+#include "tests/app/pages/ShownToolTip.h"
 #include "tests/app/pages/WindowProbe.h"
 
 #include <QFile>
@@ -65,6 +66,19 @@ TEST_F(FilesPageTest, ShowsSizeAndTimesOfTheFirstRecordOnly)
     EXPECT_EQ(cell(0, 3).size(), 19);
     for (int column = 2; column < 6; ++column)
         EXPECT_EQ(cell(1, column), QStringLiteral("–"));
+}
+
+TEST_F(FilesPageTest, ShowsANameThatLooksLikeMarkupInItsToolTip)
+{
+    makeFile(QStringLiteral("<b>bold"));
+    search(path("*"));
+    EXPECT_EQ(shownToolTip(model().index(0, 0).data(Qt::ToolTipRole).toString()),
+              QStringLiteral("<b>bold"));
+}
+
+TEST_F(FilesPageTest, HasNothingToSayOfNoEntry)
+{
+    EXPECT_FALSE(model().data({}, Qt::DisplayRole).isValid());
 }
 
 TEST_F(FilesPageTest, ShowsNoSizeForAFolderThatComesFirst)

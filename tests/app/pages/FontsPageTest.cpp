@@ -1,6 +1,7 @@
 #include "app/pages/fonts/CharacterSets.h"
 #include "app/pages/fonts/FontCatalogue.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/app/pages/ShownToolTip.h"
 #include "tests/app/pages/WindowProbe.h"
 
 #include <QComboBox>
@@ -85,6 +86,19 @@ TEST_F(FontsPageTest, ShowsTheRecordsInTheOrderOfTheService)
     EXPECT_EQ(rows(),
               Rows({"A|Regular|GB2312_CHARSET (134)|CHINESE_GB2312",
                     "B|Regular|GREEK_CHARSET (161)|希腊语", "B|Regular|OEM_CHARSET (255)|"}));
+}
+
+TEST_F(FontsPageTest, ShowsANameThatLooksLikeMarkupInItsToolTip)
+{
+    add("Global", "<b>bold", ANSI_CHARSET);
+    m_probe.page().refresh();
+    EXPECT_EQ(shownToolTip(model().index(0, 0).data(Qt::ToolTipRole).toString()),
+              QStringLiteral("<b>bold"));
+}
+
+TEST_F(FontsPageTest, HasNothingToSayOfNoRecord)
+{
+    EXPECT_FALSE(model().data({}, Qt::DisplayRole).isValid());
 }
 
 TEST_F(FontsPageTest, FiltersByFamilyUnderEitherName)
