@@ -4,6 +4,7 @@
 #include "app/pages/TableLook.h"
 #include "app/pages/files/FoundEntriesModel.h"
 #include "app/pages/files/PathPanel.h"
+#include "platform/PlatformServicesImp.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -41,7 +42,7 @@ FilesPage::FilesPage(QWidget* parent)
       m_pattern(new QLineEdit),
       m_model(new FoundEntriesModel(this)),
       m_table(makeTable()),
-      m_paths(new PathPanel)
+      m_paths(new PathPanel(*g_PlatformServices.directoryManager()))
 {
     m_hint = new EmptyHint(m_table, tr("Type a pattern, such as /etc/*.conf, and press Enter: here "
                                        "stands what findFirstFile and findNextFile report."));
