@@ -5,6 +5,7 @@
 #include "app/pages/BusyOverlay.h"
 #include "widgets/ButtonMonitor.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -53,7 +54,6 @@ Page::Page(QWidget* parent)
     m_status->setTextFormat(Qt::PlainText);
     m_status->setWordWrap(true);
     m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_status->setAccessibleName(tr("Status"));
     connect(m_overlay, &BusyOverlay::cancelRequested, this, &Page::cancelJob);
     connect(&m_job, &SlicedJob::progressed, this, &Page::showProgress);
     connect(&m_job, &SlicedJob::finished, this, [this] { endJob(true); });
@@ -137,6 +137,10 @@ void Page::showStatus(Report kind, const QString& text)
     m_statusIcon->setPixmap(statusPixmap(*this, kind));
     m_statusIcon->setVisible(kind != Report::Info);
     m_status->setText(text);
+    if (text.isEmpty())
+        return;
+    QAccessibleEvent alert(m_status, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 QPushButton* glowing(QPushButton* button)

@@ -88,7 +88,7 @@ QWidget* DigestPanel::makeResults()
     m_notes->setTextFormat(Qt::PlainText);
     m_notes->setWordWrap(true);
     m_notes->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_notes->setAccessibleName(tr("Notes"));
+    m_notes->setObjectName(QStringLiteral("notes"));
     grid->addWidget(m_notes, grid->rowCount(), 0, 1, 3);
     return m_results;
 }

@@ -34,7 +34,7 @@ FindWindowPanel::FindWindowPanel(QWidget* parent)
     m_result->setTextFormat(Qt::PlainText);
     m_result->setWordWrap(true);
     m_result->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_result->setAccessibleName(tr("Result"));
+    m_result->setObjectName(QStringLiteral("result"));
     auto* row = new QHBoxLayout;
     row->addWidget(button);
     row->addStretch();

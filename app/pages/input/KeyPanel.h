@@ -4,8 +4,8 @@
 
 #include <QGroupBox>
 
+class AnswerField;
 class QGridLayout;
-class QLabel;
 class QSpinBox;
 class QVBoxLayout;
 
@@ -30,5 +30,5 @@ private:
 
     std::vector<KeyLamp*> m_lamps;
     QSpinBox* m_code = nullptr;
-    QLabel* m_state = nullptr;
+    AnswerField* m_state = nullptr;
 };

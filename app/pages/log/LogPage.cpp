@@ -117,7 +117,7 @@ QLayout* LogPage::makeFooter()
     line->addStretch();
     line->addWidget(new QLabel(tr("File:")));
     auto* file = new PathLabel(ApplicationLog::path());
-    file->setAccessibleName(tr("File"));
+    file->setCaption(tr("File:"));
     line->addWidget(file);
     return line;
 }

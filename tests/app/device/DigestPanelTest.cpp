@@ -54,7 +54,7 @@ protected:
     {
         return control<QLineEdit>(name)->text().toStdString();
     }
-    std::string notes() { return control<QLabel>("Notes")->text().toStdString(); }
+    std::string notes() { return page()->findChild<QLabel*>("notes")->text().toStdString(); }
 
     void expectDigestsOf(const std::string& text, const std::string& second = {})
     {

@@ -31,7 +31,10 @@ protected:
         QTest::mouseClick(map(), Qt::LeftButton, Qt::NoModifier, map()->toMap(desktop).toPoint());
     }
 
-    std::string answer(const QString& flag) { return control<QLabel>(flag)->text().toStdString(); }
+    std::string answer(const QString& flag)
+    {
+        return control<QLineEdit>(flag)->text().toStdString();
+    }
 };
 
 TEST_F(DisplaysPageTest, ListsTheMonitorAsTheServiceDescribesIt)

@@ -15,7 +15,10 @@ class InputPageTest : public PageTest
 protected:
     void SetUp() override { open("input"); }
 
-    std::string label(const QString& name) { return control<QLabel>(name)->text().toStdString(); }
+    std::string label(const QString& name)
+    {
+        return control<QLineEdit>(name)->text().toStdString();
+    }
     bool isLit(const QString& name) { return control<KeyLamp>(name)->isLit(); }
 
     void setCursor(const QString& shape)
@@ -29,7 +32,7 @@ protected:
         control<QLineEdit>("Class name:")->setText(className);
         control<QLineEdit>("Window name:")->setText(windowName);
         press("Find &now");
-        return label("Result");
+        return page()->findChild<QLabel*>("result")->text().toStdString();
     }
 };
 

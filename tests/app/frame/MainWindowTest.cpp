@@ -3,12 +3,15 @@
 #include "app/CommandLine.h"
 #include "app/frame/PageRail.h"
 #include "app/frame/PathLabel.h"
+#include "app/frame/StatusLine.h"
 #include "app/pages/Page.h"
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/app/pages/ShownToolTip.h"
 #include "widgets/QAnimationStackedWidget.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
@@ -212,6 +215,23 @@ TEST(PathLabelTest, ShowsAPathThatLooksLikeMarkupInItsToolTip)
 {
     const PathLabel label(QStringLiteral("/<b>bold"));
     EXPECT_EQ(shownToolTip(label.toolTip()).toStdString(), "/<b>bold");
+}
+
+TEST_F(MainWindowTest, ThePathsOfTheStatusLineAreReadOutAndCopied)
+{
+    show();
+    const auto labels = m_window.findChild<StatusLine*>()->findChildren<PathLabel*>();
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_EQ(labels.last()->accessibleName(), "Settings store: " + g_globalSettings->fileName());
+    for (PathLabel* label : labels) {
+        EXPECT_NE(label->focusPolicy() & Qt::TabFocus, 0);
+        m_window.setAttribute(Qt::WA_KeyboardFocusChange); // as Tab does
+        const QImage without = label->grab().toImage();
+        label->setFocus(Qt::TabFocusReason);
+        EXPECT_NE(label->grab().toImage(), without) << "no focus frame";
+        QTest::keyClick(label, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), label->toolTip());
+    }
 }
 
 TEST_F(MainWindowTest, FitsASmallScreen)

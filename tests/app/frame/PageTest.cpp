@@ -6,6 +6,7 @@
 #include "app/pages/EmptyHint.h"
 #include "widgets/QProgressIndicator.h"
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
@@ -15,6 +16,10 @@
 #include <QStringListModel>
 #include <QTest>
 #include <QVBoxLayout>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 #include <gtest/gtest.h>
 
@@ -260,6 +265,28 @@ TEST_F(PageTest, AReportIsShownAndLogged)
     const QByteArray lines = log.readAll();
     EXPECT_TRUE(lines.contains("[ERROR] "));
     EXPECT_TRUE(lines.endsWith(" : It was refused.\n"));
+}
+
+QStringList alerts;
+
+void noteAlert(QAccessibleEvent* event)
+{
+    if (event->type() == QAccessible::Alert)
+        alerts += event->accessibleInterface()->text(QAccessible::Name);
+}
+
+TEST_F(PageTest, AStatusIsReadOut)
+{
+    // As a running assistive tool does.
+    QPlatformAccessibility* platform =
+        QGuiApplicationPrivate::platformIntegration()->accessibility();
+    platform->setActive(true);
+    const auto former = QAccessible::installUpdateHandler(&noteAlert);
+    m_page.setStatus("It is done.");
+    m_page.setStatus(QString());
+    QAccessible::installUpdateHandler(former);
+    platform->setActive(false);
+    EXPECT_EQ(alerts, QStringList("It is done."));
 }
 
 TEST_F(PageTest, AStatusIsShownAndNotLogged)

@@ -6,8 +6,10 @@
 #include "platform/PlatformServicesImp.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
+#include <QTabWidget>
 #include <QTest>
 #include <QTranslator>
 
@@ -82,6 +84,35 @@ TEST_P(TextsOfAPage, AreNotCutOff)
             continue;
         EXPECT_GE(button->width(), button->minimumSizeHint().width())
             << button->text().toStdString();
+    }
+}
+
+// What stands in a label and nowhere else must be read out as it stands.
+void expectReadOut(QLabel& label)
+{
+    const QString text = label.text();
+    if (!label.isVisible() || text.isEmpty())
+        return;
+    const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&label);
+    const QString name = accessible->text(QAccessible::Name);
+    EXPECT_TRUE(name.contains(QString(text).remove(QLatin1Char('&'))))
+        << text.toStdString() << " is read as " << name.toStdString();
+}
+
+TEST_P(TextsOfAPage, AreReadOut)
+{
+    MainWindow window;
+    window.showPage(pageCatalogue()[static_cast<std::size_t>(GetParam().page)].name);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.currentPage() != nullptr; }));
+    window.currentPage()->report(Page::Report::Warning, QStringLiteral("It was refused."));
+    auto* tabs = window.currentPage()->findChild<QTabWidget*>();
+    for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+        if (tabs)
+            tabs->setCurrentIndex(tab);
+        QTest::qWait(20);
+        for (QLabel* label : window.findChildren<QLabel*>())
+            expectReadOut(*label);
     }
 }
 
