@@ -31,6 +31,11 @@ Panel* CryptoPage::addPanel(const QString& caption)
     return panel;
 }
 
+void CryptoPage::find()
+{
+    m_tabs->currentWidget()->setFocus(Qt::ShortcutFocusReason);
+}
+
 void CryptoPage::followTab()
 {
     setFocusProxy(m_tabs->currentWidget());

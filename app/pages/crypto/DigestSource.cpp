@@ -32,8 +32,10 @@ DigestSource::DigestSource(QWidget* parent)
     layout->addWidget(m_stack, 1);
     m_stack->addWidget(makeText());
     m_stack->addWidget(makeFile());
-    connect(m_fromFile, &QRadioButton::toggled, this,
-            [this](bool file) { m_stack->setCurrentIndex(file ? 1 : 0); });
+    connect(m_fromFile, &QRadioButton::toggled, this, [this](bool file) {
+        m_stack->setCurrentIndex(file ? 1 : 0);
+        setFocusProxy(file ? static_cast<QWidget*>(m_path) : m_text);
+    });
     m_fromText->setChecked(true);
     setAcceptDrops(true);
     setFocusProxy(m_text);

@@ -45,6 +45,8 @@ KeyInput::KeyInput(QWidget* parent)
     layout->addWidget(keysPlace);
     connect(m_useKeys, &QRadioButton::toggled, passPhrasePlace, &QWidget::setHidden);
     connect(m_useKeys, &QRadioButton::toggled, keysPlace, &QWidget::setVisible);
+    connect(m_useKeys, &QRadioButton::toggled, this,
+            [this](bool keys) { setFocusProxy(keys ? m_key : m_passPhrase); });
     keysPlace->hide();
     m_usePassPhrase->setChecked(true);
     setFocusProxy(m_passPhrase);

@@ -58,6 +58,12 @@ AnswerField* PointPanel::addAnswer(const QString& flag, const QString& tip, QFor
     return answer;
 }
 
+void PointPanel::focusFirst()
+{
+    m_x->setFocus(Qt::ShortcutFocusReason);
+    m_x->selectAll();
+}
+
 QPoint PointPanel::point() const
 {
     return {m_x->value(), m_y->value()};

@@ -18,6 +18,8 @@ class PointPanel : public QWidget
 public:
     explicit PointPanel(QWidget* parent = nullptr);
 
+    /// Puts the keyboard into the first coordinate.
+    void focusFirst();
     void setPoint(const QPoint& point);
     QPoint point() const;
     /// Asks anew.

@@ -52,6 +52,24 @@ TEST_F(CryptoPageTest, OpensWithThePassPhraseInFocus)
     EXPECT_EQ(QApplication::focusWidget(), control<QLineEdit>("Pass phrase:"));
 }
 
+TEST_F(CryptoPageTest, FindPutsTheKeyboardIntoTheFirstField)
+{
+    const auto found = [this] {
+        page()->findChild<QTabWidget*>()->setFocus();
+        QTest::keyClick(&m_window, Qt::Key_F, Qt::ControlModifier);
+        return QApplication::focusWidget();
+    };
+    EXPECT_EQ(found(), control<QLineEdit>("Pass phrase:"));
+    enterKeys("key", "iv");
+    EXPECT_EQ(found(), control<QLineEdit>("Key:"));
+    chooseTab(1);
+    EXPECT_EQ(found(), control<QPlainTextEdit>("Text"));
+    button<QRadioButton>("Of &a file")->setChecked(true);
+    EXPECT_EQ(found(), control<QLineEdit>("Path of the file"));
+    chooseTab(2);
+    EXPECT_EQ(found(), control<QPlainTextEdit>("Text or Base64"));
+}
+
 TEST_F(CryptoPageTest, EncryptsUnderAPassPhraseAsTheExportedEntryExpects)
 {
     enterPassPhrase(passPhrase);

@@ -93,6 +93,12 @@ TEST_F(DisplaysPageTest, TypedCoordinatesMoveThePointOfTheMap)
     EXPECT_EQ(answer("DEFAULTTONULL"), "null");
 }
 
+TEST_F(DisplaysPageTest, FindPutsTheKeyboardIntoThePoint)
+{
+    QTest::keyClick(&m_window, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), control<QSpinBox>("Point X:"));
+}
+
 TEST_F(DisplaysPageTest, FollowsThePointer)
 {
     QCursor::setPos(123, 45);

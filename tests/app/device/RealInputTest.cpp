@@ -4,7 +4,6 @@
 #include "app/pages/input/KeyLamp.h"
 #include "tests/support/Display.h"
 
-
 namespace {
 
 class RealInputTest : public PageTest
