@@ -41,6 +41,12 @@ KeyPanel::KeyPanel(QWidget* parent) : QGroupBox(tr("Key states"), parent)
     refresh();
 }
 
+KeyPanel::~KeyPanel()
+{
+    for (QCheckBox* report : m_reports)
+        report->setChecked(false);
+}
+
 void KeyPanel::addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayout* layout)
 {
     auto* grid = new QGridLayout;
@@ -76,6 +82,7 @@ void KeyPanel::addReport(QLayout* row, const QString& caption, int qtKey)
         refresh();
     });
     row->addWidget(box);
+    m_reports.push_back(box);
 }
 
 QWidget* KeyPanel::makeQuery()

@@ -74,6 +74,18 @@ TEST_F(InputPageTest, ReportsReturnAndSpaceToTheService)
     }
 }
 
+TEST_F(InputPageTest, ReleasesTheKeysThatItReportedWhenItGoes)
+{
+    IPlatformUserInputManager* service = g_PlatformServices.userInputManager();
+    button<QCheckBox>("Re&turn down")->setChecked(true);
+    button<QCheckBox>("&Space down")->setChecked(true);
+    delete page();
+    EXPECT_EQ(service->getKeyState(VK_RETURN), 0);
+    EXPECT_EQ(service->getKeyState(VK_SPACE), 0);
+    service->setKeyPressed(Qt::Key_Return, false);
+    service->setKeyPressed(Qt::Key_Space, false);
+}
+
 TEST_F(InputPageTest, SaysWhichCodesAlwaysReadAsUp)
 {
     const std::pair<int, const char*> rows[] = {
