@@ -5,6 +5,7 @@
 #include "platform/PlatformServicesImp.h"
 
 #include <QLabel>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -240,6 +241,33 @@ TEST_F(HandlePanelTest, ANoKeepsTheHandle)
     press("Dele&te...");
     EXPECT_FALSE(no.text().isEmpty());
     EXPECT_EQ(rows().size(), 1);
+}
+
+// As some desktops have it.
+class StyleWithDialogIcons : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+TEST_F(HandlePanelTest, AsksWithButtonsAsPlainAsThoseOfTheWindow)
+{
+    made(service()->createImage(0, 1, 1));
+    refresh();
+    control<QTableView>("Graphics handles")->selectRow(0);
+    const QString former = QApplication::style()->objectName();
+    QApplication::setStyle(new StyleWithDialogIcons);
+    const MessageBoxAnswer no(QMessageBox::No);
+    press("Dele&te...");
+    QApplication::setStyle(former);
+    EXPECT_FALSE(no.text().isEmpty());
+    EXPECT_FALSE(no.hasIcons());
 }
 
 TEST_F(HandlePanelTest, RefusesAColourThatIsNoHexadecimalNumber)
