@@ -6,6 +6,7 @@
 #include "widgets/ButtonMonitor.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -50,6 +51,7 @@ Page::Page(QWidget* parent)
     line->addWidget(m_statusIcon);
     line->addWidget(m_status, 1);
     content->addLayout(line);
+    m_statusIcon->setObjectName(QStringLiteral("statusIcon"));
     m_statusIcon->hide();
     m_status->setTextFormat(Qt::PlainText);
     m_status->setWordWrap(true);
@@ -134,13 +136,26 @@ void Page::setStatus(const QString& text)
 
 void Page::showStatus(Report kind, const QString& text)
 {
-    m_statusIcon->setPixmap(statusPixmap(*this, kind));
+    m_kind = kind;
+    paintStatusIcon();
     m_statusIcon->setVisible(kind != Report::Info);
     m_status->setText(text);
     if (text.isEmpty())
         return;
     QAccessibleEvent alert(m_status, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void Page::paintStatusIcon()
+{
+    m_statusIcon->setPixmap(statusPixmap(*this, m_kind));
+}
+
+void Page::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        paintStatusIcon();
 }
 
 QPushButton* glowing(QPushButton* button)

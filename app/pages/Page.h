@@ -91,14 +91,18 @@ protected:
     /// Where the page's widgets go; below it stands the line of `report`.
     QVBoxLayout* body() const { return m_body; }
 
+    void changeEvent(QEvent* event) override;
+
 private:
     void showStatus(Report kind, const QString& text);
+    void paintStatusIcon();
     void endJob(bool complete);
     void showProgress();
 
     QWidget* m_content;
     QVBoxLayout* m_body;
     QLabel* m_statusIcon;
+    Report m_kind = Report::Info; ///< of the last report
     QLabel* m_status;
     BusyOverlay* m_overlay;
     SlicedJob m_job;

@@ -300,6 +300,26 @@ TEST_F(PageTest, AStatusIsShownAndNotLogged)
     EXPECT_FALSE(logged());
 }
 
+TEST_F(PageTest, TheIconOfAReportFollowsThePalette)
+{
+    m_page.report(Page::Report::Error, "It was refused.");
+    const auto icon = [this] {
+        const auto* label = m_page.findChild<QLabel*>("statusIcon");
+        return label->pixmap(Qt::ReturnByValue).toImage();
+    };
+    const QImage light = icon();
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Highlight, Qt::yellow);
+    QApplication::setPalette(dark);
+    QTest::qWait(10);
+    EXPECT_NE(icon(), light);
+    QApplication::setPalette(before);
+    QTest::qWait(10);
+    EXPECT_EQ(icon(), light);
+}
+
 TEST(EmptyHint, StandsInAViewForAsLongAsItIsEmpty)
 {
     QStringListModel model;
