@@ -69,7 +69,7 @@ void FindWindowPanel::find()
     if (found)
         emit reported(Page::Report::Info, tr("A window was found."));
     else
-        emit reported(Page::Report::Warning,
+        emit reported(Page::Report::Info,
                       tr("No window was found. Names must match exactly, upper and lower case "
                          "included."));
 }

@@ -161,6 +161,7 @@ TEST_F(InputPageTest, SaysThatNoWindowWasFound)
         EXPECT_EQ(found(className, windowName), "null: no window was found");
         EXPECT_EQ(status(), "No window was found. Names must match exactly, upper and lower case "
                             "included.");
+        EXPECT_FALSE(page()->findChild<QLabel*>("statusIcon")->isVisible()) << "no fault";
     }
 }
 
