@@ -169,9 +169,11 @@ void FilesPage::finish(bool complete)
     } else if (!complete) {
         report(Report::Warning, tr("Stopped: %1 found so far.").arg(number));
     } else {
-        report(Report::Info, tr("%1 found. Size and times are reported for the first one only, and "
-                                "only if it is a file.")
-                                 .arg(number));
+        report(Report::Info,
+               tr("%1 found. Size and times are reported for the first one only, and "
+                  "only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName "
+                  "never are.")
+                   .arg(number));
     }
 }
 
