@@ -126,15 +126,22 @@ TEST_F(CryptoPageTest, EncryptsWhatWasTypedIntoADecryptedText)
     EXPECT_EQ(cipher()->toPlainText().toStdString(), encrypted(passPhrase, "x\u00a0a\nb"));
 }
 
+// The library ends a clear text at its first zero byte.
 TEST_F(CryptoPageTest, ShowsDecryptedBytesThatAreNoTextInHexadecimal)
 {
+    const std::pair<std::string, const char*> rows[] = {{std::string("\xff\0A", 3), "ff"},
+                                                        {"\xff\xfe"
+                                                         "A",
+                                                         "ff fe 41"}};
     enterKeys("0123456789abcdef", "fedcba9876543210");
-    cipher()->setPlainText(QString::fromStdString(
-        Encrypt::EncryptionAES("0123456789abcdef", "fedcba9876543210", std::string("\xff\0A", 3))));
-    pressDecrypt();
-    EXPECT_EQ(clear()->toPlainText(), "ff 00 41");
-    EXPECT_NE(status().find("They are no text; shown in hexadecimal."), std::string::npos)
-        << status();
+    for (const auto& [bytes, shown] : rows) {
+        cipher()->setPlainText(QString::fromStdString(
+            Encrypt::EncryptionAES("0123456789abcdef", "fedcba9876543210", bytes)));
+        pressDecrypt();
+        EXPECT_EQ(clear()->toPlainText(), shown);
+        EXPECT_NE(status().find("They are no text; shown in hexadecimal."), std::string::npos)
+            << status();
+    }
 }
 
 TEST_F(CryptoPageTest, TakesKeyAndIvInHexadecimal)
