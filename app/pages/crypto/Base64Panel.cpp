@@ -39,7 +39,7 @@ QWidget* Base64Panel::makeButtons()
     layout->setContentsMargins(0, 0, 0, 0);
     addButton(tr("E&ncode"), tr("Base64Encoder::Encode: URL-safe, with padding"),
               &Base64Panel::encode);
-    addButton(tr("Decode"),
+    addButton(tr("D&ecode"),
               tr("Base64Encoder::Decode: URL-safe only, up to the first other "
                  "character"),
               &Base64Panel::decode);

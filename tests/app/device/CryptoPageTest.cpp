@@ -37,7 +37,7 @@ protected:
 
     void enterKeys(const QString& key, const QString& iv, bool hexadecimal = false)
     {
-        button<QRadioButton>("With &key and IV")->setChecked(true);
+        button<QRadioButton>("With key &and IV")->setChecked(true);
         button<QCheckBox>("&Written in hexadecimal")->setChecked(hexadecimal);
         control<QLineEdit>("Key:")->setText(key);
         control<QLineEdit>("IV:")->setText(iv);
@@ -357,22 +357,30 @@ protected:
 TEST_F(Base64PanelTest, ConvertsBothWays)
 {
     EXPECT_EQ(converted(QStringLiteral("\u00fb\u00ff"), "E&ncode"), "w7vDvw==");
-    EXPECT_EQ(converted("w7vDvw==", "Decode"), QStringLiteral("\u00fb\u00ff"));
+    EXPECT_EQ(converted("w7vDvw==", "D&ecode"), QStringLiteral("\u00fb\u00ff"));
     EXPECT_EQ(status(), "Bytes decoded: 4.");
     EXPECT_EQ(converted("a+b/c==", "Make &URL-safe"), "a-b_c");
 }
 
+TEST_F(Base64PanelTest, AMnemonicDecodes)
+{
+    control<QPlainTextEdit>("Text or Base64")->setPlainText("QUJD");
+    QTest::keyClick(&m_window, Qt::Key_E, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return control<QPlainTextEdit>("Result")->toPlainText() == "ABC"; }));
+}
+
 TEST_F(Base64PanelTest, SaysWhereDecodingStops)
 {
-    EXPECT_EQ(converted("QUJD QUJD", "Decode"), "ABC");
+    EXPECT_EQ(converted("QUJD QUJD", "D&ecode"), "ABC");
     EXPECT_EQ(status(),
               "Bytes decoded: 3. The library stops at character 5 and ignores what follows.");
 }
 
 TEST_F(Base64PanelTest, ShowsWhatIsNoTextInHexadecimal)
 {
-    EXPECT_EQ(converted("-_8=", "Decode"), "fb ff");
-    EXPECT_EQ(converted("AEE=", "Decode"), "00 41");
+    EXPECT_EQ(converted("-_8=", "D&ecode"), "fb ff");
+    EXPECT_EQ(converted("AEE=", "D&ecode"), "00 41");
     EXPECT_EQ(status(), "Bytes decoded: 2. They are no text; shown in hexadecimal.");
 }
 
@@ -381,7 +389,7 @@ TEST_F(Base64PanelTest, RefusesWhatCannotBeConverted)
     converted("abc", "E&ncode");
     EXPECT_EQ(converted("", "E&ncode"), "YWJj");
     EXPECT_EQ(status(), "Enter a text first.");
-    EXPECT_EQ(converted("+/8=", "Decode"), "YWJj");
+    EXPECT_EQ(converted("+/8=", "D&ecode"), "YWJj");
     EXPECT_EQ(status(), "This is no URL-safe Base64: the library decodes nothing of it.");
 }
 

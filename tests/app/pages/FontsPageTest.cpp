@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QSet>
 #include <QTableView>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -118,6 +119,12 @@ TEST_F(FontsPageTest, FiltersByCharacterSet)
     auto& charSets = m_probe.control<QComboBox>("charSet");
     charSets.setCurrentIndex(charSets.findText(QStringLiteral("THAI_CHARSET (222)")));
     EXPECT_EQ(rows(), Rows({"A|Regular|THAI_CHARSET (222)|泰文"}));
+}
+
+TEST_F(FontsPageTest, AMnemonicLeadsToTheCharacterSet)
+{
+    QTest::keyClick(&m_probe.page(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(m_probe.control<QComboBox>("charSet").hasFocus());
 }
 
 TEST_F(FontsPageTest, ShowsNothingForAnUnknownFamilyAndSaysWhy)
