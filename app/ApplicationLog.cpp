@@ -42,6 +42,12 @@ QString ApplicationLog::path()
            QStringLiteral("/quayside.log");
 }
 
+bool ApplicationLog::isWritable()
+{
+    instance(); // makes the file
+    return QFileInfo(path()).isWritable();
+}
+
 ApplicationLog::ApplicationLog() : m_logger(Logger::file, Logger::debug, preparedPath()) {}
 
 void ApplicationLog::write(Logger::log_level level, const QString& text)

@@ -19,6 +19,9 @@ public:
     /// $XDG_STATE_HOME (by default ~/.local/state), the application's name, quayside.log.
     static QString path();
 
+    /// False when the lines get lost, since there is no such file or nothing may be added to it.
+    static bool isWritable();
+
     void write(Logger::log_level level, const QString& text);
 
 signals:

@@ -95,7 +95,7 @@ void PageStack::enter()
     Page* page = made(current());
     page->entered();
     if (m_focusFollows)
-        page->setFocus();
+        page->takeFocus();
     emit entered(current());
 }
 

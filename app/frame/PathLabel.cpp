@@ -1,11 +1,15 @@
 #include "app/frame/PathLabel.h"
 
+#include "app/pages/PlainToolTip.h"
+
 #include <QAction>
 #include <QClipboard>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 
 namespace {
 
@@ -22,13 +26,21 @@ QString shown(const QString& path, PathLabel::Form form)
 PathLabel::PathLabel(const QString& path, Form form, QWidget* parent)
     : QFrame(parent), m_path(path), m_text(shown(path, form))
 {
-    setToolTip(path);
-    setAccessibleDescription(path);
+    setToolTip(plainToolTip(path));
+    setAccessibleName(path);
+    setFocusPolicy(Qt::StrongFocus);
     auto* action = new QAction(tr("Copy path"), this);
+    action->setShortcut(QKeySequence::Copy);
+    action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, &PathLabel::copy);
     addAction(action);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+}
+
+void PathLabel::setCaption(const QString& caption)
+{
+    setAccessibleName(caption + QLatin1Char(' ') + m_path);
 }
 
 void PathLabel::copy() const
@@ -51,4 +63,9 @@ void PathLabel::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      fontMetrics().elidedText(m_text, Qt::ElideMiddle, width()));
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }

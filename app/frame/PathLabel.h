@@ -2,8 +2,8 @@
 
 #include <QFrame>
 
-/// Shows a path in one line, with its middle left out where the line is too short. The tool tip and
-/// the context menu's copy have all of it.
+/// Shows a path in one line, with its middle left out where the line is too short. The tool tip,
+/// Ctrl+C and the context menu's copy have all of it.
 class PathLabel : public QFrame
 {
     Q_OBJECT
@@ -19,6 +19,8 @@ public:
 
     /// What the line holds.
     QString text() const { return m_text; }
+    /// What an assistive tool reads out before the path.
+    void setCaption(const QString& caption);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -23,19 +23,33 @@ StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent)
     // In line with the rail's buttons.
     setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
     const QString library = HostInformation::libraryPath();
-    add(tr("Host library:"),
-        library.isEmpty() ? static_cast<QWidget*>(plain(tr("unknown")))
-                          : new PathLabel(library, PathLabel::FileName),
-        0);
+    if (library.isEmpty())
+        addText(tr("Host library:"), tr("unknown"), 0);
+    else
+        addPath(tr("Host library:"), new PathLabel(library, PathLabel::FileName), 0);
     const QString store = HostInformation::storePath();
-    add(tr("Settings store:"),
-        store.isEmpty() ? static_cast<QWidget*>(plain(tr("none"))) : new PathLabel(store), 1);
-    add(tr("Language:"), plain(HostInformation::language()), 0);
+    if (store.isEmpty())
+        addText(tr("Settings store:"), tr("none"), 1);
+    else
+        addPath(tr("Settings store:"), new PathLabel(store), 1);
+    addText(tr("Language:"), HostInformation::language(), 0);
+}
+
+void StatusLine::addText(const QString& caption, const QString& text, int stretch)
+{
+    QLabel* label = plain(text);
+    label->setAccessibleName(caption + QLatin1Char(' ') + text);
+    add(caption, label, stretch);
+}
+
+void StatusLine::addPath(const QString& caption, PathLabel* path, int stretch)
+{
+    path->setCaption(caption);
+    add(caption, path, stretch);
 }
 
 void StatusLine::add(const QString& caption, QWidget* value, int stretch)
 {
-    value->setAccessibleName(caption);
     auto* pair = new QWidget(this);
     auto* layout = new QHBoxLayout(pair);
     layout->setContentsMargins(0, 0, fontMetrics().averageCharWidth(), 0);

@@ -2,6 +2,8 @@
 
 #include <QStatusBar>
 
+class PathLabel;
+
 /// The window's bottom line: the host library in use, the settings store's file and the language.
 class StatusLine : public QStatusBar
 {
@@ -11,5 +13,7 @@ public:
     explicit StatusLine(QWidget* parent = nullptr);
 
 private:
+    void addText(const QString& caption, const QString& text, int stretch);
+    void addPath(const QString& caption, PathLabel* path, int stretch);
     void add(const QString& caption, QWidget* value, int stretch);
 };

@@ -1,5 +1,7 @@
 #include "app/pages/AnswerField.h"
 
+#include "app/pages/PlainToolTip.h"
+
 #include <QEvent>
 #include <QGuiApplication>
 
@@ -14,9 +16,11 @@ AnswerField::AnswerField(const QString& name, const QString& objectName, QWidget
 
 void AnswerField::setAnswer(const QString& text)
 {
+    if (text == this->text())
+        return; // what was selected stays so where an answer is asked for again and again
     setText(text);
     setCursorPosition(0);
-    setToolTip(text);
+    setToolTip(plainToolTip(text));
 }
 
 void AnswerField::changeEvent(QEvent* event)

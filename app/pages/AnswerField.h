@@ -11,7 +11,7 @@ public:
     /// `name` is the accessible name, and the object name is for finding the field.
     AnswerField(const QString& name, const QString& objectName, QWidget* parent = nullptr);
 
-    /// Shows `text` from its beginning, and as the tool tip.
+    /// Shows `text` from its beginning, and as the tool tip. The same text changes nothing.
     void setAnswer(const QString& text);
 
 protected:

@@ -5,6 +5,8 @@
 #include "app/pages/BusyOverlay.h"
 #include "widgets/ButtonMonitor.h"
 
+#include <QAccessible>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -49,11 +51,11 @@ Page::Page(QWidget* parent)
     line->addWidget(m_statusIcon);
     line->addWidget(m_status, 1);
     content->addLayout(line);
+    m_statusIcon->setObjectName(QStringLiteral("statusIcon"));
     m_statusIcon->hide();
     m_status->setTextFormat(Qt::PlainText);
     m_status->setWordWrap(true);
     m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_status->setAccessibleName(tr("Status"));
     connect(m_overlay, &BusyOverlay::cancelRequested, this, &Page::cancelJob);
     connect(&m_job, &SlicedJob::progressed, this, &Page::showProgress);
     connect(&m_job, &SlicedJob::finished, this, [this] { endJob(true); });
@@ -64,6 +66,14 @@ void Page::refresh() {}
 void Page::find() {}
 
 void Page::entered() {}
+
+void Page::takeFocus()
+{
+    if (isBusy())
+        m_overlay->setFocus();
+    else
+        setFocus();
+}
 
 QString Page::statusText() const
 {
@@ -126,9 +136,26 @@ void Page::setStatus(const QString& text)
 
 void Page::showStatus(Report kind, const QString& text)
 {
-    m_statusIcon->setPixmap(statusPixmap(*this, kind));
+    m_kind = kind;
+    paintStatusIcon();
     m_statusIcon->setVisible(kind != Report::Info);
     m_status->setText(text);
+    if (text.isEmpty())
+        return;
+    QAccessibleEvent alert(m_status, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void Page::paintStatusIcon()
+{
+    m_statusIcon->setPixmap(statusPixmap(*this, m_kind));
+}
+
+void Page::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        paintStatusIcon();
 }
 
 QPushButton* glowing(QPushButton* button)

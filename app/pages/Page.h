@@ -57,6 +57,9 @@ public:
     /// True while a job runs; the page's controls are then disabled.
     bool isBusy() const { return m_job.isRunning(); }
 
+    /// Takes the keyboard: the control that gets it first, or Cancel while a job runs.
+    void takeFocus();
+
     /// The text of the last report.
     QString statusText() const;
 
@@ -88,14 +91,18 @@ protected:
     /// Where the page's widgets go; below it stands the line of `report`.
     QVBoxLayout* body() const { return m_body; }
 
+    void changeEvent(QEvent* event) override;
+
 private:
     void showStatus(Report kind, const QString& text);
+    void paintStatusIcon();
     void endJob(bool complete);
     void showProgress();
 
     QWidget* m_content;
     QVBoxLayout* m_body;
     QLabel* m_statusIcon;
+    Report m_kind = Report::Info; ///< of the last report
     QLabel* m_status;
     BusyOverlay* m_overlay;
     SlicedJob m_job;

@@ -6,7 +6,7 @@
 #include <functional>
 
 /// A long job done in slices on the event loop. The services are not thread-safe, so work stays on
-/// the GUI thread; between two slices of at most 20 ms the window paints and answers.
+/// the GUI thread; between two slices of at most 30 ms the window paints and answers.
 class SlicedJob : public QObject
 {
     Q_OBJECT

@@ -28,10 +28,6 @@
         <translation>Base64Encoder::Encode：URL 安全，带填充</translation>
     </message>
     <message>
-        <source>Decode</source>
-        <translation>解码</translation>
-    </message>
-    <message>
         <source>Base64Encoder::Decode: URL-safe only, up to the first other character</source>
         <translation>Base64Encoder::Decode：仅限 URL 安全字母表，遇到其他字符即停止</translation>
     </message>
@@ -74,6 +70,10 @@
     <message>
         <source>Made URL-safe, without padding.</source>
         <translation>已转为 URL 安全形式，不带填充。</translation>
+    </message>
+    <message>
+        <source>D&amp;ecode</source>
+        <translation>解码(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -177,6 +177,10 @@
         <source>Bytes decrypted: %L1.</source>
         <translation>已解密 %L1 字节。</translation>
     </message>
+    <message>
+        <source>They are no text; shown in hexadecimal.</source>
+        <translation>内容不是文本，以十六进制显示。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -196,10 +200,6 @@
         <translation>功能</translation>
     </message>
     <message>
-        <source>&amp;Encryption</source>
-        <translation>加密与解密(&amp;E)</translation>
-    </message>
-    <message>
         <source>Di&amp;gests</source>
         <translation>摘要(&amp;G)</translation>
     </message>
@@ -210,6 +210,10 @@
     <message>
         <source>Digesting</source>
         <translation>正在计算摘要</translation>
+    </message>
+    <message>
+        <source>Encr&amp;yption</source>
+        <translation>加密与解密(&amp;Y)</translation>
     </message>
 </context>
 <context>
@@ -378,10 +382,6 @@
         <translation>选择文本或文件，然后点击“计算摘要”。</translation>
     </message>
     <message>
-        <source>Notes</source>
-        <translation>说明</translation>
-    </message>
-    <message>
         <source>Cancelled. The results shown are older.</source>
         <translation>已取消。所显示的仍是先前的结果。</translation>
     </message>
@@ -547,8 +547,8 @@
         <translation>已停止：目前找到 %1 项。</translation>
     </message>
     <message>
-        <source>%1 found. Size and times are reported for the first one only, and only if it is a file.</source>
-        <translation>找到 %1 项。只有第一项带有大小和时间，而且仅当它是文件时才有。</translation>
+        <source>%1 found. Size and times are reported for the first one only, and only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName never are.</source>
+        <translation>找到 %1 项。只有第一项带有大小和时间，而且仅当它是文件时才有；dwReserved0、dwReserved1 和 cAlternateFileName 从不写入。</translation>
     </message>
 </context>
 <context>
@@ -607,10 +607,6 @@
     <message>
         <source>With a class name, the window name is not looked at. Without both, the first window is found.</source>
         <translation>给出类名时不再看窗口名；两者都为空时返回第一个窗口。</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>结果</translation>
     </message>
     <message>
         <source>null</source>
@@ -707,10 +703,6 @@
         <translation>全局名称：</translation>
     </message>
     <message>
-        <source>No font is registered. Host libraries register theirs when they start; the button above registers those of this system.</source>
-        <translation>尚未注册任何字体。主机库会在启动时注册自己的字体；使用上方的按钮可以注册本系统的字体。</translation>
-    </message>
-    <message>
         <source>The service reports no record of this family and character set. Names are compared exactly, upper and lower case included.</source>
         <translation>服务没有报告此字体族和字符集的记录。名称须完全一致，包括大小写。</translation>
     </message>
@@ -749,6 +741,14 @@
     <message>
         <source>A registered face name</source>
         <translation>已注册的字体名称</translation>
+    </message>
+    <message>
+        <source>Character &amp;set:</source>
+        <translation>字符集(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>No font is registered. Host libraries register theirs when they start; the button below registers those of this system.</source>
+        <translation>尚未注册任何字体。主机库会在启动时注册自己的字体；使用下方的按钮可以注册本系统的字体。</translation>
     </message>
 </context>
 <context>
@@ -1039,20 +1039,12 @@
         <translation>使用密码短语，与 DecryptionAES_Export 相同(&amp;U)</translation>
     </message>
     <message>
-        <source>With &amp;key and IV</source>
-        <translation>使用密钥和初始向量(&amp;K)</translation>
-    </message>
-    <message>
         <source>Pass phra&amp;se:</source>
         <translation>密码短语(&amp;S)：</translation>
     </message>
     <message>
         <source>&amp;Written in hexadecimal</source>
         <translation>以十六进制书写(&amp;W)</translation>
-    </message>
-    <message>
-        <source>Ke&amp;y:</source>
-        <translation>密钥(&amp;Y)：</translation>
     </message>
     <message>
         <source>I&amp;V:</source>
@@ -1081,6 +1073,14 @@
     <message>
         <source>Enter the pass phrase first.</source>
         <translation>请先输入密码短语。</translation>
+    </message>
+    <message>
+        <source>With key &amp;and IV</source>
+        <translation>使用密钥和初始向量(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation>密钥(&amp;K)：</translation>
     </message>
 </context>
 <context>
@@ -1366,12 +1366,16 @@
         <translation>文件：</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>文件</translation>
-    </message>
-    <message>
         <source>Lines shown: %1 of %2</source>
         <translation>显示 %1 行，共 %2 行</translation>
+    </message>
+    <message>
+        <source>The log cannot be written to %1.</source>
+        <translation>无法将日志写入 %1。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: this is the log itself.</source>
+        <translation>未写入 %1：它就是日志本身。</translation>
     </message>
 </context>
 <context>
@@ -1501,13 +1505,6 @@
     <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
-    </message>
-</context>
-<context>
-    <name>Page</name>
-    <message>
-        <source>Status</source>
-        <translation>状态</translation>
     </message>
 </context>
 <context>
@@ -2438,10 +2435,6 @@ Wide: %2</source>
     <message>
         <source>Data</source>
         <translation>数据</translation>
-    </message>
-    <message>
-        <source>Note</source>
-        <translation>提示</translation>
     </message>
     <message>
         <source>&amp;Name:</source>

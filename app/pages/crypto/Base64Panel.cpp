@@ -1,6 +1,7 @@
 #include "app/pages/crypto/Base64Panel.h"
 
 #include "app/pages/MnemonicText.h"
+#include "app/pages/crypto/DecodedText.h"
 #include "app/pages/crypto/DecryptionCheck.h"
 #include "app/pages/crypto/TextPane.h"
 #include "crypto/Base64Encoder.h"
@@ -38,7 +39,7 @@ QWidget* Base64Panel::makeButtons()
     layout->setContentsMargins(0, 0, 0, 0);
     addButton(tr("E&ncode"), tr("Base64Encoder::Encode: URL-safe, with padding"),
               &Base64Panel::encode);
-    addButton(tr("Decode"),
+    addButton(tr("D&ecode"),
               tr("Base64Encoder::Decode: URL-safe only, up to the first other "
                  "character"),
               &Base64Panel::decode);
@@ -106,13 +107,12 @@ void Base64Panel::decode()
 
 void Base64Panel::showDecoded(const std::string& bytes, const QString& note)
 {
-    const QString text = QString::fromStdString(bytes);
-    const bool isText = text.toStdString() == bytes && !text.contains(QChar::Null);
-    m_output->setText(isText ? text
-                             : QString::fromLatin1(QByteArray::fromStdString(bytes).toHex(' ')));
+    const DecodedText decoded = decodedText(bytes);
+    m_output->setText(decoded.text);
     const QString count = tr("Bytes decoded: %L1.").arg(bytes.size());
     const QString done =
-        isText ? count : count + QLatin1Char(' ') + tr("They are no text; shown in hexadecimal.");
+        decoded.isText ? count
+                       : count + QLatin1Char(' ') + tr("They are no text; shown in hexadecimal.");
     emit reported(note.isEmpty() ? Page::Report::Info : Page::Report::Warning,
                   note.isEmpty() ? done : done + QLatin1Char(' ') + note);
 }

@@ -1,5 +1,6 @@
 #include "app/pages/crypto/CipherPanel.h"
 
+#include "app/pages/crypto/DecodedText.h"
 #include "app/pages/crypto/KeyInput.h"
 #include "app/pages/crypto/TextPane.h"
 #include "crypto/Base64Encoder.h"
@@ -123,7 +124,10 @@ void CipherPanel::showPlain(const CipherKeys& keys, const std::string& cipherTex
         return refuse(tr("This is no URL-safe Base64: the library decodes nothing of it."));
     QString note;
     const std::string plain = decrypted(keys, cipherText, &note);
-    m_plain->setText(QString::fromStdString(plain));
+    const DecodedText decoded = decodedText(plain);
+    m_plain->setText(decoded.text);
+    if (!decoded.isText)
+        note = joined(note, tr("They are no text; shown in hexadecimal."));
     if (hasIgnoredBase64(cipherText))
         note = joined(note, tr("Only the first %L1 characters are Base64; the library ignores what "
                                "follows.")

@@ -12,7 +12,7 @@
 CryptoPage::CryptoPage(QWidget* parent) : Page(parent), m_tabs(new QTabWidget)
 {
     m_tabs->setAccessibleName(tr("Kinds of work"));
-    addPanel<CipherPanel>(tr("&Encryption"));
+    addPanel<CipherPanel>(tr("Encr&yption"));
     m_digests = addPanel<DigestPanel>(tr("Di&gests"));
     addPanel<Base64Panel>(tr("&Base64"));
     arrangeTabs(*m_tabs);
@@ -29,6 +29,11 @@ Panel* CryptoPage::addPanel(const QString& caption)
     connect(panel, &Panel::reported, this, &CryptoPage::report);
     m_tabs->addTab(panel, caption);
     return panel;
+}
+
+void CryptoPage::find()
+{
+    m_tabs->currentWidget()->setFocus(Qt::ShortcutFocusReason);
 }
 
 void CryptoPage::followTab()

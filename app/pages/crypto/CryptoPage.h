@@ -16,6 +16,9 @@ class CryptoPage : public Page
 public:
     explicit CryptoPage(QWidget* parent = nullptr);
 
+    /// Puts the keyboard into the first field of the tab in view.
+    void find() override;
+
 private:
     template <typename Panel>
     Panel* addPanel(const QString& caption);

@@ -88,7 +88,7 @@ QWidget* DigestPanel::makeResults()
     m_notes->setTextFormat(Qt::PlainText);
     m_notes->setWordWrap(true);
     m_notes->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_notes->setAccessibleName(tr("Notes"));
+    m_notes->setObjectName(QStringLiteral("notes"));
     grid->addWidget(m_notes, grid->rowCount(), 0, 1, 3);
     return m_results;
 }
@@ -141,7 +141,9 @@ void DigestPanel::show(const Field& field, const QString& text)
 
 void DigestPanel::showDigests(const Digests& digests)
 {
-    m_results->setTitle(tr("Results for %1").arg(m_requested));
+    QString requested = m_requested;
+    requested.replace(QLatin1Char('&'), QLatin1String("&&")); // else it makes a mnemonic
+    m_results->setTitle(tr("Results for %1").arg(requested));
     show(m_sha256, digests.sha256Hex);
     show(m_fingerprint, digests.fingerprint);
     show(m_md5, digests.md5);

@@ -1,6 +1,7 @@
 #include "app/pages/crypto/DigestSource.h"
 
 #include "app/pages/Page.h"
+#include "app/pages/PlainText.h"
 #include "app/pages/crypto/DigestJob.h"
 
 #include <QDragEnterEvent>
@@ -31,8 +32,10 @@ DigestSource::DigestSource(QWidget* parent)
     layout->addWidget(m_stack, 1);
     m_stack->addWidget(makeText());
     m_stack->addWidget(makeFile());
-    connect(m_fromFile, &QRadioButton::toggled, this,
-            [this](bool file) { m_stack->setCurrentIndex(file ? 1 : 0); });
+    connect(m_fromFile, &QRadioButton::toggled, this, [this](bool file) {
+        m_stack->setCurrentIndex(file ? 1 : 0);
+        setFocusProxy(file ? static_cast<QWidget*>(m_path) : m_text);
+    });
     m_fromText->setChecked(true);
     setAcceptDrops(true);
     setFocusProxy(m_text);
@@ -103,7 +106,7 @@ std::unique_ptr<DigestJob> DigestSource::makeJob(const QByteArray& second, QStri
 {
     if (m_fromFile->isChecked())
         return makeFileJob(second, problem);
-    return std::make_unique<DigestJob>(m_text->toPlainText().toUtf8(), second);
+    return std::make_unique<DigestJob>(textOf(*m_text).toUtf8(), second);
 }
 
 // Only regular files: others may block, or never end.

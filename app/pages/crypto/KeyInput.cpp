@@ -29,7 +29,7 @@ bool isHexadecimal(const QString& text)
 KeyInput::KeyInput(QWidget* parent)
     : QWidget(parent),
       m_usePassPhrase(new QRadioButton(tr("&Under a pass phrase, as DecryptionAES_Export does"))),
-      m_useKeys(new QRadioButton(tr("With &key and IV")))
+      m_useKeys(new QRadioButton(tr("With key &and IV")))
 {
     auto* choice = new QHBoxLayout;
     choice->addWidget(m_usePassPhrase);
@@ -45,6 +45,8 @@ KeyInput::KeyInput(QWidget* parent)
     layout->addWidget(keysPlace);
     connect(m_useKeys, &QRadioButton::toggled, passPhrasePlace, &QWidget::setHidden);
     connect(m_useKeys, &QRadioButton::toggled, keysPlace, &QWidget::setVisible);
+    connect(m_useKeys, &QRadioButton::toggled, this,
+            [this](bool keys) { setFocusProxy(keys ? m_key : m_passPhrase); });
     keysPlace->hide();
     m_usePassPhrase->setChecked(true);
     setFocusProxy(m_passPhrase);
@@ -65,7 +67,7 @@ QWidget* KeyInput::makeKeys()
     auto* grid = new QGridLayout(place);
     grid->setContentsMargins(0, 0, 0, 0);
     m_hexadecimal = new QCheckBox(tr("&Written in hexadecimal"));
-    m_key = addKey(tr("Ke&y:"), grid);
+    m_key = addKey(tr("&Key:"), grid);
     m_iv = addKey(tr("I&V:"), grid);
     grid->addWidget(m_hexadecimal, grid->rowCount(), 1, 1, 2);
     return place;

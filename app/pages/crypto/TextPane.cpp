@@ -1,6 +1,7 @@
 #include "app/pages/crypto/TextPane.h"
 
 #include "app/pages/MnemonicText.h"
+#include "app/pages/PlainText.h"
 #include "app/pages/crypto/CopyButton.h"
 
 #include <QFontDatabase>
@@ -37,10 +38,13 @@ TextPane::TextPane(const QString& caption, const QString& hint, Access access, Q
 
 QString TextPane::text() const
 {
-    return m_edit->toPlainText();
+    const QString shown = textOf(*m_edit);
+    return shown == m_setAsShown ? m_set : shown;
 }
 
 void TextPane::setText(const QString& text)
 {
     m_edit->setPlainText(text);
+    m_set = text;
+    m_setAsShown = textOf(*m_edit);
 }

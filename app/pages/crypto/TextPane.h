@@ -21,6 +21,7 @@ public:
     TextPane(const QString& caption, const QString& hint, Access access = Access::Editable,
              QWidget* parent = nullptr);
 
+    /// What was typed or pasted, or what was set for as long as the user leaves it alone.
     QString text() const;
     void setText(const QString& text);
     QPlainTextEdit* edit() const { return m_edit; }
@@ -28,4 +29,6 @@ public:
 private:
     QPlainTextEdit* m_edit;
     CopyButton* m_copy;
+    QString m_set; ///< as given: the field itself keeps no carriage returns
+    QString m_setAsShown;
 };

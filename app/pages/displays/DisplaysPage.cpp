@@ -70,6 +70,11 @@ void DisplaysPage::refresh()
         m_handles->refresh();
 }
 
+void DisplaysPage::find()
+{
+    m_point->focusFirst();
+}
+
 void DisplaysPage::showMonitors()
 {
     m_monitors = monitors();

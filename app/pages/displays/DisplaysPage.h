@@ -24,6 +24,7 @@ public:
     explicit DisplaysPage(QWidget* parent = nullptr);
 
     void refresh() override;
+    void find() override;
 
 protected:
     void showEvent(QShowEvent* event) override;

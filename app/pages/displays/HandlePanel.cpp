@@ -149,6 +149,19 @@ void HandlePanel::showNew(void* handle)
     refresh();
 }
 
+bool HandlePanel::confirmDeletion(const QString& name)
+{
+    QMessageBox box(
+        QMessageBox::Question, tr("Delete handle"),
+        tr("Delete the handle %1? A host library that still uses it will find nothing there.")
+            .arg(name),
+        QMessageBox::Yes | QMessageBox::No, this);
+    for (const auto answer : {QMessageBox::Yes, QMessageBox::No})
+        glowing(qobject_cast<QPushButton*>(box.button(answer)));
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
 void HandlePanel::remove()
 {
     const QModelIndex current = m_view->currentIndex();
@@ -158,12 +171,7 @@ void HandlePanel::remove()
     }
     const int handle = m_model->handleAt(current.row());
     const QString name = QStringLiteral("0x%1").arg(handle, 0, 16);
-    const auto answer = QMessageBox::question(
-        this, tr("Delete handle"),
-        tr("Delete the handle %1? A host library that still uses it will find nothing there.")
-            .arg(name),
-        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-    if (answer != QMessageBox::Yes)
+    if (!confirmDeletion(name))
         return;
     service()->deleteObject(pointer(handle));
     emit reported(Page::Report::Info, tr("Deleted handle %1.").arg(name));

@@ -36,6 +36,7 @@ private:
     void createImage();
     void createBrush();
     void remove();
+    bool confirmDeletion(const QString& name);
     void showNew(void* handle);
 
     HandleModel* m_model;

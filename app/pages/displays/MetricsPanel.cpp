@@ -1,5 +1,6 @@
 #include "app/pages/displays/MetricsPanel.h"
 
+#include "app/pages/AnswerField.h"
 #include "app/pages/TableLook.h"
 #include "platform/PlatformServicesImp.h"
 
@@ -67,9 +68,7 @@ QWidget* MetricsPanel::makeQuery()
     m_index = new QSpinBox;
     m_index->setRange(0, lastIndex);
     m_index->setAccessibleName(tr("Index of a metric"));
-    m_value = new QLabel;
-    m_value->setAccessibleName(tr("Value"));
-    m_value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_value = new AnswerField(tr("Value"), QStringLiteral("value"));
     auto* label = new QLabel(tr("&Any index:"));
     label->setBuddy(m_index);
     auto* layout = new QHBoxLayout(place);
@@ -101,5 +100,5 @@ void MetricsPanel::fillRow(int row)
 
 void MetricsPanel::ask()
 {
-    m_value->setText(tr("GetSystemMetrics answers %1").arg(systemMetric(m_index->value())));
+    m_value->setAnswer(tr("GetSystemMetrics answers %1").arg(systemMetric(m_index->value())));
 }

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-class QLabel;
+class AnswerField;
 class QSpinBox;
 class QTableWidget;
 
@@ -24,5 +24,5 @@ private:
 
     QTableWidget* m_table;
     QSpinBox* m_index = nullptr;
-    QLabel* m_value = nullptr;
+    AnswerField* m_value = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "app/pages/displays/PointPanel.h"
 
+#include "app/pages/AnswerField.h"
 #include "app/pages/MnemonicText.h"
 #include "platform/PlatformServicesImp.h"
 
@@ -14,11 +15,11 @@ constexpr int farthest = 99999;
 
 } // namespace
 
-PointPanel::PointPanel(QWidget* parent) : QWidget(parent), m_pointer(new QLabel)
+PointPanel::PointPanel(QWidget* parent)
+    : QWidget(parent), m_pointer(new AnswerField(tr("Pointer"), QStringLiteral("pointer")))
 {
     auto* form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
-    m_pointer->setAccessibleName(tr("Pointer"));
     form->addRow(tr("Pointer:"), m_pointer);
     m_x = addCoordinate(tr("Point &X:"), form);
     m_y = addCoordinate(tr("Point &Y:"), form);
@@ -47,16 +48,20 @@ QSpinBox* PointPanel::addCoordinate(const QString& caption, QFormLayout* form)
     return spin;
 }
 
-QLabel* PointPanel::addAnswer(const QString& flag, const QString& tip, QFormLayout* form)
+AnswerField* PointPanel::addAnswer(const QString& flag, const QString& tip, QFormLayout* form)
 {
-    auto* answer = new QLabel;
-    answer->setAccessibleName(flag);
-    answer->setToolTip(tip);
-    answer->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* answer = new AnswerField(flag, flag);
+    answer->setAccessibleDescription(tip);
     auto* caption = new QLabel(flag);
     caption->setToolTip(tip);
     form->addRow(caption, answer);
     return answer;
+}
+
+void PointPanel::focusFirst()
+{
+    m_x->setFocus(Qt::ShortcutFocusReason);
+    m_x->selectAll();
 }
 
 QPoint PointPanel::point() const
@@ -83,7 +88,7 @@ void PointPanel::setMonitors(const std::vector<Monitor>& monitors)
 
 void PointPanel::setPointer(const QPoint& pointer)
 {
-    m_pointer->setText(QStringLiteral("%1, %2").arg(pointer.x()).arg(pointer.y()));
+    m_pointer->setAnswer(QStringLiteral("%1, %2").arg(pointer.x()).arg(pointer.y()));
 }
 
 void PointPanel::ask()
@@ -91,7 +96,7 @@ void PointPanel::ask()
     for (unsigned int flags = 0; flags < m_answers.size(); ++flags) {
         const HMONITOR answer = g_PlatformServices.resourceManager()->MonitorFromPoint(
             {point().x(), point().y()}, flags);
-        m_answers[flags]->setText(monitorName(m_monitors, answer));
+        m_answers[flags]->setAnswer(monitorName(m_monitors, answer));
         if (flags == MONITOR_DEFAULTTONEAREST)
             m_nearest = answer;
     }

@@ -6,8 +6,8 @@
 
 #include <array>
 
+class AnswerField;
 class QFormLayout;
-class QLabel;
 class QSpinBox;
 
 /// A point of the virtual desktop and what MonitorFromPoint answers for it, for each of its flags.
@@ -18,6 +18,8 @@ class PointPanel : public QWidget
 public:
     explicit PointPanel(QWidget* parent = nullptr);
 
+    /// Puts the keyboard into the first coordinate.
+    void focusFirst();
     void setPoint(const QPoint& point);
     QPoint point() const;
     /// Asks anew.
@@ -32,13 +34,13 @@ signals:
 
 private:
     QSpinBox* addCoordinate(const QString& caption, QFormLayout* form);
-    QLabel* addAnswer(const QString& flag, const QString& tip, QFormLayout* form);
+    AnswerField* addAnswer(const QString& flag, const QString& tip, QFormLayout* form);
     void ask();
 
     std::vector<Monitor> m_monitors;
     QSpinBox* m_x;
     QSpinBox* m_y;
-    QLabel* m_pointer;
-    std::array<QLabel*, 3> m_answers{};
+    AnswerField* m_pointer;
+    std::array<AnswerField*, 3> m_answers{};
     HMONITOR m_nearest = nullptr;
 };

@@ -4,6 +4,7 @@
 #include "app/pages/TableLook.h"
 #include "app/pages/files/FoundEntriesModel.h"
 #include "app/pages/files/PathPanel.h"
+#include "platform/PlatformServicesImp.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -41,7 +42,7 @@ FilesPage::FilesPage(QWidget* parent)
       m_pattern(new QLineEdit),
       m_model(new FoundEntriesModel(this)),
       m_table(makeTable()),
-      m_paths(new PathPanel)
+      m_paths(new PathPanel(*g_PlatformServices.directoryManager()))
 {
     m_hint = new EmptyHint(m_table, tr("Type a pattern, such as /etc/*.conf, and press Enter: here "
                                        "stands what findFirstFile and findNextFile report."));
@@ -168,9 +169,11 @@ void FilesPage::finish(bool complete)
     } else if (!complete) {
         report(Report::Warning, tr("Stopped: %1 found so far.").arg(number));
     } else {
-        report(Report::Info, tr("%1 found. Size and times are reported for the first one only, and "
-                                "only if it is a file.")
-                                 .arg(number));
+        report(Report::Info,
+               tr("%1 found. Size and times are reported for the first one only, and "
+                  "only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName "
+                  "never are.")
+                   .arg(number));
     }
 }
 

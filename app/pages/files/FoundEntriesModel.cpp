@@ -1,5 +1,6 @@
 #include "app/pages/files/FoundEntriesModel.h"
 
+#include "app/pages/PlainToolTip.h"
 #include "app/pages/files/FileAttributes.h"
 
 #include <QDateTime>
@@ -73,10 +74,12 @@ int FoundEntriesModel::columnCount(const QModelIndex& parent) const
 
 QVariant FoundEntriesModel::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const FoundEntry& entry = m_entries[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole: return text(entry, index.column());
-    case Qt::ToolTipRole: return toolTip(entry, index.column());
+    case Qt::ToolTipRole: return plainToolTip(toolTip(entry, index.column()));
     case Qt::ForegroundRole:
         if (isDetail(index.column()) && !entry.details)
             return QGuiApplication::palette().placeholderText();

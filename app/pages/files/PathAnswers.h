@@ -4,22 +4,30 @@
 
 #include <QString>
 
+class IPlatformDirectoryManager;
+
 /// What the directory service answers about single paths.
-namespace PathAnswers {
-
-struct Existence
+class PathAnswers
 {
-    bool exists;
-    /// As it is on disk; the path itself where there is nothing.
-    QString realPath;
+public:
+    struct Existence
+    {
+        bool exists;
+        /// As it is on disk; the path itself where there is nothing.
+        QString realPath;
+    };
+
+    /// The service outlives the answers.
+    explicit PathAnswers(IPlatformDirectoryManager& service) : m_service(service) {}
+
+    /// May list the whole directory.
+    Existence existence(const QString& path) const;
+    DWORD attributes(const QString& path) const;
+    QString extension(const QString& path) const;
+    bool isUrl(const QString& text) const;
+    QString relativePath(const QString& from, const QString& to) const;
+    QString temporaryFolder() const;
+
+private:
+    IPlatformDirectoryManager& m_service;
 };
-
-Existence existence(const QString& path);
-DWORD attributes(const QString& path);
-QString extension(const QString& path);
-bool isUrl(const QString& text);
-bool isRelative(const QString& path);
-QString relativePath(const QString& from, const QString& to);
-QString temporaryFolder();
-
-} // namespace PathAnswers

@@ -2,15 +2,24 @@
 
 #include "app/pages/AnswerField.h"
 #include "app/pages/files/FileAttributes.h"
-#include "app/pages/files/PathAnswers.h"
 
 #include <QDir>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 
-PathPanel::PathPanel(QWidget* parent) : QGroupBox(tr("One path"), parent)
+namespace {
+
+constexpr int pauseMilliseconds = 300; // longer than between two keys of one word
+
+} // namespace
+
+PathPanel::PathPanel(IPlatformDirectoryManager& service, QWidget* parent)
+    : QGroupBox(tr("One path"), parent), m_answers(service)
 {
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(pauseMilliseconds);
+    connect(&m_pause, &QTimer::timeout, this, &PathPanel::showExistence);
     auto* grid = new QGridLayout(this);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
@@ -26,8 +35,8 @@ PathPanel::PathPanel(QWidget* parent) : QGroupBox(tr("One path"), parent)
     m_extension = addAnswer(grid, 3, 2, tr("Extension:"), "extension");
     m_temporary = addAnswer(grid, 4, 0, tr("Temporary folder:"), "temporary");
     m_url = addAnswer(grid, 4, 2, tr("Is a URL:"), "url");
-    connect(m_path, &QLineEdit::textChanged, this, &PathPanel::ask);
-    connect(m_from, &QLineEdit::textChanged, this, &PathPanel::ask);
+    connect(m_path, &QLineEdit::textChanged, this, &PathPanel::askSoon);
+    connect(m_from, &QLineEdit::textChanged, this, &PathPanel::askSoon);
     ask();
 }
 
@@ -60,20 +69,45 @@ void PathPanel::setPath(const QString& path)
 
 void PathPanel::ask()
 {
-    m_temporary->setAnswer(PathAnswers::temporaryFolder());
+    m_pause.stop();
+    showCheapAnswers();
+    showExistence();
+}
+
+// Looking for a name without regard to case lists its directory, which may be large.
+void PathPanel::askSoon()
+{
+    showCheapAnswers();
+    m_exists->setAnswer({});
+    m_pause.start();
+}
+
+void PathPanel::showCheapAnswers()
+{
+    m_temporary->setAnswer(m_answers.temporaryFolder());
     const QString path = m_path->text();
     if (path.isEmpty()) {
-        for (AnswerField* answer : {m_exists, m_attributes, m_relative, m_extension, m_url})
+        for (AnswerField* answer : {m_attributes, m_relative, m_extension, m_url})
             answer->setAnswer({});
         return;
     }
-    const auto existence = PathAnswers::existence(path);
-    m_exists->setAnswer(existence.exists ? tr("Yes: %1").arg(existence.realPath) : tr("No"));
-    const QString attributes = attributesText(PathAnswers::attributes(path));
-    m_attributes->setAnswer(
-        existence.exists ? attributes : tr("%1 (as for all that is missing)").arg(attributes));
-    m_relative->setAnswer(PathAnswers::relativePath(m_from->text(), path));
-    const QString extension = PathAnswers::extension(path);
+    m_attributes->setAnswer(attributesText(m_answers.attributes(path)));
+    m_relative->setAnswer(m_answers.relativePath(m_from->text(), path));
+    const QString extension = m_answers.extension(path);
     m_extension->setAnswer(extension.isEmpty() ? tr("None") : extension);
-    m_url->setAnswer(PathAnswers::isUrl(path) ? tr("Yes") : tr("No"));
+    m_url->setAnswer(m_answers.isUrl(path) ? tr("Yes") : tr("No"));
+}
+
+void PathPanel::showExistence()
+{
+    const QString path = m_path->text();
+    if (path.isEmpty()) {
+        m_exists->setAnswer({});
+        return;
+    }
+    const auto existence = m_answers.existence(path);
+    m_exists->setAnswer(existence.exists ? tr("Yes: %1").arg(existence.realPath) : tr("No"));
+    if (!existence.exists)
+        m_attributes->setAnswer(
+            tr("%1 (as for all that is missing)").arg(attributesText(m_answers.attributes(path))));
 }

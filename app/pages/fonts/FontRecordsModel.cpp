@@ -1,5 +1,6 @@
 #include "app/pages/fonts/FontRecordsModel.h"
 
+#include "app/pages/PlainToolTip.h"
 #include "app/pages/fonts/CharacterSets.h"
 
 #include <QFont>
@@ -29,11 +30,14 @@ int FontRecordsModel::columnCount(const QModelIndex& parent) const
 
 QVariant FontRecordsModel::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const RegisteredFont& record = m_records[static_cast<std::size_t>(index.row())];
     const bool preview = index.column() == PreviewColumn;
     switch (role) {
     case Qt::DisplayRole: return text(record, index.column());
-    case Qt::ToolTipRole: return preview ? record.fullName : text(record, index.column());
+    case Qt::ToolTipRole:
+        return plainToolTip(preview ? record.fullName : text(record, index.column()));
     case Qt::FontRole: return preview ? font(record) : QVariant();
     case Qt::ForegroundRole:
         if (preview && !isInstalled(record))

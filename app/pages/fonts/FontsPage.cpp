@@ -32,6 +32,7 @@ FontsPage::FontsPage(QWidget* parent)
 {
     body()->addLayout(makeFilterRow());
     body()->addWidget(m_table, 1);
+    body()->addLayout(makeButtonRow());
     body()->addWidget(makeMapping());
     setFocusProxy(m_family);
     showRecords();
@@ -47,6 +48,8 @@ QLayout* FontsPage::makeFilterRow()
     m_family->setMaxLength(LF_FACESIZE - 1);
     auto* familyLabel = new QLabel(tr("Famil&y:"));
     familyLabel->setBuddy(m_family);
+    auto* charSetLabel = new QLabel(tr("Character &set:"));
+    charSetLabel->setBuddy(m_charSet);
     m_charSet->setObjectName(QStringLiteral("charSet"));
     m_charSet->setAccessibleName(tr("Character set to show"));
     m_charSet->view()->setAccessibleName(m_charSet->accessibleName());
@@ -57,16 +60,24 @@ QLayout* FontsPage::makeFilterRow()
         if (code != DEFAULT_CHARSET)
             m_charSet->addItem(CharacterSets::title(code), code);
     }
-    auto* add = glowing(new QPushButton(tr("Re&gister the system's fonts")));
-    add->setObjectName(QStringLiteral("register"));
     auto* row = new QHBoxLayout;
     row->addWidget(familyLabel);
     row->addWidget(m_family, 1);
+    row->addWidget(charSetLabel);
     row->addWidget(m_charSet, 1);
-    row->addWidget(add);
     connect(m_family, &QLineEdit::textChanged, this, &FontsPage::showRecords);
     connect(m_charSet, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &FontsPage::showRecords);
+    return row;
+}
+
+QLayout* FontsPage::makeButtonRow()
+{
+    auto* add = glowing(new QPushButton(tr("Re&gister the system's fonts")));
+    add->setObjectName(QStringLiteral("register"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(add);
+    row->addStretch();
     connect(add, &QPushButton::clicked, this, &FontsPage::registerSystemFonts);
     return row;
 }
@@ -135,7 +146,7 @@ void FontsPage::showRecords()
     const bool all = m_family->text().isEmpty() && charSet == DEFAULT_CHARSET;
     m_hint->setText(
         all ? tr("No font is registered. Host libraries register theirs when they start; "
-                 "the button above registers those of this system.")
+                 "the button below registers those of this system.")
             : tr("The service reports no record of this family and character set. Names "
                  "are compared exactly, upper and lower case included."));
     m_model->setRecords(FontCatalogue::records(m_family->text(), charSet));

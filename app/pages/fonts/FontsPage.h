@@ -29,6 +29,7 @@ public:
 
 private:
     QLayout* makeFilterRow();
+    QLayout* makeButtonRow();
     QTableView* makeTable();
     QWidget* makeMapping();
     void showRecords();

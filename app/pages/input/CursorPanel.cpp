@@ -1,5 +1,6 @@
 #include "app/pages/input/CursorPanel.h"
 
+#include "app/pages/AnswerField.h"
 #include "platform/PlatformServicesImp.h"
 
 #include <QComboBox>
@@ -52,9 +53,9 @@ QString shapeName(Qt::CursorShape shape)
 CursorPanel::CursorPanel(QWidget* parent) : QGroupBox(tr("Pointer and cursor"), parent)
 {
     auto* form = new QFormLayout(this);
-    m_screen = addValue(form, tr("GetCursorPos, on the screen:"));
-    m_window = addValue(form, tr("ScreenToClient, in this window:"));
-    m_cursor = addValue(form, tr("GetCursor, override cursor:"));
+    m_screen = addValue(form, tr("GetCursorPos, on the screen:"), QStringLiteral("screen"));
+    m_window = addValue(form, tr("ScreenToClient, in this window:"), QStringLiteral("window"));
+    m_cursor = addValue(form, tr("GetCursor, override cursor:"), QStringLiteral("cursor"));
     form->addRow(makeTools());
     auto* note = new QLabel(tr("Each SetCursor adds a level to the stack of cursors, and the "
                                "service never takes one away."));
@@ -67,12 +68,11 @@ CursorPanel::~CursorPanel()
     popLevels();
 }
 
-QLabel* CursorPanel::addValue(QLayout* layout, const QString& caption)
+AnswerField* CursorPanel::addValue(QFormLayout* form, const QString& caption,
+                                   const QString& objectName)
 {
-    auto* value = new QLabel;
-    value->setAccessibleName(caption);
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    static_cast<QFormLayout*>(layout)->addRow(caption, value);
+    auto* value = new AnswerField(caption, objectName);
+    form->addRow(caption, value);
     return value;
 }
 
@@ -134,15 +134,15 @@ void CursorPanel::showPosition()
 {
     POINT point{};
     service()->GetCursorPos(&point);
-    m_screen->setText(text(point));
+    m_screen->setAnswer(text(point));
     service()->ScreenToClient(window(), &point);
-    m_window->setText(text(point));
+    m_window->setAnswer(text(point));
 }
 
 void CursorPanel::refresh()
 {
     showPosition();
     const auto* cursor = static_cast<const QCursor*>(service()->GetCursor());
-    m_cursor->setText(cursor ? shapeName(cursor->shape()) : tr("null: none is set"));
+    m_cursor->setAnswer(cursor ? shapeName(cursor->shape()) : tr("null: none is set"));
     m_takeBack->setEnabled(m_levels > 0);
 }

@@ -4,8 +4,9 @@
 
 #include <QGroupBox>
 
+class AnswerField;
 class QComboBox;
-class QLabel;
+class QFormLayout;
 
 /// The pointer's position and the override cursor.
 class CursorPanel : public QGroupBox
@@ -24,7 +25,7 @@ signals:
     void reported(Page::Report kind, const QString& text);
 
 private:
-    QLabel* addValue(QLayout* layout, const QString& caption);
+    AnswerField* addValue(QFormLayout* form, const QString& caption, const QString& objectName);
     QWidget* makeTools();
     void addShapes();
     void setCursorShape();
@@ -32,9 +33,9 @@ private:
     void takeBack();
     void showPosition();
 
-    QLabel* m_screen;
-    QLabel* m_window;
-    QLabel* m_cursor;
+    AnswerField* m_screen;
+    AnswerField* m_window;
+    AnswerField* m_cursor;
     QComboBox* m_shapes = nullptr;
     QPushButton* m_takeBack = nullptr;
     int m_levels = 0;

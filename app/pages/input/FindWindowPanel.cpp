@@ -15,8 +15,8 @@ QString description(HWND handle)
 {
     const auto* widget = static_cast<const QWidget*>(handle);
     return FindWindowPanel::tr("%1, title \u201c%2\u201d, at 0x%3")
-        .arg(QString::fromLatin1(widget->metaObject()->className()), widget->windowTitle())
-        .arg(reinterpret_cast<quintptr>(handle), 0, 16);
+        .arg(QString::fromLatin1(widget->metaObject()->className()), widget->windowTitle(),
+             QString::number(reinterpret_cast<quintptr>(handle), 16));
 }
 
 } // namespace
@@ -34,7 +34,7 @@ FindWindowPanel::FindWindowPanel(QWidget* parent)
     m_result->setTextFormat(Qt::PlainText);
     m_result->setWordWrap(true);
     m_result->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_result->setAccessibleName(tr("Result"));
+    m_result->setObjectName(QStringLiteral("result"));
     auto* row = new QHBoxLayout;
     row->addWidget(button);
     row->addStretch();
@@ -69,7 +69,7 @@ void FindWindowPanel::find()
     if (found)
         emit reported(Page::Report::Info, tr("A window was found."));
     else
-        emit reported(Page::Report::Warning,
+        emit reported(Page::Report::Info,
                       tr("No window was found. Names must match exactly, upper and lower case "
                          "included."));
 }

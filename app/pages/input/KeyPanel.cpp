@@ -1,5 +1,6 @@
 #include "app/pages/input/KeyPanel.h"
 
+#include "app/pages/AnswerField.h"
 #include "platform/PlatformServicesImp.h"
 
 #include <QCheckBox>
@@ -40,6 +41,12 @@ KeyPanel::KeyPanel(QWidget* parent) : QGroupBox(tr("Key states"), parent)
     refresh();
 }
 
+KeyPanel::~KeyPanel()
+{
+    for (QCheckBox* report : m_reports)
+        report->setChecked(false);
+}
+
 void KeyPanel::addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayout* layout)
 {
     auto* grid = new QGridLayout;
@@ -75,6 +82,7 @@ void KeyPanel::addReport(QLayout* row, const QString& caption, int qtKey)
         refresh();
     });
     row->addWidget(box);
+    m_reports.push_back(box);
 }
 
 QWidget* KeyPanel::makeQuery()
@@ -86,8 +94,7 @@ QWidget* KeyPanel::makeQuery()
     m_code->setPrefix(QStringLiteral("0x"));
     m_code->setValue('A');
     m_code->setAccessibleName(tr("Code of a virtual key"));
-    m_state = new QLabel;
-    m_state->setAccessibleName(tr("State"));
+    m_state = new AnswerField(tr("State"), QStringLiteral("state"));
     auto* label = new QLabel(tr("An&y code:"));
     label->setBuddy(m_code);
     auto* row = new QHBoxLayout(place);
@@ -111,5 +118,5 @@ void KeyPanel::ask()
     const int code = m_code->value();
     const int state = g_PlatformServices.userInputManager()->getKeyState(code);
     const QString what = state < 0 ? tr("down") : isKnownKey(code) ? tr("up") : tr("always up");
-    m_state->setText(tr("getKeyState answers %1: %2").arg(state).arg(what));
+    m_state->setAnswer(tr("getKeyState answers %1: %2").arg(state).arg(what));
 }

@@ -4,8 +4,9 @@
 
 #include <QGroupBox>
 
+class AnswerField;
+class QCheckBox;
 class QGridLayout;
-class QLabel;
 class QSpinBox;
 class QVBoxLayout;
 
@@ -16,6 +17,8 @@ class KeyPanel : public QGroupBox
 
 public:
     explicit KeyPanel(QWidget* parent = nullptr);
+    /// Reports the keys as up that were reported as down here.
+    ~KeyPanel() override;
 
     /// Asks for all of them.
     void refresh();
@@ -29,6 +32,7 @@ private:
     void ask();
 
     std::vector<KeyLamp*> m_lamps;
+    std::vector<QCheckBox*> m_reports;
     QSpinBox* m_code = nullptr;
-    QLabel* m_state = nullptr;
+    AnswerField* m_state = nullptr;
 };

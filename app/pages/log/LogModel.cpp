@@ -1,6 +1,7 @@
 #include "app/pages/log/LogModel.h"
 
 #include "app/frame/GlyphIcon.h"
+#include "app/pages/PlainToolTip.h"
 
 #include <QFile>
 
@@ -67,7 +68,7 @@ QVariant LogModel::data(const QModelIndex& index, int role) const
     const LogEntry& entry = m_lines.entries()[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole: return text(entry, index.column());
-    case Qt::ToolTipRole: return entry.text;
+    case Qt::ToolTipRole: return plainToolTip(entry.text);
     case LevelRole: return static_cast<int>(entry.level);
     case LineRole: return entry.line;
     case Qt::DecorationRole:

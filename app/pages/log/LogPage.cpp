@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -20,6 +21,22 @@
 #include <QPushButton>
 #include <QSaveFile>
 #include <QTableView>
+
+namespace {
+
+QString lostText()
+{
+    return LogPage::tr("The log cannot be written to %1.").arg(ApplicationLog::path());
+}
+
+// Writing it anew would cut it off from the lines that are still to come.
+bool isLog(const QString& path)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return !file.isEmpty() && file == QFileInfo(ApplicationLog::path()).canonicalFilePath();
+}
+
+} // namespace
 
 LogPage::LogPage(QWidget* parent)
     : Page(parent),
@@ -40,6 +57,8 @@ LogPage::LogPage(QWidget* parent)
     connect(&ApplicationLog::instance(), &ApplicationLog::written, this, &LogPage::readNew);
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &LogPage::showCount);
     connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &LogPage::showCount);
+    if (!ApplicationLog::isWritable())
+        setStatus(lostText()); // a report would be lost as well
     refresh();
 }
 
@@ -56,7 +75,9 @@ void LogPage::makeTable()
     copyAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(copyAction, &QAction::triggered, this, &LogPage::copy);
     m_table->addAction(copyAction);
-    new EmptyHint(m_table, tr("No line of the log has this level and this text."));
+    new EmptyHint(m_table, ApplicationLog::isWritable()
+                               ? tr("No line of the log has this level and this text.")
+                               : lostText());
 }
 
 QLayout* LogPage::makeControls()
@@ -96,7 +117,7 @@ QLayout* LogPage::makeFooter()
     line->addStretch();
     line->addWidget(new QLabel(tr("File:")));
     auto* file = new PathLabel(ApplicationLog::path());
-    file->setAccessibleName(tr("File"));
+    file->setCaption(tr("File:"));
     line->addWidget(file);
     return line;
 }
@@ -142,6 +163,8 @@ void LogPage::askSave()
 
 void LogPage::saveAs(const QString& path)
 {
+    if (isLog(path))
+        return report(Report::Error, tr("%1 was not written: this is the log itself.").arg(path));
     const auto file = std::make_shared<QSaveFile>(path);
     file->open(QIODevice::WriteOnly);
     const auto row = std::make_shared<int>(0);

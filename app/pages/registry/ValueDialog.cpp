@@ -52,7 +52,6 @@ void ValueDialog::build()
     m_name->setAccessibleName(tr("Name"));
     m_type->setAccessibleName(tr("Type"));
     m_data->setAccessibleName(tr("Data"));
-    m_note->setAccessibleName(tr("Note"));
     m_data->setTabChangesFocus(true);
     m_data->setMinimumSize(fontMetrics().averageCharWidth() * 48, fontMetrics().lineSpacing() * 5);
     m_note->setTextFormat(Qt::PlainText);

@@ -37,7 +37,7 @@ protected:
 
     void enterKeys(const QString& key, const QString& iv, bool hexadecimal = false)
     {
-        button<QRadioButton>("With &key and IV")->setChecked(true);
+        button<QRadioButton>("With key &and IV")->setChecked(true);
         button<QCheckBox>("&Written in hexadecimal")->setChecked(hexadecimal);
         control<QLineEdit>("Key:")->setText(key);
         control<QLineEdit>("IV:")->setText(iv);
@@ -50,6 +50,24 @@ protected:
 TEST_F(CryptoPageTest, OpensWithThePassPhraseInFocus)
 {
     EXPECT_EQ(QApplication::focusWidget(), control<QLineEdit>("Pass phrase:"));
+}
+
+TEST_F(CryptoPageTest, FindPutsTheKeyboardIntoTheFirstField)
+{
+    const auto found = [this] {
+        page()->findChild<QTabWidget*>()->setFocus();
+        QTest::keyClick(&m_window, Qt::Key_F, Qt::ControlModifier);
+        return QApplication::focusWidget();
+    };
+    EXPECT_EQ(found(), control<QLineEdit>("Pass phrase:"));
+    enterKeys("key", "iv");
+    EXPECT_EQ(found(), control<QLineEdit>("Key:"));
+    chooseTab(1);
+    EXPECT_EQ(found(), control<QPlainTextEdit>("Text"));
+    button<QRadioButton>("Of &a file")->setChecked(true);
+    EXPECT_EQ(found(), control<QLineEdit>("Path of the file"));
+    chooseTab(2);
+    EXPECT_EQ(found(), control<QPlainTextEdit>("Text or Base64"));
 }
 
 TEST_F(CryptoPageTest, EncryptsUnderAPassPhraseAsTheExportedEntryExpects)
@@ -81,6 +99,49 @@ TEST_F(CryptoPageTest, EncryptsAndDecryptsWithKeyAndIv)
     clear()->clear();
     pressDecrypt();
     EXPECT_EQ(clear()->toPlainText(), "text");
+}
+
+// The field itself keeps no carriage return, and QPlainTextEdit gives no no-break space back.
+TEST_F(CryptoPageTest, DecryptsCopiesAndEncryptsEveryCharacter)
+{
+    const QString plain = QStringLiteral("a\r\nb\u00a0");
+    const QString text = QString::fromStdString(encrypted(passPhrase, plain.toStdString()));
+    enterPassPhrase(passPhrase);
+    cipher()->setPlainText(text);
+    pressDecrypt();
+    QTest::mouseClick(control<QPushButton>("Copy: Clear text"), Qt::LeftButton);
+    EXPECT_EQ(QApplication::clipboard()->text(), plain);
+    cipher()->clear();
+    pressEncrypt();
+    EXPECT_EQ(cipher()->toPlainText(), text);
+}
+
+TEST_F(CryptoPageTest, EncryptsWhatWasTypedIntoADecryptedText)
+{
+    enterPassPhrase(passPhrase);
+    cipher()->setPlainText(QString::fromStdString(encrypted(passPhrase, "a\r\nb")));
+    pressDecrypt();
+    QTest::keyClicks(clear(), QStringLiteral("x\u00a0"));
+    pressEncrypt();
+    EXPECT_EQ(cipher()->toPlainText().toStdString(), encrypted(passPhrase, "x\u00a0a\nb"));
+}
+
+// The library ends a clear text at its first zero byte.
+TEST_F(CryptoPageTest, ShowsDecryptedBytesThatAreNoTextInHexadecimal)
+{
+    const std::pair<std::string, const char*> rows[] = {{std::string("\xff\0A", 3), "ff"},
+                                                        {"\xff\xfe"
+                                                         "A",
+                                                         "ff fe 41"}};
+    enterKeys("0123456789abcdef", "fedcba9876543210");
+    for (const auto& [bytes, shown] : rows) {
+        cipher()->setPlainText(QString::fromStdString(
+            Encrypt::EncryptionAES("0123456789abcdef", "fedcba9876543210", bytes)));
+        pressDecrypt();
+        EXPECT_EQ(clear()->toPlainText(), shown);
+        EXPECT_NE(status().find("They are no text; shown in hexadecimal."), std::string::npos)
+            << status();
+    }
 }
 
 TEST_F(CryptoPageTest, TakesKeyAndIvInHexadecimal)
@@ -296,22 +357,30 @@ protected:
 TEST_F(Base64PanelTest, ConvertsBothWays)
 {
     EXPECT_EQ(converted(QStringLiteral("\u00fb\u00ff"), "E&ncode"), "w7vDvw==");
-    EXPECT_EQ(converted("w7vDvw==", "Decode"), QStringLiteral("\u00fb\u00ff"));
+    EXPECT_EQ(converted("w7vDvw==", "D&ecode"), QStringLiteral("\u00fb\u00ff"));
     EXPECT_EQ(status(), "Bytes decoded: 4.");
     EXPECT_EQ(converted("a+b/c==", "Make &URL-safe"), "a-b_c");
 }
 
+TEST_F(Base64PanelTest, AMnemonicDecodes)
+{
+    control<QPlainTextEdit>("Text or Base64")->setPlainText("QUJD");
+    QTest::keyClick(&m_window, Qt::Key_E, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return control<QPlainTextEdit>("Result")->toPlainText() == "ABC"; }));
+}
+
 TEST_F(Base64PanelTest, SaysWhereDecodingStops)
 {
-    EXPECT_EQ(converted("QUJD QUJD", "Decode"), "ABC");
+    EXPECT_EQ(converted("QUJD QUJD", "D&ecode"), "ABC");
     EXPECT_EQ(status(),
               "Bytes decoded: 3. The library stops at character 5 and ignores what follows.");
 }
 
 TEST_F(Base64PanelTest, ShowsWhatIsNoTextInHexadecimal)
 {
-    EXPECT_EQ(converted("-_8=", "Decode"), "fb ff");
-    EXPECT_EQ(converted("AEE=", "Decode"), "00 41");
+    EXPECT_EQ(converted("-_8=", "D&ecode"), "fb ff");
+    EXPECT_EQ(converted("AEE=", "D&ecode"), "00 41");
     EXPECT_EQ(status(), "Bytes decoded: 2. They are no text; shown in hexadecimal.");
 }
 
@@ -320,7 +389,7 @@ TEST_F(Base64PanelTest, RefusesWhatCannotBeConverted)
     converted("abc", "E&ncode");
     EXPECT_EQ(converted("", "E&ncode"), "YWJj");
     EXPECT_EQ(status(), "Enter a text first.");
-    EXPECT_EQ(converted("+/8=", "Decode"), "YWJj");
+    EXPECT_EQ(converted("+/8=", "D&ecode"), "YWJj");
     EXPECT_EQ(status(), "This is no URL-safe Base64: the library decodes nothing of it.");
 }
 

@@ -13,6 +13,8 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 namespace {
 
 class DigestPanelTest : public PageTest
@@ -52,7 +54,7 @@ protected:
     {
         return control<QLineEdit>(name)->text().toStdString();
     }
-    std::string notes() { return control<QLabel>("Notes")->text().toStdString(); }
+    std::string notes() { return page()->findChild<QLabel*>("notes")->text().toStdString(); }
 
     void expectDigestsOf(const std::string& text, const std::string& second = {})
     {
@@ -67,7 +69,7 @@ protected:
 
 TEST_F(DigestPanelTest, GivesWhatTheClassesGiveForATextInUtf8)
 {
-    for (const char* text : {"abc", "", "The quick brown fox", "\u7801\u5934 quay"}) {
+    for (const char* text : {"abc", "", "The quick brown fox", "\u7801\u5934 quay", "a\u00a0b"}) {
         digestText(QString::fromUtf8(text), "second");
         expectDigestsOf(text, "second");
     }
@@ -82,6 +84,20 @@ TEST_F(DigestPanelTest, GivesWhatTheClassesGiveForAFile)
     waitForJob();
     expectDigestsOf(content);
     EXPECT_EQ(status(), "Bytes digested: 3,000,000.");
+}
+
+// One & would make a mnemonic of the letter behind it.
+TEST_F(DigestPanelTest, NamesAFileWithAnAmpersand)
+{
+    QFile file(m_folder.filePath("R&D.txt"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.close();
+    digestFile(file.fileName());
+    waitForJob();
+    const auto boxes = page()->findChildren<QGroupBox*>();
+    EXPECT_TRUE(std::any_of(boxes.begin(), boxes.end(), [](const QGroupBox* box) {
+        return box->title() == "Results for R&&D.txt";
+    }));
 }
 
 TEST_F(DigestPanelTest, SaysWhereTheMd5DepartsFromTheStandard)

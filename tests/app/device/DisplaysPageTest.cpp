@@ -5,6 +5,7 @@
 #include "platform/PlatformServicesImp.h"
 
 #include <QLabel>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -31,7 +32,10 @@ protected:
         QTest::mouseClick(map(), Qt::LeftButton, Qt::NoModifier, map()->toMap(desktop).toPoint());
     }
 
-    std::string answer(const QString& flag) { return control<QLabel>(flag)->text().toStdString(); }
+    std::string answer(const QString& flag)
+    {
+        return control<QLineEdit>(flag)->text().toStdString();
+    }
 };
 
 TEST_F(DisplaysPageTest, ListsTheMonitorAsTheServiceDescribesIt)
@@ -88,6 +92,12 @@ TEST_F(DisplaysPageTest, TypedCoordinatesMoveThePointOfTheMap)
     control<QSpinBox>("Point X:")->setValue(-50);
     EXPECT_EQ(map()->point().x(), -50);
     EXPECT_EQ(answer("DEFAULTTONULL"), "null");
+}
+
+TEST_F(DisplaysPageTest, FindPutsTheKeyboardIntoThePoint)
+{
+    QTest::keyClick(&m_window, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), control<QSpinBox>("Point X:"));
 }
 
 TEST_F(DisplaysPageTest, FollowsThePointer)
@@ -231,6 +241,33 @@ TEST_F(HandlePanelTest, ANoKeepsTheHandle)
     press("Dele&te...");
     EXPECT_FALSE(no.text().isEmpty());
     EXPECT_EQ(rows().size(), 1);
+}
+
+// As some desktops have it.
+class StyleWithDialogIcons : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+TEST_F(HandlePanelTest, AsksWithButtonsAsPlainAsThoseOfTheWindow)
+{
+    made(service()->createImage(0, 1, 1));
+    refresh();
+    control<QTableView>("Graphics handles")->selectRow(0);
+    const QString former = QApplication::style()->objectName();
+    QApplication::setStyle(new StyleWithDialogIcons);
+    const MessageBoxAnswer no(QMessageBox::No);
+    press("Dele&te...");
+    QApplication::setStyle(former);
+    EXPECT_FALSE(no.text().isEmpty());
+    EXPECT_FALSE(no.hasIcons());
 }
 
 TEST_F(HandlePanelTest, RefusesAColourThatIsNoHexadecimalNumber)

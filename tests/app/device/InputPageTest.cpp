@@ -15,7 +15,10 @@ class InputPageTest : public PageTest
 protected:
     void SetUp() override { open("input"); }
 
-    std::string label(const QString& name) { return control<QLabel>(name)->text().toStdString(); }
+    std::string label(const QString& name)
+    {
+        return control<QLineEdit>(name)->text().toStdString();
+    }
     bool isLit(const QString& name) { return control<KeyLamp>(name)->isLit(); }
 
     void setCursor(const QString& shape)
@@ -29,7 +32,7 @@ protected:
         control<QLineEdit>("Class name:")->setText(className);
         control<QLineEdit>("Window name:")->setText(windowName);
         press("Find &now");
-        return label("Result");
+        return page()->findChild<QLabel*>("result")->text().toStdString();
     }
 };
 
@@ -69,6 +72,18 @@ TEST_F(InputPageTest, ReportsReturnAndSpaceToTheService)
         button<QCheckBox>(caption)->setChecked(false);
         EXPECT_EQ(service->getKeyState(code), 0) << caption;
     }
+}
+
+TEST_F(InputPageTest, ReleasesTheKeysThatItReportedWhenItGoes)
+{
+    IPlatformUserInputManager* service = g_PlatformServices.userInputManager();
+    button<QCheckBox>("Re&turn down")->setChecked(true);
+    button<QCheckBox>("&Space down")->setChecked(true);
+    delete page();
+    EXPECT_EQ(service->getKeyState(VK_RETURN), 0);
+    EXPECT_EQ(service->getKeyState(VK_SPACE), 0);
+    service->setKeyPressed(Qt::Key_Return, false);
+    service->setKeyPressed(Qt::Key_Space, false);
 }
 
 TEST_F(InputPageTest, SaysWhichCodesAlwaysReadAsUp)
@@ -132,6 +147,12 @@ TEST_F(InputPageTest, FindsWindows)
     EXPECT_EQ(status(), "A window was found.");
 }
 
+TEST_F(InputPageTest, ShowsATitleWithPlaceholders)
+{
+    m_window.setWindowTitle("%1 %2 %3");
+    EXPECT_NE(found("MainWindow", "").find("title \u201c%1 %2 %3\u201d"), std::string::npos);
+}
+
 TEST_F(InputPageTest, SaysThatNoWindowWasFound)
 {
     const std::pair<const char*, const char*> rows[] = {
@@ -140,6 +161,7 @@ TEST_F(InputPageTest, SaysThatNoWindowWasFound)
         EXPECT_EQ(found(className, windowName), "null: no window was found");
         EXPECT_EQ(status(), "No window was found. Names must match exactly, upper and lower case "
                             "included.");
+        EXPECT_FALSE(page()->findChild<QLabel*>("statusIcon")->isVisible()) << "no fault";
     }
 }
 

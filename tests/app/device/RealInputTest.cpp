@@ -4,8 +4,6 @@
 #include "app/pages/input/KeyLamp.h"
 #include "tests/support/Display.h"
 
-#include <QLabel>
-
 namespace {
 
 class RealInputTest : public PageTest
@@ -84,7 +82,7 @@ TEST_F(RealInputTest, TheMapFollowsThePointer)
     openActive("displays");
     ASSERT_TRUE(Display::xdotool({"mousemove", "321", "123"}));
     EXPECT_TRUE(
-        QTest::qWaitFor([this] { return control<QLabel>("Pointer")->text() == "321, 123"; }));
+        QTest::qWaitFor([this] { return control<QLineEdit>("Pointer")->text() == "321, 123"; }));
 }
 
 TEST_F(RealInputTest, EncryptsAndDecryptsByKeyboardAlone)

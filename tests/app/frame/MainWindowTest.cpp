@@ -3,11 +3,15 @@
 #include "app/CommandLine.h"
 #include "app/frame/PageRail.h"
 #include "app/frame/PathLabel.h"
+#include "app/frame/StatusLine.h"
 #include "app/pages/Page.h"
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/app/pages/ShownToolTip.h"
 #include "widgets/QAnimationStackedWidget.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
@@ -140,6 +144,30 @@ TEST_F(MainWindowTest, AltAndADigitChooseAPage)
     }
 }
 
+TEST_F(MainWindowTest, ABusyPageIsCancelledByKeyboardAfterAVisitElsewhere)
+{
+    show();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window.currentPage()->isBusy(); }));
+    m_window.currentPage()->setFocus();
+    bool cancelled = false;
+    m_window.currentPage()->startJob({"Endless",
+                                      [] {
+                                          QTest::qSleep(1);
+                                          return true;
+                                      },
+                                      {},
+                                      [&cancelled](bool complete) { cancelled = !complete; }});
+    for (const int page : {7, 0}) {
+        QTest::keyClick(&m_window, static_cast<Qt::Key>(Qt::Key_1 + page), Qt::AltModifier);
+        ASSERT_TRUE(reaches(page));
+        QTest::qWait(50);
+    }
+    ASSERT_TRUE(QApplication::focusWidget());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(cancelled);
+    m_window.currentPage()->cancelJob();
+}
+
 TEST_F(MainWindowTest, TheRailTakesArrowKeysAndIsOneStopForTab)
 {
     show();
@@ -181,6 +209,29 @@ TEST_F(MainWindowTest, TellsItsSurroundingsInTheStatusLine)
     EXPECT_EQ(
         texts.filter("~/data/window_test/registry.ini|" + g_globalSettings->fileName()).size(), 1)
         << texts.join('\n').toStdString();
+}
+
+TEST(PathLabelTest, ShowsAPathThatLooksLikeMarkupInItsToolTip)
+{
+    const PathLabel label(QStringLiteral("/<b>bold"));
+    EXPECT_EQ(shownToolTip(label.toolTip()).toStdString(), "/<b>bold");
+}
+
+TEST_F(MainWindowTest, ThePathsOfTheStatusLineAreReadOutAndCopied)
+{
+    show();
+    const auto labels = m_window.findChild<StatusLine*>()->findChildren<PathLabel*>();
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_EQ(labels.last()->accessibleName(), "Settings store: " + g_globalSettings->fileName());
+    for (PathLabel* label : labels) {
+        EXPECT_NE(label->focusPolicy() & Qt::TabFocus, 0);
+        m_window.setAttribute(Qt::WA_KeyboardFocusChange); // as Tab does
+        const QImage without = label->grab().toImage();
+        label->setFocus(Qt::TabFocusReason);
+        EXPECT_NE(label->grab().toImage(), without) << "no focus frame";
+        QTest::keyClick(label, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), label->toolTip());
+    }
 }
 
 TEST_F(MainWindowTest, FitsASmallScreen)

@@ -6,6 +6,7 @@
 #include "app/pages/EmptyHint.h"
 #include "widgets/QProgressIndicator.h"
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
@@ -15,6 +16,10 @@
 #include <QStringListModel>
 #include <QTest>
 #include <QVBoxLayout>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 #include <gtest/gtest.h>
 
@@ -262,6 +267,28 @@ TEST_F(PageTest, AReportIsShownAndLogged)
     EXPECT_TRUE(lines.endsWith(" : It was refused.\n"));
 }
 
+QStringList alerts;
+
+void noteAlert(QAccessibleEvent* event)
+{
+    if (event->type() == QAccessible::Alert)
+        alerts += event->accessibleInterface()->text(QAccessible::Name);
+}
+
+TEST_F(PageTest, AStatusIsReadOut)
+{
+    // As a running assistive tool does.
+    QPlatformAccessibility* platform =
+        QGuiApplicationPrivate::platformIntegration()->accessibility();
+    platform->setActive(true);
+    const auto former = QAccessible::installUpdateHandler(&noteAlert);
+    m_page.setStatus("It is done.");
+    m_page.setStatus(QString());
+    QAccessible::installUpdateHandler(former);
+    platform->setActive(false);
+    EXPECT_EQ(alerts, QStringList("It is done."));
+}
+
 TEST_F(PageTest, AStatusIsShownAndNotLogged)
 {
     const auto logged = [] {
@@ -271,6 +298,26 @@ TEST_F(PageTest, AStatusIsShownAndNotLogged)
     m_page.setStatus("Only seen here");
     EXPECT_EQ(m_page.statusText().toStdString(), "Only seen here");
     EXPECT_FALSE(logged());
+}
+
+TEST_F(PageTest, TheIconOfAReportFollowsThePalette)
+{
+    m_page.report(Page::Report::Error, "It was refused.");
+    const auto icon = [this] {
+        const auto* label = m_page.findChild<QLabel*>("statusIcon");
+        return label->pixmap(Qt::ReturnByValue).toImage();
+    };
+    const QImage light = icon();
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Highlight, Qt::yellow);
+    QApplication::setPalette(dark);
+    QTest::qWait(10);
+    EXPECT_NE(icon(), light);
+    QApplication::setPalette(before);
+    QTest::qWait(10);
+    EXPECT_EQ(icon(), light);
 }
 
 TEST(EmptyHint, StandsInAViewForAsLongAsItIsEmpty)

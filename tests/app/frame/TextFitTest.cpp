@@ -6,8 +6,13 @@
 #include "platform/PlatformServicesImp.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
+#include <QGroupBox>
 #include <QLabel>
+#include <QMap>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 #include <QTranslator>
 
@@ -82,6 +87,78 @@ TEST_P(TextsOfAPage, AreNotCutOff)
             continue;
         EXPECT_GE(button->width(), button->minimumSizeHint().width())
             << button->text().toStdString();
+    }
+}
+
+// What stands in a label and nowhere else must be read out as it stands.
+void expectReadOut(QLabel& label)
+{
+    const QString text = label.text();
+    if (!label.isVisible() || text.isEmpty())
+        return;
+    const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&label);
+    const QString name = accessible->text(QAccessible::Name);
+    EXPECT_TRUE(name.contains(QString(text).remove(QLatin1Char('&'))))
+        << text.toStdString() << " is read as " << name.toStdString();
+}
+
+TEST_P(TextsOfAPage, AreReadOut)
+{
+    MainWindow window;
+    window.showPage(pageCatalogue()[static_cast<std::size_t>(GetParam().page)].name);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.currentPage() != nullptr; }));
+    window.currentPage()->report(Page::Report::Warning, QStringLiteral("It was refused."));
+    auto* tabs = window.currentPage()->findChild<QTabWidget*>();
+    for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+        if (tabs)
+            tabs->setCurrentIndex(tab);
+        QTest::qWait(20);
+        for (QLabel* label : window.findChildren<QLabel*>())
+            expectReadOut(*label);
+    }
+}
+
+// The captions that can be seen now.
+QStringList captions(const QWidget& window)
+{
+    QStringList all;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible())
+            continue;
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        if (label && label->buddy())
+            all += label->text();
+        if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+            all += button->text();
+        if (const auto* box = qobject_cast<const QGroupBox*>(widget))
+            all += box->title();
+        if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                all += tabs->tabText(tab);
+        }
+    }
+    return all;
+}
+
+TEST_P(TextsOfAPage, ShareNoMnemonic)
+{
+    MainWindow window;
+    window.showPage(pageCatalogue()[static_cast<std::size_t>(GetParam().page)].name);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.currentPage() != nullptr; }));
+    auto* tabs = window.currentPage()->findChild<QTabWidget*>();
+    for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+        if (tabs)
+            tabs->setCurrentIndex(tab);
+        QTest::qWait(20);
+        QMap<QKeySequence, QString> owners;
+        for (const QString& caption : captions(window)) {
+            const QKeySequence mnemonic = QKeySequence::mnemonic(caption);
+            EXPECT_FALSE(!mnemonic.isEmpty() && owners.contains(mnemonic))
+                << owners.value(mnemonic).toStdString() << " | " << caption.toStdString();
+            owners.insert(mnemonic, caption);
+        }
     }
 }
 

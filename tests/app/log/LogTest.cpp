@@ -3,9 +3,11 @@
 #include "app/pages/log/LogLines.h"
 #include "app/pages/log/LogModel.h"
 #include "app/pages/log/LogPage.h"
+#include "tests/app/pages/ShownToolTip.h"
 
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTableView>
@@ -88,6 +90,13 @@ TEST_F(LogModelTest, GrowsWithTheFile)
     EXPECT_EQ(m_model.rowCount(), 3);
     EXPECT_EQ(m_model.index(1, LogModel::Text).data().toString().toStdString(), "fault");
     EXPECT_EQ(m_model.index(1, LogModel::Level).data().toString().toStdString(), "Error");
+}
+
+TEST_F(LogModelTest, ShowsMarkupInItsToolTipAsItStands)
+{
+    write("[INFO] 2026-03-07 09:05:03 : <b>bold</b>\n");
+    const QModelIndex index = m_model.index(0, LogModel::Text);
+    EXPECT_EQ(shownToolTip(index.data(Qt::ToolTipRole).toString()).toStdString(), "<b>bold</b>");
 }
 
 TEST_F(LogModelTest, StartsAnewWithAFileThatBecameShorter)
@@ -191,6 +200,38 @@ TEST_F(LogPageTest, SavesTheLinesInView)
     EXPECT_TRUE(lines.startsWith("[ERROR] "));
     EXPECT_TRUE(lines.endsWith(" : to be saved\n"));
     EXPECT_TRUE(m_page.statusText().startsWith("Saved to"));
+}
+
+TEST_F(LogPageTest, RefusesToBeSavedOverItself)
+{
+    const QString link = m_folder.filePath("link.log");
+    ASSERT_TRUE(QFile::link(ApplicationLog::path(), link));
+    for (const QString& path : {ApplicationLog::path(), link}) {
+        m_page.findChild<QLineEdit*>()->setText("no such line");
+        m_page.saveAs(path);
+        EXPECT_TRUE(m_page.statusText().endsWith("this is the log itself."))
+            << m_page.statusText().toStdString();
+        m_page.findChild<QLineEdit*>()->clear();
+        logInfo("later");
+        EXPECT_EQ(lastLine().toStdString(), "later");
+    }
+}
+
+TEST(LogPage, SaysThatTheLogCannotBeWritten)
+{
+    ApplicationLog::instance(); // the tests' own
+    const QByteArray state = qgetenv("XDG_STATE_HOME");
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("file"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    qputenv("XDG_STATE_HOME", file.fileName().toLocal8Bit());
+    const LogPage page;
+    const std::string expected =
+        "The log cannot be written to " + ApplicationLog::path().toStdString() + ".";
+    qputenv("XDG_STATE_HOME", state);
+    EXPECT_EQ(page.statusText().toStdString(), expected);
+    const auto* hint = page.findChild<QTableView*>()->viewport()->findChild<QLabel*>();
+    EXPECT_EQ(hint->text().toStdString(), expected);
 }
 
 TEST_F(LogPageTest, SaysThatAFileCannotBeWritten)

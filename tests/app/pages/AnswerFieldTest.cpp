@@ -1,5 +1,7 @@
 #include "app/pages/AnswerField.h"
 
+#include "tests/app/pages/ShownToolTip.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -20,6 +22,20 @@ TEST_F(AnswerFieldTest, ShowsALongTextFromItsBeginning)
     m_field.setAnswer(QString(1000, QLatin1Char('x')));
     EXPECT_EQ(m_field.cursorPosition(), 0);
     EXPECT_EQ(m_field.toolTip(), m_field.text());
+}
+
+TEST_F(AnswerFieldTest, ShowsMarkupAsItStands)
+{
+    m_field.setAnswer(QStringLiteral("<b>bold</b> & more"));
+    EXPECT_EQ(shownToolTip(m_field.toolTip()), m_field.text());
+}
+
+TEST_F(AnswerFieldTest, KeepsTheSelectionWhenTheAnswerIsTheSame)
+{
+    m_field.setAnswer(QStringLiteral("answer"));
+    m_field.selectAll();
+    m_field.setAnswer(QStringLiteral("answer"));
+    EXPECT_EQ(m_field.selectedText(), QStringLiteral("answer"));
 }
 
 TEST_F(AnswerFieldTest, CannotBeTypedInto)

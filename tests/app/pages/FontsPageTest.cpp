@@ -1,6 +1,7 @@
 #include "app/pages/fonts/CharacterSets.h"
 #include "app/pages/fonts/FontCatalogue.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/app/pages/ShownToolTip.h"
 #include "tests/app/pages/WindowProbe.h"
 
 #include <QComboBox>
@@ -8,6 +9,7 @@
 #include <QLabel>
 #include <QSet>
 #include <QTableView>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -87,6 +89,19 @@ TEST_F(FontsPageTest, ShowsTheRecordsInTheOrderOfTheService)
                     "B|Regular|GREEK_CHARSET (161)|希腊语", "B|Regular|OEM_CHARSET (255)|"}));
 }
 
+TEST_F(FontsPageTest, ShowsANameThatLooksLikeMarkupInItsToolTip)
+{
+    add("Global", "<b>bold", ANSI_CHARSET);
+    m_probe.page().refresh();
+    EXPECT_EQ(shownToolTip(model().index(0, 0).data(Qt::ToolTipRole).toString()),
+              QStringLiteral("<b>bold"));
+}
+
+TEST_F(FontsPageTest, HasNothingToSayOfNoRecord)
+{
+    EXPECT_FALSE(model().data({}, Qt::DisplayRole).isValid());
+}
+
 TEST_F(FontsPageTest, FiltersByFamilyUnderEitherName)
 {
     add("Global A", "A", ANSI_CHARSET);
@@ -104,6 +119,12 @@ TEST_F(FontsPageTest, FiltersByCharacterSet)
     auto& charSets = m_probe.control<QComboBox>("charSet");
     charSets.setCurrentIndex(charSets.findText(QStringLiteral("THAI_CHARSET (222)")));
     EXPECT_EQ(rows(), Rows({"A|Regular|THAI_CHARSET (222)|泰文"}));
+}
+
+TEST_F(FontsPageTest, AMnemonicLeadsToTheCharacterSet)
+{
+    QTest::keyClick(&m_probe.page(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(m_probe.control<QComboBox>("charSet").hasFocus());
 }
 
 TEST_F(FontsPageTest, ShowsNothingForAnUnknownFamilyAndSaysWhy)

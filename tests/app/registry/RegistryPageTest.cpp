@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -134,8 +135,8 @@ TEST_F(RegistryPageTest, GivesEveryControlAnAccessibleName)
     m_page.find();
     for (const QWidget* widget : m_page.findChildren<QWidget*>()) {
         if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus ||
-            qobject_cast<const QAbstractButton*>(widget))
-            continue;
+            qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLabel*>(widget))
+            continue; // their texts are read out
         EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
     }
 }
