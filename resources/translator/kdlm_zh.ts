@@ -992,6 +992,14 @@
         <source>The number does not have %1 bytes: its first byte alone is kept.</source>
         <translation>数值不是 %1 字节：只保留其第一个字节。</translation>
     </message>
+    <message>
+        <source>The value &quot;%1&quot; of %2 goes with it.</source>
+        <translation>%2 的值“%1”也会一并删除。</translation>
+    </message>
+    <message>
+        <source>The key %1 goes with it, with everything in it.</source>
+        <translation>项 %1 及其全部内容也会一并删除。</translation>
+    </message>
 </context>
 <context>
     <name>ImportModel</name>
@@ -2066,6 +2074,10 @@ Wide: %2</source>
     <message>
         <source>Delete these values of %1?</source>
         <translation>要删除 %1 中的这些值吗？</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; of %2 goes with it.</source>
+        <translation>%2 的值“%1”也会一并删除。</translation>
     </message>
 </context>
 <context>

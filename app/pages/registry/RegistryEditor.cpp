@@ -69,6 +69,16 @@ QString counted(qint64 number)
     return QLocale().toString(number);
 }
 
+// The service deletes a value of the same name along with a key.
+QString valueAlongText(const QString& path)
+{
+    if (rawRegistryEntry(path).isNull())
+        return QString();
+    return QLatin1Char('\n') +
+           RegistryEditor::tr("The value \"%1\" of %2 goes with it.")
+               .arg(RegistryPath::name(path), RegistryPath::shown(RegistryPath::parent(path)));
+}
+
 } // namespace
 
 RegistryEditor::RegistryEditor(Page* page) : QObject(page), m_page(page) {}
@@ -237,7 +247,8 @@ void RegistryEditor::confirmKey(const QString& path, const QStringList& keys, in
 {
     ask(tr("Delete the key %1?").arg(RegistryPath::shown(path)),
         tr("Keys below it that go with it: %1. Values: %2.")
-            .arg(counted(keys.size() - 1), counted(values)),
+                .arg(counted(keys.size() - 1), counted(values)) +
+            valueAlongText(path),
         [this, path, keys] { removeKeys(path, keys); });
 }
 

@@ -79,6 +79,8 @@ QStringList registryValueNames(const QString& path)
 
 bool isRegistryGroup(const QString& path)
 {
+    if (!g_globalSettings)
+        return false;
     const GroupScope group(path);
     return !g_globalSettings->childKeys().isEmpty() || !g_globalSettings->childGroups().isEmpty();
 }

@@ -285,6 +285,24 @@ TEST_F(RegistryEditTest, DeletingAKeyCountsWhatGoes)
     EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A");
 }
 
+TEST_F(RegistryEditTest, DeletingAKeyTellsOfTheValueThatGoesAlong)
+{
+    store("A/twin", "1$1");
+    store("A/twin/inside", "1$1");
+    store("A/single/inside", "1$1");
+    show();
+    m_page.goTo("A/single");
+    pressDelete(tree());
+    EXPECT_FALSE(words().contains("The value")) << words().toStdString();
+    reject();
+    m_page.goTo("A/twin");
+    pressDelete(tree());
+    EXPECT_TRUE(words().contains("The value \"twin\" of HKEY_CURRENT_USER\\A goes with it."))
+        << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(g_globalSettings->allKeys(), QStringList("A/single/inside"));
+}
+
 TEST_F(RegistryEditTest, TheRootIsNotDeleted)
 {
     store("A/v", "1$1");
