@@ -69,6 +69,12 @@ QString counted(qint64 number)
     return QLocale().toString(number);
 }
 
+// Also by an entry that no host library can read: writing would replace that too.
+bool isTaken(const QString& path, const QString& name)
+{
+    return !rawRegistryEntry(RegistryPath::join(path.isEmpty() ? name : path, name)).isNull();
+}
+
 // The service deletes a value of the same name along with a key.
 QString valueAlongText(const QString& path)
 {
@@ -127,7 +133,7 @@ void RegistryEditor::newValue(const QString& path, unsigned int type)
     auto* dialog = new ValueDialog(type, m_page);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, path] {
-        if (RegistryKey(path).read(dialog->name()).readable)
+        if (isTaken(path, dialog->name()))
             m_page->report(Page::Report::Error,
                            tr("%1 has a value \"%2\" already. Nothing was changed.")
                                .arg(RegistryPath::shown(path), dialog->name()));

@@ -153,14 +153,33 @@ TEST_F(RegistryEditTest, BadInputIsRefusedAndNothingChanges)
 
 TEST_F(RegistryEditTest, ANewValueNeverReplacesOneThatIsThere)
 {
-    store("A/v", "5$old");
+    show();
+    for (const char* old : {"5$old", "no tag", "3$x"}) {
+        for (const char* key : {"A", ""}) {
+            const QString entry = *key ? "A/v" : "v/v";
+            g_globalSettings->clear();
+            store(entry, old);
+            m_page.refresh();
+            m_page.goTo(key);
+            chooseNew(NewString);
+            type("v", "new");
+            ASSERT_TRUE(accept());
+            EXPECT_EQ(stored(entry).toStdString(), old);
+            EXPECT_TRUE(status().contains("Nothing was changed")) << status().toStdString();
+        }
+    }
+}
+
+TEST_F(RegistryEditTest, ANewValueMayHaveTheNameOfANewKey)
+{
+    store("A/v", "1$1");
+    store("A/fresh", QVariant());
     show();
     m_page.goTo("A");
     chooseNew(NewString);
-    type("v", "new");
+    type("fresh", "new");
     ASSERT_TRUE(accept());
-    EXPECT_EQ(stored("A/v").toStdString(), "5$old");
-    EXPECT_TRUE(status().contains("Nothing was changed")) << status().toStdString();
+    EXPECT_EQ(stored("A/fresh").toStdString(), "5$new");
 }
 
 TEST_F(RegistryEditTest, AValueSetUnderTheRootShowsWhereItIsKept)
