@@ -2467,6 +2467,10 @@ Wide: %2</source>
         <source>D&amp;ata:</source>
         <translation>数据(&amp;A)：</translation>
     </message>
+    <message>
+        <source>Line ends become LF.</source>
+        <translation>换行符将变为 LF。</translation>
+    </message>
 </context>
 <context>
     <name>ValueInput</name>

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QSettings>
 #include <QTableView>
 #include <QTest>
@@ -206,6 +207,52 @@ TEST_F(RegistryEditTest, F2EditsTheValueWithItsData)
     ASSERT_TRUE(accept());
     EXPECT_EQ(stored("A/v").toStdString(), "1$43");
     EXPECT_EQ(cell(0, RegistryValueModel::Data).toStdString(), "43 (0x0000002b)");
+}
+
+class UneditedValue : public RegistryEditTest, public testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(UneditedValue, StaysAsItIs)
+{
+    const QString old = QString::fromUtf8(GetParam());
+    store("A/v", old);
+    show();
+    m_page.goTo("A", "v");
+    QTest::keyClick(&table(), Qt::Key_F2);
+    EXPECT_FALSE(words().contains("Line ends")) << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/v").toStdString(), old.toStdString());
+    EXPECT_EQ(status().toStdString(), "Set \"v\" in HKEY_CURRENT_USER\\A.");
+}
+
+INSTANTIATE_TEST_SUITE_P(OfEachType, UneditedValue,
+                         testing::Values("5$a\r\nb\u00a0c", "5$a\u2028b\u2029c", "5$\ufdd0", "5$",
+                                         "1$42", "2$255", "4$00ff"));
+
+TEST_F(RegistryEditTest, AnEditedTextKeepsItsNoBreakSpaces)
+{
+    store("A/v", QString::fromUtf16(u"5$b\u00a0c"));
+    show();
+    m_page.goTo("A", "v");
+    QTest::keyClick(&table(), Qt::Key_F2);
+    QTest::keyClick(dialog().findChild<QPlainTextEdit*>(), Qt::Key_End);
+    QTest::keyClicks(dialog().findChild<QPlainTextEdit*>(), "!");
+    EXPECT_FALSE(words().contains("Line ends")) << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/v"), QString::fromUtf16(u"5$b\u00a0c!"));
+}
+
+TEST_F(RegistryEditTest, TellsThatAnEditedTextLosesItsLineEnds)
+{
+    store("A/v", "5$a\r\nb");
+    show();
+    m_page.goTo("A", "v");
+    QTest::keyClick(&table(), Qt::Key_F2);
+    type({}, "a\nc");
+    EXPECT_TRUE(words().contains("Line ends become LF.")) << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/v").toStdString(), "5$a\nc");
 }
 
 TEST_F(RegistryEditTest, AnUnreadableValueCanBeReplaced)
