@@ -2316,6 +2316,14 @@ Wide: %2</source>
         <source>The import of %1 was cancelled. Statements carried out: %2. Refused: %3.</source>
         <translation>%1 的导入已取消。执行的语句：%2 条。被拒绝：%3 条。</translation>
     </message>
+    <message>
+        <source>it is not a regular file.</source>
+        <translation>它不是普通文件。</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB.</source>
+        <translation>它大于 %1 MiB。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTreeModel</name>
