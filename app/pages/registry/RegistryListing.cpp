@@ -3,6 +3,7 @@
 #include "app/pages/registry/RegistryPath.h"
 #include "host/HostLibraries.h"
 
+#include <QSet>
 #include <QSettings>
 
 #include <algorithm>
@@ -75,6 +76,23 @@ QStringList registryValueNames(const QString& path)
         return {};
     const GroupScope group(path);
     return g_globalSettings->childKeys();
+}
+
+QStringList registryKeysFrom(const QString& path)
+{
+    QSet<QString> keys = {path};
+    if (g_globalSettings) {
+        const GroupScope group(path);
+        const QStringList entries = g_globalSettings->allKeys();
+        for (const QString& entry : entries) {
+            QString key = RegistryPath::join(path, entry).section(QLatin1Char('/'), 0, -2);
+            for (; !keys.contains(key); key = RegistryPath::parent(key))
+                keys.insert(key);
+        }
+    }
+    QStringList sorted = keys.values();
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
 }
 
 bool isRegistryGroup(const QString& path)

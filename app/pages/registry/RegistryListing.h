@@ -31,6 +31,9 @@ bool hasSubKeys(const RegistryIndex& index, const QString& path);
 /// The names of a key's values as they are now.
 QStringList registryValueNames(const QString& path);
 
+/// A key and all keys below it, as they are now, each before those below; also where there is none.
+QStringList registryKeysFrom(const QString& path);
+
 /// True when anything lies below this path now.
 bool isRegistryGroup(const QString& path);
 
