@@ -1,5 +1,6 @@
 #include "app/pages/profiles/ProfileDocument.h"
 #include "app/pages/profiles/ProfileReader.h"
+#include "app/pages/profiles/ProfileWriter.h"
 #include "tests/app/pages/ProfileFixture.h"
 #include "tests/app/pages/WindowProbe.h"
 
@@ -17,6 +18,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 namespace {
 
@@ -274,6 +277,47 @@ TEST_F(ProfilesPageTest, RefusesToWriteWithoutAFile)
 {
     request(QStringLiteral("S"), QStringLiteral("k"), QStringLiteral("v"), wide);
     EXPECT_EQ(status(), QStringLiteral("Open a file first."));
+}
+
+// In a folder in which nothing can be created.
+class ProfileInLockedFolderTest : public ProfilesPageTest
+{
+protected:
+    void SetUp() override
+    {
+        if (geteuid() == 0)
+            GTEST_SKIP() << "may write to every folder";
+        m_file.write("[Net]\nMask=255\n");
+        ASSERT_TRUE(QFile::setPermissions(m_file.folder(), QFile::ReadOwner | QFile::ExeOwner));
+    }
+    void TearDown() override
+    {
+        QFile::setPermissions(m_file.folder(),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+};
+
+TEST_F(ProfileInLockedFolderTest, TheWideFamilyWritesNothing)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), wide);
+    EXPECT_TRUE(status().endsWith(QStringLiteral("cannot be written."))) << status().toStdString();
+    EXPECT_FALSE(ProfileWriter(m_file.path())
+                     .write({ProfileFamily::Wide, QStringLiteral("Net"), QStringLiteral("Mask"),
+                             QStringLiteral("1")}));
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=255\n");
+}
+
+TEST_F(ProfileInLockedFolderTest, TheNarrowFamilyWritesWithoutABackupAlone)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    EXPECT_EQ(status(), QStringLiteral("Nothing written: the backup copy could not be made."));
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=255\n");
+    m_probe.control<QCheckBox>("backup").setChecked(false);
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
 }
 
 struct Refusal
