@@ -1404,6 +1404,14 @@
         <source>&amp;Write all the same</source>
         <translation>仍然写入(&amp;W)</translation>
     </message>
+    <message>
+        <source>Changes to the file</source>
+        <translation>对文件的更改</translation>
+    </message>
+    <message>
+        <source>The narrow family writes the whole file anew. No line that holds anything would be lost, but the file would not stay as it is:</source>
+        <translation>窄字符接口会重写整个文件。不会丢失有内容的行，但文件不会保持原样：</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1509,6 +1517,25 @@
     <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
+    </message>
+</context>
+<context>
+    <name>NarrowRewriting</name>
+    <message>
+        <source>Blank lines lost: %1.</source>
+        <translation>丢失的空行：%1。</translation>
+    </message>
+    <message>
+        <source>The order of sections and keys changes.</source>
+        <translation>节和键的顺序会改变。</translation>
+    </message>
+    <message>
+        <source>Spaces and line ends are normalised.</source>
+        <translation>空格和换行符会被规范化。</translation>
+    </message>
+    <message>
+        <source>The encoding becomes UTF-8.</source>
+        <translation>编码将变为 UTF-8。</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "app/pages/TableLook.h"
 #include "app/pages/profiles/LineStateText.h"
 #include "app/pages/profiles/LostLinesDialog.h"
+#include "app/pages/profiles/NarrowRewriting.h"
 #include "app/pages/profiles/ProfileEditPanel.h"
 #include "app/pages/profiles/ProfileLinesModel.h"
 #include "app/pages/profiles/ProfileReader.h"
@@ -272,11 +273,14 @@ void ProfilesPage::write()
     }
     ProfileDocument now; // what is lost is what the file holds by now
     now.load(m_document.path());
-    if (now.lostLines(change.family).empty()) {
+    const QString changes = change.family == ProfileFamily::Narrow
+                                ? NarrowRewriting(m_document.path()).changes()
+                                : QString();
+    if (now.lostLines(change.family).empty() && changes.isEmpty()) {
         writeNow(change);
         return;
     }
-    auto* dialog = new LostLinesDialog(now, change.family, this);
+    auto* dialog = new LostLinesDialog(now, change.family, changes, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, change] { writeNow(change); });
     connect(dialog, &QDialog::rejected, this, [this] { setStatus(tr("Nothing written.")); });

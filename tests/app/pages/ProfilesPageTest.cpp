@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
@@ -209,10 +210,57 @@ TEST_F(ProfilesPageTest, AsksBeforeANarrowWriteLosesLines)
     const auto* list = question()->findChild<QListWidget*>(QStringLiteral("lostLines"));
     ASSERT_EQ(list->count(), 4);
     EXPECT_EQ(list->item(3)->text(), QStringLiteral("4 (two “=”): Query=a=b"));
+    EXPECT_EQ(question()->findChild<QLabel*>(QStringLiteral("changes"))->text(),
+              QStringLiteral("Blank lines lost: 1."));
     question()->reject();
     EXPECT_EQ(m_file.bytes(), text);
     EXPECT_EQ(files(), QStringList({"profile.ini"}));
 }
+
+struct Rewriting
+{
+    const char* name;
+    const char* bytes;
+    const char* changes; ///< empty: nobody is asked
+};
+
+class ProfileRewritingTest : public ProfilesPageTest, public testing::WithParamInterface<Rewriting>
+{
+};
+
+TEST_P(ProfileRewritingTest, IsToldBeforeANarrowWrite)
+{
+    m_file.write(GetParam().bytes);
+    open();
+    request(QStringLiteral("B"), QStringLiteral("x"), QStringLiteral("1"), narrow);
+    ASSERT_EQ(question() != nullptr, *GetParam().changes != 0);
+    if (question()) {
+        EXPECT_EQ(question()->findChild<QLabel*>(QStringLiteral("changes"))->text(),
+                  QLatin1String(GetParam().changes));
+        EXPECT_EQ(question()->findChild<QListWidget*>(QStringLiteral("lostLines")), nullptr);
+        question()->reject();
+        EXPECT_EQ(m_file.bytes(), GetParam().bytes);
+    }
+    ASSERT_TRUE(m_probe.settle());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, ProfileRewritingTest,
+    testing::Values(
+        Rewriting{
+            "All", "[B]\nx = 1\n\n[A]\ny=2\n",
+            "Blank lines lost: 1. The order of sections and keys changes. Spaces and line ends "
+            "are normalised."},
+        Rewriting{"BlankLines", "\n[B]\n \nx=1\n", "Blank lines lost: 2."},
+        Rewriting{"Sections", "[B]\nx=1\n[A]\ny=2\n", "The order of sections and keys changes."},
+        Rewriting{"Keys", "[A]\ny=2\nx=1\n", "The order of sections and keys changes."},
+        Rewriting{"Spaces", "[A]\nx= 1\n", "Spaces and line ends are normalised."},
+        Rewriting{"LineEnds", "[A]\r\nx=1\r\n", "Spaces and line ends are normalised."},
+        Rewriting{"OpenEnd", "[A]\nx=1", "Spaces and line ends are normalised."},
+        Rewriting{"Mark", "\xef\xbb\xbf[A]\nx=1\n", "Spaces and line ends are normalised."},
+        Rewriting{"Encoding", "[A]\nx=\xe4\n", "The encoding becomes UTF-8."},
+        Rewriting{"None", "[A]\nx=1\ny=2\n[B]\nz=3\n", ""}),
+    [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(ProfilesPageTest, WritesThroughTheNarrowFamilyAfterABackup)
 {
