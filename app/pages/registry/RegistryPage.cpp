@@ -254,7 +254,7 @@ void RegistryPage::enableActions()
 void RegistryPage::refresh()
 {
     const QModelIndex value = m_table->currentIndex();
-    const QString name = value.isValid() ? m_values->value(value.row()).name : QString();
+    const QString name = value.isValid() ? m_values->nameAndPlace(value.row()).name : QString();
     m_keys->refresh();
     if (!std::exchange(m_read, true))
         m_tree->expand(m_keys->rootItem());
@@ -331,7 +331,7 @@ void RegistryPage::removeSelected()
     std::vector<RegistryValueModel::Value> values;
     const QModelIndexList rows = m_table->selectionModel()->selectedRows();
     for (const QModelIndex& index : rows)
-        values.push_back(m_values->value(index.row()));
+        values.push_back(m_values->nameAndPlace(index.row()));
     m_editor->removeValues(path(), values);
 }
 

@@ -110,6 +110,12 @@ const RegistryValueModel::Value& RegistryValueModel::value(int row) const
     return *item.value;
 }
 
+RegistryValueModel::Value RegistryValueModel::nameAndPlace(int row) const
+{
+    const Row& item = m_rows[static_cast<std::size_t>(row)];
+    return {item.name, item.place, {}, {}, {}};
+}
+
 int RegistryValueModel::rowOf(const QString& name) const
 {
     for (std::size_t i = 0; i < m_rows.size(); ++i) {

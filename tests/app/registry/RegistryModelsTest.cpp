@@ -212,6 +212,31 @@ TEST_F(RegistryModels, ShowAnEntryOfTheRootAsListedOnly)
     EXPECT_TRUE(m_values.value(0).remark.contains("Only listed"));
 }
 
+TEST_F(RegistryModels, TellNameAndPlaceWithoutReading)
+{
+    store("X/X", "5$old");
+    store("loose", "5$old");
+    m_tree.refresh();
+    m_values.setPath("", m_tree.names());
+    ASSERT_EQ(m_values.rowCount(), 2);
+    EXPECT_EQ(m_values.nameAndPlace(0).name.toStdString(), "X");
+    EXPECT_EQ(m_values.nameAndPlace(0).place, Model::Place::UnderRoot);
+    EXPECT_EQ(m_values.nameAndPlace(1).name.toStdString(), "loose");
+    EXPECT_EQ(m_values.nameAndPlace(1).place, Model::Place::ListedAtRoot);
+    EXPECT_TRUE(m_values.nameAndPlace(0).raw.isEmpty());
+    store("X/X", "5$new"); // what was read before would still be shown
+    EXPECT_EQ(cell(0, Model::Data).toStdString(), "new");
+}
+
+TEST_F(RegistryModels, AWalkListsTheStoreInItsFirstStep)
+{
+    RegistryWalk walk("");
+    store("A/v", "1$1");
+    EXPECT_EQ(walk.next(), RegistryWalk::Step::Key);
+    EXPECT_EQ(walk.next(), RegistryWalk::Step::Key);
+    EXPECT_EQ(walk.path().toStdString(), "A");
+}
+
 TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
 {
     store("Vendor/Product/Path", "5$/opt/Blue");
