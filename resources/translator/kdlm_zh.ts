@@ -585,6 +585,14 @@
         <source>&amp;Values</source>
         <translation>值(&amp;V)</translation>
     </message>
+    <message>
+        <source>Type the text to find first.</source>
+        <translation>请先输入要查找的文本。</translation>
+    </message>
+    <message>
+        <source>Choose where to search: in names, in values, or in both.</source>
+        <translation>请选择查找范围：名称、值或两者。</translation>
+    </message>
 </context>
 <context>
     <name>FindWindowPanel</name>

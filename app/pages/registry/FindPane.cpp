@@ -75,7 +75,11 @@ void FindPane::close()
 
 void FindPane::request()
 {
-    if (!m_text->text().isEmpty())
+    if (m_text->text().isEmpty())
+        emit refused(tr("Type the text to find first."));
+    else if (!m_inNames->isChecked() && !m_inData->isChecked())
+        emit refused(tr("Choose where to search: in names, in values, or in both."));
+    else
         emit searchRequested(m_text->text(), m_inNames->isChecked(), m_inData->isChecked());
 }
 

@@ -2,11 +2,13 @@
 
 #include "app/pages/registry/RegistryPath.h"
 #include "host/HostLibraries.h"
+#include "platform/PlatformRegisterManagerImp.h"
 
 #include <QSet>
 #include <QSettings>
 
 #include <algorithm>
+#include <climits>
 
 namespace {
 
@@ -106,6 +108,15 @@ bool isRegistryGroup(const QString& path)
 QVariant rawRegistryEntry(const QString& path)
 {
     return g_globalSettings ? g_globalSettings->value(path) : QVariant();
+}
+
+RegistryReading readAtRegistryRoot(const RegistryKey& root, const QString& name)
+{
+    RegistryReading reading = root.readListed(name);
+    unsigned int size = UINT_MAX;
+    QVariant entry = rawRegistryEntry(name);
+    QVarToRegValue(entry, &reading.type, nullptr, &size);
+    return reading;
 }
 
 QString rawRegistryText(const QVariant& entry)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/pages/registry/RegistryIndex.h"
+#include "app/pages/registry/RegistryKey.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -39,6 +40,10 @@ bool isRegistryGroup(const QString& path);
 
 /// The entry itself, past the service: raw.
 QVariant rawRegistryEntry(const QString& path);
+
+/// A value that is listed in the root itself, with its type, which the call that reads it does not
+/// tell. `root` is the root.
+RegistryReading readAtRegistryRoot(const RegistryKey& root, const QString& name);
 
 /// What the file holds for an entry, as text.
 QString rawRegistryText(const QVariant& entry);

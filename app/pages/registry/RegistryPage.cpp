@@ -201,6 +201,8 @@ void RegistryPage::connectParts()
     connect(m_editor, &RegistryEditor::changed, this, &RegistryPage::afterChange);
     connect(m_transfer, &RegistryTransfer::changed, this, &RegistryPage::refresh);
     connect(m_find, &FindPane::searchRequested, this, &RegistryPage::search);
+    connect(m_find, &FindPane::refused, this,
+            [this](const QString& why) { report(Report::Error, why); });
     connect(m_find, &FindPane::chosen, this, &RegistryPage::goTo);
     connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
 }

@@ -4,12 +4,9 @@
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/StoredText.h"
-#include "platform/PlatformRegisterManagerImp.h"
 
 #include <QFont>
 #include <QFontDatabase>
-
-#include <climits>
 
 namespace {
 
@@ -26,15 +23,6 @@ QString placeRemark(RegistryValueModel::Place place, const QString& name)
     case RegistryValueModel::Place::InKey: break;
     }
     return QString();
-}
-
-// The call that reads a listed entry of the root tells no type.
-unsigned int typeOf(QVariant entry)
-{
-    unsigned int type = REG_NONE;
-    unsigned int size = UINT_MAX;
-    QVarToRegValue(entry, &type, nullptr, &size);
-    return type;
 }
 
 } // namespace
@@ -89,12 +77,8 @@ RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
     Value value{row.name, row.place, {}, {}, {}};
     const QVariant entry = rawRegistryEntry(entryPath(row));
     value.raw = rawRegistryText(entry);
-    if (row.place == Place::ListedAtRoot) {
-        value.reading = m_key->readListed(row.name);
-        value.reading.type = typeOf(entry);
-    } else {
-        value.reading = m_key->read(row.name);
-    }
+    value.reading = row.place == Place::ListedAtRoot ? readAtRegistryRoot(*m_key, row.name)
+                                                     : m_key->read(row.name);
     const StoredText stored(entry);
     value.remark = value.reading.readable ? stored.warning() : stored.whyUnreadable();
     if (value.remark.isEmpty())

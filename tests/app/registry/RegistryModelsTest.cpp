@@ -258,6 +258,17 @@ TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
     EXPECT_EQ(found(false, true), QStringList("Vendor/Product/Path"));
 }
 
+TEST_F(RegistryModels, SearchTheDataOfWhatTheRootLists)
+{
+    store("loose", "5$blue");
+    RegistrySearch search("BLUE", "", false, true);
+    while (search.step()) {
+    }
+    ASSERT_EQ(search.hits().size(), 1U);
+    EXPECT_EQ(search.hits().front().name.toStdString(), "loose");
+    EXPECT_EQ(search.hits().front().data.toStdString(), "blue");
+}
+
 TEST_F(RegistryModels, EndASearchThatFindsTooMuch)
 {
     for (int i = 0; i < 1100; ++i)

@@ -3,6 +3,7 @@
 #include "tests/app/registry/RegistryPageFixture.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QLineEdit>
 #include <QPushButton>
@@ -115,6 +116,20 @@ TEST_F(RegistryPageTest, FindsAndGoesToAHit)
     EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
     EXPECT_TRUE(table().hasFocus());
     EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "colour");
+}
+
+TEST_F(RegistryPageTest, SaysWhatASearchLacks)
+{
+    show();
+    m_page.find();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Type the text to find first.");
+    field->setText("x");
+    for (QCheckBox* box : m_page.findChildren<QCheckBox*>())
+        box->setChecked(false);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Choose where to search: in names, in values, or in both.");
 }
 
 TEST_F(RegistryPageTest, EscapeHidesTheSearch)
