@@ -271,8 +271,11 @@ void RegistryPage::selectValue(const QString& name)
         m_table->setCurrentIndex(m_values->index(row, 0));
 }
 
+// A job that runs ends with a refresh where it has changed anything.
 void RegistryPage::entered()
 {
+    if (isBusy())
+        return;
     if (m_read)
         refresh();
     else

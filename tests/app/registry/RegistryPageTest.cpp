@@ -132,6 +132,20 @@ TEST_F(RegistryPageTest, SaysWhatASearchLacks)
     EXPECT_EQ(status().toStdString(), "Choose where to search: in names, in values, or in both.");
 }
 
+TEST_F(RegistryPageTest, IsNotReadAnewWhileAJobRuns)
+{
+    store("A/v", "1$1");
+    show();
+    m_page.goTo("A");
+    m_page.startJob({"Endless", [] { return true; }, {}, {}});
+    store("A/w", "1$1");
+    m_page.entered();
+    EXPECT_EQ(table().model()->rowCount(), 1);
+    m_page.cancelJob();
+    m_page.entered();
+    EXPECT_EQ(table().model()->rowCount(), 2);
+}
+
 TEST_F(RegistryPageTest, EscapeHidesTheSearch)
 {
     show();
