@@ -1,0 +1,10 @@
+#include "app/pages/PlainToolTip.h"
+
+#include <QTextDocument>
+
+QString plainToolTip(const QString& text)
+{
+    return Qt::mightBeRichText(text)
+               ? QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>")
+               : text;
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// A tool tip that shows `text` as it stands, also where it looks like markup.
+QString plainToolTip(const QString& text);
