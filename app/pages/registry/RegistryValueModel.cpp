@@ -1,5 +1,6 @@
 #include "app/pages/registry/RegistryValueModel.h"
 
+#include "app/pages/PlainToolTip.h"
 #include "app/pages/registry/RegistryFormat.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
@@ -117,7 +118,9 @@ QVariant RegistryValueModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole: return text(item, index.column());
     case Qt::DecorationRole: return decoration(item, index.column());
-    case Qt::ToolTipRole: return item.remark.isEmpty() ? text(item, index.column()) : item.remark;
+    case Qt::ToolTipRole:
+        return plainToolTip(item.remark.isEmpty() ? text(item, index.column()).toString()
+                                                  : item.remark);
     case Qt::FontRole:
         if (index.column() == Raw)
             return QFontDatabase::systemFont(QFontDatabase::FixedFont);

@@ -1,3 +1,5 @@
+#include "app/pages/registry/HitModel.h"
+#include "app/pages/registry/ImportModel.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistrySearch.h"
@@ -235,6 +237,31 @@ TEST_F(RegistryModels, AWalkListsTheStoreInItsFirstStep)
     EXPECT_EQ(walk.next(), RegistryWalk::Step::Key);
     EXPECT_EQ(walk.next(), RegistryWalk::Step::Key);
     EXPECT_EQ(walk.path().toStdString(), "A");
+}
+
+constexpr char markup[] = "<b>bold</b>";
+constexpr char escaped[] = "<span>&lt;b&gt;bold&lt;/b&gt;</span>";
+
+TEST_F(RegistryModels, ShowMarkupInToolTipsAsItStands)
+{
+    store("A/v", QString("5$") + markup);
+    m_values.setPath("A", m_tree.names());
+    const auto tip = [](const QAbstractItemModel& model, int column) {
+        return model.index(0, column).data(Qt::ToolTipRole).toString().toStdString();
+    };
+    EXPECT_EQ(tip(m_values, Model::Data), escaped);
+    EXPECT_EQ(tip(m_values, Model::Name), "v");
+    HitModel hits;
+    hits.setHits({{"A", "v", markup}});
+    EXPECT_EQ(tip(hits, HitModel::Data), escaped);
+    RegistryImport import(
+        "Windows Registry Editor Version 5.00\n[HKEY_USERS\\A]\n\"<b>bold</b>\"=-\n");
+    while (import.read()) {
+    }
+    ImportModel statements(import);
+    statements.setOnlyRemarkable(false);
+    EXPECT_EQ(statements.index(1, ImportModel::Name).data(Qt::ToolTipRole).toString().toStdString(),
+              escaped);
 }
 
 TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
