@@ -566,10 +566,6 @@
         <translation>查找结果将列在这里，按 Enter 键可转到该处。</translation>
     </message>
     <message>
-        <source>&amp;Search</source>
-        <translation>查找(&amp;S)</translation>
-    </message>
-    <message>
         <source>&amp;Hide</source>
         <translation>隐藏(&amp;H)</translation>
     </message>
@@ -592,6 +588,10 @@
     <message>
         <source>Choose where to search: in names, in values, or in both.</source>
         <translation>请选择查找范围：名称、值或两者。</translation>
+    </message>
+    <message>
+        <source>Find no&amp;w</source>
+        <translation>立即查找(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -2269,16 +2269,16 @@ Wide: %2</source>
         <translation>字符串 (REG_SZ)(&amp;S)...</translation>
     </message>
     <message>
-        <source>Search...</source>
-        <translation>查找...</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
     <message>
         <source>This key holds no values. Choose a key below it, or create a value with New.</source>
         <translation>此项中没有值。请选择其下的项，或用“新建”创建值。</translation>
+    </message>
+    <message>
+        <source>&amp;Search...</source>
+        <translation>查找(&amp;S)...</translation>
     </message>
 </context>
 <context>

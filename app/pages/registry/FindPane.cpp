@@ -47,7 +47,7 @@ QWidget* FindPane::makeLine()
     auto* line = new QWidget;
     auto* layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* search = glowing(new QPushButton(tr("&Search")));
+    auto* search = glowing(new QPushButton(tr("Find no&w")));
     auto* closeButton = glowing(new QPushButton(tr("&Hide")));
     layout->addWidget(m_text, 1);
     layout->addWidget(m_inNames);

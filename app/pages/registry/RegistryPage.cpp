@@ -172,7 +172,7 @@ QLayout* RegistryPage::makeButtons()
         else
             removeKey();
     });
-    auto* search = glowing(new QPushButton(tr("Search...")));
+    auto* search = glowing(new QPushButton(tr("&Search...")));
     search->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
     connect(search, &QPushButton::clicked, this, &RegistryPage::find);
     auto* line = new QHBoxLayout;

@@ -146,6 +146,22 @@ TEST_F(RegistryPageTest, IsNotReadAnewWhileAJobRuns)
     EXPECT_EQ(table().model()->rowCount(), 2);
 }
 
+TEST_F(RegistryPageTest, GivesEachButtonAMnemonicOfItsOwn)
+{
+    show();
+    m_page.find();
+    QStringList mnemonics;
+    for (const auto* button : m_page.findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty())
+            continue;
+        const QString mnemonic = QKeySequence::mnemonic(button->text()).toString();
+        EXPECT_FALSE(mnemonic.isEmpty()) << button->text().toStdString();
+        EXPECT_FALSE(mnemonics.contains(mnemonic)) << button->text().toStdString();
+        mnemonics.append(mnemonic);
+    }
+    EXPECT_EQ(mnemonics.size(), 11);
+}
+
 TEST_F(RegistryPageTest, EscapeHidesTheSearch)
 {
     show();
