@@ -1771,6 +1771,21 @@
     </message>
 </context>
 <context>
+    <name>ProfileFindBar</name>
+    <message>
+        <source>Text to find</source>
+        <translation>要查找的文本</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt line</source>
+        <translation>下一行(&amp;X)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>隐藏(&amp;H)</translation>
+    </message>
+</context>
+<context>
     <name>ProfileLinesModel</name>
     <message>
         <source>Narrow: %1
@@ -1913,10 +1928,6 @@ Wide: %2</source>
         <translation>请先输入文件路径。</translation>
     </message>
     <message>
-        <source>Type the beginning of a line to go to it.</source>
-        <translation>输入一行的开头即可跳转到该行。</translation>
-    </message>
-    <message>
         <source>Reading through both families</source>
         <translation>正在通过两种接口读取</translation>
     </message>
@@ -1963,6 +1974,18 @@ Wide: %2</source>
     <message>
         <source>Written; the backup copy is %1.</source>
         <translation>已写入；备份为 %1。</translation>
+    </message>
+    <message>
+        <source>Find the next line</source>
+        <translation>查找下一行</translation>
+    </message>
+    <message>
+        <source>There are no lines to search. Open a file first.</source>
+        <translation>没有可查找的行。请先打开文件。</translation>
+    </message>
+    <message>
+        <source>No line contains “%1”.</source>
+        <translation>没有包含“%1”的行。</translation>
     </message>
 </context>
 <context>
