@@ -1719,8 +1719,8 @@
         <translation>无法读取 %1。</translation>
     </message>
     <message>
-        <source>%1 is larger than 512 KiB: not a profile.</source>
-        <translation>%1 超过 512 KiB，不是配置文件。</translation>
+        <source>%1 is larger than %2 KiB, the most that is opened here.</source>
+        <translation>%1 大于 %2 KiB，此处最大只能打开这么大的文件。</translation>
     </message>
 </context>
 <context>

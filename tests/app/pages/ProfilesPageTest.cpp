@@ -172,7 +172,8 @@ TEST_F(ProfilesPageTest, RefusesAFileThatIsTooLarge)
     EXPECT_EQ(ProfileDocument().load(m_file.path()), QString());
     m_file.write(QByteArray(largest + 1, '\n'));
     open();
-    EXPECT_TRUE(status().endsWith(QStringLiteral("is larger than 512 KiB: not a profile.")));
+    EXPECT_TRUE(
+        status().endsWith(QStringLiteral("is larger than 512 KiB, the most that is opened here.")));
     EXPECT_EQ(model("lines").rowCount(), 0);
 }
 
