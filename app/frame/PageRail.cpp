@@ -1,25 +1,12 @@
 #include "app/frame/PageRail.h"
 
 #include "app/frame/RailButton.h"
+#include "app/pages/MnemonicText.h"
 #include "widgets/ButtonMonitor.h"
 
 #include <QButtonGroup>
 #include <QKeySequence>
 #include <QVBoxLayout>
-
-namespace {
-
-QString withoutMnemonic(const QString& title)
-{
-    QString text = title;
-    // Chinese titles carry theirs in brackets behind the word.
-    const int bracket = text.indexOf(QLatin1String("(&"));
-    if (bracket >= 0)
-        text.truncate(bracket);
-    return text.remove(QLatin1Char('&'));
-}
-
-} // namespace
 
 PageRail::PageRail(const std::vector<PageEntry>& pages, QWidget* parent)
     : QWidget(parent), m_buttons(new QButtonGroup(this))

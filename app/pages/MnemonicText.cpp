@@ -5,5 +5,6 @@
 QString withoutMnemonic(const QString& caption)
 {
     static const QRegularExpression bracketed(QStringLiteral("\\s*\\(&.\\)"));
-    return QString(caption).remove(bracketed).remove(QLatin1Char('&'));
+    static const QRegularExpression colon(QStringLiteral("\\s*[:\\x{ff1a}]$"));
+    return QString(caption).remove(bracketed).remove(QLatin1Char('&')).remove(colon);
 }

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// `caption` without its mnemonic: what an assistive tool reads out. Chinese captions carry theirs
-/// in brackets at the end.
+/// `caption` without its mnemonic and its colon: what an assistive tool reads out. Chinese captions
+/// carry the mnemonic in brackets behind the words.
 QString withoutMnemonic(const QString& caption);

@@ -566,10 +566,6 @@
         <translation>查找结果将列在这里，按 Enter 键可转到该处。</translation>
     </message>
     <message>
-        <source>&amp;Search</source>
-        <translation>查找(&amp;S)</translation>
-    </message>
-    <message>
         <source>&amp;Hide</source>
         <translation>隐藏(&amp;H)</translation>
     </message>
@@ -584,6 +580,18 @@
     <message>
         <source>&amp;Values</source>
         <translation>值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Type the text to find first.</source>
+        <translation>请先输入要查找的文本。</translation>
+    </message>
+    <message>
+        <source>Choose where to search: in names, in values, or in both.</source>
+        <translation>请选择查找范围：名称、值或两者。</translation>
+    </message>
+    <message>
+        <source>Find no&amp;w</source>
+        <translation>立即查找(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -991,6 +999,14 @@
     <message>
         <source>The number does not have %1 bytes: its first byte alone is kept.</source>
         <translation>数值不是 %1 字节：只保留其第一个字节。</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; of %2 goes with it.</source>
+        <translation>%2 的值“%1”也会一并删除。</translation>
+    </message>
+    <message>
+        <source>The key %1 goes with it, with everything in it.</source>
+        <translation>项 %1 及其全部内容也会一并删除。</translation>
     </message>
 </context>
 <context>
@@ -1400,6 +1416,14 @@
         <source>&amp;Write all the same</source>
         <translation>仍然写入(&amp;W)</translation>
     </message>
+    <message>
+        <source>Changes to the file</source>
+        <translation>对文件的更改</translation>
+    </message>
+    <message>
+        <source>The narrow family writes the whole file anew. No line that holds anything would be lost, but the file would not stay as it is:</source>
+        <translation>窄字符接口会重写整个文件。不会丢失有内容的行，但文件不会保持原样：</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1505,6 +1529,25 @@
     <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
+    </message>
+</context>
+<context>
+    <name>NarrowRewriting</name>
+    <message>
+        <source>Blank lines lost: %1.</source>
+        <translation>丢失的空行：%1。</translation>
+    </message>
+    <message>
+        <source>The order of sections and keys changes.</source>
+        <translation>节和键的顺序会改变。</translation>
+    </message>
+    <message>
+        <source>Spaces and line ends are normalised.</source>
+        <translation>空格和换行符会被规范化。</translation>
+    </message>
+    <message>
+        <source>The encoding becomes UTF-8.</source>
+        <translation>编码将变为 UTF-8。</translation>
     </message>
 </context>
 <context>
@@ -1673,8 +1716,8 @@
         <translation>无法读取 %1。</translation>
     </message>
     <message>
-        <source>%1 is larger than 512 KiB: not a profile.</source>
-        <translation>%1 超过 512 KiB，不是配置文件。</translation>
+        <source>%1 is larger than %2 KiB, the most that is opened here.</source>
+        <translation>%1 大于 %2 KiB，此处最大只能打开这么大的文件。</translation>
     </message>
 </context>
 <context>
@@ -1722,6 +1765,21 @@
     <message>
         <source>Copies the file beside itself, as .bak, before it is written.</source>
         <translation>写入之前在文件旁复制一份 .bak 备份。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFindBar</name>
+    <message>
+        <source>Text to find</source>
+        <translation>要查找的文本</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt line</source>
+        <translation>下一行(&amp;X)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>隐藏(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -1867,10 +1925,6 @@ Wide: %2</source>
         <translation>请先输入文件路径。</translation>
     </message>
     <message>
-        <source>Type the beginning of a line to go to it.</source>
-        <translation>输入一行的开头即可跳转到该行。</translation>
-    </message>
-    <message>
         <source>Reading through both families</source>
         <translation>正在通过两种接口读取</translation>
     </message>
@@ -1917,6 +1971,18 @@ Wide: %2</source>
     <message>
         <source>Written; the backup copy is %1.</source>
         <translation>已写入；备份为 %1。</translation>
+    </message>
+    <message>
+        <source>Find the next line</source>
+        <translation>查找下一行</translation>
+    </message>
+    <message>
+        <source>There are no lines to search. Open a file first.</source>
+        <translation>没有可查找的行。请先打开文件。</translation>
+    </message>
+    <message>
+        <source>No line contains “%1”.</source>
+        <translation>没有包含“%1”的行。</translation>
     </message>
 </context>
 <context>
@@ -2063,6 +2129,10 @@ Wide: %2</source>
     <message>
         <source>Delete these values of %1?</source>
         <translation>要删除 %1 中的这些值吗？</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; of %2 goes with it.</source>
+        <translation>%2 的值“%1”也会一并删除。</translation>
     </message>
 </context>
 <context>
@@ -2219,16 +2289,16 @@ Wide: %2</source>
         <translation>字符串 (REG_SZ)(&amp;S)...</translation>
     </message>
     <message>
-        <source>Search...</source>
-        <translation>查找...</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
     <message>
         <source>This key holds no values. Choose a key below it, or create a value with New.</source>
         <translation>此项中没有值。请选择其下的项，或用“新建”创建值。</translation>
+    </message>
+    <message>
+        <source>&amp;Search...</source>
+        <translation>查找(&amp;S)...</translation>
     </message>
 </context>
 <context>
@@ -2300,6 +2370,14 @@ Wide: %2</source>
     <message>
         <source>The import of %1 was cancelled. Statements carried out: %2. Refused: %3.</source>
         <translation>%1 的导入已取消。执行的语句：%2 条。被拒绝：%3 条。</translation>
+    </message>
+    <message>
+        <source>it is not a regular file.</source>
+        <translation>它不是普通文件。</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB.</source>
+        <translation>它大于 %1 MiB。</translation>
     </message>
 </context>
 <context>
@@ -2447,6 +2525,10 @@ Wide: %2</source>
     <message>
         <source>D&amp;ata:</source>
         <translation>数据(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Line ends become LF.</source>
+        <translation>换行符将变为 LF。</translation>
     </message>
 </context>
 <context>

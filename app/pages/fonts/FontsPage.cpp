@@ -134,10 +134,11 @@ void FontsPage::find()
     m_family->selectAll();
 }
 
-// Host libraries may have registered fonts in the meantime.
+// Host libraries may have registered fonts in the meantime. A job that runs ends with a refresh.
 void FontsPage::entered()
 {
-    refresh();
+    if (!isBusy())
+        refresh();
 }
 
 void FontsPage::showRecords()

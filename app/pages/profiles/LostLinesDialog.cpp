@@ -29,30 +29,53 @@ QListWidget* lostLines(const ProfileDocument& document, ProfileFamily family)
     return list;
 }
 
+QLabel* wrapped(const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setWordWrap(true);
+    return label;
+}
+
 } // namespace
 
 LostLinesDialog::LostLinesDialog(const ProfileDocument& document, ProfileFamily family,
-                                 QWidget* parent)
+                                 const QString& changes, QWidget* parent)
     : QDialog(parent)
 {
-    setWindowTitle(tr("Lines that would be lost"));
-    auto* text = new QLabel(
-        family == ProfileFamily::Narrow
-            ? tr("The narrow family writes the whole file anew, sorted, and only what it has kept. "
-                 "These lines would be lost:")
-            : tr("The wide family writes the whole file anew, and only what it has kept. These "
-                 "lines would be lost:"));
-    text->setWordWrap(true);
+    auto* layout = new QVBoxLayout(this);
+    if (document.lostLines(family).empty()) {
+        setWindowTitle(tr("Changes to the file"));
+        layout->addWidget(
+            wrapped(tr("The narrow family writes the whole file anew. No line that holds anything "
+                       "would be lost, but the file would not stay as it is:")));
+    } else {
+        setWindowTitle(tr("Lines that would be lost"));
+        addLines(layout, document, family);
+        resize(fontMetrics().averageCharWidth() * 80, fontMetrics().height() * 18);
+    }
+    auto* rest = wrapped(changes);
+    rest->setObjectName(QStringLiteral("changes"));
+    layout->addWidget(rest);
+    if (changes.isEmpty())
+        rest->hide();
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     auto* write =
         glowing(buttons->addButton(tr("&Write all the same"), QDialogButtonBox::AcceptRole));
     write->setObjectName(QStringLiteral("writeAllTheSame"));
     glowing(buttons->button(QDialogButtonBox::Cancel))->setDefault(true);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(text);
-    layout->addWidget(lostLines(document, family), 1);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    resize(fontMetrics().averageCharWidth() * 80, fontMetrics().height() * 18);
+}
+
+void LostLinesDialog::addLines(QVBoxLayout* layout, const ProfileDocument& document,
+                               ProfileFamily family)
+{
+    layout->addWidget(wrapped(
+        family == ProfileFamily::Narrow
+            ? tr("The narrow family writes the whole file anew, sorted, and only what it has kept. "
+                 "These lines would be lost:")
+            : tr("The wide family writes the whole file anew, and only what it has kept. These "
+                 "lines would be lost:")));
+    layout->addWidget(lostLines(document, family), 1);
 }

@@ -4,12 +4,19 @@
 
 #include <QDialog>
 
-/// Shows the lines that a write would lose, and asks whether to write all the same.
+class QVBoxLayout;
+
+/// Shows the lines that a write would lose and what else it would change, and asks whether to write
+/// all the same.
 class LostLinesDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    LostLinesDialog(const ProfileDocument& document, ProfileFamily family,
+    /// `changes` tells the rest in sentences.
+    LostLinesDialog(const ProfileDocument& document, ProfileFamily family, const QString& changes,
                     QWidget* parent = nullptr);
+
+private:
+    void addLines(QVBoxLayout* layout, const ProfileDocument& document, ProfileFamily family);
 };

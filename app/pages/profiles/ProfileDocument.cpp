@@ -10,7 +10,8 @@
 
 namespace {
 
-// Far above any profile, and still read without a halt of the window.
+// Far above any profile. The services read the whole file with each call: larger ones would halt
+// the window again and again.
 constexpr qint64 largestFile = qint64{512} * 1024;
 
 // Why the path cannot be a profile, or an empty text.
@@ -25,8 +26,8 @@ QString fault(const QFileInfo& file)
     if (file.exists() && !file.isReadable())
         return ProfileDocument::tr("%1 cannot be read.").arg(file.filePath());
     if (file.size() > largestFile)
-        return ProfileDocument::tr("%1 is larger than 512 KiB: not a profile.")
-            .arg(file.filePath());
+        return ProfileDocument::tr("%1 is larger than %2 KiB, the most that is opened here.")
+            .arg(file.filePath(), QString::number(largestFile / 1024));
     return {};
 }
 

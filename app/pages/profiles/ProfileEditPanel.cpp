@@ -1,5 +1,6 @@
 #include "app/pages/profiles/ProfileEditPanel.h"
 
+#include "app/pages/MnemonicText.h"
 #include "app/pages/Page.h"
 
 #include <QAbstractItemView>
@@ -9,15 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-
-namespace {
-
-QString withoutMnemonic(QString label)
-{
-    return label.remove(QLatin1Char('&'));
-}
-
-} // namespace
 
 ProfileEditPanel::ProfileEditPanel(QWidget* parent)
     : QGroupBox(tr("Change or add a value"), parent),

@@ -54,6 +54,8 @@ int ProfileLinesModel::columnCount(const QModelIndex& parent) const
 
 QVariant ProfileLinesModel::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const ProfileDocument::Line& line = m_document->lines()[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole: return text(line, index.row(), index.column());

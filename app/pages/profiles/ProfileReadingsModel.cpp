@@ -1,5 +1,7 @@
 #include "app/pages/profiles/ProfileReadingsModel.h"
 
+#include "app/pages/PlainToolTip.h"
+
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
@@ -73,6 +75,8 @@ int ProfileReadingsModel::columnCount(const QModelIndex& parent) const
 
 QVariant ProfileReadingsModel::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const ProfileReading& each = reading(index.row());
     switch (role) {
     case Qt::DisplayRole: return text(each, index.column());
@@ -106,7 +110,7 @@ QString ProfileReadingsModel::toolTip(const ProfileReading& reading, int column)
                                  : tr("The families read the same value.");
     if (column == NarrowColumn && reading.narrow.isEmpty())
         return tr("Empty: the narrow family answers this for missing values too.");
-    return text(reading, column);
+    return plainToolTip(text(reading, column));
 }
 
 QVariant ProfileReadingsModel::font(const ProfileReading& reading, int column)

@@ -29,11 +29,19 @@ bool reads(const QString& file, const ProfileChange& change)
     return reader.wide(change.section, change.key) == change.value;
 }
 
-bool isWritable(const QFileInfo& file)
+// What lies on disk, which need not be what the wide family remembers to have written.
+bool readsCopy(const QString& file, const QString& copy, const ProfileChange& change)
+{
+    return QFile::copy(file, copy) && reads(copy, change);
+}
+
+// The wide family writes a new file beside the one that there is, and puts it in its place.
+bool isWritable(const QFileInfo& file, ProfileFamily family)
 {
     const QFileInfo folder(file.path());
-    return folder.isDir() &&
-           (file.exists() ? file.isFile() && file.isWritable() : folder.isWritable());
+    const bool needsFolder = family == ProfileFamily::Wide || !file.exists();
+    return folder.isDir() && (folder.isWritable() || !needsFolder) &&
+           (!file.exists() || (file.isFile() && file.isWritable()));
 }
 
 } // namespace
@@ -47,7 +55,7 @@ QString ProfileWriter::fault(const ProfileChange& change) const
     // Without a name stands what the wide family finds under [General] or before the first header.
     if (change.section.isEmpty() && change.family == ProfileFamily::Narrow)
         return tr("Type a section first.");
-    if (!isWritable(QFileInfo(m_file)))
+    if (!isWritable(QFileInfo(m_file), change.family))
         return tr("%1 cannot be written.").arg(m_file);
     if (readsBack(change))
         return {};
@@ -57,8 +65,7 @@ QString ProfileWriter::fault(const ProfileChange& change) const
                : tr("Nothing written: the wide family would not read this back under that name.");
 }
 
-// A copy of what was written is read back, not the copy written to: the wide family remembers what
-// it wrote.
+// Tried on a copy.
 bool ProfileWriter::readsBack(const ProfileChange& change) const
 {
     const QTemporaryDir folder;
@@ -67,7 +74,7 @@ bool ProfileWriter::readsBack(const ProfileChange& change) const
     if (QFile::exists(m_file) && !QFile::copy(m_file, written))
         return false;
     QFile::setPermissions(written, QFile::ReadOwner | QFile::WriteOwner);
-    return callService(written, change) && QFile::copy(written, read) && reads(read, change);
+    return callService(written, change) && readsCopy(written, read, change);
 }
 
 QString ProfileWriter::backUp() const
@@ -80,5 +87,7 @@ QString ProfileWriter::backUp() const
 
 bool ProfileWriter::write(const ProfileChange& change) const
 {
-    return callService(m_file, change) && reads(m_file, change);
+    const QTemporaryDir folder;
+    return callService(m_file, change) &&
+           readsCopy(m_file, folder.filePath(QStringLiteral("read.ini")), change);
 }

@@ -28,7 +28,7 @@ public:
     /// Copies the file beside itself under a name that is free; returns it. Empty where that fails.
     QString backUp() const;
 
-    /// Writes, and reads back; false when the family does not find the value afterwards.
+    /// Writes, and reads the file back; false when the family does not find the value in it.
     bool write(const ProfileChange& change) const;
 
 private:

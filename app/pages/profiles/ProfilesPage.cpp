@@ -5,7 +5,9 @@
 #include "app/pages/TableLook.h"
 #include "app/pages/profiles/LineStateText.h"
 #include "app/pages/profiles/LostLinesDialog.h"
+#include "app/pages/profiles/NarrowRewriting.h"
 #include "app/pages/profiles/ProfileEditPanel.h"
+#include "app/pages/profiles/ProfileFindBar.h"
 #include "app/pages/profiles/ProfileLinesModel.h"
 #include "app/pages/profiles/ProfileReader.h"
 #include "app/pages/profiles/ProfileReadingsModel.h"
@@ -57,9 +59,11 @@ ProfilesPage::ProfilesPage(QWidget* parent)
       m_readingsModel(new ProfileReadingsModel(this)),
       m_lines(makeLines()),
       m_readings(makeReadings()),
-      m_panel(new ProfileEditPanel)
+      m_panel(new ProfileEditPanel),
+      m_find(new ProfileFindBar)
 {
     body()->addLayout(makeFileRow());
+    addFindBar();
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_lines);
@@ -169,13 +173,48 @@ void ProfilesPage::refresh()
         open(m_document.path());
 }
 
+void ProfilesPage::addFindBar()
+{
+    body()->addWidget(m_find);
+    m_find->hide();
+    auto* next = new QAction(tr("Find the next line"), this);
+    next->setShortcut(Qt::Key_F3);
+    next->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(next);
+    connect(next, &QAction::triggered, this, &ProfilesPage::findNext);
+    connect(m_find, &ProfileFindBar::nextRequested, this, &ProfilesPage::findNext);
+    connect(m_find, &ProfileFindBar::closed, m_lines, QOverload<>::of(&QWidget::setFocus));
+}
+
 void ProfilesPage::find()
 {
-    const QModelIndex current = m_lines->currentIndex();
-    m_lines->setFocus(Qt::ShortcutFocusReason);
-    m_lines->setCurrentIndex(
-        m_linesModel->index(std::max(0, current.row()), ProfileLinesModel::TextColumn));
-    setStatus(tr("Type the beginning of a line to go to it."));
+    if (m_document.lines().empty()) {
+        setStatus(tr("There are no lines to search. Open a file first."));
+        m_file->setFocus(Qt::ShortcutFocusReason);
+        return;
+    }
+    m_find->open();
+}
+
+// From the line after the current one on, and at the end from the first one.
+void ProfilesPage::findNext()
+{
+    const QString text = m_find->text();
+    if (text.isEmpty() || m_document.lines().empty()) {
+        find();
+        return;
+    }
+    const std::size_t count = m_document.lines().size();
+    const auto current = static_cast<std::size_t>(m_lines->currentIndex().row() + 1);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t row = (current + i) % count;
+        if (!m_document.lines()[row].text.contains(text, Qt::CaseInsensitive))
+            continue;
+        m_lines->setCurrentIndex(
+            m_linesModel->index(static_cast<int>(row), ProfileLinesModel::TextColumn));
+        return;
+    }
+    setStatus(tr("No line contains “%1”.").arg(text));
 }
 
 // Shows the document and asks both families for all that it names.
@@ -272,11 +311,14 @@ void ProfilesPage::write()
     }
     ProfileDocument now; // what is lost is what the file holds by now
     now.load(m_document.path());
-    if (now.lostLines(change.family).empty()) {
+    const QString changes = change.family == ProfileFamily::Narrow
+                                ? NarrowRewriting(m_document.path()).changes()
+                                : QString();
+    if (now.lostLines(change.family).empty() && changes.isEmpty()) {
         writeNow(change);
         return;
     }
-    auto* dialog = new LostLinesDialog(now, change.family, this);
+    auto* dialog = new LostLinesDialog(now, change.family, changes, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, change] { writeNow(change); });
     connect(dialog, &QDialog::rejected, this, [this] { setStatus(tr("Nothing written.")); });

@@ -6,6 +6,7 @@
 
 class EmptyHint;
 class ProfileEditPanel;
+class ProfileFindBar;
 class ProfileLinesModel;
 class ProfileReadingsModel;
 class QLayout;
@@ -37,6 +38,8 @@ private:
     QTableView* makeLines();
     QTableView* makeReadings();
     void addEditAction();
+    void addFindBar();
+    void findNext();
     void chooseFile();
     void read();
     void readStep();
@@ -53,6 +56,7 @@ private:
     QTableView* m_lines;
     QTableView* m_readings;
     ProfileEditPanel* m_panel;
+    ProfileFindBar* m_find;
     std::vector<ProfileDocument::Name> m_names; ///< still to be asked for, the next one last
     QString m_summary;                          ///< reported with the readings, once they are there
 };

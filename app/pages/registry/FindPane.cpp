@@ -47,7 +47,7 @@ QWidget* FindPane::makeLine()
     auto* line = new QWidget;
     auto* layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* search = glowing(new QPushButton(tr("&Search")));
+    auto* search = glowing(new QPushButton(tr("Find no&w")));
     auto* closeButton = glowing(new QPushButton(tr("&Hide")));
     layout->addWidget(m_text, 1);
     layout->addWidget(m_inNames);
@@ -75,7 +75,11 @@ void FindPane::close()
 
 void FindPane::request()
 {
-    if (!m_text->text().isEmpty())
+    if (m_text->text().isEmpty())
+        emit refused(tr("Type the text to find first."));
+    else if (!m_inNames->isChecked() && !m_inData->isChecked())
+        emit refused(tr("Choose where to search: in names, in values, or in both."));
+    else
         emit searchRequested(m_text->text(), m_inNames->isChecked(), m_inData->isChecked());
 }
 

@@ -23,8 +23,10 @@ public:
     void setHits(const std::vector<RegistrySearch::Hit>& hits);
 
 signals:
-    /// The text is not empty.
+    /// The text is not empty, and one of the places is chosen.
     void searchRequested(const QString& text, bool inNames, bool inData);
+    /// What is missing for a search, in words.
+    void refused(const QString& why);
     void chosen(const QString& path, const QString& name);
     void closed();
 

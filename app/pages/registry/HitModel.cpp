@@ -1,5 +1,6 @@
 #include "app/pages/registry/HitModel.h"
 
+#include "app/pages/PlainToolTip.h"
 #include "app/pages/registry/RegistryPath.h"
 
 void HitModel::setHits(const std::vector<RegistrySearch::Hit>& hits)
@@ -21,10 +22,19 @@ int HitModel::columnCount(const QModelIndex& parent) const
 
 QVariant HitModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
+    if (!index.isValid())
         return {};
-    const RegistrySearch::Hit& found = hit(index.row());
-    switch (index.column()) {
+    const QString shown = text(hit(index.row()), index.column());
+    switch (role) {
+    case Qt::DisplayRole: return shown;
+    case Qt::ToolTipRole: return plainToolTip(shown);
+    default: return {};
+    }
+}
+
+QString HitModel::text(const RegistrySearch::Hit& found, int column)
+{
+    switch (column) {
     case Key: return RegistryPath::shown(found.path);
     case Name: return found.name;
     case Data: return found.data;

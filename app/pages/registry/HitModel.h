@@ -29,5 +29,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    static QString text(const RegistrySearch::Hit& found, int column);
+
     std::vector<RegistrySearch::Hit> m_hits;
 };

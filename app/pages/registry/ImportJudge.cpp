@@ -1,6 +1,7 @@
 #include "app/pages/registry/ImportJudge.h"
 
 #include "app/pages/registry/RegistryFormat.h"
+#include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/ValueInput.h"
 #include "platform/WindowsTypes.h"
@@ -42,12 +43,31 @@ void ImportJudge::judgeKey()
         return refuse(tr("\"%1\" is not one of the root keys.").arg(root));
     if (m_entry.key.contains(QLatin1Char('/')))
         remark(tr("\"/\" in a key's name separates keys like \"\\\"."));
-    if (m_entry.action != Action::DeleteKey)
-        return;
+    if (m_entry.action == Action::DeleteKey)
+        judgeKeyDeletion();
+}
+
+// The service deletes a value of the same name along with a key.
+void ImportJudge::judgeKeyDeletion()
+{
     if (m_path.isEmpty())
-        refuse(tr("A root key cannot be deleted."));
-    else
-        remark(tr("Deletes the key with everything below it."));
+        return refuse(tr("A root key cannot be deleted."));
+    remark(tr("Deletes the key with everything below it."));
+    if (!rawRegistryEntry(m_path).isNull())
+        remark(tr("The value \"%1\" of %2 goes with it.")
+                   .arg(RegistryPath::name(m_path),
+                        RegistryPath::shown(RegistryPath::parent(m_path))));
+}
+
+// And a key of the same name along with a value.
+void ImportJudge::judgeValueDeletion()
+{
+    if (m_path.isEmpty())
+        return remark(
+            tr("Deletes the key \"%1\" below the root with everything in it.").arg(m_entry.name));
+    const QString key = RegistryPath::join(m_path, m_entry.name);
+    if (isRegistryGroup(key))
+        remark(tr("The key %1 goes with it, with everything in it.").arg(RegistryPath::shown(key)));
 }
 
 void ImportJudge::judgeName()
@@ -56,12 +76,9 @@ void ImportJudge::judgeName()
         return refuse(tr("The default value, which has no name, cannot be stored."));
     if (m_entry.name.contains(QLatin1Char('\\')) || m_entry.name.contains(QLatin1Char('/')))
         remark(tr("The separators in the name put the value into a sub-key."));
-    if (!m_path.isEmpty())
-        return;
     if (m_entry.action == Action::DeleteValue)
-        remark(
-            tr("Deletes the key \"%1\" below the root with everything in it.").arg(m_entry.name));
-    else
+        judgeValueDeletion();
+    else if (m_path.isEmpty())
         remark(tr("Directly under a root, it is kept in a key of its own name."));
 }
 

@@ -17,6 +17,8 @@ private:
     void refuse(const QString& why);
     void remark(const QString& what);
     void judgeKey();
+    void judgeKeyDeletion();
+    void judgeValueDeletion();
     void judgeName();
     void judgeData();
     void judgeNumber(int size);

@@ -1,6 +1,7 @@
 #include "app/pages/registry/ImportModel.h"
 
 #include "app/frame/GlyphIcon.h"
+#include "app/pages/PlainToolTip.h"
 #include "app/pages/registry/RegistryFormat.h"
 #include "app/pages/registry/RegistryKey.h"
 #include "platform/WindowsTypes.h"
@@ -68,8 +69,10 @@ QVariant ImportModel::data(const QModelIndex& index, int role) const
     if (!index.isValid())
         return {};
     const auto& item = m_import.items()[m_rows[static_cast<std::size_t>(index.row())]];
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+    if (role == Qt::DisplayRole)
         return text(item, index.column());
+    if (role == Qt::ToolTipRole)
+        return plainToolTip(text(item, index.column()).toString());
     if (role != Qt::DecorationRole || index.column() != Result || item.verdict == Verdict::Done)
         return {};
     return glyphIcon(item.verdict == Verdict::Refused ? Glyph::Error : Glyph::Warning);

@@ -69,6 +69,22 @@ QString counted(qint64 number)
     return QLocale().toString(number);
 }
 
+// Also by an entry that no host library can read: writing would replace that too.
+bool isTaken(const QString& path, const QString& name)
+{
+    return !rawRegistryEntry(RegistryPath::join(path.isEmpty() ? name : path, name)).isNull();
+}
+
+// The service deletes a value of the same name along with a key.
+QString valueAlongText(const QString& path)
+{
+    if (rawRegistryEntry(path).isNull())
+        return QString();
+    return QLatin1Char('\n') +
+           RegistryEditor::tr("The value \"%1\" of %2 goes with it.")
+               .arg(RegistryPath::name(path), RegistryPath::shown(RegistryPath::parent(path)));
+}
+
 } // namespace
 
 RegistryEditor::RegistryEditor(Page* page) : QObject(page), m_page(page) {}
@@ -117,7 +133,7 @@ void RegistryEditor::newValue(const QString& path, unsigned int type)
     auto* dialog = new ValueDialog(type, m_page);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, path] {
-        if (RegistryKey(path).read(dialog->name()).readable)
+        if (isTaken(path, dialog->name()))
             m_page->report(Page::Report::Error,
                            tr("%1 has a value \"%2\" already. Nothing was changed.")
                                .arg(RegistryPath::shown(path), dialog->name()));
@@ -237,7 +253,8 @@ void RegistryEditor::confirmKey(const QString& path, const QStringList& keys, in
 {
     ask(tr("Delete the key %1?").arg(RegistryPath::shown(path)),
         tr("Keys below it that go with it: %1. Values: %2.")
-            .arg(counted(keys.size() - 1), counted(values)),
+                .arg(counted(keys.size() - 1), counted(values)) +
+            valueAlongText(path),
         [this, path, keys] { removeKeys(path, keys); });
 }
 

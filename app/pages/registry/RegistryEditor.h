@@ -21,7 +21,7 @@ public:
     void newKey(const QString& parentPath);
     void newValue(const QString& path, unsigned int type);
     void editValue(const QString& path, const RegistryValueModel::Value& value);
-    /// Asks once for all, naming them.
+    /// Asks once for all, naming them. Nothing but name and place of the values is used.
     void removeValues(const QString& path, const std::vector<RegistryValueModel::Value>& values);
     /// Counts what goes with the key before it asks.
     void removeKey(const QString& path);

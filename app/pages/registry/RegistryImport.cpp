@@ -2,7 +2,9 @@
 
 #include "app/pages/registry/ImportJudge.h"
 #include "app/pages/registry/RegistryKey.h"
+#include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
+#include "app/pages/registry/RegistryRemoval.h"
 
 #include <algorithm>
 
@@ -29,6 +31,10 @@ bool removeValue(const QString& path, const QString& name)
 
 } // namespace
 
+RegistryImport::RegistryImport(const QByteArray& file) : m_reader(file) {}
+
+RegistryImport::~RegistryImport() = default;
+
 RegistryImport::Item RegistryImport::judged(const RegFileEntry& entry)
 {
     ImportJudge judge(entry);
@@ -52,13 +58,36 @@ int RegistryImport::count(Verdict verdict) const
 
 bool RegistryImport::apply()
 {
+    if (m_removal) {
+        removeOn();
+        return true;
+    }
     while (m_next < m_items.size() && m_items[m_next].verdict == Verdict::Refused)
         ++m_next;
     if (m_next >= m_items.size())
         return false;
-    ++(carryOut(m_items[m_next].entry) ? m_applied : m_failed);
-    ++m_next;
+    const RegFileEntry& entry = m_items[m_next++].entry;
+    if (entry.action == RegFileEntry::Action::DeleteKey)
+        beginRemoval(entry);
+    else
+        count(carryOut(entry));
     return true;
+}
+
+// A key may hold anything: the service would delete it in one go.
+void RegistryImport::beginRemoval(const RegFileEntry& entry)
+{
+    QString path;
+    RegistryPath::parse(entry.key, path);
+    m_removal = std::make_unique<RegistryRemoval>(registryKeysFrom(path));
+}
+
+void RegistryImport::removeOn()
+{
+    if (m_removal->step())
+        return;
+    count(m_removal->succeeded());
+    m_removal = nullptr;
 }
 
 bool RegistryImport::carryOut(const RegFileEntry& entry)
@@ -67,12 +96,11 @@ bool RegistryImport::carryOut(const RegFileEntry& entry)
     RegistryPath::parse(entry.key, path);
     switch (entry.action) {
     case RegFileEntry::Action::CreateKey: return ensureKey(path);
-    case RegFileEntry::Action::DeleteKey:
-        return RegistryKey(QString()).removeKey(path) == ERROR_SUCCESS;
     case RegFileEntry::Action::SetValue:
         return ensureKey(path) &&
                RegistryKey(path).set(entry.name, entry.type, dataOf(entry)) == ERROR_SUCCESS;
     case RegFileEntry::Action::DeleteValue: return removeValue(path, entry.name);
+    case RegFileEntry::Action::DeleteKey:
     case RegFileEntry::Action::Malformed: break;
     }
     return false;

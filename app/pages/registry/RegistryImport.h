@@ -4,7 +4,10 @@
 
 #include <QCoreApplication>
 
+#include <memory>
 #include <vector>
+
+class RegistryRemoval;
 
 /// What an import would do, statement by statement, and the doing. Both step by step, for sliced
 /// jobs: first `read`, then, when the user has seen `items`, `apply`.
@@ -27,7 +30,8 @@ public:
         QString remark;
     };
 
-    explicit RegistryImport(const QByteArray& file) : m_reader(file) {}
+    explicit RegistryImport(const QByteArray& file);
+    ~RegistryImport();
 
     /// Why the whole file is refused, in words; empty when it can be read.
     QString error() const { return m_reader.error(); }
@@ -37,7 +41,8 @@ public:
     const std::vector<Item>& items() const { return m_items; }
     int count(Verdict verdict) const;
 
-    /// Carries out one statement that is not refused; false at the end.
+    /// Carries out one statement that is not refused, or a small piece of one that deletes a key;
+    /// false at the end.
     bool apply();
     /// How many statements have been carried out, and how many the service failed.
     int applied() const { return m_applied; }
@@ -47,11 +52,15 @@ public:
     static Item judged(const RegFileEntry& entry);
 
 private:
-    bool carryOut(const RegFileEntry& entry);
+    static bool carryOut(const RegFileEntry& entry);
+    void beginRemoval(const RegFileEntry& entry);
+    void removeOn();
+    void count(bool done) { ++(done ? m_applied : m_failed); }
 
     RegFileReader m_reader;
     std::vector<Item> m_items;
     std::size_t m_next = 0;
+    std::unique_ptr<RegistryRemoval> m_removal; ///< under way
     int m_applied = 0;
     int m_failed = 0;
 };

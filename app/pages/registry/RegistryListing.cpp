@@ -2,10 +2,13 @@
 
 #include "app/pages/registry/RegistryPath.h"
 #include "host/HostLibraries.h"
+#include "platform/PlatformRegisterManagerImp.h"
 
+#include <QSet>
 #include <QSettings>
 
 #include <algorithm>
+#include <climits>
 
 namespace {
 
@@ -77,8 +80,27 @@ QStringList registryValueNames(const QString& path)
     return g_globalSettings->childKeys();
 }
 
+QStringList registryKeysFrom(const QString& path)
+{
+    QSet<QString> keys = {path};
+    if (g_globalSettings) {
+        const GroupScope group(path);
+        const QStringList entries = g_globalSettings->allKeys();
+        for (const QString& entry : entries) {
+            QString key = RegistryPath::join(path, entry).section(QLatin1Char('/'), 0, -2);
+            for (; !keys.contains(key); key = RegistryPath::parent(key))
+                keys.insert(key);
+        }
+    }
+    QStringList sorted = keys.values();
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
 bool isRegistryGroup(const QString& path)
 {
+    if (!g_globalSettings)
+        return false;
     const GroupScope group(path);
     return !g_globalSettings->childKeys().isEmpty() || !g_globalSettings->childGroups().isEmpty();
 }
@@ -86,6 +108,15 @@ bool isRegistryGroup(const QString& path)
 QVariant rawRegistryEntry(const QString& path)
 {
     return g_globalSettings ? g_globalSettings->value(path) : QVariant();
+}
+
+RegistryReading readAtRegistryRoot(const RegistryKey& root, const QString& name)
+{
+    RegistryReading reading = root.readListed(name);
+    unsigned int size = UINT_MAX;
+    QVariant entry = rawRegistryEntry(name);
+    QVarToRegValue(entry, &reading.type, nullptr, &size);
+    return reading;
 }
 
 QString rawRegistryText(const QVariant& entry)

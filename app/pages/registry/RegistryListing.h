@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/pages/registry/RegistryIndex.h"
+#include "app/pages/registry/RegistryKey.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -31,11 +32,18 @@ bool hasSubKeys(const RegistryIndex& index, const QString& path);
 /// The names of a key's values as they are now.
 QStringList registryValueNames(const QString& path);
 
+/// A key and all keys below it, as they are now, each before those below; also where there is none.
+QStringList registryKeysFrom(const QString& path);
+
 /// True when anything lies below this path now.
 bool isRegistryGroup(const QString& path);
 
 /// The entry itself, past the service: raw.
 QVariant rawRegistryEntry(const QString& path);
+
+/// A value that is listed in the root itself, with its type, which the call that reads it does not
+/// tell. `root` is the root.
+RegistryReading readAtRegistryRoot(const RegistryKey& root, const QString& name);
 
 /// What the file holds for an entry, as text.
 QString rawRegistryText(const QVariant& entry);

@@ -172,7 +172,7 @@ QLayout* RegistryPage::makeButtons()
         else
             removeKey();
     });
-    auto* search = glowing(new QPushButton(tr("Search...")));
+    auto* search = glowing(new QPushButton(tr("&Search...")));
     search->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
     connect(search, &QPushButton::clicked, this, &RegistryPage::find);
     auto* line = new QHBoxLayout;
@@ -201,6 +201,8 @@ void RegistryPage::connectParts()
     connect(m_editor, &RegistryEditor::changed, this, &RegistryPage::afterChange);
     connect(m_transfer, &RegistryTransfer::changed, this, &RegistryPage::refresh);
     connect(m_find, &FindPane::searchRequested, this, &RegistryPage::search);
+    connect(m_find, &FindPane::refused, this,
+            [this](const QString& why) { report(Report::Error, why); });
     connect(m_find, &FindPane::chosen, this, &RegistryPage::goTo);
     connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
 }
@@ -254,7 +256,7 @@ void RegistryPage::enableActions()
 void RegistryPage::refresh()
 {
     const QModelIndex value = m_table->currentIndex();
-    const QString name = value.isValid() ? m_values->value(value.row()).name : QString();
+    const QString name = value.isValid() ? m_values->nameAndPlace(value.row()).name : QString();
     m_keys->refresh();
     if (!std::exchange(m_read, true))
         m_tree->expand(m_keys->rootItem());
@@ -269,8 +271,11 @@ void RegistryPage::selectValue(const QString& name)
         m_table->setCurrentIndex(m_values->index(row, 0));
 }
 
+// A job that runs ends with a refresh where it has changed anything.
 void RegistryPage::entered()
 {
+    if (isBusy())
+        return;
     if (m_read)
         refresh();
     else
@@ -331,7 +336,7 @@ void RegistryPage::removeSelected()
     std::vector<RegistryValueModel::Value> values;
     const QModelIndexList rows = m_table->selectionModel()->selectedRows();
     for (const QModelIndex& index : rows)
-        values.push_back(m_values->value(index.row()));
+        values.push_back(m_values->nameAndPlace(index.row()));
     m_editor->removeValues(path(), values);
 }
 

@@ -18,7 +18,8 @@ bool RegistryRemoval::step()
         return true;
     }
     m_key.reset();
-    RegistryKey(QString()).removeKey(m_keys.takeLast());
+    if (RegistryKey(QString()).removeKey(m_keys.takeLast()) != ERROR_SUCCESS)
+        m_succeeded = false;
     return true;
 }
 

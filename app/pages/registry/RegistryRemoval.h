@@ -18,6 +18,8 @@ public:
     bool step();
 
     int values() const { return m_removed; }
+    /// False where the service has refused to delete a key.
+    bool succeeded() const { return m_succeeded; }
 
 private:
     void openLast();
@@ -26,4 +28,5 @@ private:
     QStringList m_values; ///< of the last key
     std::unique_ptr<RegistryKey> m_key;
     int m_removed = 0;
+    bool m_succeeded = true;
 };

@@ -1,6 +1,7 @@
 #include "app/pages/registry/RegistrySearch.h"
 
 #include "app/pages/registry/RegistryFormat.h"
+#include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 
 RegistrySearch::RegistrySearch(const QString& text, const QString& path, bool inNames, bool inData)
@@ -28,7 +29,9 @@ void RegistrySearch::lookAtKey()
 
 void RegistrySearch::lookAtValue()
 {
-    const RegistryReading reading = m_walk.key().read(m_walk.name());
+    const RegistryReading reading = m_walk.path().isEmpty()
+                                        ? readAtRegistryRoot(m_walk.key(), m_walk.name())
+                                        : m_walk.key().read(m_walk.name());
     const QString data =
         reading.readable ? RegistryFormat::data(reading.type, reading.data) : QString();
     const bool found = (m_inNames && matches(m_walk.name())) ||

@@ -19,6 +19,20 @@ QString counted(qint64 number)
     return QLocale().toString(number);
 }
 
+// Far above any registry file; one is read and decoded in one go, which halts the window.
+constexpr qint64 largestFile = qint64{32} * 1024 * 1024;
+
+// Why the file cannot be imported, or an empty text. To be asked before it is opened: opening a
+// pipe waits for who writes to it.
+QString fault(const QFileInfo& file)
+{
+    if (file.exists() && !file.isFile())
+        return RegistryTransfer::tr("it is not a regular file.");
+    if (file.size() > largestFile)
+        return RegistryTransfer::tr("it is larger than %1 MiB.").arg(largestFile / 1024 / 1024);
+    return {};
+}
+
 QFileDialog* fileDialog(Page* page, const QString& title)
 {
     auto* dialog = new QFileDialog(page, title);
@@ -81,6 +95,11 @@ void RegistryTransfer::askImport()
 
 void RegistryTransfer::importFile(const QString& file)
 {
+    const QString refused = fault(QFileInfo(file));
+    if (!refused.isEmpty()) {
+        m_page->report(Page::Report::Error, tr("%1 was not imported: %2").arg(file, refused));
+        return;
+    }
     QFile input(file);
     if (!input.open(QIODevice::ReadOnly)) {
         m_page->report(Page::Report::Error,

@@ -1,15 +1,13 @@
 #include "app/pages/registry/RegistryValueModel.h"
 
+#include "app/pages/PlainToolTip.h"
 #include "app/pages/registry/RegistryFormat.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/StoredText.h"
-#include "platform/PlatformRegisterManagerImp.h"
 
 #include <QFont>
 #include <QFontDatabase>
-
-#include <climits>
 
 namespace {
 
@@ -26,15 +24,6 @@ QString placeRemark(RegistryValueModel::Place place, const QString& name)
     case RegistryValueModel::Place::InKey: break;
     }
     return QString();
-}
-
-// The call that reads a listed entry of the root tells no type.
-unsigned int typeOf(QVariant entry)
-{
-    unsigned int type = REG_NONE;
-    unsigned int size = UINT_MAX;
-    QVarToRegValue(entry, &type, nullptr, &size);
-    return type;
 }
 
 } // namespace
@@ -89,12 +78,8 @@ RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
     Value value{row.name, row.place, {}, {}, {}};
     const QVariant entry = rawRegistryEntry(entryPath(row));
     value.raw = rawRegistryText(entry);
-    if (row.place == Place::ListedAtRoot) {
-        value.reading = m_key->readListed(row.name);
-        value.reading.type = typeOf(entry);
-    } else {
-        value.reading = m_key->read(row.name);
-    }
+    value.reading = row.place == Place::ListedAtRoot ? readAtRegistryRoot(*m_key, row.name)
+                                                     : m_key->read(row.name);
     const StoredText stored(entry);
     value.remark = value.reading.readable ? stored.warning() : stored.whyUnreadable();
     if (value.remark.isEmpty())
@@ -108,6 +93,12 @@ const RegistryValueModel::Value& RegistryValueModel::value(int row) const
     if (!item.value)
         item.value = read(item);
     return *item.value;
+}
+
+RegistryValueModel::Value RegistryValueModel::nameAndPlace(int row) const
+{
+    const Row& item = m_rows[static_cast<std::size_t>(row)];
+    return {item.name, item.place, {}, {}, {}};
 }
 
 int RegistryValueModel::rowOf(const QString& name) const
@@ -127,7 +118,9 @@ QVariant RegistryValueModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole: return text(item, index.column());
     case Qt::DecorationRole: return decoration(item, index.column());
-    case Qt::ToolTipRole: return item.remark.isEmpty() ? text(item, index.column()) : item.remark;
+    case Qt::ToolTipRole:
+        return plainToolTip(item.remark.isEmpty() ? text(item, index.column()).toString()
+                                                  : item.remark);
     case Qt::FontRole:
         if (index.column() == Raw)
             return QFontDatabase::systemFont(QFontDatabase::FixedFont);

@@ -54,7 +54,10 @@ public:
     void setPath(const QString& path, const RegistryIndex& names);
     QString path() const { return m_path; }
 
+    /// Reads the value through the service unless it was read before.
     const Value& value(int row) const;
+    /// A value of which no more is known, and for which nothing is read.
+    Value nameAndPlace(int row) const;
     /// The row of a name, or -1. A value that can be asked for comes before one that is listed.
     int rowOf(const QString& name) const;
 

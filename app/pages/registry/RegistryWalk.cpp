@@ -5,10 +5,12 @@
 
 #include <algorithm>
 
-RegistryWalk::RegistryWalk(const QString& path) : m_index(RegistryIndex::read()), m_pending(path) {}
+RegistryWalk::RegistryWalk(const QString& path) : m_pending(path) {}
 
 RegistryWalk::Step RegistryWalk::next()
 {
+    if (!m_index)
+        m_index = RegistryIndex::read();
     if (m_at + 1 < m_names.size()) {
         ++m_at;
         ++m_values;

@@ -20,6 +20,7 @@ public:
         End
     };
 
+    /// Quick: the store is listed by the first step.
     explicit RegistryWalk(const QString& path);
 
     Step next();

@@ -1,7 +1,9 @@
 #include "app/pages/registry/ValueDialog.h"
 
 #include "app/pages/Page.h"
+#include "app/pages/PlainText.h"
 #include "app/pages/registry/RegistryFormat.h"
+#include "app/pages/registry/RegistryKey.h"
 #include "app/pages/registry/ValueInput.h"
 
 #include <QComboBox>
@@ -16,6 +18,13 @@
 namespace {
 
 constexpr unsigned int types[] = {REG_SZ, REG_DWORD, REG_QWORD, REG_BINARY};
+
+// Line ends that do not survive being edited: the field knows but one kind.
+bool hasOtherLineEnds(const QString& text)
+{
+    return text.contains(QLatin1Char('\r')) || text.contains(QChar::LineSeparator) ||
+           text.contains(QChar::ParagraphSeparator);
+}
 
 } // namespace
 
@@ -43,6 +52,7 @@ ValueDialog::ValueDialog(const QString& name, unsigned int type, const QByteArra
     m_name->setText(name);
     m_name->setReadOnly(true);
     m_data->setPlainText(RegistryFormat::editable(type, data));
+    m_original = {type, data, m_data->document()->toRawText()};
     m_data->selectAll();
     m_data->setFocus();
 }
@@ -90,17 +100,33 @@ unsigned int ValueDialog::type() const
 
 QByteArray ValueDialog::data() const
 {
-    return ValueInput(type(), m_data->toPlainText()).data();
+    if (!isUnchanged())
+        return ValueInput(type(), textOf(*m_data)).data();
+    return type() == REG_SZ ? m_original.data + registryTextData(QString()) : m_original.data;
+}
+
+// The field may show data otherwise than it is, as with line ends; untouched it stays as it is.
+bool ValueDialog::isUnchanged() const
+{
+    return m_name->isReadOnly() && type() == m_original.type &&
+           m_data->document()->toRawText() == m_original.shown;
+}
+
+QString ValueDialog::warning(const ValueInput& input) const
+{
+    const bool losesLineEnds = type() == REG_SZ && m_original.type == REG_SZ && !isUnchanged() &&
+                               hasOtherLineEnds(registryText(m_original.data));
+    return losesLineEnds ? tr("Line ends become LF.") : input.warning();
 }
 
 // A name that is fixed is the store's, whatever it holds.
 void ValueDialog::check()
 {
-    const ValueInput input(type(), m_data->toPlainText());
+    const ValueInput input(type(), textOf(*m_data));
     const QString nameProblem = m_name->isReadOnly() ? QString() : ValueInput::nameProblem(name());
     const QString problem = nameProblem.isEmpty() ? input.problem() : nameProblem;
     m_ok->setEnabled(problem.isEmpty());
-    showNote(problem.isEmpty() ? input.warning() : problem, !problem.isEmpty());
+    showNote(problem.isEmpty() ? warning(input) : problem, !problem.isEmpty());
 }
 
 void ValueDialog::showNote(const QString& text, bool isProblem)

@@ -9,6 +9,7 @@ class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
+class ValueInput;
 
 /// Asks for a value: name, type and data. What is typed is checked at once: a problem stands below
 /// and keeps the button off; what the registry will change is told there before it happens.
@@ -28,7 +29,16 @@ public:
     QByteArray data() const;
 
 private:
+    struct Original
+    {
+        unsigned int type = REG_NONE;
+        QByteArray data;
+        QString shown;
+    };
+
     void build();
+    bool isUnchanged() const;
+    QString warning(const ValueInput& input) const;
     void check();
     void showNote(const QString& text, bool isProblem);
 
@@ -38,4 +48,5 @@ private:
     QLabel* m_noteIcon;
     QLabel* m_note;
     QPushButton* m_ok = nullptr;
+    Original m_original; ///< of a value that exists
 };

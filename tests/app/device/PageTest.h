@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MainWindow.h"
+#include "app/pages/MnemonicText.h"
 #include "app/pages/Page.h"
 
 #include <QApplication>
@@ -26,13 +27,14 @@ protected:
 
     Page* page() { return m_window.currentPage(); }
 
-    /// The control of that accessible name that can be seen.
+    /// The control that is named by this caption and can be seen.
     template <typename Widget>
-    Widget* control(const QString& name)
+    Widget* control(const QString& caption)
     {
+        const QString name = withoutMnemonic(caption);
         const auto all = page()->findChildren<Widget*>();
         for (Widget* widget : all) {
-            if (widget->accessibleName() == name && widget->isVisible())
+            if (withoutMnemonic(widget->accessibleName()) == name && widget->isVisible())
                 return widget;
         }
         ADD_FAILURE() << "no control " << name.toStdString();

@@ -169,6 +169,17 @@ TEST_F(FontsPageTest, RegistersTheFontsOfTheSystem)
     EXPECT_TRUE(status().startsWith(QStringLiteral("Registered:")));
 }
 
+TEST_F(FontsPageTest, IsNotReadAnewWhileAJobRuns)
+{
+    m_probe.page().startJob({QStringLiteral("Endless"), [] { return true; }, {}, {}});
+    add("Global", "Local", GB2312_CHARSET);
+    m_probe.page().entered();
+    EXPECT_EQ(model().rowCount(), 0);
+    m_probe.page().cancelJob();
+    m_probe.page().entered();
+    EXPECT_EQ(model().rowCount(), 1);
+}
+
 TEST_F(FontsPageTest, ShowsAPreviewInTheFontItself)
 {
     registerSystemFonts();

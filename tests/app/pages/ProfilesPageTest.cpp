@@ -1,5 +1,6 @@
 #include "app/pages/profiles/ProfileDocument.h"
 #include "app/pages/profiles/ProfileReader.h"
+#include "app/pages/profiles/ProfileWriter.h"
 #include "tests/app/pages/ProfileFixture.h"
 #include "tests/app/pages/WindowProbe.h"
 
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
@@ -17,6 +19,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 namespace {
 
@@ -168,7 +172,8 @@ TEST_F(ProfilesPageTest, RefusesAFileThatIsTooLarge)
     EXPECT_EQ(ProfileDocument().load(m_file.path()), QString());
     m_file.write(QByteArray(largest + 1, '\n'));
     open();
-    EXPECT_TRUE(status().endsWith(QStringLiteral("is larger than 512 KiB: not a profile.")));
+    EXPECT_TRUE(
+        status().endsWith(QStringLiteral("is larger than 512 KiB, the most that is opened here.")));
     EXPECT_EQ(model("lines").rowCount(), 0);
 }
 
@@ -206,10 +211,57 @@ TEST_F(ProfilesPageTest, AsksBeforeANarrowWriteLosesLines)
     const auto* list = question()->findChild<QListWidget*>(QStringLiteral("lostLines"));
     ASSERT_EQ(list->count(), 4);
     EXPECT_EQ(list->item(3)->text(), QStringLiteral("4 (two “=”): Query=a=b"));
+    EXPECT_EQ(question()->findChild<QLabel*>(QStringLiteral("changes"))->text(),
+              QStringLiteral("Blank lines lost: 1."));
     question()->reject();
     EXPECT_EQ(m_file.bytes(), text);
     EXPECT_EQ(files(), QStringList({"profile.ini"}));
 }
+
+struct Rewriting
+{
+    const char* name;
+    const char* bytes;
+    const char* changes; ///< empty: nobody is asked
+};
+
+class ProfileRewritingTest : public ProfilesPageTest, public testing::WithParamInterface<Rewriting>
+{
+};
+
+TEST_P(ProfileRewritingTest, IsToldBeforeANarrowWrite)
+{
+    m_file.write(GetParam().bytes);
+    open();
+    request(QStringLiteral("B"), QStringLiteral("x"), QStringLiteral("1"), narrow);
+    ASSERT_EQ(question() != nullptr, *GetParam().changes != 0);
+    if (question()) {
+        EXPECT_EQ(question()->findChild<QLabel*>(QStringLiteral("changes"))->text(),
+                  QLatin1String(GetParam().changes));
+        EXPECT_EQ(question()->findChild<QListWidget*>(QStringLiteral("lostLines")), nullptr);
+        question()->reject();
+        EXPECT_EQ(m_file.bytes(), GetParam().bytes);
+    }
+    ASSERT_TRUE(m_probe.settle());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, ProfileRewritingTest,
+    testing::Values(
+        Rewriting{
+            "All", "[B]\nx = 1\n\n[A]\ny=2\n",
+            "Blank lines lost: 1. The order of sections and keys changes. Spaces and line ends "
+            "are normalised."},
+        Rewriting{"BlankLines", "\n[B]\n \nx=1\n", "Blank lines lost: 2."},
+        Rewriting{"Sections", "[B]\nx=1\n[A]\ny=2\n", "The order of sections and keys changes."},
+        Rewriting{"Keys", "[A]\ny=2\nx=1\n", "The order of sections and keys changes."},
+        Rewriting{"Spaces", "[A]\nx= 1\n", "Spaces and line ends are normalised."},
+        Rewriting{"LineEnds", "[A]\r\nx=1\r\n", "Spaces and line ends are normalised."},
+        Rewriting{"OpenEnd", "[A]\nx=1", "Spaces and line ends are normalised."},
+        Rewriting{"Mark", "\xef\xbb\xbf[A]\nx=1\n", "Spaces and line ends are normalised."},
+        Rewriting{"Encoding", "[A]\nx=\xe4\n", "The encoding becomes UTF-8."},
+        Rewriting{"None", "[A]\nx=1\ny=2\n[B]\nz=3\n", ""}),
+    [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(ProfilesPageTest, WritesThroughTheNarrowFamilyAfterABackup)
 {
@@ -274,6 +326,47 @@ TEST_F(ProfilesPageTest, RefusesToWriteWithoutAFile)
 {
     request(QStringLiteral("S"), QStringLiteral("k"), QStringLiteral("v"), wide);
     EXPECT_EQ(status(), QStringLiteral("Open a file first."));
+}
+
+// In a folder in which nothing can be created.
+class ProfileInLockedFolderTest : public ProfilesPageTest
+{
+protected:
+    void SetUp() override
+    {
+        if (geteuid() == 0)
+            GTEST_SKIP() << "may write to every folder";
+        m_file.write("[Net]\nMask=255\n");
+        ASSERT_TRUE(QFile::setPermissions(m_file.folder(), QFile::ReadOwner | QFile::ExeOwner));
+    }
+    void TearDown() override
+    {
+        QFile::setPermissions(m_file.folder(),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+};
+
+TEST_F(ProfileInLockedFolderTest, TheWideFamilyWritesNothing)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), wide);
+    EXPECT_TRUE(status().endsWith(QStringLiteral("cannot be written."))) << status().toStdString();
+    EXPECT_FALSE(ProfileWriter(m_file.path())
+                     .write({ProfileFamily::Wide, QStringLiteral("Net"), QStringLiteral("Mask"),
+                             QStringLiteral("1")}));
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=255\n");
+}
+
+TEST_F(ProfileInLockedFolderTest, TheNarrowFamilyWritesWithoutABackupAlone)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    EXPECT_EQ(status(), QStringLiteral("Nothing written: the backup copy could not be made."));
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=255\n");
+    m_probe.control<QCheckBox>("backup").setChecked(false);
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
 }
 
 struct Refusal

@@ -1,8 +1,7 @@
 #include "app/pages/registry/ImportJudge.h"
 
 #include "platform/WindowsTypes.h"
-
-#include <gtest/gtest.h>
+#include "tests/app/registry/RegistryTest.h"
 
 #include <ostream>
 
@@ -94,6 +93,34 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{value(REG_DWORD_BIG_ENDIAN, "00000001"), Verdict::Refused, "BIG_ENDIAN"},
                     Row{value(REG_RESOURCE_LIST, "00"), Verdict::Refused, "REG_RESOURCE_LIST"},
                     Row{value(12, "00"), Verdict::Refused, "12"}));
+
+class StatementOnTwins : public RegistryTest
+{
+protected:
+    static std::string remark(Action action, const char* key, const char* name = "")
+    {
+        store("A/twin", "1$1");
+        store("A/twin/inside", "1$1");
+        store("A/key/inside", "1$1");
+        return RegistryImport::judged(statement(action, key, name)).remark.toStdString();
+    }
+};
+
+TEST_F(StatementOnTwins, TellsOfTheValueThatGoesWithAKey)
+{
+    EXPECT_EQ(remark(Action::DeleteKey, "HKEY_CURRENT_USER\\A\\twin"),
+              "Deletes the key with everything below it. The value \"twin\" of "
+              "HKEY_CURRENT_USER\\A goes with it.");
+    EXPECT_EQ(remark(Action::DeleteKey, "HKEY_CURRENT_USER\\A\\key"),
+              "Deletes the key with everything below it.");
+}
+
+TEST_F(StatementOnTwins, TellsOfTheKeyThatGoesWithAValue)
+{
+    EXPECT_EQ(remark(Action::DeleteValue, "HKEY_CURRENT_USER\\A", "twin"),
+              "The key HKEY_CURRENT_USER\\A\\twin goes with it, with everything in it.");
+    EXPECT_EQ(remark(Action::DeleteValue, "HKEY_CURRENT_USER\\A", "inside"), "");
+}
 
 TEST(ImportJudge, PassesOnWhatTheReaderFound)
 {

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QSettings>
 #include <QTableView>
 #include <QTest>
@@ -153,14 +154,33 @@ TEST_F(RegistryEditTest, BadInputIsRefusedAndNothingChanges)
 
 TEST_F(RegistryEditTest, ANewValueNeverReplacesOneThatIsThere)
 {
-    store("A/v", "5$old");
+    show();
+    for (const char* old : {"5$old", "no tag", "3$x"}) {
+        for (const char* key : {"A", ""}) {
+            const QString entry = *key ? "A/v" : "v/v";
+            g_globalSettings->clear();
+            store(entry, old);
+            m_page.refresh();
+            m_page.goTo(key);
+            chooseNew(NewString);
+            type("v", "new");
+            ASSERT_TRUE(accept());
+            EXPECT_EQ(stored(entry).toStdString(), old);
+            EXPECT_TRUE(status().contains("Nothing was changed")) << status().toStdString();
+        }
+    }
+}
+
+TEST_F(RegistryEditTest, ANewValueMayHaveTheNameOfANewKey)
+{
+    store("A/v", "1$1");
+    store("A/fresh", QVariant());
     show();
     m_page.goTo("A");
     chooseNew(NewString);
-    type("v", "new");
+    type("fresh", "new");
     ASSERT_TRUE(accept());
-    EXPECT_EQ(stored("A/v").toStdString(), "5$old");
-    EXPECT_TRUE(status().contains("Nothing was changed")) << status().toStdString();
+    EXPECT_EQ(stored("A/fresh").toStdString(), "5$new");
 }
 
 TEST_F(RegistryEditTest, AValueSetUnderTheRootShowsWhereItIsKept)
@@ -187,6 +207,52 @@ TEST_F(RegistryEditTest, F2EditsTheValueWithItsData)
     ASSERT_TRUE(accept());
     EXPECT_EQ(stored("A/v").toStdString(), "1$43");
     EXPECT_EQ(cell(0, RegistryValueModel::Data).toStdString(), "43 (0x0000002b)");
+}
+
+class UneditedValue : public RegistryEditTest, public testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(UneditedValue, StaysAsItIs)
+{
+    const QString old = QString::fromUtf8(GetParam());
+    store("A/v", old);
+    show();
+    m_page.goTo("A", "v");
+    QTest::keyClick(&table(), Qt::Key_F2);
+    EXPECT_FALSE(words().contains("Line ends")) << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/v").toStdString(), old.toStdString());
+    EXPECT_EQ(status().toStdString(), "Set \"v\" in HKEY_CURRENT_USER\\A.");
+}
+
+INSTANTIATE_TEST_SUITE_P(OfEachType, UneditedValue,
+                         testing::Values("5$a\r\nb\u00a0c", "5$a\u2028b\u2029c", "5$\ufdd0", "5$",
+                                         "1$42", "2$255", "4$00ff"));
+
+TEST_F(RegistryEditTest, AnEditedTextKeepsItsNoBreakSpaces)
+{
+    store("A/v", QString::fromUtf16(u"5$b\u00a0c"));
+    show();
+    m_page.goTo("A", "v");
+    QTest::keyClick(&table(), Qt::Key_F2);
+    QTest::keyClick(dialog().findChild<QPlainTextEdit*>(), Qt::Key_End);
+    QTest::keyClicks(dialog().findChild<QPlainTextEdit*>(), "!");
+    EXPECT_FALSE(words().contains("Line ends")) << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/v"), QString::fromUtf16(u"5$b\u00a0c!"));
+}
+
+TEST_F(RegistryEditTest, TellsThatAnEditedTextLosesItsLineEnds)
+{
+    store("A/v", "5$a\r\nb");
+    show();
+    m_page.goTo("A", "v");
+    QTest::keyClick(&table(), Qt::Key_F2);
+    type({}, "a\nc");
+    EXPECT_TRUE(words().contains("Line ends become LF.")) << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/v").toStdString(), "5$a\nc");
 }
 
 TEST_F(RegistryEditTest, AnUnreadableValueCanBeReplaced)
@@ -283,6 +349,24 @@ TEST_F(RegistryEditTest, DeletingAKeyCountsWhatGoes)
     ASSERT_TRUE(accept());
     EXPECT_EQ(g_globalSettings->allKeys(), QStringList("A/v"));
     EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A");
+}
+
+TEST_F(RegistryEditTest, DeletingAKeyTellsOfTheValueThatGoesAlong)
+{
+    store("A/twin", "1$1");
+    store("A/twin/inside", "1$1");
+    store("A/single/inside", "1$1");
+    show();
+    m_page.goTo("A/single");
+    pressDelete(tree());
+    EXPECT_FALSE(words().contains("The value")) << words().toStdString();
+    reject();
+    m_page.goTo("A/twin");
+    pressDelete(tree());
+    EXPECT_TRUE(words().contains("The value \"twin\" of HKEY_CURRENT_USER\\A goes with it."))
+        << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(g_globalSettings->allKeys(), QStringList("A/single/inside"));
 }
 
 TEST_F(RegistryEditTest, TheRootIsNotDeleted)

@@ -154,6 +154,28 @@ TEST_F(RegistryFiles, ImportDeletesValuesAndKeys)
     EXPECT_FALSE(holds("B/v"));
 }
 
+TEST_F(RegistryFiles, ImportDeletesALargeKeyInManySteps)
+{
+    constexpr int count = 1000;
+    for (int i = 0; i < count; ++i)
+        store(QString("A/B%1/v%2").arg(i % 7).arg(i), "1$1");
+    store("A", "1$1");
+    store("A/created", QVariant());
+    store("AB/v", "1$1");
+    RegistryImport task((regFileHeader + "\n[-HKEY_CURRENT_USER\\A]\n").toUtf8());
+    while (task.read()) {
+    }
+    int steps = 0;
+    while (task.applied() == 0) {
+        ASSERT_TRUE(task.apply());
+        ++steps;
+    }
+    EXPECT_GT(steps, count);
+    EXPECT_FALSE(task.apply());
+    EXPECT_EQ(task.failed(), 0);
+    EXPECT_EQ(g_globalSettings->allKeys(), QStringList("AB/v"));
+}
+
 TEST_F(RegistryFiles, ImportSkipsWhatIsRefused)
 {
     import("[HKEY_CURRENT_USER\\A]\n\"multi\"=hex(7):61,00\n@=\"d\"\nnonsense\n\"good\"=dword:1\n");

@@ -1,3 +1,5 @@
+#include "app/pages/registry/HitModel.h"
+#include "app/pages/registry/ImportModel.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistrySearch.h"
@@ -212,6 +214,56 @@ TEST_F(RegistryModels, ShowAnEntryOfTheRootAsListedOnly)
     EXPECT_TRUE(m_values.value(0).remark.contains("Only listed"));
 }
 
+TEST_F(RegistryModels, TellNameAndPlaceWithoutReading)
+{
+    store("X/X", "5$old");
+    store("loose", "5$old");
+    m_tree.refresh();
+    m_values.setPath("", m_tree.names());
+    ASSERT_EQ(m_values.rowCount(), 2);
+    EXPECT_EQ(m_values.nameAndPlace(0).name.toStdString(), "X");
+    EXPECT_EQ(m_values.nameAndPlace(0).place, Model::Place::UnderRoot);
+    EXPECT_EQ(m_values.nameAndPlace(1).name.toStdString(), "loose");
+    EXPECT_EQ(m_values.nameAndPlace(1).place, Model::Place::ListedAtRoot);
+    EXPECT_TRUE(m_values.nameAndPlace(0).raw.isEmpty());
+    store("X/X", "5$new"); // what was read before would still be shown
+    EXPECT_EQ(cell(0, Model::Data).toStdString(), "new");
+}
+
+TEST_F(RegistryModels, AWalkListsTheStoreInItsFirstStep)
+{
+    RegistryWalk walk("");
+    store("A/v", "1$1");
+    EXPECT_EQ(walk.next(), RegistryWalk::Step::Key);
+    EXPECT_EQ(walk.next(), RegistryWalk::Step::Key);
+    EXPECT_EQ(walk.path().toStdString(), "A");
+}
+
+constexpr char markup[] = "<b>bold</b>";
+constexpr char escaped[] = "<span>&lt;b&gt;bold&lt;/b&gt;</span>";
+
+TEST_F(RegistryModels, ShowMarkupInToolTipsAsItStands)
+{
+    store("A/v", QString("5$") + markup);
+    m_values.setPath("A", m_tree.names());
+    const auto tip = [](const QAbstractItemModel& model, int column) {
+        return model.index(0, column).data(Qt::ToolTipRole).toString().toStdString();
+    };
+    EXPECT_EQ(tip(m_values, Model::Data), escaped);
+    EXPECT_EQ(tip(m_values, Model::Name), "v");
+    HitModel hits;
+    hits.setHits({{"A", "v", markup}});
+    EXPECT_EQ(tip(hits, HitModel::Data), escaped);
+    RegistryImport import(
+        "Windows Registry Editor Version 5.00\n[HKEY_USERS\\A]\n\"<b>bold</b>\"=-\n");
+    while (import.read()) {
+    }
+    ImportModel statements(import);
+    statements.setOnlyRemarkable(false);
+    EXPECT_EQ(statements.index(1, ImportModel::Name).data(Qt::ToolTipRole).toString().toStdString(),
+              escaped);
+}
+
 TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
 {
     store("Vendor/Product/Path", "5$/opt/Blue");
@@ -231,6 +283,17 @@ TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
     EXPECT_EQ(found(true, true), QStringList({"Blue/", "Other/blueish", "Vendor/Product/Path"}));
     EXPECT_EQ(found(true, false), QStringList({"Blue/", "Other/blueish"}));
     EXPECT_EQ(found(false, true), QStringList("Vendor/Product/Path"));
+}
+
+TEST_F(RegistryModels, SearchTheDataOfWhatTheRootLists)
+{
+    store("loose", "5$blue");
+    RegistrySearch search("BLUE", "", false, true);
+    while (search.step()) {
+    }
+    ASSERT_EQ(search.hits().size(), 1U);
+    EXPECT_EQ(search.hits().front().name.toStdString(), "loose");
+    EXPECT_EQ(search.hits().front().data.toStdString(), "blue");
 }
 
 TEST_F(RegistryModels, EndASearchThatFindsTooMuch)

@@ -3,6 +3,7 @@
 #include "tests/app/registry/RegistryPageFixture.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
@@ -116,6 +117,50 @@ TEST_F(RegistryPageTest, FindsAndGoesToAHit)
     EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
     EXPECT_TRUE(table().hasFocus());
     EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "colour");
+}
+
+TEST_F(RegistryPageTest, SaysWhatASearchLacks)
+{
+    show();
+    m_page.find();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Type the text to find first.");
+    field->setText("x");
+    for (QCheckBox* box : m_page.findChildren<QCheckBox*>())
+        box->setChecked(false);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Choose where to search: in names, in values, or in both.");
+}
+
+TEST_F(RegistryPageTest, IsNotReadAnewWhileAJobRuns)
+{
+    store("A/v", "1$1");
+    show();
+    m_page.goTo("A");
+    m_page.startJob({"Endless", [] { return true; }, {}, {}});
+    store("A/w", "1$1");
+    m_page.entered();
+    EXPECT_EQ(table().model()->rowCount(), 1);
+    m_page.cancelJob();
+    m_page.entered();
+    EXPECT_EQ(table().model()->rowCount(), 2);
+}
+
+TEST_F(RegistryPageTest, GivesEachButtonAMnemonicOfItsOwn)
+{
+    show();
+    m_page.find();
+    QStringList mnemonics;
+    for (const auto* button : m_page.findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty())
+            continue;
+        const QString mnemonic = QKeySequence::mnemonic(button->text()).toString();
+        EXPECT_FALSE(mnemonic.isEmpty()) << button->text().toStdString();
+        EXPECT_FALSE(mnemonics.contains(mnemonic)) << button->text().toStdString();
+        mnemonics.append(mnemonic);
+    }
+    EXPECT_EQ(mnemonics.size(), 11);
 }
 
 TEST_F(RegistryPageTest, EscapeHidesTheSearch)

@@ -2,6 +2,7 @@
 #include "host/HostLibraries.h"
 #include "tests/app/registry/RegistryPageFixture.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QFile>
@@ -76,6 +77,26 @@ TEST_F(RegistryTransferTest, AFileThatIsNoRegistryFileIsRefusedWithItsReason)
     EXPECT_TRUE(status().contains("does not begin with")) << status().toStdString();
     m_page.transfer().importFile(m_folder.filePath("missing.reg"));
     EXPECT_TRUE(status().contains("could not be read")) << status().toStdString();
+}
+
+TEST_F(RegistryTransferTest, AFileThatIsTooLargeIsNotRead)
+{
+    constexpr qint64 largest = qint64{32} * 1024 * 1024;
+    const QString path = written(header);
+    show();
+    ASSERT_TRUE(QFile::resize(path, largest + 1));
+    m_page.transfer().importFile(path);
+    EXPECT_TRUE(status().endsWith("was not imported: it is larger than 32 MiB."))
+        << status().toStdString();
+    EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
+TEST_F(RegistryTransferTest, AFolderIsNoRegistryFile)
+{
+    show();
+    m_page.transfer().importFile(m_folder.path());
+    EXPECT_TRUE(status().endsWith("was not imported: it is not a regular file."))
+        << status().toStdString();
 }
 
 TEST_F(RegistryTransferTest, ExportWritesTheKeyAndCountsWhatItLeftOut)
