@@ -59,8 +59,8 @@ TEST(CurrTime, IsTheLocalTimeNow)
     EXPECT_EQ(19U, text.size());
 }
 
-// A device may get its time zone while the program runs. The expectation must not use localtime, which
-// would take the new zone over by itself.
+// A device may get its time zone while the program runs. The expectation must not use localtime,
+// which would take the new zone over by itself.
 TEST(CurrTime, FollowsAChangeOfTheTimeZone)
 {
     const QByteArray former = qgetenv("TZ");
