@@ -259,18 +259,6 @@
         <translation>指针与光标</translation>
     </message>
     <message>
-        <source>GetCursorPos, on the screen:</source>
-        <translation>GetCursorPos（屏幕坐标）：</translation>
-    </message>
-    <message>
-        <source>ScreenToClient, in this window:</source>
-        <translation>ScreenToClient（窗口坐标）：</translation>
-    </message>
-    <message>
-        <source>GetCursor, override cursor:</source>
-        <translation>GetCursor（覆盖光标）：</translation>
-    </message>
-    <message>
         <source>Each SetCursor adds a level to the stack of cursors, and the service never takes one away.</source>
         <translation>每次 SetCursor 都会在光标栈上增加一层，而服务从不移除任何一层。</translation>
     </message>
@@ -301,6 +289,18 @@
     <message>
         <source>null: none is set</source>
         <translation>空：未设置</translation>
+    </message>
+    <message>
+        <source>GetCursorPos (screen):</source>
+        <translation>GetCursorPos（屏幕坐标）：</translation>
+    </message>
+    <message>
+        <source>ScreenToClient (window):</source>
+        <translation>ScreenToClient（窗口坐标）：</translation>
+    </message>
+    <message>
+        <source>GetCursor (override):</source>
+        <translation>GetCursor（覆盖光标）：</translation>
     </message>
 </context>
 <context>

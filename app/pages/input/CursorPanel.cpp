@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QPushButton>
 
 #include <algorithm>
@@ -53,14 +52,10 @@ QString shapeName(Qt::CursorShape shape)
 CursorPanel::CursorPanel(QWidget* parent) : QGroupBox(tr("Pointer and cursor"), parent)
 {
     auto* form = new QFormLayout(this);
-    m_screen = addValue(form, tr("GetCursorPos, on the screen:"), QStringLiteral("screen"));
-    m_window = addValue(form, tr("ScreenToClient, in this window:"), QStringLiteral("window"));
-    m_cursor = addValue(form, tr("GetCursor, override cursor:"), QStringLiteral("cursor"));
+    m_screen = addValue(form, tr("GetCursorPos (screen):"), QStringLiteral("screen"));
+    m_window = addValue(form, tr("ScreenToClient (window):"), QStringLiteral("window"));
+    m_cursor = addValue(form, tr("GetCursor (override):"), QStringLiteral("cursor"));
     form->addRow(makeTools());
-    auto* note = new QLabel(tr("Each SetCursor adds a level to the stack of cursors, and the "
-                               "service never takes one away."));
-    note->setWordWrap(true);
-    form->addRow(note);
 }
 
 CursorPanel::~CursorPanel()
@@ -83,6 +78,8 @@ QWidget* CursorPanel::makeTools()
     m_shapes->setAccessibleName(tr("Shape of the cursor"));
     addShapes();
     auto* set = glowing(new QPushButton(tr("S&etCursor")));
+    set->setToolTip(tr("Each SetCursor adds a level to the stack of cursors, and the service never "
+                       "takes one away."));
     connect(set, &QPushButton::clicked, this, &CursorPanel::setCursorShape);
     m_takeBack = glowing(new QPushButton(tr("Ta&ke back")));
     m_takeBack->setToolTip(tr("Takes away the levels added here, past the service, which cannot."));

@@ -104,22 +104,22 @@ TEST_F(InputPageTest, ShowsThePointerOnTheScreenAndInTheWindow)
     QCursor::setPos(200, 150);
     const QPoint inside = m_window.mapFromGlobal({200, 150});
     ASSERT_TRUE(
-        QTest::qWaitFor([this] { return label("GetCursorPos, on the screen:") == "200, 150"; }));
-    EXPECT_EQ(label("ScreenToClient, in this window:"),
+        QTest::qWaitFor([this] { return label("GetCursorPos (screen):") == "200, 150"; }));
+    EXPECT_EQ(label("ScreenToClient (window):"),
               QStringLiteral("%1, %2").arg(inside.x()).arg(inside.y()).toStdString());
 }
 
 TEST_F(InputPageTest, SetsTheOverrideCursorAndTakesItBack)
 {
-    EXPECT_EQ(label("GetCursor, override cursor:"), "null: none is set");
+    EXPECT_EQ(label("GetCursor (override):"), "null: none is set");
     setCursor("Wait");
     setCursor("Cross");
-    EXPECT_EQ(label("GetCursor, override cursor:"), "Cross");
+    EXPECT_EQ(label("GetCursor (override):"), "Cross");
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::CrossCursor);
     EXPECT_EQ(status(), "Levels added from here: 2.");
     press("Ta&ke back");
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-    EXPECT_EQ(label("GetCursor, override cursor:"), "null: none is set");
+    EXPECT_EQ(label("GetCursor (override):"), "null: none is set");
 }
 
 TEST_F(InputPageTest, SettingANullCursorChangesNothing)

@@ -106,7 +106,7 @@ TEST_F(CancelledJobs, ASearchTellsItsProgressAndKeepsWhatItHasFound)
     probe.page().find();
     auto& pane = *probe.page().findChild<FindPane*>();
     pane.findChild<QLineEdit*>()->setText("value 123");
-    press(pane, "&Search");
+    press(pane, "Find no&w");
     ASSERT_TRUE(probe.page().isBusy());
     waitForProgress(probe, "^Values: [\\d,]+. Found: [1-9]");
     cancel(probe);
@@ -116,7 +116,7 @@ TEST_F(CancelledJobs, ASearchTellsItsProgressAndKeepsWhatItHasFound)
     EXPECT_EQ(storedValues(), many);
     // The next one is whole.
     pane.findChild<QLineEdit*>()->setText("value 1999");
-    press(pane, "&Search");
+    press(pane, "Find no&w");
     ASSERT_TRUE(probe.settle());
     EXPECT_EQ(model(probe, "found").rowCount(), 11); // 1999, 19990 to 19999
 }

@@ -7,7 +7,7 @@
 
 #include <QFile>
 #include <QFileDialog>
-#include <QLabel>
+#include <QLineEdit>
 #include <QTableView>
 
 namespace {
@@ -111,7 +111,7 @@ TEST_F(KeyboardOnly, APointOfTheDesktopIsChosen)
     ASSERT_TRUE(QTest::qWaitFor([map] { return map->hasFocus(); }));
     ASSERT_TRUE(Display::xdotool({"mousemove", "321", "123"}));
     ASSERT_TRUE(
-        QTest::qWaitFor([this] { return control<QLabel>("Pointer")->text() == "321, 123"; }));
+        QTest::qWaitFor([this] { return control<QLineEdit>("Pointer")->text() == "321, 123"; }));
     press({"Home", "Right", "shift+Down", "ctrl+Right"});
     const QString after = "541, 124";
     EXPECT_TRUE(QTest::qWaitFor([map, after] { return map->accessibleDescription() == after; }))

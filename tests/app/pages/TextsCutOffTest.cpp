@@ -4,6 +4,7 @@
 #include "tests/app/pages/WindowProbe.h"
 
 #include "app/pages/profiles/LostLinesDialog.h"
+#include "app/pages/profiles/NarrowRewriting.h"
 #include "app/pages/registry/ImportDialog.h"
 #include "app/pages/registry/NameDialog.h"
 #include "app/pages/registry/RegistryImport.h"
@@ -120,10 +121,11 @@ template <ProfileFamily Family>
 std::unique_ptr<QWidget> lostLines(const WindowProbe& probe)
 {
     const ProfileFixture file;
-    file.write("; by hand\n[Net]\nHost\nQuery=a=b\n");
+    file.write("; by hand\n[Net]\nHost\nQuery=a=b\n\n[App]\r\nx = 1\n");
     ProfileDocument document;
     document.load(file.path());
-    return std::make_unique<LostLinesDialog>(document, Family, &probe.page());
+    const QString changes = NarrowRewriting(file.path()).changes();
+    return std::make_unique<LostLinesDialog>(document, Family, changes, &probe.page());
 }
 
 const Scene scenes[] = {
