@@ -103,8 +103,7 @@ TEST_F(InputPageTest, ShowsThePointerOnTheScreenAndInTheWindow)
 {
     QCursor::setPos(200, 150);
     const QPoint inside = m_window.mapFromGlobal({200, 150});
-    ASSERT_TRUE(
-        QTest::qWaitFor([this] { return label("GetCursorPos (screen):") == "200, 150"; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return label("GetCursorPos (screen):") == "200, 150"; }));
     EXPECT_EQ(label("ScreenToClient (window):"),
               QStringLiteral("%1, %2").arg(inside.x()).arg(inside.y()).toStdString());
 }
