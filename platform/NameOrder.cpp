@@ -30,7 +30,7 @@ QStringList NameOrder::take()
     QStringList result;
     result.reserve(static_cast<int>(m_names.size()));
     for (const Entry& entry : m_entries)
-        result.append(std::move(m_names[entry.index]));
+        result.append(m_names[entry.index]);
     *this = {};
     return result;
 }

@@ -30,6 +30,9 @@ void arrangeFiles(PageDriver& driver)
 {
     driver.enter("pattern", DemoHome::file(QStringLiteral("orders/*")));
     driver.control<QTableView>("entries").selectRow(1);
+    const auto& exists = driver.control<QLineEdit>("exists"); // asked a moment later
+    if (!QTest::qWaitFor([&exists] { return !exists.text().isEmpty(); }))
+        qFatal("whether the file exists is not told");
 }
 
 void arrangeFonts(PageDriver& driver)
