@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr qint64 sliceMilliseconds = 15; // leaves room for a last step
+constexpr qint64 sliceMilliseconds = 12; // leaves room for a last step and for painting
 
 } // namespace
 

@@ -14,23 +14,6 @@ namespace {
 // the window again and again.
 constexpr qint64 largestFile = qint64{512} * 1024;
 
-// Why the path cannot be a profile, or an empty text.
-QString fault(const QFileInfo& file)
-{
-    if (file.isDir())
-        return ProfileDocument::tr("%1 is a folder.").arg(file.filePath());
-    if (!file.exists() && !file.dir().exists())
-        return ProfileDocument::tr("There is no folder %1.").arg(file.path());
-    if (file.exists() && !file.isFile())
-        return ProfileDocument::tr("%1 is not a regular file.").arg(file.filePath());
-    if (file.exists() && !file.isReadable())
-        return ProfileDocument::tr("%1 cannot be read.").arg(file.filePath());
-    if (file.size() > largestFile)
-        return ProfileDocument::tr("%1 is larger than %2 KiB, the most that is opened here.")
-            .arg(file.filePath(), QString::number(largestFile / 1024));
-    return {};
-}
-
 QByteArray bytesOf(const QString& path)
 {
     QFile file(path);
@@ -46,12 +29,29 @@ QString textOf(const QString& path)
 
 } // namespace
 
-QString ProfileDocument::load(const QString& path)
+QString ProfileDocument::fault(const QString& path)
 {
     const QFileInfo file(path);
-    QString refused = fault(file);
+    if (file.isDir())
+        return tr("%1 is a folder.").arg(file.filePath());
+    if (!file.exists() && !file.dir().exists())
+        return tr("There is no folder %1.").arg(file.path());
+    if (file.exists() && !file.isFile())
+        return tr("%1 is not a regular file.").arg(file.filePath());
+    if (file.exists() && !file.isReadable())
+        return tr("%1 cannot be read.").arg(file.filePath());
+    if (file.size() > largestFile)
+        return tr("%1 is larger than %2 KiB, the most that is opened here.")
+            .arg(file.filePath(), QString::number(largestFile / 1024));
+    return {};
+}
+
+QString ProfileDocument::load(const QString& path)
+{
+    QString refused = fault(path);
     if (!refused.isEmpty())
         return refused;
+    const QFileInfo file(path);
     m_path = file.absoluteFilePath();
     m_exists = file.exists();
     const QString text = textOf(m_path);

@@ -29,6 +29,9 @@ public:
     /// Section and key.
     using Name = std::pair<QString, QString>;
 
+    /// Why the path cannot be a profile, or an empty text.
+    static QString fault(const QString& path);
+
     /// Reads the file; a missing one has no lines. Returns why it cannot be read, or an empty text;
     /// in the first case the document stays as it was.
     QString load(const QString& path);

@@ -27,6 +27,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -157,14 +158,14 @@ void ProfilesPage::open(const QString& path)
         report(Report::Error, tr("Type the path of a file first."));
         return;
     }
-    const QString refused = m_document.load(path);
+    const QString refused = ProfileDocument::fault(path);
     if (!refused.isEmpty()) {
         m_file->setText(m_document.path());
         report(Report::Error, refused);
         return;
     }
     m_summary.clear();
-    read();
+    read(path);
 }
 
 void ProfilesPage::refresh()
@@ -217,22 +218,31 @@ void ProfilesPage::findNext()
     setStatus(tr("No line contains “%1”.").arg(text));
 }
 
-// Shows the document and asks both families for all that it names.
-void ProfilesPage::read()
+// Shows the file and asks both families for all that it names. Taking a large one apart fills a
+// slice of its own.
+void ProfilesPage::read(const QString& path)
 {
+    startJob(
+        {tr("Reading through both families"),
+         [this, path, isLoaded = false]() mutable {
+             if (std::exchange(isLoaded, true))
+                 readStep();
+             else
+                 load(path);
+             return !m_names.empty();
+         },
+         [this] { return tr("%1 values").arg(QLocale().toString(m_readingsModel->rowCount())); },
+         [this](bool complete) { finish(complete); }});
+}
+
+void ProfilesPage::load(const QString& path)
+{
+    m_document.load(path);
     m_file->setText(m_document.path());
     m_linesModel->setDocument(&m_document);
     m_readingsModel->clear();
     m_names = m_document.names();
     std::reverse(m_names.begin(), m_names.end());
-    startJob(
-        {tr("Reading through both families"),
-         [this] {
-             readStep();
-             return !m_names.empty();
-         },
-         [this] { return tr("%1 values").arg(QLocale().toString(m_readingsModel->rowCount())); },
-         [this](bool complete) { finish(complete); }});
 }
 
 void ProfilesPage::readStep()
@@ -340,10 +350,9 @@ void ProfilesPage::writeNow(const ProfileChange& change)
         report(Report::Error, tr("The value could not be written to %1.").arg(m_document.path()));
         return;
     }
-    m_document.load(m_document.path());
     m_summary =
         backup.isEmpty() ? tr("Written.") : tr("Written; the backup copy is %1.").arg(backup);
-    read();
+    read(m_document.path());
 }
 
 void ProfilesPage::dragEnterEvent(QDragEnterEvent* event)

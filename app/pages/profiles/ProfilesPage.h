@@ -41,7 +41,8 @@ private:
     void addFindBar();
     void findNext();
     void chooseFile();
-    void read();
+    void read(const QString& path);
+    void load(const QString& path);
     void readStep();
     void finish(bool complete);
     void showLine();

@@ -154,7 +154,7 @@ TEST_F(PageTest, AJobLeavesTheEventLoopItsTurns)
     timer.start(0);
     start(100);
     ASSERT_TRUE(ends());
-    EXPECT_GE(turns, 4); // a hundred milliseconds in slices of fifteen
+    EXPECT_GE(turns, 4); // a hundred milliseconds in slices of twelve
 }
 
 TEST_F(PageTest, TheOverlayFollowsThePagesSize)
