@@ -18,12 +18,6 @@ Position endOfGroup(Position first, Position last, const QString& group)
 
 } // namespace
 
-void RegistryIndex::prepare()
-{
-    if (g_globalSettings)
-        g_globalSettings->childGroups();
-}
-
 std::shared_ptr<const RegistryIndex> RegistryIndex::read()
 {
     auto index = std::make_shared<RegistryIndex>();

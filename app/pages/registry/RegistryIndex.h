@@ -18,10 +18,6 @@ public:
         QStringList entries;
     };
 
-    /// Makes the store take its file apart, which it puts off until somebody lists it: half of the
-    /// time that the first `read` would take.
-    static void prepare();
-
     static std::shared_ptr<const RegistryIndex> read();
 
     /// What is right below a key, each kind sorted.

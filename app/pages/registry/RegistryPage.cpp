@@ -8,6 +8,7 @@
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistryTransfer.h"
 #include "app/pages/registry/RegistryTreeModel.h"
+#include "app/pages/registry/StoreOpening.h"
 #include "host/HostLibraries.h"
 
 #include <QAction>
@@ -49,7 +50,8 @@ RegistryPage::RegistryPage(QWidget* parent)
       m_address(new QLineEdit),
       m_tree(new QTreeView),
       m_table(new QTableView),
-      m_find(new FindPane)
+      m_find(new FindPane),
+      m_opening(new SlicedJob(this))
 {
     makeTree();
     makeTable();
@@ -205,6 +207,7 @@ void RegistryPage::connectParts()
             [this](const QString& why) { report(Report::Error, why); });
     connect(m_find, &FindPane::chosen, this, &RegistryPage::goTo);
     connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
+    connect(m_opening, &SlicedJob::finished, this, &RegistryPage::refresh, Qt::QueuedConnection);
 }
 
 QString RegistryPage::path() const
@@ -290,8 +293,9 @@ void RegistryPage::readFirst()
         QMetaObject::invokeMethod(this, work, Qt::QueuedConnection);
     };
     later([this, later] {
-        RegistryIndex::prepare();
-        later([this] { refresh(); });
+        const auto opening = std::make_shared<StoreOpening>();
+        if (!m_opening->isRunning() && m_opening->start([opening] { return opening->step(); }))
+            later([this] { refresh(); });
     });
 }
 

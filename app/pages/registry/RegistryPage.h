@@ -68,6 +68,7 @@ private:
     QTreeView* m_tree;
     QTableView* m_table;
     FindPane* m_find;
+    SlicedJob* m_opening; ///< of the store, before it is listed
     EmptyHint* m_hint = nullptr;
     bool m_read = false; ///< the store has been listed
     QMenu* m_newMenu = nullptr;
