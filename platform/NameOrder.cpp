@@ -1,21 +1,48 @@
 #include "platform/NameOrder.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
 
-constexpr int keyUnits = 4;
-constexpr int unitBits = 16;
+constexpr int keyBits = 64;
+constexpr char16_t firstBeyondAscii = 0x80;
+
+bool isAscii(QStringView text)
+{
+    char16_t all = 0;
+    for (const QChar character : text)
+        all = static_cast<char16_t>(all | character.unicode());
+    return all < firstBeyondAscii;
+}
+
+char16_t asciiToLower(QChar character)
+{
+    const char16_t unit = character.unicode();
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+}
 
 } // namespace
 
 void NameOrder::add(QString name)
 {
-    const QString lower = name.toLower();
-    m_entries.push_back({0, m_folded.size(), lower.size(), m_names.size()});
-    m_folded.append(QStringView(lower).utf16(), static_cast<std::size_t>(lower.size()));
+    const std::size_t start = m_folded.size();
+    fold(name);
+    m_entries.push_back({0, start, static_cast<int>(m_folded.size() - start), m_names.size()});
     m_names.push_back(std::move(name));
+}
+
+// Nearly all names are ASCII, whose lower case needs no tables.
+void NameOrder::fold(const QString& name)
+{
+    if (isAscii(name)) {
+        std::transform(name.cbegin(), name.cend(), std::back_inserter(m_folded), asciiToLower);
+        return;
+    }
+    const QString lower = name.toLower();
+    m_folded.append(QStringView(lower).utf16(), static_cast<std::size_t>(lower.size()));
+    m_unitBits = 16;
 }
 
 // The same algorithm as in QDir and the same answer to every comparison, hence the same order, also
@@ -61,8 +88,8 @@ std::uint64_t NameOrder::keyOf(const Entry& entry, int skipped) const
 {
     const QStringView text = folded(entry);
     std::uint64_t key = 0;
-    for (int i = skipped; i < skipped + keyUnits; ++i)
-        key = key << unitBits | (i < text.size() ? text.at(i).unicode() : 0U);
+    for (int i = skipped; i < skipped + keyBits / m_unitBits; ++i)
+        key = key << m_unitBits | (i < text.size() ? text.at(i).unicode() : 0U);
     return key;
 }
 

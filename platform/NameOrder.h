@@ -29,6 +29,7 @@ private:
         std::size_t index; // in m_names
     };
 
+    void fold(const QString& name);
     QStringView folded(const Entry& entry) const;
     int commonLength() const;
     std::uint64_t keyOf(const Entry& entry, int skipped) const;
@@ -37,4 +38,5 @@ private:
     std::vector<QString> m_names;
     std::u16string m_folded; // one behind the other
     std::vector<Entry> m_entries;
+    int m_unitBits = 8; // that a code unit takes in a key: fewer as long as all names are ASCII
 };
