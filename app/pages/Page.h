@@ -82,6 +82,9 @@ public:
     /// As the Cancel button.
     void cancelJob();
 
+    /// See SlicedJob::endSlice.
+    void endSlice() { m_job.endSlice(); }
+
     /// Shows `text` below the page's body until the next report, and logs it: never pass secrets.
     void report(Report kind, const QString& text);
     /// Shows `text` in the same place without logging it.

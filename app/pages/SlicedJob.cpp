@@ -33,8 +33,9 @@ bool SlicedJob::slice()
 {
     QElapsedTimer clock;
     clock.start();
+    m_endsSlice = false;
     while (m_step()) {
-        if (clock.elapsed() >= sliceMilliseconds)
+        if (m_endsSlice || clock.elapsed() >= sliceMilliseconds)
             return true;
     }
     m_step = nullptr;

@@ -23,6 +23,9 @@ public:
     bool start(Step step);
     /// Drops what is left; emits nothing. Does nothing when no job is running.
     void cancel();
+    /// To be called by a step when the one after it is known to be long, as one call of a service
+    /// may be: that one gets a slice of its own.
+    void endSlice() { m_endsSlice = true; }
     bool isRunning() const { return m_timer.isActive(); }
 
 signals:
@@ -36,4 +39,5 @@ private:
 
     QTimer m_timer;
     Step m_step;
+    bool m_endsSlice = false;
 };

@@ -21,6 +21,7 @@
 namespace {
 
 constexpr std::size_t batch = 64; // entries that a step asks for: about 1 ms
+constexpr int large = 5000;       // entries of a directory that the service takes long to list
 
 // What a pattern lacks, or an empty text.
 QString fault(const QString& pattern)
@@ -134,13 +135,27 @@ void FilesPage::search()
     m_searched = m_pattern->text();
     m_model->clear();
     m_search = nullptr;
+    m_readAhead.emplace(m_searched);
     startJob({tr("Searching %1").arg(m_searched), [this] { return step(); },
               [this] { return tr("%1 found").arg(QLocale().toString(m_model->rowCount())); },
               [this](bool complete) { finish(complete); }});
 }
 
+void FilesPage::readAhead()
+{
+    if (m_readAhead->step())
+        return;
+    if (m_readAhead->entries() >= large)
+        endSlice();
+    m_readAhead.reset();
+}
+
 bool FilesPage::step()
 {
+    if (m_readAhead) {
+        readAhead();
+        return true;
+    }
     std::vector<FoundEntry> entries;
     std::optional<FoundEntry> entry;
     if (!m_search) {
@@ -161,13 +176,14 @@ bool FilesPage::step()
 void FilesPage::finish(bool complete)
 {
     m_search = nullptr;
+    m_readAhead.reset();
     const int count = m_model->rowCount();
     const QString number = QLocale().toString(count);
-    if (count == 0) {
+    if (!complete) {
+        report(Report::Warning, tr("Stopped: %1 found so far.").arg(number));
+    } else if (count == 0) {
         m_hint->setText(tr("The service finds nothing for %1.").arg(m_searched));
         report(Report::Warning, tr("Nothing found for %1.").arg(m_searched));
-    } else if (!complete) {
-        report(Report::Warning, tr("Stopped: %1 found so far.").arg(number));
     } else {
         report(Report::Info,
                tr("%1 found. Size and times are reported for the first one only, and "

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "app/pages/Page.h"
+#include "app/pages/files/DirectoryReadAhead.h"
 #include "app/pages/files/FileSearch.h"
 
 #include <memory>
+#include <optional>
 
 class EmptyHint;
 class FoundEntriesModel;
@@ -29,6 +31,7 @@ private:
     QTableView* makeTable();
     void browse();
     void search();
+    void readAhead();
     bool step();
     void finish(bool complete);
     void showCurrent();
@@ -38,6 +41,7 @@ private:
     QTableView* m_table;
     EmptyHint* m_hint;
     PathPanel* m_paths;
+    std::optional<DirectoryReadAhead> m_readAhead; ///< done before the search begins
     std::unique_ptr<FileSearch> m_search;
     QString m_searched; ///< the pattern of the rows in the table
 };

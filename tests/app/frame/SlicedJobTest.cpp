@@ -37,4 +37,24 @@ TEST(SlicedJob, NoSliceTakesMoreThanThirtyMilliseconds)
     EXPECT_GE(slices.size(), static_cast<std::size_t>(steps / most));
 }
 
+TEST(SlicedJob, GivesTheStepAfterEndSliceASliceOfItsOwn)
+{
+    SlicedJob job;
+    std::vector<int> slices;
+    int steps = 0;
+    QObject::connect(&job, &SlicedJob::progressed, [&] { slices.push_back(steps); });
+    QSignalSpy finished(&job, &SlicedJob::finished);
+    const auto step = [&] {
+        ++steps;
+        if (steps == 2 || steps == 3)
+            job.endSlice();
+        return steps < 6;
+    };
+    ASSERT_FALSE(job.start(step));
+    EXPECT_EQ(steps, 2);
+    ASSERT_TRUE(QTest::qWaitFor([&finished] { return !finished.isEmpty(); }));
+    EXPECT_EQ(slices, std::vector<int>({3}));
+    EXPECT_EQ(steps, 6);
+}
+
 } // namespace
