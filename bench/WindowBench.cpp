@@ -1,8 +1,10 @@
-// The registry page on a store of 100,000 values, 10,000 of them in one key: how long it keeps the
-// event loop from turning, against a plain table of as many rows.
+// The registry page on a store of 100,000 values, 10,000 of them in one key, and the files page on
+// a directory of 100,000 entries: how long they keep the event loop from turning, against a plain
+// table of as many rows.
 
 #include "bench/Ratio.h"
 
+#include "app/pages/files/FilesPage.h"
 #include "app/pages/registry/RegistryPage.h"
 #include "app/pages/registry/RegistrySearch.h"
 #include "app/pages/registry/StoreOpening.h"
@@ -11,7 +13,9 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QProcess>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSettings>
 #include <QStandardPaths>
@@ -26,6 +30,7 @@ namespace {
 
 constexpr int valuesInOneKey = 10000;
 constexpr int values = 100000;
+constexpr int entries = 100000;
 constexpr double longestStall = 100.0;
 
 // Written by another process, so that the page meets a store that was
@@ -119,7 +124,36 @@ void rounds(benchmark::internal::Benchmark* benchmark)
 
 BENCHMARK(searchAgainstPlainReading)->Apply(rounds);
 
-void measurePage()
+void makeFiles(const QTemporaryDir& folder)
+{
+    for (int i = 0; i < entries; ++i) {
+        QFile file(folder.filePath(QStringLiteral("entry %1.txt").arg(i)));
+        if (!file.open(QIODevice::WriteOnly))
+            std::printf("cannot make %s\n", qUtf8Printable(file.fileName()));
+    }
+}
+
+void measureFilesPage()
+{
+    const QTemporaryDir folder;
+    makeFiles(folder);
+    FilesPage page;
+    page.resize(1000, 700);
+    page.show();
+    QApplication::processEvents();
+    page.findChild<QLineEdit*>(QStringLiteral("pattern"))->setText(folder.filePath("*"));
+    auto* search = page.findChild<QPushButton*>(QStringLiteral("search"));
+    double longest = stall([search] { search->click(); });
+    while (page.isBusy())
+        longest = qMax(longest, stall([] {}));
+    print("files page: open, the longest", longest);
+    auto* table = page.findChild<QTableView*>(QStringLiteral("entries"));
+    if (table->model()->rowCount() != entries)
+        std::printf("unexpected rows\n");
+    print("files page: scroll, the longest", longestScroll(*table));
+}
+
+void measureRegistryPage()
 {
     std::unique_ptr<RegistryPage> made;
     print("registry page: make and show", stall([&made] {
@@ -128,7 +162,7 @@ void measurePage()
               made->show();
           }));
     RegistryPage& page = *made;
-    print("registry page: open the store, the longest step", longestOpeningStep());
+    print("registry page: open the store, the longest", longestOpeningStep());
     print("registry page: list the store first", stall([&page] { page.refresh(); }));
     print("registry page: refresh", stall([&page] { page.refresh(); }));
     print("registry page: a key of 10,000 values",
@@ -174,6 +208,7 @@ int main(int argc, char** argv)
                       {folder + QStringLiteral("/registry.ini")});
     setPlatformServices(&g_PlatformServices);
     benchmark::Initialize(&argc, argv);
-    measurePage();
+    measureFilesPage();
+    measureRegistryPage();
     return 0;
 }
