@@ -2134,6 +2134,10 @@ Wide: %2</source>
         <source>The value &quot;%1&quot; of %2 goes with it.</source>
         <translation>%2 的值“%1”也会一并删除。</translation>
     </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>已取消：未删除任何内容。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryExport</name>

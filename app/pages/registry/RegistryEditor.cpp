@@ -246,6 +246,8 @@ void RegistryEditor::removeKey(const QString& path)
                       [this, path, walk, keys](bool complete) {
                           if (complete)
                               confirmKey(path, *keys, walk->values());
+                          else
+                              m_page->setStatus(tr("Cancelled: nothing was deleted."));
                       }});
 }
 
@@ -264,11 +266,12 @@ void RegistryEditor::removeKeys(const QString& path, const QStringList& keys)
     const auto removal = std::make_shared<RegistryRemoval>(keys);
     m_page->startJob({tr("Deleting"), [removal, hold] { return removal->step(); },
                       [removal] { return counted(removal->values()); },
-                      [this, path](bool complete) {
+                      [this, path, removal](bool complete) {
                           emit changed(RegistryPath::parent(path), QString());
-                          const QString text = complete ? tr("Deleted the key %1.")
-                                                        : tr("Deleted a part of the key %1.");
-                          m_page->report(complete ? Page::Report::Info : Page::Report::Warning,
+                          const bool whole = complete && removal->succeeded();
+                          const QString text = whole ? tr("Deleted the key %1.")
+                                                     : tr("Deleted a part of the key %1.");
+                          m_page->report(whole ? Page::Report::Info : Page::Report::Warning,
                                          text.arg(RegistryPath::shown(path)));
                       }});
 }

@@ -20,6 +20,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -89,6 +90,12 @@ protected:
         probe.type("address", "HKEY_CURRENT_USER\\A");
         QTest::keyClick(&probe.control<QWidget>("address"), Qt::Key_Return);
     }
+    static void removeKey(const WindowProbe& probe)
+    {
+        auto& tree = probe.control<QTreeView>("keys");
+        tree.setFocus();
+        QTest::keyClick(&tree, Qt::Key_Delete);
+    }
     static void confirm(const QString& caption)
     {
         ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
@@ -140,6 +147,37 @@ TEST_F(CancelledJobs, ADeletionLeavesTheRestAndShowsIt)
     EXPECT_EQ(model(probe, "values").rowCount(), many - deleted);
 }
 
+TEST_F(CancelledJobs, CountingWhatGoesWithAKeyDeletesNothing)
+{
+    constexpr int more = 4 * many; // listing them takes longer than the first slice
+    fill(more);
+    const WindowProbe probe("registry");
+    openKey(probe);
+    removeKey(probe);
+    cancel(probe);
+    EXPECT_EQ(status(probe), "Cancelled: nothing was deleted.");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(storedValues(), more);
+}
+
+TEST_F(CancelledJobs, ADeletionOfAKeyLeavesTheRestAndShowsIt)
+{
+    fill(many);
+    store("B/value", "5$kept");
+    const WindowProbe probe("registry");
+    openKey(probe);
+    removeKey(probe);
+    confirm("Delete");
+    waitForProgress(probe, "^[\\d,]{2,}$");
+    cancel(probe);
+    EXPECT_EQ(status(probe), "Deleted a part of the key HKEY_CURRENT_USER\\A.");
+    const int left = storedValues() - 1;
+    EXPECT_GT(left, 0);
+    EXPECT_LT(left, many);
+    openKey(probe);
+    EXPECT_EQ(model(probe, "values").rowCount(), left);
+}
+
 TEST_F(CancelledJobs, AnImportLeavesWhatItHasCarriedOutAndShowsIt)
 {
     QFile file(m_folder.filePath("in.reg"));
@@ -176,10 +214,15 @@ TEST_F(CancelledJobs, ASearchForFilesKeepsItsRowsAndCanBeDoneAgain)
     const WindowProbe probe("files");
     probe.type("pattern", folder.filePath("*"));
     probe.click("search");
+    waitForProgress(probe, "^[1-9]");
     cancel(probe);
     const int found = told(probe, "Stopped: ([\\d,]+) found so far");
+    EXPECT_GT(found, 0);
     EXPECT_LT(found, many);
     EXPECT_EQ(model(probe, "entries").rowCount(), found);
+    probe.click("search"); // a large directory is read ahead in the first slice
+    cancel(probe);
+    EXPECT_EQ(status(probe), "Stopped: 0 found so far.");
     probe.click("search");
     ASSERT_TRUE(probe.settle());
     EXPECT_EQ(model(probe, "entries").rowCount(), many);
