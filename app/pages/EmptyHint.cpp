@@ -1,5 +1,7 @@
 #include "app/pages/EmptyHint.h"
 
+#include "app/pages/LongWords.h"
+
 #include <QAbstractItemView>
 #include <QEvent>
 #include <QLabel>
@@ -25,7 +27,7 @@ EmptyHint::EmptyHint(QAbstractItemView* view, const QString& text)
 
 void EmptyHint::setText(const QString& text)
 {
-    m_label->setText(text);
+    m_label->setText(withoutLongWords(text));
     update();
 }
 

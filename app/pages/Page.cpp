@@ -3,6 +3,8 @@
 #include "app/ApplicationLog.h"
 #include "app/frame/GlyphIcon.h"
 #include "app/pages/BusyOverlay.h"
+#include "app/pages/LongWords.h"
+#include "app/pages/PlainToolTip.h"
 #include "widgets/ButtonMonitor.h"
 
 #include <QAccessible>
@@ -77,7 +79,7 @@ void Page::takeFocus()
 
 QString Page::statusText() const
 {
-    return m_status->text();
+    return m_statusText;
 }
 
 void Page::startJob(Job job)
@@ -139,7 +141,9 @@ void Page::showStatus(Report kind, const QString& text)
     m_kind = kind;
     paintStatusIcon();
     m_statusIcon->setVisible(kind != Report::Info);
-    m_status->setText(text);
+    m_statusText = text;
+    m_status->setText(withoutLongWords(text));
+    m_status->setToolTip(m_status->text() == text ? QString() : plainToolTip(text));
     if (text.isEmpty())
         return;
     QAccessibleEvent alert(m_status, QAccessible::Alert);

@@ -107,6 +107,7 @@ private:
     QLabel* m_statusIcon;
     Report m_kind = Report::Info; ///< of the last report
     QLabel* m_status;
+    QString m_statusText; ///< whole: the label leaves out the middle of long words
     BusyOverlay* m_overlay;
     SlicedJob m_job;
     Job m_current;

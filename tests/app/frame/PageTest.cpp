@@ -300,6 +300,19 @@ TEST_F(PageTest, AStatusIsShownAndNotLogged)
     EXPECT_FALSE(logged());
 }
 
+// A label wraps between words only: one that is longer than a line would widen the window.
+TEST_F(PageTest, ALongWordIsShortenedInTheStatusAlone)
+{
+    const QString text = QStringLiteral("No such name: ") + QString(300, QLatin1Char('W'));
+    const int width = m_page.minimumSizeHint().width();
+    m_page.report(Page::Report::Error, text);
+    EXPECT_EQ(m_page.statusText(), text);
+    EXPECT_LE(m_page.minimumSizeHint().width(), qMax(width, 640));
+    QFile log(ApplicationLog::path());
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(log.readAll().contains(text.toUtf8()));
+}
+
 TEST_F(PageTest, TheIconOfAReportFollowsThePalette)
 {
     m_page.report(Page::Report::Error, "It was refused.");
