@@ -12,6 +12,7 @@ namespace {
 
 // Room around the monitors, as a part of the whole: points beside them can be chosen too.
 constexpr double margin = 0.12;
+constexpr int captionAlignment = Qt::AlignLeft | Qt::AlignTop;
 constexpr int smallStep = 1;
 constexpr int normalStep = 20;
 constexpr int largeStep = 200;
@@ -188,17 +189,32 @@ void MonitorMap::paintMonitor(QPainter& painter, const Monitor& monitor) const
     painter.drawRect(full);
 }
 
+// The longest caption that the monitor has room for; the table below tells the rest.
 void MonitorMap::paintCaption(QPainter& painter, const Monitor& monitor) const
 {
-    QString caption =
-        monitorName(m_monitors, monitor.handle) + QLatin1Char('\n') +
-        QStringLiteral("%1 \u00d7 %2").arg(monitor.full.width()).arg(monitor.full.height());
-    if (monitor.isPrimary())
-        caption += QLatin1Char('\n') + tr("Primary");
     painter.setPen(palette().color(QPalette::Text));
     const double gap = fontMetrics().height() / 2.0;
-    painter.drawText(mapped(monitor.work).adjusted(gap, gap, -gap, -gap),
-                     Qt::AlignLeft | Qt::AlignTop, caption);
+    const QRectF room = mapped(monitor.work).adjusted(gap, gap, -gap, -gap);
+    for (const QString& caption : captions(monitor)) {
+        if (room.contains(painter.boundingRect(room, captionAlignment, caption))) {
+            painter.drawText(room, captionAlignment, caption);
+            return;
+        }
+    }
+    painter.drawText(mapped(monitor.work), Qt::AlignCenter, captions(monitor).last());
+}
+
+// From the longest to the shortest.
+QStringList MonitorMap::captions(const Monitor& monitor) const
+{
+    const QString name = monitorName(m_monitors, monitor.handle);
+    QString caption =
+        name + QLatin1Char('\n') +
+        QStringLiteral("%1 \u00d7 %2").arg(monitor.full.width()).arg(monitor.full.height());
+    QStringList list = {caption, name, name.section(QLatin1Char(' '), -1)};
+    if (monitor.isPrimary())
+        list.prepend(caption + QLatin1Char('\n') + tr("Primary"));
+    return list;
 }
 
 void MonitorMap::paintPointer(QPainter& painter) const

@@ -3,6 +3,7 @@
 
 #include "app/pages/displays/MonitorMap.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/platform/VirtualScreen.h"
 
 #include <QLabel>
 #include <QProxyStyle>
@@ -320,6 +321,25 @@ TEST(MonitorListTest, NamesAMonitorByItsPlace)
     EXPECT_EQ(monitorName(list, &handles[1]), "Monitor 2");
     EXPECT_EQ(monitorName(list, nullptr), "null");
     EXPECT_EQ(monitorName(list, &handles[2]), handleText(&handles[2]));
+}
+
+TEST_F(DisplaysPageTest, FollowsMonitorsThatComeAndGo)
+{
+    const auto* table = control<QTableWidget>("Monitors");
+    const QRect first = QGuiApplication::primaryScreen()->geometry();
+    {
+        const VirtualScreen second(QRect(first.right() + 101, 0, 640, 480));
+        ASSERT_TRUE(QTest::qWaitFor([table] { return table->rowCount() == 2; }));
+        control<QSpinBox>("Point X:")->setValue(first.right() + 200);
+        control<QSpinBox>("Point Y:")->setValue(100);
+        for (const char* flag : {"DEFAULTTONULL", "DEFAULTTOPRIMARY", "DEFAULTTONEAREST"})
+            EXPECT_EQ(answer(flag), "Monitor 2") << flag;
+        control<QSpinBox>("Point X:")->setValue(first.right() + 90); // between them
+        EXPECT_EQ(answer("DEFAULTTONULL"), "null");
+        EXPECT_EQ(answer("DEFAULTTOPRIMARY"), "Monitor 1");
+        EXPECT_EQ(answer("DEFAULTTONEAREST"), "Monitor 2");
+    }
+    EXPECT_TRUE(QTest::qWaitFor([table] { return table->rowCount() == 1; }));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPalette>
 #include <QTest>
+#include <QtMath>
 
 #include <gtest/gtest.h>
 
@@ -102,6 +103,23 @@ TEST_F(MonitorMapPicture, MarksThePrimaryMonitorOnly)
     EXPECT_NE(marked.copy(first), unmarked.copy(first));
     const QRect second = onPicture(m_monitors[1].work);
     EXPECT_EQ(marked.copy(second), unmarked.copy(second));
+}
+
+// Where a longer one does not fit, a shorter one stands, at last the number alone.
+TEST_F(MonitorMapPicture, CutsNoCaptionOff)
+{
+    for (int width = 200; width <= 1000; width += 10) {
+        m_map.resize(width, width / 2);
+        const QRectF work(m_map.toMap(m_monitors[1].work.topLeft()),
+                          m_map.toMap(m_monitors[1].work.bottomRight()));
+        const double gap = m_map.fontMetrics().height() / 2.0;
+        const QImage image = picture();
+        const auto isBase = [](QRgb color) { return color == base; };
+        const QRectF room = work.adjusted(gap, gap, -gap, -gap);
+        const QRect edge(qCeil(room.right()) - 1, qCeil(room.top()), 1, qFloor(room.height()));
+        EXPECT_TRUE(all(image, edge, isBase)) << width;
+        EXPECT_FALSE(all(image, work.toAlignedRect().adjusted(5, 5, -5, -5), isBase)) << width;
+    }
 }
 
 TEST_F(MonitorMapPicture, ShowsThePointerWhereItIs)
