@@ -550,6 +550,14 @@
         <source>%1 found. Size and times are reported for the first one only, and only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName never are.</source>
         <translation>找到 %1 项。只有第一项带有大小和时间，而且仅当它是文件时才有；dwReserved0、dwReserved1 和 cAlternateFileName 从不写入。</translation>
     </message>
+    <message>
+        <source>The folder cannot be opened: %1.</source>
+        <translation>无法打开该文件夹：%1。</translation>
+    </message>
+    <message>
+        <source>Names in the folder that are no text in the locale&apos;s encoding, and that the service leaves out: %1.</source>
+        <translation>该文件夹中不符合区域设置编码、被服务略去的名称：%1 个。</translation>
+    </message>
 </context>
 <context>
     <name>FindPane</name>
@@ -1654,16 +1662,16 @@
         <translation>否</translation>
     </message>
     <message>
-        <source>%1 (as for all that is missing)</source>
-        <translation>%1（不存在的路径也是如此）</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>无</translation>
     </message>
     <message>
         <source>Yes</source>
         <translation>是</translation>
+    </message>
+    <message>
+        <source>%1 (path is missing)</source>
+        <translation>%1（路径不存在）</translation>
     </message>
 </context>
 <context>

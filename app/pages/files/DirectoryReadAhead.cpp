@@ -1,6 +1,10 @@
 #include "app/pages/files/DirectoryReadAhead.h"
 
 #include <QFile>
+#include <QTextCodec>
+
+#include <cerrno>
+#include <cstring>
 
 namespace {
 
@@ -12,20 +16,33 @@ DIR* opened(const QString& pattern)
     return opendir(QFile::encodeName(pattern.left(separator + 1)).constData());
 }
 
+bool isDecodable(const char* name)
+{
+    const QTextCodec& codec = *QTextCodec::codecForLocale();
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    codec.toUnicode(name, static_cast<int>(std::strlen(name)), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
 } // namespace
 
 DirectoryReadAhead::DirectoryReadAhead(const QString& pattern)
     : m_directory(opened(pattern), closedir)
 {
+    if (!m_directory)
+        m_error = qt_error_string(errno);
 }
 
-bool DirectoryReadAhead::step()
+void DirectoryReadAhead::step()
 {
     for (int i = 0; m_directory && i < batch; ++i) {
-        if (readdir(m_directory.get()))
-            ++m_entries;
-        else
+        const dirent* entry = readdir(m_directory.get());
+        if (!entry) {
             m_directory.reset();
+            return;
+        }
+        ++m_entries;
+        if (!isDecodable(entry->d_name))
+            ++m_undecodableNames;
     }
-    return m_directory != nullptr;
 }

@@ -23,6 +23,12 @@ namespace {
 constexpr std::size_t batch = 64; // entries that a step asks for: about 1 ms
 constexpr int large = 5000;       // entries of a directory that the service takes long to list
 
+QString joined(QStringList sentences)
+{
+    sentences.removeAll(QString());
+    return sentences.join(QLatin1Char(' '));
+}
+
 // What a pattern lacks, or an empty text.
 QString fault(const QString& pattern)
 {
@@ -143,16 +149,14 @@ void FilesPage::search()
 
 void FilesPage::readAhead()
 {
-    if (m_readAhead->step())
-        return;
-    if (m_readAhead->entries() >= large)
+    m_readAhead->step();
+    if (m_readAhead->isDone() && m_readAhead->entries() >= large)
         endSlice();
-    m_readAhead.reset();
 }
 
 bool FilesPage::step()
 {
-    if (m_readAhead) {
+    if (!m_readAhead->isDone()) {
         readAhead();
         return true;
     }
@@ -176,21 +180,33 @@ bool FilesPage::step()
 void FilesPage::finish(bool complete)
 {
     m_search = nullptr;
-    m_readAhead.reset();
     const int count = m_model->rowCount();
     const QString number = QLocale().toString(count);
     if (!complete) {
         report(Report::Warning, tr("Stopped: %1 found so far.").arg(number));
     } else if (count == 0) {
         m_hint->setText(tr("The service finds nothing for %1.").arg(m_searched));
-        report(Report::Warning, tr("Nothing found for %1.").arg(m_searched));
+        report(Report::Warning, joined({tr("Nothing found for %1.").arg(m_searched), remark()}));
     } else {
-        report(Report::Info,
-               tr("%1 found. Size and times are reported for the first one only, and "
-                  "only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName "
-                  "never are.")
-                   .arg(number));
+        const QString found =
+            tr("%1 found. Size and times are reported for the first one only, and "
+               "only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName "
+               "never are.")
+                .arg(number);
+        report(Report::Info, joined({found, remark()}));
     }
+}
+
+// What the service does not tell, but the folder itself: raw.
+QString FilesPage::remark() const
+{
+    if (!m_readAhead->error().isEmpty())
+        return tr("The folder cannot be opened: %1.").arg(m_readAhead->error());
+    if (m_readAhead->undecodableNames() == 0)
+        return {};
+    return tr("Names in the folder that are no text in the locale's encoding, and that the service "
+              "leaves out: %1.")
+        .arg(QLocale().toString(m_readAhead->undecodableNames()));
 }
 
 void FilesPage::showCurrent()

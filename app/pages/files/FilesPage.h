@@ -34,6 +34,7 @@ private:
     void readAhead();
     bool step();
     void finish(bool complete);
+    QString remark() const;
     void showCurrent();
 
     QLineEdit* m_pattern;
@@ -41,7 +42,7 @@ private:
     QTableView* m_table;
     EmptyHint* m_hint;
     PathPanel* m_paths;
-    std::optional<DirectoryReadAhead> m_readAhead; ///< done before the search begins
+    std::optional<DirectoryReadAhead> m_readAhead; ///< of the last search, before which it is done
     std::unique_ptr<FileSearch> m_search;
     QString m_searched; ///< the pattern of the rows in the table
 };

@@ -109,5 +109,5 @@ void PathPanel::showExistence()
     m_exists->setAnswer(existence.exists ? tr("Yes: %1").arg(existence.realPath) : tr("No"));
     if (!existence.exists)
         m_attributes->setAnswer(
-            tr("%1 (as for all that is missing)").arg(attributesText(m_answers.attributes(path))));
+            tr("%1 (path is missing)").arg(attributesText(m_answers.attributes(path))));
 }

@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <cstdio>
+#include <fstream>
+
 namespace {
 
 class FilesPageTest : public testing::Test
@@ -166,8 +170,7 @@ TEST_F(FilesPageTest, TellsThatMissingPathsHaveAttributesToo)
 {
     m_probe.type("path", path("missing"));
     expectAnswer("exists", QStringLiteral("No"));
-    EXPECT_EQ(m_probe.text("attributes"),
-              QStringLiteral("0x80 NORMAL (as for all that is missing)"));
+    EXPECT_EQ(m_probe.text("attributes"), QStringLiteral("0x80 NORMAL (path is missing)"));
 }
 
 TEST_F(FilesPageTest, AnswersAboutAUrl)
@@ -196,6 +199,34 @@ TEST_F(FilesPageTest, ReadsAnUnterminatedExtensionNoFurtherThanItIsSure)
 {
     m_probe.type("path", QStringLiteral("a.") + QString(400, QLatin1Char('x')));
     EXPECT_EQ(m_probe.text("extension").size(), 256);
+}
+
+TEST_F(FilesPageTest, TellsWhyTheFolderCannotBeRead)
+{
+    makeFile(QStringLiteral("file"));
+    search(path("file/*"));
+    EXPECT_EQ(m_probe.page().statusText(),
+              QStringLiteral("Nothing found for %1. The folder cannot be opened: %2.")
+                  .arg(path("file/*"), qt_error_string(ENOTDIR)));
+    search(path("*.none"));
+    EXPECT_EQ(m_probe.page().statusText(),
+              QStringLiteral("Nothing found for %1.").arg(path("*.none")));
+}
+
+TEST_F(FilesPageTest, TellsOfNamesThatTheServiceLeavesOut)
+{
+    const QByteArray name = QFile::encodeName(m_folder.path()) + "/bad\xFF";
+    const std::ofstream made(name.constData());
+    const QString note = QStringLiteral("Names in the folder that are no text in the locale's "
+                                        "encoding, and that the service leaves out: 1.");
+    search(path("*"));
+    EXPECT_EQ(model().rowCount(), 0);
+    EXPECT_TRUE(m_probe.page().statusText().endsWith(note));
+    makeFile(QStringLiteral("good"));
+    search(path("*"));
+    EXPECT_EQ(model().rowCount(), 1);
+    EXPECT_TRUE(m_probe.page().statusText().endsWith(note));
+    std::remove(name.constData()); // which the folder cannot do itself
 }
 
 } // namespace
