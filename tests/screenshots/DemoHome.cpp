@@ -36,7 +36,6 @@ constexpr char log[] =
     "[INFO] 2026-03-02 07:58:40 : Host library /opt/quayside/lib/libKdPlatformBase.so, settings "
     "store /home/field/.local/share/quayside/registry.ini\n"
     "[INFO] 2026-03-02 07:58:41 : Page registry\n"
-    "[DEBUG] 2026-03-02 07:58:41 : 14 keys listed in 3 ms\n"
     "[INFO] 2026-03-02 08:03:12 : Page profiles\n"
     "[WARNING] 2026-03-02 08:03:19 : There is no such file: both families read it as empty. "
     "Writing a value creates it.\n"
@@ -46,9 +45,8 @@ constexpr char log[] =
     "whatever the working directory holds. Put one before it, such as ./*.csv.\n"
     "[INFO] 2026-03-02 08:10:30 : 7 found. Size and times are reported for the first one only, and "
     "only if it is a file.\n"
-    "[DEBUG] 2026-03-02 08:10:30 : pattern /home/field/orders/*\n"
     "[INFO] 2026-03-02 08:14:02 : Page crypto\n"
-    "[WARNING] 2026-03-02 08:14:31 : Wrong pass phrase, or damaged cipher text: the padding does "
+    "[ERROR] 2026-03-02 08:14:31 : Wrong pass phrase, or damaged cipher text: the padding does "
     "not match, and the library gets an empty text.\n"
     "[INFO] 2026-03-02 08:14:58 : Bytes decrypted: 112.\n"
     "2026-03-02 08:20:00 : === End logging ===\n";

@@ -93,8 +93,8 @@ QTableView* FontsPage::makeTable()
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 7 / 4);
     fitColumns(*table,
-               {QStringLiteral("Family"), QStringLiteral("Bold Oblique"),
-                CharacterSets::title(VIETNAMESE_CHARSET), QStringLiteral("CHINESE_GB2312")});
+               {QStringLiteral("Family"), QStringLiteral("Demi Oblique "),
+                CharacterSets::title(CHINESEBIG5_CHARSET), QStringLiteral("CHINESE_GB2312")});
     new SharedWidth(table, FontRecordsModel::FaceColumn, QStringLiteral("WenQuanYi Micro"));
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
