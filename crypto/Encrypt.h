@@ -18,9 +18,11 @@ public:
     /// between the first one and the end is encrypted as zeros.
     static std::string EncryptionAES(std::string key, std::string iv, const std::string& plain);
 
-    /// The plain text of `cipherText` up to its first zero byte. Padding that does not match gives
-    /// an empty string and a message on standard output; a cipher that is not whole blocks passes
-    /// for plain text.
+    /// The plain text of `cipherText` up to its first zero byte. A last byte of 1 to 22 that is not
+    /// above the text's size counts as padding, of which so many bytes are removed (intended: 22 is
+    /// more than a block); padding that does not match gives an empty string and a message on
+    /// standard output. Any other last byte leaves the text as it is. A cipher that is not whole
+    /// blocks passes for plain text.
     static std::string DecryptionAES(std::string key, std::string iv,
                                      const std::string& cipherText);
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <tuple>
 
 namespace {
 
@@ -179,26 +180,31 @@ TEST_P(LongLengths, Have64Bits)
 
 INSTANTIATE_TEST_SUITE_P(Modes, LongLengths, testing::Values(0, 1, 2));
 
-class OtherModes : public testing::TestWithParam<int>
+class OtherModes : public testing::TestWithParam<std::tuple<int, int>>
 {
 };
 
 TEST_P(OtherModes, AreEcb)
 {
-    const std::string text = RandomBytes(14)(48);
+    const auto [mode, blockSize] = GetParam();
+    const auto size = static_cast<std::size_t>(3 * blockSize);
+    const std::string text = RandomBytes(14)(size);
     AesEncrypt cipher;
-    cipher.MakeKey(text.data(), text.data(), 16, 16);
-    std::string expected(48, '\0');
-    cipher.Encrypt(text.data(), expected.data(), 48, 0);
-    GuardedBuffer out(48);
-    cipher.Encrypt(text.data(), out.data(), 48, GetParam());
+    cipher.MakeKey(text.data(), text.data(), 16, blockSize);
+    std::string expected(size, '\0');
+    cipher.Encrypt(text.data(), expected.data(), size, 0);
+    GuardedBuffer out(size);
+    cipher.Encrypt(text.data(), out.data(), size, mode);
     EXPECT_EQ(toHex(expected), toHex(out.content()));
-    cipher.Decrypt(expected.data(), out.data(), 48, GetParam());
+    cipher.Decrypt(expected.data(), out.data(), size, mode);
     EXPECT_EQ(toHex(text), toHex(out.content()));
-    EXPECT_EQ(text.substr(0, 16), std::string(layoutOf(cipher).chain, 16));
+    const auto block = static_cast<std::size_t>(blockSize);
+    EXPECT_EQ(text.substr(0, block), std::string(layoutOf(cipher).chain, block));
 }
 
 INSTANTIATE_TEST_SUITE_P(Numbers, OtherModes,
-                         testing::Values(3, 7, 257, 258, 65537, 65538, -1, -2, INT_MAX, INT_MIN));
+                         testing::Combine(testing::Values(3, 4, 5, 6, 7, 8, 256, 257, 258, 65537,
+                                                          65538, -1, -2, INT_MAX, INT_MIN),
+                                          testing::Values(16, 24, 32)));
 
 } // namespace

@@ -245,7 +245,9 @@ INSTANTIATE_TEST_SUITE_P(Texts, PartialBlocks,
                                          PaddingRow{"one", run(1, 1), "", false},
                                          PaddingRow{"17 of 17", run(17, 17), "", false},
                                          PaddingRow{"zero inside", std::string("he\0llo", 6), "he",
-                                                    false}));
+                                                    false},
+                                         PaddingRow{"mismatched behind a zero",
+                                                    std::string("he\0l\2\3\3", 7), "", true}));
 
 TEST(DecryptionAES, OfNothingIsEmpty)
 {

@@ -1,22 +1,29 @@
 // Texts beyond what 32 bits can count, which take too long where instructions are emulated or
 // watched.
 
+#include "crypto/AesEncrypt.h"
 #include "crypto/Base64Encoder.h"
 #include "crypto/MD5.h"
+#include "crypto/Sha256.h"
+#include "tests/crypto/Bytes.h"
+#include "tests/crypto/Digests.h"
 #include "tests/crypto/Md5BlockPeer.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstring>
 #include <string_view>
+#include <sys/mman.h>
+#include <tuple>
 
 namespace {
 
 constexpr std::uint32_t word = 0x61616161;
 
 /// The digest of 2^29 + 5 times "a" by the peer, with the low 32 bits of its 2^32 + 40 bits.
-std::string peerDigest()
+std::string md5OfTheLowLength()
 {
     std::uint32_t block[16];
     std::fill(std::begin(block), std::end(block), word);
@@ -30,8 +37,61 @@ std::string peerDigest()
 
 TEST(MD5LargeText, CountsItsBitsIn32Bits)
 {
-    EXPECT_EQ(peerDigest(), MD5().Encode(std::string((1UL << 29) + 5, 'a')));
+    EXPECT_EQ(md5OfTheLowLength(), MD5().Encode(std::string((1UL << 29) + 5, 'a')));
 }
+
+TEST(Sha256LargeText, CountsItsBitsIn64Bits)
+{
+    const std::vector<unsigned char> message((1UL << 29) + 5, 'a');
+    const std::string_view text(reinterpret_cast<const char*>(message.data()), message.size());
+    std::vector<unsigned char> digest;
+    ASSERT_TRUE(Sha256().encrypt(message, &digest));
+    EXPECT_EQ(peerDigest("SHA256", text), toHex(std::string(digest.begin(), digest.end())));
+}
+
+constexpr unsigned long longCount = (1UL << 32) + 16;
+
+/// Addresses for that many bytes, of which only the first page can be used.
+class LongArea
+{
+public:
+    LongArea()
+        : m_start(mmap(nullptr, longCount, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE,
+                       -1, 0))
+    {
+        constexpr std::size_t page = 4096;
+        EXPECT_EQ(0, mprotect(m_start, page, PROT_READ | PROT_WRITE));
+    }
+    ~LongArea() { munmap(m_start, longCount); }
+
+    LongArea(const LongArea&) = delete;
+    LongArea& operator=(const LongArea&) = delete;
+
+    char* start() const { return static_cast<char*>(m_start); }
+
+private:
+    void* m_start;
+};
+
+class AesLongCount : public testing::TestWithParam<std::tuple<int, bool>>
+{
+};
+
+// A count of which 32 bits were kept would end after one block.
+TEST_P(AesLongCount, GoesOnBeyond32Bits)
+{
+    const auto [mode, encrypts] = GetParam();
+    const auto operation = encrypts ? &AesEncrypt::Encrypt : &AesEncrypt::Decrypt;
+    const LongArea in;
+    const LongArea out;
+    AesEncrypt cipher;
+    cipher.MakeKey(in.start(), in.start(), 16, 16);
+    EXPECT_EXIT((cipher.*operation)(in.start(), out.start(), longCount, mode),
+                testing::KilledBySignal(SIGSEGV), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, AesLongCount,
+                         testing::Combine(testing::Values(0, 1, 2), testing::Bool()));
 
 /// A string of `size` bytes that begins with `start`. The rest is never written, so that it takes
 /// addresses but no memory: the size is put where the standard library keeps it, behind the
