@@ -181,6 +181,14 @@
         <source>They are no text; shown in hexadecimal.</source>
         <translation>内容不是文本，以十六进制显示。</translation>
     </message>
+    <message>
+        <source>The library encrypts everything from the first zero byte on (byte %L1) as zeros: it cannot be read back.</source>
+        <translation>库从第一个零字节（第 %L1 字节）起全部按零加密，无法还原。</translation>
+    </message>
+    <message>
+        <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
+        <translation>库的文本止于第一个零字节之前。略去 %L1 字节。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>

@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -91,14 +92,24 @@ void CipherPanel::encrypt()
         return;
     const std::string plain = m_plain->text().toStdString();
     m_cipher->setText(QString::fromStdString(Encrypt::EncryptionAES(keys->key, keys->iv, plain)));
-    const QString done = tr("Bytes encrypted: %L1.").arg(plain.size());
-    if (m_keys->usesPassPhrase() && plain.size() >= exportedArray)
-        emit reported(Page::Report::Warning,
-                      joined(done, tr("DecryptionAES_Export cannot give this text back: its result "
-                                      "holds at most %L1 bytes.")
-                                       .arg(exportedArray - 1)));
-    else
-        emit reported(Page::Report::Info, done);
+    const QString note = encryptionNote(plain);
+    emit reported(note.isEmpty() ? Page::Report::Info : Page::Report::Warning,
+                  joined(tr("Bytes encrypted: %L1.").arg(plain.size()), note));
+}
+
+QString CipherPanel::encryptionNote(const std::string& plain) const
+{
+    const std::size_t readable = std::min(plain.find('\0'), plain.size());
+    QString note;
+    if (readable < plain.size())
+        note = tr("The library encrypts everything from the first zero byte on (byte %L1) as "
+                  "zeros: it cannot be read back.")
+                   .arg(readable + 1);
+    if (m_keys->usesPassPhrase() && readable >= exportedArray)
+        note = joined(note, tr("DecryptionAES_Export cannot give this text back: its result holds "
+                               "at most %L1 bytes.")
+                                .arg(exportedArray - 1));
+    return note;
 }
 
 void CipherPanel::decrypt()
@@ -119,8 +130,8 @@ void CipherPanel::decrypt()
 
 void CipherPanel::showPlain(const CipherKeys& keys, const std::string& cipherText)
 {
-    const Decryption result = checkDecryption(keys, cipherText);
-    if (result == Decryption::Nothing)
+    const CheckedDecryption checked = checkDecryption(keys, cipherText);
+    if (checked.result == Decryption::Nothing)
         return refuse(tr("This is no URL-safe Base64: the library decodes nothing of it."));
     QString note;
     const std::string plain = decrypted(keys, cipherText, &note);
@@ -128,11 +139,15 @@ void CipherPanel::showPlain(const CipherKeys& keys, const std::string& cipherTex
     m_plain->setText(decoded.text);
     if (!decoded.isText)
         note = joined(note, tr("They are no text; shown in hexadecimal."));
+    if (plain.size() < checked.size)
+        note = joined(note, tr("The library ends the text before its first zero byte. Bytes left "
+                               "out: %L1.")
+                                .arg(checked.size - plain.size()));
     if (hasIgnoredBase64(cipherText))
         note = joined(note, tr("Only the first %L1 characters are Base64; the library ignores what "
                                "follows.")
                                 .arg(base64Length(cipherText)));
-    reportDecryption(result, cipherText, plain, note);
+    reportDecryption(checked.result, cipherText, plain, note);
 }
 
 std::string CipherPanel::decrypted(const CipherKeys& keys, const std::string& cipherText,

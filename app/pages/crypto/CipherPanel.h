@@ -21,6 +21,8 @@ signals:
 private:
     QWidget* makeButtons();
     void encrypt();
+    /// What cannot be read back of a text; empty when nothing.
+    QString encryptionNote(const std::string& plain) const;
     void decrypt();
     void showPlain(const CipherKeys& keys, const std::string& cipherText);
     std::string decrypted(const CipherKeys& keys, const std::string& cipherText, QString* note);

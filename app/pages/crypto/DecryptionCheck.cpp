@@ -20,15 +20,16 @@ std::string decryptBlocks(const CipherKeys& keys, const std::string& bytes)
     return plain;
 }
 
-Decryption checkPadding(const std::string& plain)
+CheckedDecryption checkPadding(const std::string& plain)
 {
     const std::size_t count = static_cast<unsigned char>(plain.back());
     if (count == 0 || count > maxPadding || count > plain.size())
-        return Decryption::NoPadding;
+        return {Decryption::NoPadding, plain.size()};
     const auto padding = plain.end() - static_cast<std::ptrdiff_t>(count);
     const auto different = [&plain](char byte) { return byte != plain.back(); };
-    return std::any_of(padding, plain.end(), different) ? Decryption::WrongPadding
-                                                        : Decryption::Sound;
+    if (std::any_of(padding, plain.end(), different))
+        return {Decryption::WrongPadding, 0};
+    return {Decryption::Sound, plain.size() - count};
 }
 
 } // namespace
@@ -39,13 +40,13 @@ CipherKeys keysFromPassPhrase(const std::string& passPhrase)
     return {hash.substr(0, 32), hash.substr(0, 16)};
 }
 
-Decryption checkDecryption(const CipherKeys& keys, const std::string& cipherText)
+CheckedDecryption checkDecryption(const CipherKeys& keys, const std::string& cipherText)
 {
     const std::string bytes = Base64Encoder::Decode(cipherText);
     if (bytes.empty())
-        return Decryption::Nothing;
-    if (bytes.size() % blockSize != 0)
-        return Decryption::NotWholeBlocks;
+        return {Decryption::Nothing, 0};
+    if (bytes.size() % blockSize != 0) // what passes for padding is taken off all the same
+        return {Decryption::NotWholeBlocks, checkPadding(bytes).size};
     return checkPadding(decryptBlocks(keys, bytes));
 }
 

@@ -25,8 +25,16 @@ enum class Decryption
     NoPadding
 };
 
+struct CheckedDecryption
+{
+    Decryption result;
+    /// The bytes that are left without the padding. `Encrypt` gives only those before the first
+    /// zero byte.
+    std::size_t size;
+};
+
 /// Both strings of `keys` must have at least 16 bytes.
-Decryption checkDecryption(const CipherKeys& keys, const std::string& cipherText);
+CheckedDecryption checkDecryption(const CipherKeys& keys, const std::string& cipherText);
 
 /// How many characters of a Base64 text are decoded: everything before the first that is not of the
 /// URL-safe alphabet.

@@ -1,51 +1,12 @@
-#include "tests/app/device/PageTest.h"
+#include "tests/app/device/CryptoPageTest.h"
 
 #include "app/ApplicationLog.h"
-#include "app/pages/crypto/DecryptionCheck.h"
 #include "crypto/Base64Encoder.h"
-#include "crypto/Encrypt.h"
 
-#include <QCheckBox>
 #include <QClipboard>
 #include <QFile>
-#include <QRadioButton>
-#include <QTabWidget>
 
 namespace {
-
-constexpr const char* passPhrase = "quay side";
-
-std::string encrypted(const std::string& phrase, const std::string& plain)
-{
-    const CipherKeys keys = keysFromPassPhrase(phrase);
-    return Encrypt::EncryptionAES(keys.key, keys.iv, plain);
-}
-
-class CryptoPageTest : public PageTest
-{
-protected:
-    void SetUp() override { open("crypto"); }
-
-    void chooseTab(int index) { page()->findChild<QTabWidget*>()->setCurrentIndex(index); }
-
-    QPlainTextEdit* clear() { return control<QPlainTextEdit>("Clear text"); }
-    QPlainTextEdit* cipher() { return control<QPlainTextEdit>("Base64 of the cipher text"); }
-    void enterPassPhrase(const QString& phrase)
-    {
-        control<QLineEdit>("Pass phrase:")->setText(phrase);
-    }
-
-    void enterKeys(const QString& key, const QString& iv, bool hexadecimal = false)
-    {
-        button<QRadioButton>("With key &and IV")->setChecked(true);
-        button<QCheckBox>("&Written in hexadecimal")->setChecked(hexadecimal);
-        control<QLineEdit>("Key:")->setText(key);
-        control<QLineEdit>("IV:")->setText(iv);
-    }
-
-    void pressEncrypt() { press(QStringLiteral("E&ncrypt \u2192")); }
-    void pressDecrypt() { press(QStringLiteral("\u2190 Decryp&t")); }
-};
 
 TEST_F(CryptoPageTest, OpensWithThePassPhraseInFocus)
 {
@@ -336,23 +297,6 @@ TEST_F(CryptoPageTest, CopiesAResult)
     EXPECT_EQ(QApplication::clipboard()->text(), cipher()->toPlainText());
     EXPECT_FALSE(QApplication::clipboard()->text().isEmpty());
 }
-
-class Base64PanelTest : public CryptoPageTest
-{
-protected:
-    void SetUp() override
-    {
-        CryptoPageTest::SetUp();
-        chooseTab(2);
-    }
-
-    QString converted(const QString& input, const QString& how)
-    {
-        control<QPlainTextEdit>("Text or Base64")->setPlainText(input);
-        press(how);
-        return control<QPlainTextEdit>("Result")->toPlainText();
-    }
-};
 
 TEST_F(Base64PanelTest, ConvertsBothWays)
 {

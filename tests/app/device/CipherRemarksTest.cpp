@@ -1,0 +1,106 @@
+#include "tests/app/device/CryptoPageTest.h"
+
+#include "crypto/AesEncrypt.h"
+#include "crypto/Base64Encoder.h"
+
+#include <QLabel>
+
+namespace {
+
+constexpr const char* key = "0123456789abcdef";
+
+// As a foreign program encrypts: zero bytes are bytes like any other.
+std::string encryptedElsewhere(const std::string& plain)
+{
+    const std::size_t padding = 16 - plain.size() % 16;
+    const std::string padded = plain + std::string(padding, static_cast<char>(padding));
+    std::string bytes(padded.size(), '\0');
+    AesEncrypt cipher;
+    cipher.MakeKey(key, key, 16, 16);
+    cipher.Encrypt(padded.data(), bytes.data(), padded.size(), AesEncrypt::CBC);
+    return Base64Encoder::Encode(reinterpret_cast<const unsigned char*>(bytes.data()),
+                                 static_cast<unsigned int>(bytes.size()));
+}
+
+class CipherRemarksTest : public CryptoPageTest
+{
+protected:
+    bool isInformation() { return !page()->findChild<QLabel*>("statusIcon")->isVisible(); }
+};
+
+TEST_F(CipherRemarksTest, TellThatEncryptingLosesWhatStandsBehindAZeroByte)
+{
+    const struct
+    {
+        QString plain;
+        const char* report;
+        const char* readBack;
+    } rows[] = {
+        {QString("abc%1defghij").arg(QChar(0)),
+         "Bytes encrypted: 11. The library encrypts everything from the first zero byte on (byte "
+         "4) as zeros: it cannot be read back.",
+         "abc"},
+        {QString("%1abc").arg(QChar(0)),
+         "Bytes encrypted: 4. The library encrypts everything from the first zero byte on (byte "
+         "1) as zeros: it cannot be read back.",
+         ""},
+        {QStringLiteral("\u7801%1").arg(QChar(0)),
+         "Bytes encrypted: 4. The library encrypts everything from the first zero byte on (byte "
+         "4) as zeros: it cannot be read back.",
+         "\u7801"},
+        {"abcdefghij", "Bytes encrypted: 10.", "abcdefghij"},
+    };
+    enterKeys(key, key);
+    for (const auto& row : rows) {
+        clear()->setPlainText(row.plain);
+        pressEncrypt();
+        EXPECT_EQ(status(), row.report);
+        EXPECT_EQ(isInformation(), row.plain == "abcdefghij") << row.report;
+        const std::string text = cipher()->toPlainText().toStdString();
+        EXPECT_EQ(Encrypt::DecryptionAES(key, key, text), row.readBack);
+    }
+}
+
+TEST_F(CipherRemarksTest, TellThatTheLibraryEndsTheClearTextAtAZeroByte)
+{
+    const struct
+    {
+        std::string plain;
+        const char* report;
+        const char* shown;
+    } rows[] = {
+        {std::string("abc\0def", 7),
+         "Bytes decrypted: 3. The library ends the text before its first zero byte. Bytes left "
+         "out: 4.",
+         "abc"},
+        {std::string("\0abcdef", 7),
+         "Bytes decrypted: 0. The library ends the text before its first zero byte. Bytes left "
+         "out: 7.",
+         ""},
+        {std::string("0123456789abcdef\0", 17),
+         "Bytes decrypted: 16. The library ends the text before its first zero byte. Bytes left "
+         "out: 1.",
+         "0123456789abcdef"},
+        {"abcdef", "Bytes decrypted: 6.", "abcdef"},
+        {"", "Bytes decrypted: 0.", ""},
+    };
+    enterKeys(key, key);
+    for (const auto& row : rows) {
+        cipher()->setPlainText(QString::fromStdString(encryptedElsewhere(row.plain)));
+        pressDecrypt();
+        EXPECT_EQ(status(), row.report);
+        EXPECT_EQ(clear()->toPlainText(), row.shown);
+        EXPECT_EQ(isInformation(), row.plain.find('\0') == std::string::npos) << row.report;
+    }
+}
+
+// The exported entry has room for what comes before the zero byte.
+TEST_F(CipherRemarksTest, CountOnlyWhatCanBeReadBackForTheExportedEntry)
+{
+    enterPassPhrase(passPhrase);
+    clear()->setPlainText(QString(2047, 'x') + QChar(0) + "x");
+    pressEncrypt();
+    EXPECT_EQ(status().find("DecryptionAES_Export"), std::string::npos) << status();
+}
+
+} // namespace
