@@ -44,10 +44,6 @@
         <translation>请先输入文本。</translation>
     </message>
     <message>
-        <source>The text is too long: at most %1 are taken.</source>
-        <translation>文本过长：最多接受 %1。</translation>
-    </message>
-    <message>
         <source>Bytes encoded: %L1.</source>
         <translation>已编码 %L1 字节。</translation>
     </message>
@@ -74,6 +70,10 @@
     <message>
         <source>D&amp;ecode</source>
         <translation>解码(&amp;E)</translation>
+    </message>
+    <message>
+        <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
+        <translation>文本过长：共 %L1 字节，最多接受 %L2 字节。</translation>
     </message>
 </context>
 <context>
@@ -120,10 +120,6 @@
     <message>
         <source>Decrypt</source>
         <translation>解密</translation>
-    </message>
-    <message>
-        <source>The text is too long: at most %1 are taken.</source>
-        <translation>文本过长：最多接受 %1。</translation>
     </message>
     <message>
         <source>Bytes encrypted: %L1.</source>
@@ -188,6 +184,10 @@
     <message>
         <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
         <translation>库的文本止于第一个零字节之前。略去 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
+        <translation>文本过长：共 %L1 字节，最多接受 %L2 字节。</translation>
     </message>
 </context>
 <context>

@@ -3,20 +3,13 @@
 #include "app/pages/MnemonicText.h"
 #include "app/pages/crypto/DecodedText.h"
 #include "app/pages/crypto/DecryptionCheck.h"
+#include "app/pages/crypto/TextLimits.h"
 #include "app/pages/crypto/TextPane.h"
 #include "crypto/Base64Encoder.h"
 
 #include <QHBoxLayout>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
-
-namespace {
-
-// Above it showing a text, which is one long line, would stall the window.
-constexpr int largestText = 64 * 1024;
-
-} // namespace
 
 Base64Panel::Base64Panel(QWidget* parent)
     : QWidget(parent),
@@ -60,25 +53,24 @@ void Base64Panel::addButton(const QString& caption, const QString& tip, void (Ba
     m_buttons->addWidget(button);
 }
 
-bool Base64Panel::take(std::string* text)
+bool Base64Panel::take(std::string* text, std::size_t limit)
 {
-    const QString input = m_input->text();
-    if (!input.isEmpty() && input.size() <= largestText) {
-        *text = input.toStdString();
+    *text = m_input->text().toStdString();
+    if (!text->empty() && text->size() <= limit)
         return true;
-    }
     m_input->edit()->setFocus();
-    emit reported(Page::Report::Warning, input.isEmpty()
-                                             ? tr("Enter a text first.")
-                                             : tr("The text is too long: at most %1 are taken.")
-                                                   .arg(QLocale().formattedDataSize(largestText)));
+    emit reported(Page::Report::Warning,
+                  text->empty() ? tr("Enter a text first.")
+                                : tr("The text is too long: %L1 bytes. At most %L2 are taken.")
+                                      .arg(text->size())
+                                      .arg(limit));
     return false;
 }
 
 void Base64Panel::encode()
 {
     std::string text;
-    if (!take(&text))
+    if (!take(&text, largestEncoded))
         return;
     const auto* bytes = reinterpret_cast<const unsigned char*>(text.data());
     m_output->setText(QString::fromStdString(
@@ -89,7 +81,7 @@ void Base64Panel::encode()
 void Base64Panel::decode()
 {
     std::string text;
-    if (!take(&text))
+    if (!take(&text, largestBase64))
         return;
     const std::string bytes = Base64Encoder::Decode(text);
     const std::size_t read = base64Length(text);
@@ -120,7 +112,7 @@ void Base64Panel::showDecoded(const std::string& bytes, const QString& note)
 void Base64Panel::makeUrlSafe()
 {
     std::string text;
-    if (!take(&text))
+    if (!take(&text, largestBase64))
         return;
     m_output->setText(QString::fromStdString(Base64Encoder::UrlEncode(text)));
     emit reported(Page::Report::Info, tr("Made URL-safe, without padding."));

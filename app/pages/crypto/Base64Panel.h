@@ -21,8 +21,8 @@ private:
     void encode();
     void decode();
     void makeUrlSafe();
-    /// The input; says why and returns false when there is none, or too much.
-    bool take(std::string* text);
+    /// The input; says why and returns false when there is none, or more bytes than `limit`.
+    bool take(std::string* text, std::size_t limit);
     void showDecoded(const std::string& bytes, const QString& note);
 
     TextPane* m_input;

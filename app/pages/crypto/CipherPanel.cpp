@@ -2,12 +2,12 @@
 
 #include "app/pages/crypto/DecodedText.h"
 #include "app/pages/crypto/KeyInput.h"
+#include "app/pages/crypto/TextLimits.h"
 #include "app/pages/crypto/TextPane.h"
 #include "crypto/Base64Encoder.h"
 #include "crypto/Encrypt.h"
 
 #include <QHBoxLayout>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -16,8 +16,6 @@
 
 namespace {
 
-// Above it showing a text, which is one long line, would stall the window.
-constexpr int largestText = 64 * 1024;
 constexpr std::size_t exportedArray = 2048; // with its terminator
 
 bool isUtf8(const std::string& text)
@@ -73,12 +71,12 @@ void CipherPanel::refuse(const QString& problem)
     emit reported(Page::Report::Warning, problem);
 }
 
-bool CipherPanel::refuseLarge(const QString& text)
+bool CipherPanel::refuseLarge(const std::string& text, std::size_t limit)
 {
-    if (text.size() <= largestText)
+    if (text.size() <= limit)
         return false;
-    refuse(tr("The text is too long: at most %1 are taken.")
-               .arg(QLocale().formattedDataSize(largestText)));
+    refuse(
+        tr("The text is too long: %L1 bytes. At most %L2 are taken.").arg(text.size()).arg(limit));
     return true;
 }
 
@@ -88,9 +86,9 @@ void CipherPanel::encrypt()
     const std::optional<CipherKeys> keys = m_keys->keys(&problem);
     if (!keys)
         return refuse(problem);
-    if (refuseLarge(m_plain->text()))
-        return;
     const std::string plain = m_plain->text().toStdString();
+    if (refuseLarge(plain, largestEncrypted))
+        return;
     m_cipher->setText(QString::fromStdString(Encrypt::EncryptionAES(keys->key, keys->iv, plain)));
     const QString note = encryptionNote(plain);
     emit reported(note.isEmpty() ? Page::Report::Info : Page::Report::Warning,
@@ -118,9 +116,9 @@ void CipherPanel::decrypt()
     const std::optional<CipherKeys> keys = m_keys->keys(&problem);
     if (!keys)
         return refuse(problem);
-    if (refuseLarge(m_cipher->text()))
-        return;
     const std::string cipherText = m_cipher->text().toStdString();
+    if (refuseLarge(cipherText, largestBase64))
+        return;
     if (cipherText.empty()) {
         m_cipher->edit()->setFocus();
         return refuse(tr("Enter the cipher text first."));

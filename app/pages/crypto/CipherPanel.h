@@ -29,7 +29,7 @@ private:
     void reportDecryption(Decryption result, const std::string& cipherText,
                           const std::string& plain, const QString& note);
     QString suspicion() const;
-    bool refuseLarge(const QString& text);
+    bool refuseLarge(const std::string& text, std::size_t limit);
     void refuse(const QString& problem);
 
     KeyInput* m_keys;
