@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Base64Note</name>
+    <message>
+        <source>The last Base64 character stands alone and yields nothing.</source>
+        <translation>最后一个 Base64 字符单独成组，解码不出内容。</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 characters are URL-safe Base64; the library ignores what follows.</source>
+        <translation>只有前 %L1 个字符是 URL 安全的 Base64，其后的内容被库忽略。</translation>
+    </message>
+</context>
+<context>
     <name>Base64Panel</name>
     <message>
         <source>&amp;Text or Base64</source>
@@ -50,10 +61,6 @@
     <message>
         <source>This is no URL-safe Base64: the library decodes nothing of it.</source>
         <translation>这不是 URL 安全的 Base64：库解码不出任何内容。</translation>
-    </message>
-    <message>
-        <source>The library stops at character %L1 and ignores what follows.</source>
-        <translation>库在第 %L1 个字符处停止，其后的内容被忽略。</translation>
     </message>
     <message>
         <source>Bytes decoded: %L1.</source>
@@ -136,10 +143,6 @@
     <message>
         <source>This is no URL-safe Base64: the library decodes nothing of it.</source>
         <translation>这不是 URL 安全的 Base64：库解码不出任何内容。</translation>
-    </message>
-    <message>
-        <source>Only the first %L1 characters are Base64; the library ignores what follows.</source>
-        <translation>只有前 %L1 个字符是 Base64，其后的内容被库忽略。</translation>
     </message>
     <message>
         <source>DecryptionAES_Export gives null: its result holds at most %L1 bytes. This is what Encrypt::DecryptionAES gives.</source>

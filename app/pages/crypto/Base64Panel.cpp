@@ -1,8 +1,8 @@
 #include "app/pages/crypto/Base64Panel.h"
 
 #include "app/pages/MnemonicText.h"
+#include "app/pages/crypto/Base64Note.h"
 #include "app/pages/crypto/DecodedText.h"
-#include "app/pages/crypto/DecryptionCheck.h"
 #include "app/pages/crypto/TextLimits.h"
 #include "app/pages/crypto/TextPane.h"
 #include "crypto/Base64Encoder.h"
@@ -84,17 +84,12 @@ void Base64Panel::decode()
     if (!take(&text, largestBase64))
         return;
     const std::string bytes = Base64Encoder::Decode(text);
-    const std::size_t read = base64Length(text);
     if (bytes.empty()) {
         emit reported(Page::Report::Warning,
                       tr("This is no URL-safe Base64: the library decodes nothing of it."));
         return;
     }
-    showDecoded(
-        bytes,
-        hasIgnoredBase64(text)
-            ? tr("The library stops at character %L1 and ignores what follows.").arg(read + 1)
-            : QString());
+    showDecoded(bytes, Base64Note::of(text));
 }
 
 void Base64Panel::showDecoded(const std::string& bytes, const QString& note)

@@ -1,5 +1,6 @@
 #include "app/pages/crypto/CipherPanel.h"
 
+#include "app/pages/crypto/Base64Note.h"
 #include "app/pages/crypto/DecodedText.h"
 #include "app/pages/crypto/KeyInput.h"
 #include "app/pages/crypto/TextLimits.h"
@@ -141,10 +142,7 @@ void CipherPanel::showPlain(const CipherKeys& keys, const std::string& cipherTex
         note = joined(note, tr("The library ends the text before its first zero byte. Bytes left "
                                "out: %L1.")
                                 .arg(checked.size - plain.size()));
-    if (hasIgnoredBase64(cipherText))
-        note = joined(note, tr("Only the first %L1 characters are Base64; the library ignores what "
-                               "follows.")
-                                .arg(base64Length(cipherText)));
+    note = joined(note, Base64Note::of(cipherText));
     reportDecryption(checked.result, cipherText, plain, note);
 }
 

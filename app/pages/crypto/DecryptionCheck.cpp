@@ -61,3 +61,8 @@ bool hasIgnoredBase64(const std::string& text)
 {
     return text.find_first_not_of("= \t\r\n", base64Length(text)) != std::string::npos;
 }
+
+bool hasLoneBase64(const std::string& text)
+{
+    return base64Length(text) % 4 == 1;
+}

@@ -42,3 +42,6 @@ std::size_t base64Length(const std::string& text);
 
 /// True when something other than padding and white space is left behind those characters.
 bool hasIgnoredBase64(const std::string& text);
+
+/// True when the last of those characters begins a group of four alone: its six bits make no byte.
+bool hasLoneBase64(const std::string& text);

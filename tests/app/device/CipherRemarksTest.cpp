@@ -103,4 +103,20 @@ TEST_F(CipherRemarksTest, CountOnlyWhatCanBeReadBackForTheExportedEntry)
     EXPECT_EQ(status().find("DecryptionAES_Export"), std::string::npos) << status();
 }
 
+TEST_F(CipherRemarksTest, TellThatASingleLastCharacterYieldsNothing)
+{
+    const std::string text(47, 'x'); // its Base64 has no padding
+    enterKeys(key, key);
+    for (const char* end : {"", "Q", "Q\n"}) {
+        cipher()->setPlainText(QString::fromStdString(encryptedElsewhere(text)) + end);
+        pressDecrypt();
+        const std::string done = "Bytes decrypted: 47.";
+        EXPECT_EQ(status(),
+                  *end == 0 ? done
+                            : done + " The last Base64 character stands alone and yields nothing.");
+        EXPECT_EQ(isInformation(), *end == 0) << end;
+        EXPECT_EQ(clear()->toPlainText().toStdString(), text);
+    }
+}
+
 } // namespace

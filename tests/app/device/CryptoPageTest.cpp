@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QFile>
+#include <QLabel>
 
 namespace {
 
@@ -169,8 +170,8 @@ TEST_F(CryptoPageTest, SaysWhatOfTheCipherTextIsIgnored)
     enterPassPhrase(passPhrase);
     cipher()->setPlainText(QString::fromStdString(encrypted(passPhrase, "hello")) + " more");
     pressDecrypt();
-    EXPECT_EQ(status(), "Bytes decrypted: 5. Only the first 22 characters are Base64; the library "
-                        "ignores what follows.");
+    EXPECT_EQ(status(), "Bytes decrypted: 5. Only the first 22 characters are URL-safe Base64; the "
+                        "library ignores what follows.");
     EXPECT_EQ(clear()->toPlainText(), "hello");
 }
 
@@ -317,8 +318,28 @@ TEST_F(Base64PanelTest, AMnemonicDecodes)
 TEST_F(Base64PanelTest, SaysWhereDecodingStops)
 {
     EXPECT_EQ(converted("QUJD QUJD", "D&ecode"), "ABC");
-    EXPECT_EQ(status(),
-              "Bytes decoded: 3. The library stops at character 5 and ignores what follows.");
+    EXPECT_EQ(status(), "Bytes decoded: 3. Only the first 4 characters are URL-safe Base64; the "
+                        "library ignores what follows.");
+}
+
+TEST_F(Base64PanelTest, SaysThatASingleLastCharacterYieldsNothing)
+{
+    const std::string lone = "The last Base64 character stands alone and yields nothing.";
+    const std::pair<const char*, std::string> rows[] = {
+        {"QUJDQ", "Bytes decoded: 3. " + lone},
+        {"QUJDQ=", "Bytes decoded: 3. " + lone},
+        {"QUJDQ+", "Bytes decoded: 3. " + lone +
+                       " Only the first 5 characters are URL-safe Base64; the library ignores "
+                       "what follows."},
+        {"QUJD", "Bytes decoded: 3."},
+        {"QUJDQU", "Bytes decoded: 4."},
+    };
+    for (const auto& [text, report] : rows) {
+        converted(text, "D&ecode");
+        EXPECT_EQ(status(), report);
+        const bool warns = page()->findChild<QLabel*>("statusIcon")->isVisible();
+        EXPECT_EQ(warns, report.find(lone) != std::string::npos) << text;
+    }
 }
 
 TEST_F(Base64PanelTest, ShowsWhatIsNoTextInHexadecimal)
