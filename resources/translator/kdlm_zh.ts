@@ -1117,6 +1117,18 @@
         <source>&amp;Key:</source>
         <translation>密钥(&amp;K)：</translation>
     </message>
+    <message>
+        <source>%1 bytes: only the first %2 are used</source>
+        <translation>%1 字节：仅使用前 %2 字节</translation>
+    </message>
+    <message>
+        <source>Only the first %1 bytes of the key are used.</source>
+        <translation>密钥仅使用前 %1 字节。</translation>
+    </message>
+    <message>
+        <source>Only the first %1 bytes of the IV are used.</source>
+        <translation>初始向量仅使用前 %1 字节。</translation>
+    </message>
 </context>
 <context>
     <name>KeyLamp</name>

@@ -108,7 +108,7 @@ QString CipherPanel::encryptionNote(const std::string& plain) const
         note = joined(note, tr("DecryptionAES_Export cannot give this text back: its result holds "
                                "at most %L1 bytes.")
                                 .arg(exportedArray - 1));
-    return note;
+    return joined(note, m_keys->note());
 }
 
 void CipherPanel::decrypt()
@@ -142,7 +142,7 @@ void CipherPanel::showPlain(const CipherKeys& keys, const std::string& cipherTex
         note = joined(note, tr("The library ends the text before its first zero byte. Bytes left "
                                "out: %L1.")
                                 .arg(checked.size - plain.size()));
-    note = joined(note, Base64Note::of(cipherText));
+    note = joined(joined(note, Base64Note::of(cipherText)), m_keys->note());
     reportDecryption(checked.result, cipherText, plain, note);
 }
 

@@ -21,7 +21,7 @@ signals:
 private:
     QWidget* makeButtons();
     void encrypt();
-    /// What cannot be read back of a text; empty when nothing.
+    /// What cannot be read back of a text, and what of the keys is not used; empty when nothing.
     QString encryptionNote(const std::string& plain) const;
     void decrypt();
     void showPlain(const CipherKeys& keys, const std::string& cipherText);

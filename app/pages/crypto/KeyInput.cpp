@@ -106,7 +106,10 @@ QByteArray KeyInput::bytes(const QLineEdit* field) const
 
 QString KeyInput::countOf(const QLineEdit* field) const
 {
-    return tr("%1 of %2 bytes").arg(bytes(field).size()).arg(keySize);
+    const int count = bytes(field).size();
+    if (count > keySize)
+        return tr("%1 bytes: only the first %2 are used").arg(count).arg(keySize);
+    return tr("%1 of %2 bytes").arg(count).arg(keySize);
 }
 
 bool KeyInput::usesPassPhrase() const
@@ -147,4 +150,16 @@ std::optional<CipherKeys> KeyInput::keys(QString* problem)
         }
     }
     return CipherKeys{bytes(m_key).toStdString(), bytes(m_iv).toStdString()};
+}
+
+QString KeyInput::note() const
+{
+    if (usesPassPhrase())
+        return {};
+    QStringList notes;
+    if (bytes(m_key).size() > keySize)
+        notes += tr("Only the first %1 bytes of the key are used.").arg(keySize);
+    if (bytes(m_iv).size() > keySize)
+        notes += tr("Only the first %1 bytes of the IV are used.").arg(keySize);
+    return notes.join(QLatin1Char(' '));
 }

@@ -26,6 +26,9 @@ public:
     /// in question has the focus.
     std::optional<CipherKeys> keys(QString* problem);
 
+    /// What of the key and the IV the cipher passes over, in words; empty when nothing.
+    QString note() const;
+
 private:
     QWidget* makePassPhrase();
     QWidget* makeKeys();

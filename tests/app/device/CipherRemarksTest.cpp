@@ -5,6 +5,8 @@
 
 #include <QLabel>
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char* key = "0123456789abcdef";
@@ -116,6 +118,56 @@ TEST_F(CipherRemarksTest, TellThatASingleLastCharacterYieldsNothing)
                             : done + " The last Base64 character stands alone and yields nothing.");
         EXPECT_EQ(isInformation(), *end == 0) << end;
         EXPECT_EQ(clear()->toPlainText().toStdString(), text);
+    }
+}
+
+TEST_F(CipherRemarksTest, TellHowMuchOfALongKeyIsUsed)
+{
+    const std::string ofKey = " Only the first 16 bytes of the key are used.";
+    const std::string ofIv = " Only the first 16 bytes of the IV are used.";
+    const struct
+    {
+        const char* key;
+        const char* iv;
+        bool hexadecimal;
+        std::string note;
+    } rows[] = {
+        {"0123456789abcdefXYZ", key, false, ofKey},
+        {key, "0123456789abcdefX", false, ofIv},
+        {"0123456789abcdefXYZ", "0123456789abcdefX", false, ofKey + ofIv},
+        {"3031323334353637383961626364656600", "30313233343536373839616263646566", true, ofKey},
+        {key, key, false, ""},
+    };
+    for (const auto& row : rows) {
+        enterKeys(row.key, row.iv, row.hexadecimal);
+        clear()->setPlainText("text");
+        pressEncrypt();
+        EXPECT_EQ(status(), "Bytes encrypted: 4." + row.note);
+        EXPECT_EQ(isInformation(), row.note.empty());
+        EXPECT_EQ(cipher()->toPlainText().toStdString(), Encrypt::EncryptionAES(key, key, "text"));
+        pressDecrypt();
+        EXPECT_EQ(status(), "Bytes decrypted: 4." + row.note);
+        EXPECT_EQ(isInformation(), row.note.empty());
+    }
+}
+
+TEST_F(CipherRemarksTest, CountTheBytesOfAKeyAndThoseThatAreUsed)
+{
+    const std::pair<const char*, const char*> rows[] = {
+        {"0123456789abcde", "15 of 16 bytes"},
+        {key, "16 of 16 bytes"},
+        {"0123456789abcdefXYZ", "19 bytes: only the first 16 are used"},
+    };
+    for (const auto& [typed, count] : rows) {
+        enterKeys(typed, "");
+        QApplication::processEvents();
+        const auto labels = page()->findChildren<QLabel*>();
+        const auto label = std::find_if(labels.begin(), labels.end(), [text = count](QLabel* each) {
+            return each->isVisible() && each->text() == text;
+        });
+        ASSERT_NE(label, labels.end()) << count;
+        EXPECT_GE((*label)->width(), (*label)->sizeHint().width()) << count;
+        EXPECT_GT(control<QLineEdit>("Key:")->width(), 200) << count;
     }
 }
 
