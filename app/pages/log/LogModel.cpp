@@ -9,6 +9,18 @@ namespace {
 
 constexpr qint64 piece = 64LL * 1024;
 
+// More than a line or a tool tip has room for. Views lay out all they are given: a dump of some
+// megabytes would stall them.
+constexpr int mostShown = 1000;
+
+QString beginning(const QString& text)
+{
+    if (text.size() <= mostShown)
+        return text;
+    const bool splitsPair = text.at(mostShown - 1).isHighSurrogate();
+    return text.left(splitsPair ? mostShown - 1 : mostShown) + QChar(0x2026);
+}
+
 } // namespace
 
 LogModel::LogModel(const QString& file, QObject* parent) : QAbstractTableModel(parent), m_file(file)
@@ -68,7 +80,7 @@ QVariant LogModel::data(const QModelIndex& index, int role) const
     const LogEntry& entry = m_lines.entries()[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole: return text(entry, index.column());
-    case Qt::ToolTipRole: return plainToolTip(entry.text);
+    case Qt::ToolTipRole: return plainToolTip(beginning(entry.text));
     case LevelRole: return static_cast<int>(entry.level);
     case LineRole: return entry.line;
     case Qt::DecorationRole:
@@ -86,7 +98,7 @@ QVariant LogModel::text(const LogEntry& entry, int column) const
     switch (column) {
     case Time: return entry.time;
     case Level: return levelName(entry.level);
-    case Text: return QString(entry.text).replace(QLatin1Char('\n'), QChar(0x21B5));
+    case Text: return beginning(entry.text).replace(QLatin1Char('\n'), QChar(0x21B5));
     default: return {};
     }
 }

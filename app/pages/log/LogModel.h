@@ -4,7 +4,8 @@
 
 #include <QAbstractTableModel>
 
-/// A log file as it grows. Reading is left to the caller, in pieces.
+/// A log file as it grows. Reading is left to the caller, in pieces. Of a long entry only the
+/// beginning is shown.
 class LogModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ public:
 
     /// The entry's level as an int, for filters.
     static constexpr int LevelRole = Qt::UserRole;
-    /// The entry as it stands in the file.
+    /// The whole entry as it stands in the file.
     static constexpr int LineRole = Qt::UserRole + 1;
 
     explicit LogModel(const QString& file, QObject* parent = nullptr);

@@ -107,6 +107,39 @@ TEST_F(LogModelTest, StartsAnewWithAFileThatBecameShorter)
     EXPECT_EQ(m_model.index(0, LogModel::Text).data().toString().toStdString(), "fault");
 }
 
+// A view lays out all it is given, and a tool tip too.
+TEST_F(LogModelTest, ShowsTheBeginningOfALongEntry)
+{
+    const QByteArray prefix = "[INFO] 2026-03-07 09:05:03 : ";
+    const struct
+    {
+        QByteArray text;
+        int shown;
+    } rows[] = {
+        // each shorter than the one before: the file is read from its start
+        {QByteArray(4 << 20, 'x') + "needle", 1001},
+        {QByteArray("one\n").repeated(40000) + "needle", 1001},
+        {QByteArray(999, 'x') + "\xF0\x9F\x9A\xA2 and more", 1000}, // a pair is not cut in two
+        {QByteArray(1001, 'x'), 1001},
+        {QByteArray(1000, 'x'), 1000},
+    };
+    for (const auto& row : rows) {
+        write(prefix + row.text + '\n', QIODevice::WriteOnly);
+        ASSERT_EQ(m_model.rowCount(), 1);
+        const QModelIndex index = m_model.index(0, LogModel::Text);
+        const bool cut = row.text.size() > 1000;
+        const QString shown = index.data().toString();
+        EXPECT_EQ(shown.size(), row.shown);
+        EXPECT_EQ(shown.endsWith(QChar(0x2026)), cut);
+        EXPECT_EQ(QString(shown).replace(QChar(0x21B5), '\n'), index.data(Qt::ToolTipRole));
+        EXPECT_TRUE(index.data(LogModel::LineRole).toString() == prefix + row.text);
+        LogFilter filter;
+        filter.setSourceModel(&m_model);
+        filter.setText("needle");
+        EXPECT_EQ(filter.rowCount(), row.text.endsWith("needle") ? 1 : 0);
+    }
+}
+
 TEST_F(LogModelTest, FiltersByLevelAndText)
 {
     write("2026-03-07 09:05:01 : === Start logging ===\n[DEBUG] 2026-03-07 09:05:03 : d\n" + info +
