@@ -163,6 +163,8 @@ TEST_F(LogModelTest, FiltersByLevelAndText)
 class LogPageTest : public testing::Test
 {
 protected:
+    static void SetUpTestSuite() { logInfo("before"); } // the first line marks the run's start
+
     LogPageTest()
     {
         m_page.resize(700, 300);
@@ -194,6 +196,7 @@ TEST_F(LogPageTest, FollowsNewLinesOnlyFromTheEnd)
     for (int i = 0; i < 60; ++i)
         logInfo(QString::number(i));
     QScrollBar* bar = table().verticalScrollBar();
+    ASSERT_TRUE(QTest::qWaitFor([bar] { return bar->maximum() > 3; }));
     EXPECT_EQ(bar->value(), bar->maximum());
     bar->setValue(3);
     logInfo("later");
