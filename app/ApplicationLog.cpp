@@ -28,6 +28,15 @@ std::string preparedPath()
     return QFile::encodeName(path).toStdString();
 }
 
+// A line end in a text, such as from a file's name, would begin what passes for a further entry.
+QString inOneLine(QString text)
+{
+    const QChar sign(0x21B5);
+    return text.replace(QLatin1String("\r\n"), QString(sign))
+        .replace(QLatin1Char('\n'), sign)
+        .replace(QLatin1Char('\r'), sign);
+}
+
 } // namespace
 
 ApplicationLog& ApplicationLog::instance()
@@ -52,7 +61,7 @@ ApplicationLog::ApplicationLog() : m_logger(Logger::file, Logger::debug, prepare
 
 void ApplicationLog::write(Logger::log_level level, const QString& text)
 {
-    m_logger.output(text.toStdString(), level);
+    m_logger.output(inOneLine(text).toStdString(), level);
     emit written();
 }
 

@@ -22,6 +22,7 @@ public:
     /// False when the lines get lost, since there is no such file or nothing may be added to it.
     static bool isWritable();
 
+    /// Writes one line: line ends within the text become U+21B5.
     void write(Logger::log_level level, const QString& text);
 
 signals:

@@ -191,6 +191,19 @@ TEST_F(LogPageTest, ShowsANewLineAtOnce)
     EXPECT_EQ(lastLine().toStdString(), "something new");
 }
 
+// The names of files that messages tell of may hold line ends.
+TEST_F(LogPageTest, ALineEndInAMessageMakesNoFurtherEntry)
+{
+    const char* const endings[] = {"\n", "\r", "\r\n"};
+    for (const QString ending : endings) {
+        const int before = table().model()->rowCount();
+        logInfo("one" + ending + "two" + ending + "[ERROR] 2026-01-01 00:00:00 : forged" + ending);
+        EXPECT_EQ(table().model()->rowCount(), before + 1);
+        EXPECT_EQ(lastLine().toStdString(),
+                  "one\u21B5two\u21B5[ERROR] 2026-01-01 00:00:00 : forged\u21B5");
+    }
+}
+
 TEST_F(LogPageTest, FollowsNewLinesOnlyFromTheEnd)
 {
     for (int i = 0; i < 60; ++i)
