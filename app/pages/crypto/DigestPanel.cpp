@@ -1,5 +1,6 @@
 #include "app/pages/crypto/DigestPanel.h"
 
+#include "app/pages/PlainToolTip.h"
 #include "app/pages/crypto/CopyButton.h"
 #include "app/pages/crypto/DigestJob.h"
 #include "app/pages/crypto/DigestSource.h"
@@ -12,6 +13,7 @@
 
 namespace {
 
+constexpr int titleCharacters = 40; // of average width, for the name of a file
 constexpr std::uint64_t lengthLimit = std::uint64_t{1} << 29; // its bits no longer fit 32 bits
 
 QStringList departures(const Digests& digests)
@@ -77,6 +79,7 @@ QWidget* DigestPanel::makeRequest()
 QWidget* DigestPanel::makeResults()
 {
     m_results = new QGroupBox(tr("Results"));
+    m_results->setObjectName(QStringLiteral("results"));
     auto* grid = new QGridLayout(m_results);
     m_sha256 = addField(grid, QStringLiteral("SHA-256"), tr("Sha256::getHexMessageDigest"));
     m_fingerprint = addField(grid, QStringLiteral("Sha256Encode"),
@@ -139,11 +142,20 @@ void DigestPanel::show(const Field& field, const QString& text)
     field.copy->refreshState();
 }
 
-void DigestPanel::showDigests(const Digests& digests)
+// The group would be as wide as the whole name of a file.
+void DigestPanel::showTitle()
 {
-    QString requested = m_requested;
+    const QFontMetrics metrics = m_results->fontMetrics();
+    const int widest = metrics.averageCharWidth() * titleCharacters;
+    QString requested = metrics.elidedText(m_requested, Qt::ElideMiddle, widest);
+    m_results->setToolTip(requested == m_requested ? QString() : plainToolTip(m_requested));
     requested.replace(QLatin1Char('&'), QLatin1String("&&")); // else it makes a mnemonic
     m_results->setTitle(tr("Results for %1").arg(requested));
+}
+
+void DigestPanel::showDigests(const Digests& digests)
+{
+    showTitle();
     show(m_sha256, digests.sha256Hex);
     show(m_fingerprint, digests.fingerprint);
     show(m_md5, digests.md5);

@@ -42,6 +42,7 @@ private:
     Field addField(QGridLayout* grid, const QString& caption, const QString& tip);
     void request();
     void show(const Field& field, const QString& text);
+    void showTitle();
     void showDigests(const Digests& digests);
 
     DigestSource* m_source;

@@ -1,4 +1,5 @@
 #include "tests/app/device/PageTest.h"
+#include "tests/app/pages/ShownToolTip.h"
 
 #include "crypto/Encrypt.h"
 #include "crypto/MD5.h"
@@ -12,8 +13,6 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
-
-#include <algorithm>
 
 namespace {
 
@@ -42,9 +41,9 @@ protected:
         press("Digest &now");
     }
 
-    QString madeFile(const std::string& content)
+    QString madeFile(const std::string& content, const QString& name = "file")
     {
-        QFile file(m_folder.filePath("file"));
+        QFile file(m_folder.filePath(name));
         EXPECT_TRUE(file.open(QFile::WriteOnly));
         file.write(content.data(), static_cast<qint64>(content.size()));
         return file.fileName();
@@ -54,6 +53,7 @@ protected:
     {
         return control<QLineEdit>(name)->text().toStdString();
     }
+    QGroupBox& results() { return *page()->findChild<QGroupBox*>("results"); }
     std::string notes() { return page()->findChild<QLabel*>("notes")->text().toStdString(); }
 
     void expectDigestsOf(const std::string& text, const std::string& second = {})
@@ -89,15 +89,28 @@ TEST_F(DigestPanelTest, GivesWhatTheClassesGiveForAFile)
 // One & would make a mnemonic of the letter behind it.
 TEST_F(DigestPanelTest, NamesAFileWithAnAmpersand)
 {
-    QFile file(m_folder.filePath("R&D.txt"));
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
-    file.close();
-    digestFile(file.fileName());
+    digestFile(madeFile("abc", "R&D.txt"));
     waitForJob();
-    const auto boxes = page()->findChildren<QGroupBox*>();
-    EXPECT_TRUE(std::any_of(boxes.begin(), boxes.end(), [](const QGroupBox* box) {
-        return box->title() == "Results for R&&D.txt";
-    }));
+    EXPECT_EQ(results().title(), "Results for R&&D.txt");
+    EXPECT_EQ(results().toolTip(), "");
+}
+
+// The group is as wide as its title.
+TEST_F(DigestPanelTest, NamesAFileWithALongName)
+{
+    const QString name = "<b>" + QString(240, 'm') + "&end";
+    digestFile(madeFile("abc", name));
+    waitForJob();
+    const QString title = results().title();
+    EXPECT_TRUE(title.startsWith("Results for <b>mm")) << title.toStdString();
+    EXPECT_TRUE(title.endsWith("m&&end")) << title.toStdString();
+    EXPECT_LE(results().minimumSizeHint().width(), 800);
+    EXPECT_LE(results().fontMetrics().horizontalAdvance(title), results().width());
+    EXPECT_EQ(m_window.size(), QSize(800, 600));
+    EXPECT_EQ(shownToolTip(results().toolTip()), name);
+    digestText("abc");
+    EXPECT_EQ(results().title(), "Results for the text");
+    EXPECT_EQ(results().toolTip(), "");
 }
 
 TEST_F(DigestPanelTest, SaysWhereTheMd5DepartsFromTheStandard)
