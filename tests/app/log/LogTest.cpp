@@ -1,4 +1,5 @@
 #include "app/ApplicationLog.h"
+#include "app/pages/BusyOverlay.h"
 #include "app/pages/log/LogFilter.h"
 #include "app/pages/log/LogLines.h"
 #include "app/pages/log/LogModel.h"
@@ -6,9 +7,11 @@
 #include "tests/app/pages/ShownToolTip.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -249,6 +252,31 @@ TEST_F(LogPageTest, SavesTheLinesInView)
     EXPECT_TRUE(lines.startsWith("[ERROR] "));
     EXPECT_TRUE(lines.endsWith(" : to be saved\n"));
     EXPECT_TRUE(m_page.statusText().startsWith("Saved to"));
+}
+
+TEST_F(LogPageTest, LeavesTheTargetAloneWhenSavingIsCancelled)
+{
+    QFile log(ApplicationLog::path());
+    const qint64 size = log.size();
+    ASSERT_TRUE(log.open(QIODevice::Append));
+    log.write(info.repeated(300000)); // far more than one slice saves
+    log.close();
+    m_page.refresh();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }, 60000));
+    QFile target(m_folder.filePath("saved.log"));
+    ASSERT_TRUE(target.open(QIODevice::ReadWrite));
+    target.write("older\n");
+    target.close();
+    m_page.saveAs(target.fileName());
+    ASSERT_TRUE(m_page.isBusy());
+    m_page.findChild<BusyOverlay*>()->findChild<QPushButton*>()->click();
+    EXPECT_FALSE(m_page.isBusy());
+    EXPECT_EQ(m_page.statusText(), "Nothing was saved.");
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList("saved.log"));
+    ASSERT_TRUE(target.open(QIODevice::ReadOnly));
+    EXPECT_EQ(target.readAll(), "older\n");
+    ASSERT_TRUE(log.resize(size)); // the other tests need none of it
 }
 
 TEST_F(LogPageTest, RefusesToBeSavedOverItself)
