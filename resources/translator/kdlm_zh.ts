@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>DecryptionAES_Export gives null: its result holds at most %L1 bytes. This is what Encrypt::DecryptionAES gives.</source>
-        <translation>DecryptionAES_Export 返回空指针：其结果最多容纳 %L1 字节。此处显示的是 Encrypt::DecryptionAES 的结果。</translation>
+        <translation>DecryptionAES_Export 返回 null：其结果最多容纳 %L1 字节。此处显示的是 Encrypt::DecryptionAES 的结果。</translation>
     </message>
     <message>
         <source>Wrong pass phrase, or damaged cipher text:</source>
@@ -291,7 +291,7 @@
     </message>
     <message>
         <source>SetCursor with null changes nothing.</source>
-        <translation>以空指针调用 SetCursor 不会有任何变化。</translation>
+        <translation>以 null 调用 SetCursor 不会有任何变化。</translation>
     </message>
     <message>
         <source>Levels added from here: %1.</source>
@@ -299,7 +299,7 @@
     </message>
     <message>
         <source>null: none is set</source>
-        <translation>空：未设置</translation>
+        <translation>null：未设置</translation>
     </message>
     <message>
         <source>GetCursorPos (screen):</source>
@@ -633,15 +633,15 @@
     </message>
     <message>
         <source>With a class name, the window name is not looked at. Without both, the first window is found.</source>
-        <translation>给出类名时不再看窗口名；两者都为空时返回第一个窗口。</translation>
+        <translation>给出类名时不再看窗口名；两者均未给出时返回第一个窗口。</translation>
     </message>
     <message>
         <source>null</source>
-        <translation>空</translation>
+        <translation>null</translation>
     </message>
     <message>
         <source>null: no window was found</source>
-        <translation>空：未找到窗口</translation>
+        <translation>null：未找到窗口</translation>
     </message>
     <message>
         <source>A window was found.</source>
@@ -1717,7 +1717,7 @@
     </message>
     <message>
         <source>The monitor that holds the point, else null.</source>
-        <translation>包含该点的显示器，否则为空。</translation>
+        <translation>包含该点的显示器，否则为 null。</translation>
     </message>
     <message>
         <source>The monitor that holds the point, else the primary one.</source>

@@ -108,6 +108,27 @@ TEST_P(PageTextsTest, EveryControlHasAnAccessibleName)
     }
 }
 
+// It is an answer of the services, and the Chinese for it reads like "empty".
+TEST(PageTexts, NullIsNotTranslated)
+{
+    initResources();
+    QTranslator translator;
+    ASSERT_TRUE(translator.load(":/translator/kdlm_zh.qm"));
+    const std::pair<const char*, const char*> rows[] = {
+        {"FindWindowPanel", "null"},
+        {"FindWindowPanel", "null: no window was found"},
+        {"CursorPanel", "null: none is set"},
+        {"CursorPanel", "SetCursor with null changes nothing."},
+        {"PointPanel", "The monitor that holds the point, else null."},
+        {"CipherPanel", "DecryptionAES_Export gives null: its result holds at most %L1 bytes. This "
+                        "is what Encrypt::DecryptionAES gives."},
+    };
+    for (const auto& [context, text] : rows) {
+        const QString translation = translator.translate(context, text);
+        EXPECT_TRUE(translation.contains("null")) << text << ": " << translation.toStdString();
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(, PageTextsTest,
                          testing::Values(Row{"displays", "en"}, Row{"displays", "zh"},
                                          Row{"input", "en"}, Row{"input", "zh"},
