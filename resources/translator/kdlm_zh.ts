@@ -1582,6 +1582,17 @@
     </message>
 </context>
 <context>
+    <name>OpenedElsewhere</name>
+    <message>
+        <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
+        <translation>名称中含有“\”：主机库打开此项时，得到的是 %2 中的项“%1”。</translation>
+    </message>
+    <message>
+        <source>A name with a &quot;\&quot; in it: a host library that asks for this value gets the value &quot;%1&quot; in %2.</source>
+        <translation>名称中含有“\”：主机库读取此值时，得到的是 %2 中的值“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>PageCatalogue</name>
     <message>
         <source>&amp;Registry</source>
@@ -2168,6 +2179,10 @@ Wide: %2</source>
     <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>已取消：未删除任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was changed.</source>
+        <translation>%1未作任何更改。</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "app/pages/Page.h"
 #include "app/pages/registry/NameDialog.h"
+#include "app/pages/registry/OpenedElsewhere.h"
 #include "app/pages/registry/RegistryFormat.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
@@ -13,6 +14,8 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -107,8 +110,32 @@ void RegistryEditor::ask(const QString& question, const QString& detail,
     box->open();
 }
 
+// Where a host library finds another key, a change would be made in that one.
+bool RegistryEditor::isRefused(const QString& path)
+{
+    if (isOpenedElsewhere(path))
+        reportRefusal(keyOpenedElsewhere(path));
+    return isOpenedElsewhere(path);
+}
+
+bool RegistryEditor::isRefused(const QString& path, const Value& value)
+{
+    if (isRefused(path))
+        return true;
+    if (isOpenedElsewhere(value.name))
+        reportRefusal(valueOpenedElsewhere(RegistryPath::join(path, value.name)));
+    return isOpenedElsewhere(value.name);
+}
+
+void RegistryEditor::reportRefusal(const QString& why)
+{
+    m_page->report(Page::Report::Error, tr("%1 Nothing was changed.").arg(why));
+}
+
 void RegistryEditor::newKey(const QString& parentPath)
 {
+    if (isRefused(parentPath))
+        return;
     auto* dialog = new NameDialog(RegistryPath::shown(parentPath), m_page);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, parentPath] {
@@ -130,6 +157,8 @@ void RegistryEditor::newKey(const QString& parentPath)
 
 void RegistryEditor::newValue(const QString& path, unsigned int type)
 {
+    if (isRefused(path))
+        return;
     auto* dialog = new ValueDialog(type, m_page);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, path] {
@@ -152,6 +181,9 @@ void RegistryEditor::editValue(const QString& path, const Value& value)
                            .arg(value.name));
         return;
     }
+    // Directly under a root a value is set where it is read.
+    if (value.place == Place::InKey && isRefused(path, value))
+        return;
     const bool readable = value.reading.readable;
     const unsigned int type = readable ? value.reading.type : REG_SZ;
     const QByteArray data = readable ? value.reading.data : QByteArray();
@@ -196,7 +228,8 @@ void RegistryEditor::compare(const QString& path, const QString& name, unsigned 
 
 void RegistryEditor::removeValues(const QString& path, const Values& values)
 {
-    if (values.empty())
+    const auto refused = [this, &path](const Value& value) { return isRefused(path, value); };
+    if (values.empty() || std::any_of(values.begin(), values.end(), refused))
         return;
     const QString question =
         values.size() == 1 ? tr("Delete this value of %1?") : tr("Delete these values of %1?");
@@ -234,6 +267,8 @@ void RegistryEditor::removeKey(const QString& path)
         m_page->report(Page::Report::Error, tr("The root itself cannot be deleted."));
         return;
     }
+    if (isRefused(path))
+        return;
     const auto walk = std::make_shared<RegistryWalk>(path);
     const auto keys = std::make_shared<QStringList>();
     const auto step = [walk, keys] {

@@ -33,6 +33,9 @@ signals:
 private:
     using Values = std::vector<RegistryValueModel::Value>;
 
+    bool isRefused(const QString& path);
+    bool isRefused(const QString& path, const RegistryValueModel::Value& value);
+    void reportRefusal(const QString& why);
     void ask(const QString& question, const QString& detail,
              const std::function<void()>& confirmed);
     void write(const QString& path, const QString& name, unsigned int type, const QByteArray& data);

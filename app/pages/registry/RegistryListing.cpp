@@ -1,5 +1,6 @@
 #include "app/pages/registry/RegistryListing.h"
 
+#include "app/pages/registry/OpenedElsewhere.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "host/HostLibraries.h"
 #include "platform/PlatformRegisterManagerImp.h"
@@ -76,7 +77,7 @@ QStringList registryValueNames(const QString& path)
 {
     if (!g_globalSettings)
         return {};
-    const GroupScope group(path);
+    const GroupScope group(openedPath(path));
     return g_globalSettings->childKeys();
 }
 

@@ -29,7 +29,7 @@ RegistryListing listRegistryKey(const RegistryIndex& index, const QString& path)
 /// True when there are sub-keys of either kind.
 bool hasSubKeys(const RegistryIndex& index, const QString& path);
 
-/// The names of a key's values as they are now.
+/// The names of the values as they are now in the key that the service opens for this path.
 QStringList registryValueNames(const QString& path);
 
 /// A key and all keys below it, as they are now, each before those below; also where there is none.

@@ -4,6 +4,7 @@
 #include "app/pages/SharedWidth.h"
 #include "app/pages/TableLook.h"
 #include "app/pages/registry/FindPane.h"
+#include "app/pages/registry/OpenedElsewhere.h"
 #include "app/pages/registry/RegistryEditor.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistryTransfer.h"
@@ -226,6 +227,8 @@ void RegistryPage::showKey(const QModelIndex& current)
                              "file.")
                         : tr("This key holds no values. Choose a key below it, or create a value "
                              "with New."));
+    if (isOpenedElsewhere(path()))
+        return setStatus(keyOpenedElsewhere(path()));
     const QLocale locale;
     setStatus(tr("Values: %1. Sub-keys: %2.")
                   .arg(locale.toString(m_values->rowCount()),
@@ -365,7 +368,10 @@ void RegistryPage::copyValue()
 
 void RegistryPage::exportKey()
 {
-    m_transfer->askExport(path());
+    if (isOpenedElsewhere(path()))
+        report(Report::Error, keyOpenedElsewhere(path()));
+    else
+        m_transfer->askExport(path());
 }
 
 void RegistryPage::importFile()

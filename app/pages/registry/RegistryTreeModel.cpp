@@ -1,6 +1,7 @@
 #include "app/pages/registry/RegistryTreeModel.h"
 
 #include "app/frame/GlyphIcon.h"
+#include "app/pages/registry/OpenedElsewhere.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 
@@ -39,6 +40,12 @@ struct RegistryTreeModel::Node
     bool isCreated() const
     {
         return parent && std::binary_search(parent->created.cbegin(), parent->created.cend(), name);
+    }
+    Glyph glyph() const
+    {
+        if (!parent)
+            return Glyph::Registry;
+        return isOpenedElsewhere(path()) ? Glyph::Warning : Glyph::Key;
     }
     void insert(int at, const QString& childName)
     {
@@ -175,13 +182,8 @@ QVariant RegistryTreeModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole: return item.parent ? item.name : tr("All root keys");
-    case Qt::DecorationRole: return glyphIcon(item.parent ? Glyph::Key : Glyph::Registry);
-    case Qt::ToolTipRole:
-        if (!item.parent)
-            return tr("HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE and HKEY_USERS are "
-                      "one and the same key");
-        return created ? tr("Created and still empty: it can be opened, but is not listed yet")
-                       : RegistryPath::shown(item.path());
+    case Qt::DecorationRole: return glyphIcon(item.glyph());
+    case Qt::ToolTipRole: return toolTip(item);
     case Qt::FontRole: {
         QFont font;
         font.setItalic(true);
@@ -189,6 +191,17 @@ QVariant RegistryTreeModel::data(const QModelIndex& index, int role) const
     }
     default: return {};
     }
+}
+
+QString RegistryTreeModel::toolTip(const Node& item)
+{
+    if (!item.parent)
+        return tr("HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE and HKEY_USERS are one "
+                  "and the same key");
+    if (item.isCreated())
+        return tr("Created and still empty: it can be opened, but is not listed yet");
+    const QString path = item.path();
+    return isOpenedElsewhere(path) ? keyOpenedElsewhere(path) : RegistryPath::shown(path);
 }
 
 QString RegistryTreeModel::path(const QModelIndex& index) const

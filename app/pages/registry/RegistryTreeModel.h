@@ -47,6 +47,7 @@ private:
 
     Node* node(const QModelIndex& index) const;
     QModelIndex indexOf(Node* node) const;
+    static QString toolTip(const Node& item);
     void list(Node& node) const;
     void show(Node& node, int count);
     void insert(Node& node, int first, int last, const QStringList& names);

@@ -1,6 +1,7 @@
 #include "app/pages/registry/RegistryValueModel.h"
 
 #include "app/pages/PlainToolTip.h"
+#include "app/pages/registry/OpenedElsewhere.h"
 #include "app/pages/registry/RegistryFormat.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
@@ -24,6 +25,12 @@ QString placeRemark(RegistryValueModel::Place place, const QString& name)
     case RegistryValueModel::Place::InKey: break;
     }
     return QString();
+}
+
+// The service makes a key of the name as it is, and separates in the value's own name alone.
+QString keptUnderRoot(const QString& name)
+{
+    return RegistryPath::join(name, openedPath(name));
 }
 
 } // namespace
@@ -60,7 +67,7 @@ void RegistryValueModel::listRoot(const RegistryIndex& names)
 {
     const RegistryIndex::Children children = names.children(QString());
     for (const QString& name : children.groups) {
-        if (!rawRegistryEntry(RegistryPath::join(name, name)).isNull())
+        if (!rawRegistryEntry(keptUnderRoot(name)).isNull())
             m_rows.push_back({name, Place::UnderRoot, {}});
     }
     for (const QString& name : children.entries)
@@ -69,8 +76,8 @@ void RegistryValueModel::listRoot(const RegistryIndex& names)
 
 QString RegistryValueModel::entryPath(const Row& row) const
 {
-    return row.place == Place::UnderRoot ? RegistryPath::join(row.name, row.name)
-                                         : RegistryPath::join(m_path, row.name);
+    return row.place == Place::UnderRoot ? keptUnderRoot(row.name)
+                                         : RegistryPath::join(openedPath(m_path), row.name);
 }
 
 RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
@@ -82,7 +89,9 @@ RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
                                                      : m_key->read(row.name);
     const StoredText stored(entry);
     value.remark = value.reading.readable ? stored.warning() : stored.whyUnreadable();
-    if (value.remark.isEmpty())
+    if (row.place == Place::InKey && isOpenedElsewhere(row.name))
+        value.remark = valueOpenedElsewhere(entryPath(row));
+    else if (value.remark.isEmpty())
         value.remark = placeRemark(row.place, row.name);
     return value;
 }

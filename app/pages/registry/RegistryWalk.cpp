@@ -1,5 +1,6 @@
 #include "app/pages/registry/RegistryWalk.h"
 
+#include "app/pages/registry/OpenedElsewhere.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 
@@ -34,6 +35,8 @@ void RegistryWalk::enter()
     for (const QString& name : qAsConst(below))
         m_pending.append(RegistryPath::join(m_path, name));
     m_names.clear();
+    if (isOpenedElsewhere(m_path))
+        return;
     std::set_difference(listing.values.cbegin(), listing.values.cend(), listing.marks.cbegin(),
                         listing.marks.cend(), std::back_inserter(m_names));
 }

@@ -9,7 +9,7 @@
 
 /// Visits a key and all keys below it, each before those below, and the values of each, in small
 /// steps that suit a sliced job. Keys that come or go meanwhile do no harm. Marks of created keys
-/// count as no values.
+/// count as no values, and neither do those of a key for which the service opens another.
 class RegistryWalk
 {
 public:

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSettings>
 #include <QTableView>
 #include <QTest>
@@ -17,31 +18,8 @@
 
 namespace {
 
-enum NewEntry
-{
-    NewKey,
-    NewString,
-    NewDword,
-    NewQword,
-    NewBinary
-};
-
 class RegistryEditTest : public RegistryPageFixture
 {
-protected:
-    // All words in the dialog that is open.
-    static QString words()
-    {
-        QStringList texts;
-        for (const QLabel* label : dialog().findChildren<QLabel*>())
-            texts.append(label->text());
-        return texts.join('|');
-    }
-    void pressDelete(QWidget& view)
-    {
-        view.setFocus();
-        QTest::keyClick(&view, Qt::Key_Delete);
-    }
 };
 
 TEST_F(RegistryEditTest, ANewKeyCanBeOpenedAtOnce)
@@ -83,24 +61,22 @@ TEST_F(RegistryEditTest, AKeyThatIsThereIsNotCreatedAgain)
     EXPECT_FALSE(holds("A"));
 }
 
-struct NewValueRow
-{
-    NewEntry entry;
-    const char* data;
-    const char* stored;
-};
-
 TEST_F(RegistryEditTest, ANewValueIsSeenByTheHostLibraryAtOnce)
 {
-    const NewValueRow rows[] = {{NewString, "some text", "5$some text"},
-                                {NewString, "", "5$"},
-                                {NewDword, "0x2a", "1$42"},
-                                {NewQword, "200", "2$200"},
-                                {NewBinary, "00 ff", "4$00ff"}};
+    const struct
+    {
+        NewEntry entry;
+        const char* data;
+        const char* stored;
+    } rows[] = {{NewString, "some text", "5$some text"},
+                {NewString, "", "5$"},
+                {NewDword, "0x2a", "1$42"},
+                {NewQword, "200", "2$200"},
+                {NewBinary, "00 ff", "4$00ff"}};
     store("A/keep", "1$1");
     show();
     m_page.goTo("A");
-    for (const NewValueRow& row : rows) {
+    for (const auto& row : rows) {
         g_globalSettings->remove("A/v");
         m_page.refresh();
         chooseNew(row.entry);

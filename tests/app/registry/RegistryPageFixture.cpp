@@ -1,7 +1,9 @@
 #include "tests/app/registry/RegistryPageFixture.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -39,7 +41,7 @@ QString RegistryPageFixture::address() const
     return m_page.findChild<QLineEdit*>("address")->text();
 }
 
-void RegistryPageFixture::chooseNew(int entry)
+void RegistryPageFixture::chooseNew(NewEntry entry)
 {
     QList<QAction*> actions = m_page.findChild<QMenu*>()->actions();
     for (QAction* action : m_page.findChild<QMenu*>()->actions()) {
@@ -47,6 +49,16 @@ void RegistryPageFixture::chooseNew(int entry)
             actions.removeOne(action);
     }
     actions.at(entry)->trigger();
+}
+
+void RegistryPageFixture::chooseExport()
+{
+    const QList<QAction*> actions = tree().actions();
+    for (QAction* action : actions) {
+        if (action->text() == "Export key...")
+            return action->trigger();
+    }
+    qFatal("no action exports");
 }
 
 QDialog& RegistryPageFixture::dialog()
@@ -84,4 +96,18 @@ bool RegistryPageFixture::accept()
 void RegistryPageFixture::reject()
 {
     QTest::keyClick(&dialog(), Qt::Key_Escape);
+}
+
+QString RegistryPageFixture::words()
+{
+    QStringList texts;
+    for (const QLabel* label : dialog().findChildren<QLabel*>())
+        texts.append(label->text());
+    return texts.join('|');
+}
+
+void RegistryPageFixture::pressDelete(QWidget& view)
+{
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Delete);
 }

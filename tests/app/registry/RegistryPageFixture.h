@@ -21,14 +21,28 @@ protected:
     QString address() const;
     QString status() const { return m_page.statusText(); }
 
-    /// Chooses an entry of the menu of new things, counted without the separator.
-    void chooseNew(int entry);
+    /// The entries of the menu of new things.
+    enum NewEntry
+    {
+        NewKey,
+        NewString,
+        NewDword,
+        NewQword,
+        NewBinary
+    };
+    void chooseNew(NewEntry entry);
+    /// Chooses "Export key..." in the tree's menu.
+    void chooseExport();
     /// The dialog that is open.
     static QDialog& dialog();
     static void type(const QString& name, const QString& data);
     /// Presses the dialog's button for Enter; false when it is off.
     static bool accept();
     static void reject();
+    /// All words in the dialog that is open.
+    static QString words();
+    /// Presses Delete with the keyboard in one of the views.
+    static void pressDelete(QWidget& view);
 
     RegistryPage m_page;
 };

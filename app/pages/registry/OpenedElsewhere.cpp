@@ -1,0 +1,52 @@
+#include "app/pages/registry/OpenedElsewhere.h"
+
+#include "app/pages/registry/RegistryPath.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace {
+
+struct OpenedElsewhere
+{
+    Q_DECLARE_TR_FUNCTIONS(OpenedElsewhere)
+};
+
+// The name by itself: in a whole path that is shown both kinds of separators look the same.
+QString filledIn(const QString& sentence, const QString& path)
+{
+    const QString opened = openedPath(path);
+    return sentence.arg(RegistryPath::name(opened),
+                        RegistryPath::shown(RegistryPath::parent(opened)));
+}
+
+} // namespace
+
+bool isOpenedElsewhere(const QString& path)
+{
+    return path.contains(QLatin1Char('\\'));
+}
+
+QString openedPath(const QString& path)
+{
+    if (!isOpenedElsewhere(path))
+        return path;
+    QString slashed = path;
+    slashed.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return slashed.split(QLatin1Char('/'), Qt::SkipEmptyParts).join(QLatin1Char('/'));
+}
+
+QString keyOpenedElsewhere(const QString& path)
+{
+    return filledIn(
+        OpenedElsewhere::tr("A name with a \"\\\" in it: a host library that opens this "
+                            "key gets the key \"%1\" in %2."),
+        path);
+}
+
+QString valueOpenedElsewhere(const QString& path)
+{
+    return filledIn(OpenedElsewhere::tr("A name with a \"\\\" in it: a host library that asks for "
+                                        "this value gets the value \"%1\" in %2."),
+                    path);
+}
