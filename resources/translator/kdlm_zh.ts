@@ -2350,6 +2350,18 @@ Wide: %2</source>
         <source>&amp;Search...</source>
         <translation>查找(&amp;S)...</translation>
     </message>
+    <message>
+        <source>%1 is no longer there.</source>
+        <translation>%1 已不存在。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in %2 is no longer there.</source>
+        <translation>%2 中的“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>%1 of the selected values in %2 are no longer there.</source>
+        <translation>%2 中所选的值有 %1 个已不存在。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTransfer</name>

@@ -106,6 +106,17 @@ bool isRegistryGroup(const QString& path)
     return !g_globalSettings->childKeys().isEmpty() || !g_globalSettings->childGroups().isEmpty();
 }
 
+bool hasRegistryEntry(const QString& path)
+{
+    return g_globalSettings && g_globalSettings->contains(path);
+}
+
+bool isRegistryKey(const QString& path)
+{
+    return path.isEmpty() || isRegistryGroup(path) ||
+           (hasRegistryEntry(path) && rawRegistryEntry(path).isNull());
+}
+
 QVariant rawRegistryEntry(const QString& path)
 {
     return g_globalSettings ? g_globalSettings->value(path) : QVariant();

@@ -38,6 +38,12 @@ QStringList registryKeysFrom(const QString& path);
 /// True when anything lies below this path now.
 bool isRegistryGroup(const QString& path);
 
+/// True when there is an entry now, with or without a value.
+bool hasRegistryEntry(const QString& path);
+
+/// True when there is a key now, be it one that has been created and holds nothing.
+bool isRegistryKey(const QString& path);
+
 /// The entry itself, past the service: raw.
 QVariant rawRegistryEntry(const QString& path);
 

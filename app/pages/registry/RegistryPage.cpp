@@ -6,6 +6,7 @@
 #include "app/pages/registry/FindPane.h"
 #include "app/pages/registry/OpenedElsewhere.h"
 #include "app/pages/registry/RegistryEditor.h"
+#include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistryTransfer.h"
 #include "app/pages/registry/RegistryTreeModel.h"
@@ -38,6 +39,15 @@ QPushButton* buttonFor(QAction* action, const QString& text)
     QObject::connect(action, &QAction::changed, button,
                      [button, action] { button->setEnabled(action->isEnabled()); });
     return button;
+}
+
+QString goneText(const QStringList& values, const QString& path)
+{
+    const QString key = RegistryPath::shown(path);
+    if (values.size() == 1)
+        return RegistryPage::tr("\"%1\" in %2 is no longer there.").arg(values.first(), key);
+    return RegistryPage::tr("%1 of the selected values in %2 are no longer there.")
+        .arg(QLocale().toString(values.size()), key);
 }
 
 } // namespace
@@ -332,24 +342,55 @@ void RegistryPage::openAddress()
         report(Report::Warning, tr("There is no key %1.").arg(RegistryPath::shown(wanted)));
 }
 
+// A host library may have deleted what the page still shows.
+bool RegistryPage::isKeyThere()
+{
+    const QString shown = RegistryPath::shown(path());
+    const bool there = isRegistryKey(path());
+    if (!there)
+        reportGone(tr("%1 is no longer there.").arg(shown));
+    return there;
+}
+
+void RegistryPage::reportGone(const QString& what)
+{
+    refresh();
+    report(Report::Warning, what);
+}
+
 void RegistryPage::editValue()
 {
-    if (m_table->currentIndex().isValid())
-        m_editor->editValue(path(), m_values->value(m_table->currentIndex().row()));
+    const int row = m_table->currentIndex().row();
+    if (row < 0)
+        return;
+    if (m_values->refresh(row))
+        m_editor->editValue(path(), m_values->value(row));
+    else
+        reportGone(goneText({m_values->nameAndPlace(row).name}, path()));
 }
 
 void RegistryPage::removeSelected()
 {
     std::vector<RegistryValueModel::Value> values;
+    QStringList gone;
     const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    for (const QModelIndex& index : rows)
-        values.push_back(m_values->nameAndPlace(index.row()));
-    m_editor->removeValues(path(), values);
+    for (const QModelIndex& index : rows) {
+        const RegistryValueModel::Value value = m_values->nameAndPlace(index.row());
+        if (m_values->isThere(index.row()))
+            values.push_back(value);
+        else
+            gone.append(value.name);
+    }
+    const QString key = path();
+    if (!gone.isEmpty())
+        reportGone(goneText(gone, key));
+    m_editor->removeValues(key, values);
 }
 
 void RegistryPage::removeKey()
 {
-    m_editor->removeKey(path());
+    if (isKeyThere())
+        m_editor->removeKey(path());
 }
 
 void RegistryPage::copyPath()
@@ -370,7 +411,7 @@ void RegistryPage::exportKey()
 {
     if (isOpenedElsewhere(path()))
         report(Report::Error, keyOpenedElsewhere(path()));
-    else
+    else if (isKeyThere())
         m_transfer->askExport(path());
 }
 

@@ -49,6 +49,8 @@ private:
     void showEmptyState();
     void enableActions();
     void openAddress();
+    bool isKeyThere();
+    void reportGone(const QString& what);
     void editValue();
     void removeSelected();
     void removeKey();

@@ -104,6 +104,18 @@ const RegistryValueModel::Value& RegistryValueModel::value(int row) const
     return *item.value;
 }
 
+bool RegistryValueModel::refresh(int row)
+{
+    m_rows[static_cast<std::size_t>(row)].value.reset();
+    emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
+    return isThere(row);
+}
+
+bool RegistryValueModel::isThere(int row) const
+{
+    return hasRegistryEntry(entryPath(m_rows[static_cast<std::size_t>(row)]));
+}
+
 RegistryValueModel::Value RegistryValueModel::nameAndPlace(int row) const
 {
     const Row& item = m_rows[static_cast<std::size_t>(row)];

@@ -56,6 +56,10 @@ public:
 
     /// Reads the value through the service unless it was read before.
     const Value& value(int row) const;
+    /// Reads the value anew, and what the views show of it; false when it has gone meanwhile.
+    bool refresh(int row);
+    /// False when the value has gone meanwhile.
+    bool isThere(int row) const;
     /// A value of which no more is known, and for which nothing is read.
     Value nameAndPlace(int row) const;
     /// The row of a name, or -1. A value that can be asked for comes before one that is listed.
