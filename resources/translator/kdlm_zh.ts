@@ -2516,6 +2516,17 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>StoreFault</name>
+    <message>
+        <source>The store %1 cannot be written: changes last until the program ends.</source>
+        <translation>无法写入存储 %1：更改只保留到程序结束。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
+    </message>
+</context>
+<context>
     <name>StoredText</name>
     <message>
         <source>No value: the mark of a key that was created here</source>

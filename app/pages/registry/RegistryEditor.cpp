@@ -8,6 +8,7 @@
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistryRemoval.h"
 #include "app/pages/registry/RegistryWalk.h"
+#include "app/pages/registry/StoreFault.h"
 #include "app/pages/registry/StoreHold.h"
 #include "app/pages/registry/ValueDialog.h"
 
@@ -148,7 +149,7 @@ void RegistryEditor::newKey(const QString& parentPath)
         if (present)
             m_page->report(Page::Report::Warning, tr("%1 is there already.").arg(shown));
         else if (created)
-            m_page->report(Page::Report::Info, tr("Created %1.").arg(shown));
+            reportChange(*m_page, Page::Report::Info, tr("Created %1.").arg(shown));
         else
             m_page->report(Page::Report::Error, tr("%1 could not be created.").arg(shown));
     });
@@ -216,14 +217,14 @@ void RegistryEditor::compare(const QString& path, const QString& name, unsigned 
     const bool same = reading.readable && reading.type == type &&
                       reading.data == written.left(written.size() - terminator);
     if (same)
-        m_page->report(Page::Report::Info,
-                       tr("Set \"%1\" in %2.").arg(name, RegistryPath::shown(path)));
+        reportChange(*m_page, Page::Report::Info,
+                     tr("Set \"%1\" in %2.").arg(name, RegistryPath::shown(path)));
     else
-        m_page->report(Page::Report::Warning,
-                       tr("Set \"%1\" in %2, but a host library reads %3.")
-                           .arg(name, RegistryPath::shown(path),
-                                reading.readable ? RegistryFormat::data(reading.type, reading.data)
-                                                 : tr("nothing")));
+        reportChange(*m_page, Page::Report::Warning,
+                     tr("Set \"%1\" in %2, but a host library reads %3.")
+                         .arg(name, RegistryPath::shown(path),
+                              reading.readable ? RegistryFormat::data(reading.type, reading.data)
+                                               : tr("nothing")));
 }
 
 void RegistryEditor::removeValues(const QString& path, const Values& values)
@@ -254,8 +255,8 @@ void RegistryEditor::removeAll(const QString& path, const Values& values)
     m_page->startJob({tr("Deleting"), step, [next] { return counted(static_cast<qint64>(*next)); },
                       [this, path, values, next](bool complete) {
                           emit changed(path, QString());
-                          m_page->report(
-                              complete ? Page::Report::Info : Page::Report::Warning,
+                          reportChange(
+                              *m_page, complete ? Page::Report::Info : Page::Report::Warning,
                               tr("Deleted from %1: %2.")
                                   .arg(RegistryPath::shown(path), deletedText(values, *next)));
                       }});
@@ -306,7 +307,7 @@ void RegistryEditor::removeKeys(const QString& path, const QStringList& keys)
                           const bool whole = complete && removal->succeeded();
                           const QString text = whole ? tr("Deleted the key %1.")
                                                      : tr("Deleted a part of the key %1.");
-                          m_page->report(whole ? Page::Report::Info : Page::Report::Warning,
-                                         text.arg(RegistryPath::shown(path)));
+                          reportChange(*m_page, whole ? Page::Report::Info : Page::Report::Warning,
+                                       text.arg(RegistryPath::shown(path)));
                       }});
 }

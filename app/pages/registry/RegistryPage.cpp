@@ -10,6 +10,7 @@
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistryTransfer.h"
 #include "app/pages/registry/RegistryTreeModel.h"
+#include "app/pages/registry/StoreFault.h"
 #include "app/pages/registry/StoreOpening.h"
 #include "host/HostLibraries.h"
 
@@ -86,7 +87,8 @@ RegistryPage::RegistryPage(QWidget* parent)
     setFocusProxy(m_tree);
     connectParts();
     m_tree->setCurrentIndex(m_keys->rootItem());
-    showEmptyState();
+    if (!g_globalSettings)
+        reportStore();
 }
 
 void RegistryPage::makeTree()
@@ -218,7 +220,8 @@ void RegistryPage::connectParts()
             [this](const QString& why) { report(Report::Error, why); });
     connect(m_find, &FindPane::chosen, this, &RegistryPage::goTo);
     connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
-    connect(m_opening, &SlicedJob::finished, this, &RegistryPage::refresh, Qt::QueuedConnection);
+    connect(m_opening, &SlicedJob::finished, this, &RegistryPage::refreshEntered,
+            Qt::QueuedConnection);
 }
 
 QString RegistryPage::path() const
@@ -254,9 +257,12 @@ void RegistryPage::showRemark(const QModelIndex& current)
         setStatus(tr("%1: %2").arg(value.name, value.remark));
 }
 
-void RegistryPage::showEmptyState()
+void RegistryPage::reportStore()
 {
-    if (!g_globalSettings)
+    const QString fault = storeFault();
+    if (!fault.isEmpty())
+        report(Report::Warning, fault);
+    else if (!g_globalSettings)
         report(Report::Error, tr("The host library has set up no settings store: every call to the "
                                  "registry fails."));
 }
@@ -293,10 +299,16 @@ void RegistryPage::entered()
     if (isBusy())
         return;
     if (m_read)
-        refresh();
+        refreshEntered();
     else
         readFirst();
-    showEmptyState();
+}
+
+// What is amiss with the store comes after what is told of the key.
+void RegistryPage::refreshEntered()
+{
+    refresh();
+    reportStore();
 }
 
 // A large store takes its time when it is listed first: the page is painted before, and between.
@@ -308,7 +320,7 @@ void RegistryPage::readFirst()
     later([this, later] {
         const auto opening = std::make_shared<StoreOpening>();
         if (!m_opening->isRunning() && m_opening->start([opening] { return opening->step(); }))
-            later([this] { refresh(); });
+            later([this] { refreshEntered(); });
     });
 }
 

@@ -46,7 +46,8 @@ private:
     void showKey(const QModelIndex& current);
     void readFirst();
     void showRemark(const QModelIndex& current);
-    void showEmptyState();
+    void refreshEntered();
+    void reportStore();
     void enableActions();
     void openAddress();
     bool isKeyThere();

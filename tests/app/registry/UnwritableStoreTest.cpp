@@ -1,0 +1,74 @@
+#include "host/HostLibraries.h"
+#include "tests/app/registry/RegistryPageFixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTableView>
+#include <QTest>
+#include <QTreeView>
+
+namespace {
+
+// The store's folder is a plain file for as long as a test runs: no permission keeps root out.
+class UnwritableStoreTest : public RegistryPageFixture
+{
+protected:
+    UnwritableStoreTest()
+    {
+        EXPECT_TRUE(QDir().mkpath(m_folder));
+        EXPECT_TRUE(QDir().rename(m_folder, m_aside));
+        QFile file(m_folder);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    ~UnwritableStoreTest() override
+    {
+        EXPECT_TRUE(QFile::remove(m_folder));
+        EXPECT_TRUE(QDir().rename(m_aside, m_folder));
+    }
+
+    void expectTold(const QString& before = {})
+    {
+        const QString told = before + "The store " + g_globalSettings->fileName() +
+                             " cannot be written: changes last until the program ends.";
+        EXPECT_EQ(status().toStdString(), told.toStdString());
+    }
+
+    const QString m_folder = QFileInfo(g_globalSettings->fileName()).absolutePath();
+    const QString m_aside = m_folder + ".aside";
+};
+
+TEST_F(UnwritableStoreTest, IsToldOnEntering)
+{
+    m_page.show();
+    m_page.entered();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !address().isEmpty(); }));
+    expectTold();
+    m_page.setStatus({});
+    m_page.entered();
+    expectTold();
+}
+
+TEST_F(UnwritableStoreTest, IsToldWithEveryChange)
+{
+    store("A/v", "1$1");
+    show();
+    m_page.goTo("A");
+    chooseNew(NewDword);
+    type("n", "1");
+    ASSERT_TRUE(accept());
+    expectTold("Set \"n\" in HKEY_CURRENT_USER\\A. ");
+    pressDelete(table());
+    ASSERT_TRUE(accept());
+    expectTold("Deleted from HKEY_CURRENT_USER\\A: \"n\". ");
+    chooseNew(NewKey);
+    type("K", {});
+    ASSERT_TRUE(accept());
+    expectTold("Created HKEY_CURRENT_USER\\A\\K. ");
+    pressDelete(tree());
+    ASSERT_TRUE(accept());
+    expectTold("Deleted the key HKEY_CURRENT_USER\\A\\K. ");
+}
+
+} // namespace
