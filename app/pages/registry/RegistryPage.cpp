@@ -6,6 +6,7 @@
 #include "app/pages/registry/FindPane.h"
 #include "app/pages/registry/OpenedElsewhere.h"
 #include "app/pages/registry/RegistryEditor.h"
+#include "app/pages/registry/RegistryFormat.h"
 #include "app/pages/registry/RegistryListing.h"
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistryTransfer.h"
@@ -413,10 +414,13 @@ void RegistryPage::copyPath()
 
 void RegistryPage::copyValue()
 {
-    const QModelIndex current = m_table->currentIndex();
-    if (current.isValid())
-        QGuiApplication::clipboard()->setText(
-            m_values->index(current.row(), RegistryValueModel::Data).data().toString());
+    const int row = m_table->currentIndex().row();
+    if (row < 0)
+        return;
+    const RegistryValueModel::Value& value = m_values->value(row);
+    const RegistryReading& reading = value.reading;
+    QGuiApplication::clipboard()->setText(
+        reading.readable ? RegistryFormat::editable(reading.type, reading.data) : value.remark);
 }
 
 void RegistryPage::exportKey()

@@ -102,6 +102,30 @@ TEST_F(RegistryPageTest, CopiesThePathAsWindowsWritesIt)
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "HKEY_CURRENT_USER\\A\\B");
 }
 
+TEST_F(RegistryPageTest, CopiesTheWholeData)
+{
+    const QString text = "one\r\n" + QString(700, 'x');
+    const QString bytes = QString("ab ").repeated(79) + "ab";
+    const struct
+    {
+        QString entry;
+        QString copied;
+    } rows[] = {{"5$" + text, text},
+                {"1$42", "42"},
+                {"2$255", "255"},
+                {"4$" + QString(bytes).remove(' '), bytes},
+                {"3$x", "Tag 3 is refused"}};
+    show();
+    for (const auto& row : rows) {
+        store("A/v", row.entry);
+        m_page.refresh();
+        m_page.goTo("A", "v");
+        QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
+        QTest::keyRelease(&table(), Qt::Key_Control); // held, it keeps rows from being selected
+        EXPECT_EQ(QApplication::clipboard()->text().toStdString(), row.copied.toStdString());
+    }
+}
+
 TEST_F(RegistryPageTest, FindsAndGoesToAHit)
 {
     store("A/B/colour", "5$Blue");
