@@ -4,8 +4,9 @@
 
 #include <vector>
 
-/// Looks for a text, ignoring case, in the names of keys and values and in the data of values as it
-/// is shown, from one key downwards. Step by step, for a sliced job.
+/// Looks for a text, ignoring case, in the names of keys and values and in the data of values, from
+/// one key downwards. Texts and bytes are searched whole, numbers as they are shown; hexadecimal
+/// digits of bytes are found with and without blanks. Step by step, for a sliced job.
 class RegistrySearch
 {
 public:
@@ -33,8 +34,11 @@ private:
     void lookAtKey();
     void lookAtValue();
     bool matches(const QString& text) const { return text.contains(m_text, Qt::CaseInsensitive); }
+    bool matches(const RegistryReading& reading) const;
+    bool matchesBytes(const QByteArray& data) const;
 
     QString m_text;
+    QByteArray m_digits; ///< in lower case, as bytes are written
     bool m_inNames;
     bool m_inData;
     RegistryWalk m_walk;

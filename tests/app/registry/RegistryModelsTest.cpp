@@ -5,10 +5,12 @@
 #include "app/pages/registry/RegistrySearch.h"
 #include "app/pages/registry/RegistryTreeModel.h"
 #include "app/pages/registry/RegistryValueModel.h"
+#include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/app/registry/RegistryTest.h"
 
 #include <QAbstractItemModelTester>
+#include <QSettings>
 
 namespace {
 
@@ -283,6 +285,23 @@ TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
     EXPECT_EQ(found(true, true), QStringList({"Blue/", "Other/blueish", "Vendor/Product/Path"}));
     EXPECT_EQ(found(true, false), QStringList({"Blue/", "Other/blueish"}));
     EXPECT_EQ(found(false, true), QStringList("Vendor/Product/Path"));
+}
+
+TEST_F(RegistryModels, SearchAllBytesOfBinaryData)
+{
+    store("k/v", "4$" + QString("00").repeated(80) + "0abcd0" + "abCD");
+    const struct
+    {
+        const char* text;
+        bool found;
+    } rows[] = {{"ab cd", true}, {"ABCD", true},  {"d0abc", true}, {"0 ab", true},
+                {"bcd0", true},  {"cd0a", false}, {"bc", true},    {"cd00", false}};
+    for (const auto& row : rows) {
+        RegistrySearch search(row.text, "", false, true);
+        while (search.step()) {
+        }
+        EXPECT_EQ(!search.hits().empty(), row.found) << row.text;
+    }
 }
 
 TEST_F(RegistryModels, SearchTheDataOfWhatTheRootLists)
