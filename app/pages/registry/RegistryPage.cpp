@@ -28,7 +28,7 @@
 #include <QTableView>
 #include <QTreeView>
 
-#include <set>
+#include <algorithm>
 
 namespace {
 
@@ -41,6 +41,29 @@ QPushButton* buttonFor(QAction* action, const QString& text)
     QObject::connect(action, &QAction::changed, button,
                      [button, action] { button->setEnabled(action->isEnabled()); });
     return button;
+}
+
+bool isAbbreviatedRoot(const QString& level)
+{
+    const QStringList roots = {QStringLiteral("HKCU"), QStringLiteral("HKLM"),
+                               QStringLiteral("HKCR"), QStringLiteral("HKU")};
+    return roots.contains(level, Qt::CaseInsensitive);
+}
+
+// What a typed address may mean, the most literal first: a key's name may begin or end with blanks,
+// or be what people write for a root.
+QStringList readingsOf(const QString& address)
+{
+    QStringList readings;
+    QString path;
+    if (!RegistryPath::parse(address.trimmed(), path))
+        return readings;
+    readings.append(path);
+    if (isAbbreviatedRoot(path.section(QLatin1Char('/'), 0, 0)))
+        readings.append(path.section(QLatin1Char('/'), 1));
+    if (RegistryPath::parse(address, path))
+        readings.prepend(path);
+    return readings;
 }
 
 QString goneText(const QStringList& values, const QString& path)
@@ -342,17 +365,30 @@ void RegistryPage::goTo(const QString& path, const QString& name)
 
 void RegistryPage::openAddress()
 {
-    QString wanted;
-    if (!RegistryPath::parse(m_address->text(), wanted)) {
+    const QStringList readings = readingsOf(m_address->text());
+    const auto open = [this](const QString& wanted) { return openKey(wanted); };
+    if (std::any_of(readings.begin(), readings.end(), open))
+        return;
+    if (readings.isEmpty()) {
         report(Report::Error,
                tr("%1 begins with none of the four root keys.").arg(m_address->text()));
         return;
     }
+    goTo(readings.last());
+    report(Report::Warning, tr("There is no key %1.").arg(RegistryPath::shown(readings.last())));
+}
+
+// Shown anew where it is selected already: an address that led nowhere may stand in the line.
+bool RegistryPage::openKey(const QString& wanted)
+{
+    const QModelIndex key = m_keys->find(wanted);
+    if (m_keys->path(key) != wanted)
+        return false;
+    if (key == m_tree->currentIndex())
+        showKey(key);
     goTo(wanted);
-    if (path() == wanted)
-        m_tree->setFocus();
-    else
-        report(Report::Warning, tr("There is no key %1.").arg(RegistryPath::shown(wanted)));
+    m_tree->setFocus();
+    return true;
 }
 
 // A host library may have deleted what the page still shows.

@@ -50,6 +50,7 @@ private:
     void reportStore();
     void enableActions();
     void openAddress();
+    bool openKey(const QString& wanted);
     bool isKeyThere();
     void reportGone(const QString& what);
     void editValue();

@@ -54,6 +54,26 @@ TEST_F(RegistryPageTest, GoesToATypedPathUnderAnyRoot)
     enterAddress("hkey_local_machine\\A\\B");
     EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
     EXPECT_TRUE(tree().hasFocus());
+    enterAddress("HKLM\\missing");
+    EXPECT_EQ(status().toStdString(), "There is no key HKEY_CURRENT_USER\\missing.");
+    enterAddress("HKEY_LOCAL_MACHINE"); // where the first failure has left the selection
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER");
+    EXPECT_EQ(status().toStdString(), "Values: 0. Sub-keys: 1.");
+}
+
+TEST_F(RegistryPageTest, GoesToATypedPathUnderAnAbbreviatedRoot)
+{
+    store("A/B/v", "5$deep");
+    store("HKCR/A/v", "1$1");
+    show();
+    for (const char* root : {"HKCU", "HKLM", "hkcr", "HKU"}) {
+        enterAddress(QString(" %1\\A\\B ").arg(root));
+        EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B") << root;
+        enterAddress(root);
+        EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER") << root;
+    }
+    enterAddress("HKCR\\A"); // a key of that name comes first
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\HKCR\\A");
 }
 
 TEST_F(RegistryPageTest, SaysThatATypedPathLeadsNowhere)
