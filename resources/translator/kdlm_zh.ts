@@ -2184,6 +2184,10 @@ Wide: %2</source>
         <source>%1 Nothing was changed.</source>
         <translation>%1未作任何更改。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has more than %2 KiB of data: too much to edit here.</source>
+        <translation>“%1”的数据超过 %2 KiB，过长，无法在此编辑。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryExport</name>

@@ -25,6 +25,9 @@ using Value = RegistryValueModel::Value;
 
 constexpr std::size_t mostNamed = 10;
 
+// More takes the field longer to lay out than a window may stand still.
+constexpr int mostEditedKiB = 64;
+
 // Where a value is deleted, so that nothing but it goes: directly under a root that would take the
 // whole key with it in which it is kept.
 QString keyOf(const QString& path, const Value& value)
@@ -185,6 +188,17 @@ void RegistryEditor::editValue(const QString& path, const Value& value)
     // Directly under a root a value is set where it is read.
     if (value.place == Place::InKey && isRefused(path, value))
         return;
+    if (value.reading.data.size() > mostEditedKiB * 1024) {
+        m_page->report(Page::Report::Error,
+                       tr("\"%1\" has more than %2 KiB of data: too much to edit here.")
+                           .arg(value.name, QString::number(mostEditedKiB)));
+        return;
+    }
+    openEditor(path, value);
+}
+
+void RegistryEditor::openEditor(const QString& path, const Value& value)
+{
     const bool readable = value.reading.readable;
     const unsigned int type = readable ? value.reading.type : REG_SZ;
     const QByteArray data = readable ? value.reading.data : QByteArray();

@@ -242,6 +242,36 @@ TEST_F(RegistryEditTest, AnUnreadableValueCanBeReplaced)
     EXPECT_EQ(stored("A/v").toStdString(), "5$good");
 }
 
+struct LongValue
+{
+    const char* tag;
+    int length;
+    bool edited;
+};
+
+class ALongValue : public RegistryEditTest, public testing::WithParamInterface<LongValue>
+{
+};
+
+TEST_P(ALongValue, IsEditedUpToALimit)
+{
+    store("A/v", GetParam().tag + QString(GetParam().length, 'a'));
+    show();
+    m_page.goTo("A", "v");
+    QTest::keyClick(&table(), Qt::Key_F2);
+    EXPECT_EQ(QApplication::activeModalWidget() != nullptr, GetParam().edited);
+    EXPECT_EQ(status().toStdString(),
+              GetParam().edited ? "Values: 1. Sub-keys: 0."
+                                : "\"v\" has more than 64 KiB of data: too much to edit here.");
+}
+
+// A character has four bytes, a byte two digits.
+INSTANTIATE_TEST_SUITE_P(OfTextAndBytes, ALongValue,
+                         testing::Values(LongValue{"5$", 16 * 1024, true},
+                                         LongValue{"5$", 16 * 1024 + 1, false},
+                                         LongValue{"4$", 2 * 64 * 1024, true},
+                                         LongValue{"4$", 2 * 64 * 1024 + 2, false}));
+
 TEST_F(RegistryEditTest, AnEntryOfTheRootItselfIsNotSet)
 {
     store("loose", "5$x");
