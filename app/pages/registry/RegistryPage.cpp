@@ -16,8 +16,8 @@
 #include "host/HostLibraries.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -205,12 +205,7 @@ QLayout* RegistryPage::makeButtons()
     auto* create = glowing(new QPushButton(tr("&New")));
     create->setMenu(m_newMenu);
     auto* remove = glowing(new QPushButton(tr("Dele&te")));
-    connect(remove, &QPushButton::clicked, this, [this] {
-        if (m_table->selectionModel()->hasSelection())
-            removeSelected();
-        else
-            removeKey();
-    });
+    connect(remove, &QPushButton::clicked, this, &RegistryPage::removeChosen);
     auto* search = glowing(new QPushButton(tr("&Search...")));
     search->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
     connect(search, &QPushButton::clicked, this, &RegistryPage::find);
@@ -229,6 +224,7 @@ void RegistryPage::connectParts()
 {
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &RegistryPage::showKey);
+    connect(qApp, &QApplication::focusChanged, this, &RegistryPage::rememberView);
     connect(m_tree, &QTreeView::clicked, m_table, &QTableView::clearSelection);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &RegistryPage::enableActions);
@@ -416,6 +412,22 @@ void RegistryPage::editValue()
         m_editor->editValue(path(), m_values->value(row));
     else
         reportGone(goneText({m_values->nameAndPlace(row).name}, path()));
+}
+
+void RegistryPage::rememberView(const QWidget* /*before*/, QWidget* now)
+{
+    if (now == m_tree || now == m_table)
+        m_lastView = now;
+}
+
+// The button takes the keyboard from the view in which something was chosen. A row stays selected
+// when the keyboard goes back to the tree.
+void RegistryPage::removeChosen()
+{
+    if (m_lastView != m_tree && m_table->selectionModel()->hasSelection())
+        removeSelected();
+    else
+        removeKey();
 }
 
 void RegistryPage::removeSelected()

@@ -54,6 +54,8 @@ private:
     bool isKeyThere();
     void reportGone(const QString& what);
     void editValue();
+    void rememberView(const QWidget* before, QWidget* now);
+    void removeChosen();
     void removeSelected();
     void removeKey();
     void copyPath();
@@ -74,7 +76,8 @@ private:
     FindPane* m_find;
     SlicedJob* m_opening; ///< of the store, before it is listed
     EmptyHint* m_hint = nullptr;
-    bool m_read = false; ///< the store has been listed
+    QWidget* m_lastView = nullptr; ///< that had the keyboard
+    bool m_read = false;           ///< the store has been listed
     QMenu* m_newMenu = nullptr;
     QAction* m_edit = nullptr;
     QAction* m_removeValue = nullptr;

@@ -135,6 +135,7 @@ TEST_F(CancelledJobs, ADeletionLeavesTheRestAndShowsIt)
     openKey(probe);
     auto& table = probe.control<QTableView>("values");
     ASSERT_EQ(table.model()->rowCount(), many);
+    table.setFocus();
     table.selectAll();
     press(probe.page(), "Dele&te");
     confirm("Delete");

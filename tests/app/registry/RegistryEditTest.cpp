@@ -375,6 +375,31 @@ TEST_F(RegistryEditTest, DeletingAKeyTellsOfTheValueThatGoesAlong)
     EXPECT_EQ(g_globalSettings->allKeys(), QStringList("A/single/inside"));
 }
 
+TEST_F(RegistryEditTest, TheDeleteButtonGoesByTheKeyboard)
+{
+    store("A/kept", "1$1");
+    store("A/v", "1$1");
+    show();
+    m_page.goTo("A", "v");
+    QPushButton* button = nullptr;
+    for (auto* each : m_page.findChildren<QPushButton*>()) {
+        if (each->text() == "Dele&te")
+            button = each;
+    }
+    ASSERT_TRUE(button);
+    const auto press = [button](QWidget& view) {
+        view.setFocus();
+        button->setFocus();
+        QTest::mouseClick(button, Qt::LeftButton);
+    };
+    press(tree());
+    EXPECT_TRUE(words().contains("Delete the key HKEY_CURRENT_USER\\A?")) << words().toStdString();
+    reject();
+    press(table());
+    EXPECT_TRUE(words().contains("Delete this value")) << words().toStdString();
+    reject();
+}
+
 TEST_F(RegistryEditTest, TheRootIsNotDeleted)
 {
     store("A/v", "1$1");
