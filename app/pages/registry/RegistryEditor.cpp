@@ -35,10 +35,11 @@ QString keyOf(const QString& path, const Value& value)
     return value.place == Place::UnderRoot ? value.name : path;
 }
 
-// The service deletes a key of the same name along with a value.
+// The service deletes a key of the same name along with a value; the mark of a created key is all
+// that there is of that key.
 bool takesKeyAlong(const QString& path, const Value& value)
 {
-    return isRegistryGroup(RegistryPath::join(keyOf(path, value), value.name));
+    return isRegistryKey(RegistryPath::join(keyOf(path, value), value.name));
 }
 
 QString namesOf(const std::vector<Value>& values)

@@ -400,6 +400,37 @@ TEST_F(RegistryEditTest, TheDeleteButtonGoesByTheKeyboard)
     reject();
 }
 
+struct MarkRow
+{
+    const char* path;
+    const char* name;
+    const char* along; ///< the key that goes, or empty
+};
+
+class AMark : public RegistryEditTest, public testing::WithParamInterface<MarkRow>
+{
+};
+
+TEST_P(AMark, IsDeletedWithItsKeyWhichIsTold)
+{
+    store("A/fresh", QVariant());
+    store("A/v", "1$1");
+    store("loose", QVariant());
+    show();
+    m_page.goTo(GetParam().path, GetParam().name);
+    pressDelete(table());
+    const QString along = GetParam().along;
+    EXPECT_EQ(words().contains("everything in them:\n" + along), !along.isEmpty())
+        << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(g_globalSettings->allKeys().size(), 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfACreatedKey, AMark,
+                         testing::Values(MarkRow{"A", "fresh", "HKEY_CURRENT_USER\\A\\fresh"},
+                                         MarkRow{"A", "v", ""},
+                                         MarkRow{"", "loose", "HKEY_CURRENT_USER\\loose"}));
+
 TEST_F(RegistryEditTest, TheRootIsNotDeleted)
 {
     store("A/v", "1$1");
