@@ -2188,6 +2188,10 @@ Wide: %2</source>
         <source>&quot;%1&quot; has more than %2 KiB of data: too much to edit here.</source>
         <translation>“%1”的数据超过 %2 KiB，过长，无法在此编辑。</translation>
     </message>
+    <message>
+        <source>The value &quot;%1&quot; of %2 stands for a key of that name: a host library that opens the key succeeds. Nothing was changed.</source>
+        <translation>%2 的值“%1”可当作同名的项：主机库能够打开该项。未作任何更改。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryExport</name>

@@ -143,21 +143,36 @@ void RegistryEditor::newKey(const QString& parentPath)
         return;
     auto* dialog = new NameDialog(RegistryPath::shown(parentPath), m_page);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog, parentPath] {
-        const QString path = RegistryPath::join(parentPath, dialog->name());
-        const QString shown = RegistryPath::shown(path);
-        const bool present = RegistryKey(path).isOpen();
-        const bool created =
-            !present && RegistryKey(parentPath).createKey(dialog->name()) == ERROR_SUCCESS;
-        emit changed(path, QString());
-        if (present)
-            m_page->report(Page::Report::Warning, tr("%1 is there already.").arg(shown));
-        else if (created)
-            reportChange(*m_page, Page::Report::Info, tr("Created %1.").arg(shown));
-        else
-            m_page->report(Page::Report::Error, tr("%1 could not be created.").arg(shown));
-    });
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog, parentPath] { createKey(parentPath, dialog->name()); });
     dialog->open();
+}
+
+void RegistryEditor::createKey(const QString& parentPath, const QString& name)
+{
+    const QString path = RegistryPath::join(parentPath, name);
+    const bool present = RegistryKey(path).isOpen();
+    const bool created = !present && RegistryKey(parentPath).createKey(name) == ERROR_SUCCESS;
+    emit changed(path, QString());
+    if (present)
+        reportPresent(path);
+    else if (created)
+        reportChange(*m_page, Page::Report::Info, tr("Created %1.").arg(RegistryPath::shown(path)));
+    else
+        m_page->report(Page::Report::Error,
+                       tr("%1 could not be created.").arg(RegistryPath::shown(path)));
+}
+
+// The service opens a key where there is a value of its name, and does not create it there.
+void RegistryEditor::reportPresent(const QString& path)
+{
+    const QString text =
+        isRegistryKey(path)
+            ? tr("%1 is there already.").arg(RegistryPath::shown(path))
+            : tr("The value \"%1\" of %2 stands for a key of that name: a host library that opens "
+                 "the key succeeds. Nothing was changed.")
+                  .arg(RegistryPath::name(path), RegistryPath::shown(RegistryPath::parent(path)));
+    m_page->report(Page::Report::Warning, text);
 }
 
 void RegistryEditor::newValue(const QString& path, unsigned int type)

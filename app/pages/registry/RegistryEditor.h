@@ -38,6 +38,8 @@ private:
     void reportRefusal(const QString& why);
     void ask(const QString& question, const QString& detail,
              const std::function<void()>& confirmed);
+    void createKey(const QString& parentPath, const QString& name);
+    void reportPresent(const QString& path);
     void openEditor(const QString& path, const RegistryValueModel::Value& value);
     void write(const QString& path, const QString& name, unsigned int type, const QByteArray& data);
     void compare(const QString& path, const QString& name, unsigned int type,

@@ -61,6 +61,31 @@ TEST_F(RegistryEditTest, AKeyThatIsThereIsNotCreatedAgain)
     EXPECT_FALSE(holds("A"));
 }
 
+TEST_F(RegistryEditTest, AKeyNamedLikeAValueIsThereByThat)
+{
+    store("A/x", "1$1");
+    store("A/fresh", QVariant());
+    store("A/twin", "1$1");
+    store("A/twin/v", "1$1");
+    show();
+    const struct
+    {
+        const char* name;
+        const char* words;
+    } rows[] = {{"x",
+                 "The value \"x\" of HKEY_CURRENT_USER\\A stands for a key of that name: a host "
+                 "library that opens the key succeeds. Nothing was changed."},
+                {"fresh", "HKEY_CURRENT_USER\\A\\fresh is there already."},
+                {"twin", "HKEY_CURRENT_USER\\A\\twin is there already."}};
+    for (const auto& row : rows) {
+        m_page.goTo("A");
+        chooseNew(NewKey);
+        type(row.name, {});
+        ASSERT_TRUE(accept());
+        EXPECT_EQ(status().toStdString(), row.words);
+    }
+}
+
 TEST_F(RegistryEditTest, ANewValueIsSeenByTheHostLibraryAtOnce)
 {
     const struct
