@@ -2499,6 +2499,10 @@ Wide: %2</source>
         <source>Stored text (raw)</source>
         <translation>存储文本（原始）</translation>
     </message>
+    <message>
+        <source>No longer there</source>
+        <translation>已不存在</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>

@@ -89,7 +89,9 @@ RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
                                                      : m_key->read(row.name);
     const StoredText stored(entry);
     value.remark = value.reading.readable ? stored.warning() : stored.whyUnreadable();
-    if (row.place == Place::InKey && isOpenedElsewhere(row.name))
+    if (!value.reading.readable && !hasRegistryEntry(entryPath(row)))
+        value.remark = tr("No longer there");
+    else if (row.place == Place::InKey && isOpenedElsewhere(row.name))
         value.remark = valueOpenedElsewhere(entryPath(row));
     else if (value.remark.isEmpty())
         value.remark = placeRemark(row.place, row.name);

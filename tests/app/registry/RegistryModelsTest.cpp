@@ -241,6 +241,17 @@ TEST_F(RegistryModels, AWalkListsTheStoreInItsFirstStep)
     EXPECT_EQ(walk.path().toStdString(), "A");
 }
 
+TEST_F(RegistryModels, TellAValueThatHasGoneFromTheMarkOfAKey)
+{
+    store("k/mark", QVariant());
+    store("k/v", "1$1");
+    m_values.setPath("k", m_tree.names());
+    g_globalSettings->remove("k/v");
+    EXPECT_TRUE(cell(0, Model::Data).contains("mark of a key"))
+        << cell(0, Model::Data).toStdString();
+    EXPECT_EQ(cell(1, Model::Data).toStdString(), "No longer there");
+}
+
 constexpr char markup[] = "<b>bold</b>";
 constexpr char escaped[] = "<span>&lt;b&gt;bold&lt;/b&gt;</span>";
 
