@@ -106,8 +106,11 @@ QString RegistryPageFixture::words()
     return texts.join('|');
 }
 
+// A dialog that has just closed may still be the active window.
 void RegistryPageFixture::pressDelete(QWidget& view)
 {
+    view.activateWindow();
     view.setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&view] { return view.isActiveWindow() && view.hasFocus(); }));
     QTest::keyClick(&view, Qt::Key_Delete);
 }
