@@ -13,6 +13,7 @@
 #include "app/pages/registry/RegistryTreeModel.h"
 #include "app/pages/registry/StoreFault.h"
 #include "app/pages/registry/StoreOpening.h"
+#include "app/pages/registry/TypedAddress.h"
 #include "host/HostLibraries.h"
 
 #include <QAction>
@@ -41,29 +42,6 @@ QPushButton* buttonFor(QAction* action, const QString& text)
     QObject::connect(action, &QAction::changed, button,
                      [button, action] { button->setEnabled(action->isEnabled()); });
     return button;
-}
-
-bool isAbbreviatedRoot(const QString& level)
-{
-    const QStringList roots = {QStringLiteral("HKCU"), QStringLiteral("HKLM"),
-                               QStringLiteral("HKCR"), QStringLiteral("HKU")};
-    return roots.contains(level, Qt::CaseInsensitive);
-}
-
-// What a typed address may mean, the most literal first: a key's name may begin or end with blanks,
-// or be what people write for a root.
-QStringList readingsOf(const QString& address)
-{
-    QStringList readings;
-    QString path;
-    if (!RegistryPath::parse(address.trimmed(), path))
-        return readings;
-    readings.append(path);
-    if (isAbbreviatedRoot(path.section(QLatin1Char('/'), 0, 0)))
-        readings.append(path.section(QLatin1Char('/'), 1));
-    if (RegistryPath::parse(address, path))
-        readings.prepend(path);
-    return readings;
 }
 
 QString goneText(const QStringList& values, const QString& path)
@@ -361,17 +339,17 @@ void RegistryPage::goTo(const QString& path, const QString& name)
 
 void RegistryPage::openAddress()
 {
-    const QStringList readings = readingsOf(m_address->text());
+    const QStringList paths = pathsOfAddress(m_address->text());
     const auto open = [this](const QString& wanted) { return openKey(wanted); };
-    if (std::any_of(readings.begin(), readings.end(), open))
+    if (std::any_of(paths.begin(), paths.end(), open))
         return;
-    if (readings.isEmpty()) {
+    if (paths.isEmpty()) {
         report(Report::Error,
                tr("%1 begins with none of the four root keys.").arg(m_address->text()));
         return;
     }
-    goTo(readings.last());
-    report(Report::Warning, tr("There is no key %1.").arg(RegistryPath::shown(readings.last())));
+    goTo(paths.last());
+    report(Report::Warning, tr("There is no key %1.").arg(RegistryPath::shown(paths.last())));
 }
 
 // Shown anew where it is selected already: an address that led nowhere may stand in the line.

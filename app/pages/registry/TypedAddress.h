@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QStringList>
+
+/// The paths that a typed address may mean, the most literal first: a key's name may begin or end
+/// with blanks, or be what people write for a root. Empty where it begins with no root that is
+/// known.
+QStringList pathsOfAddress(const QString& address);
