@@ -17,6 +17,11 @@ bool isBlankOrComment(const QString& rest)
     return trimmed.isEmpty() || trimmed.startsWith(QLatin1Char(';'));
 }
 
+bool isBlank(QChar c)
+{
+    return c == QLatin1Char(' ') || c == QLatin1Char('\t');
+}
+
 QString withoutComment(const QString& rest)
 {
     return rest.section(QLatin1Char(';'), 0, 0).trimmed();
@@ -72,10 +77,22 @@ bool RegFileReader::readNext(RegFileEntry& entry)
         if (line.startsWith(QLatin1Char('[')))
             readKey(line, entry);
         else
-            readValue(line, entry);
+            readValueOfLines(line, entry);
         return true;
     }
     return false;
+}
+
+// The lines behind a malformed one may be statements of their own.
+void RegFileReader::readValueOfLines(const QString& line, RegFileEntry& entry)
+{
+    const int position = m_position;
+    const int number = m_line;
+    readValue(line, entry);
+    if (entry.action != RegFileEntry::Action::Malformed)
+        return;
+    m_position = position;
+    m_line = number;
 }
 
 // Names of keys may contain "]", so the last bracket of the line closes.
@@ -148,10 +165,19 @@ void RegFileReader::readDword(const QString& digits, RegFileEntry& entry)
     entry.data = littleEndian(value, 4);
 }
 
+bool RegFileReader::startsStatement() const
+{
+    int position = m_position;
+    while (position < m_text.size() && isBlank(m_text.at(position)))
+        ++position;
+    return position < m_text.size() && QStringLiteral("[\"@").contains(m_text.at(position));
+}
+
+// A list of bytes never reaches into the next statement, so that no line is read more than twice.
 QString RegFileReader::joined(QString rest)
 {
     rest = withoutComment(rest);
-    while (rest.endsWith(QLatin1Char('\\')) && !atEnd()) {
+    while (rest.endsWith(QLatin1Char('\\')) && !atEnd() && !startsStatement()) {
         rest.chop(1);
         rest += withoutComment(nextLine());
     }

@@ -20,7 +20,7 @@ public:
     QString error() const { return m_error; }
 
     /// Reads the next statement; false at the end, and always when there is an error. A line that
-    /// makes no sense is a Malformed entry, after which reading goes on.
+    /// makes no sense is a Malformed entry, after which reading goes on with the next line.
     bool readNext(RegFileEntry& entry);
 
     /// The number of the line read last, from 1.
@@ -30,7 +30,9 @@ private:
     void readHeader();
     QString nextLine();
     bool atEnd() const { return m_position >= m_text.size(); }
+    bool startsStatement() const;
     void readKey(const QString& line, RegFileEntry& entry);
+    void readValueOfLines(const QString& line, RegFileEntry& entry);
     void readValue(const QString& line, RegFileEntry& entry);
     void readData(const QString& rest, RegFileEntry& entry);
     void readText(QString rest, RegFileEntry& entry);

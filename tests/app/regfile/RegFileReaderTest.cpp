@@ -132,12 +132,74 @@ INSTANTIATE_TEST_SUITE_P(RegFileReader, MalformedLine,
                                          "\"v\"=other:1", "\"v\"=\"text\" tail",
                                          "[HKEY_CURRENT_USER\\Open", "[]", "[K] tail"));
 
-TEST(RegFileReader, TakesATextThatNeverClosesForOneMalformedEntry)
+struct SwallowingRow
 {
-    const auto entries = entriesOf(header + "[HKEY_CURRENT_USER\\K]\r\n\"v\"=\"open\r\n[K2]\r\n");
-    ASSERT_EQ(entries.size(), 2U);
+    QByteArray value; ///< malformed, and going on in the next line
+    int lines;
+};
+
+std::ostream& operator<<(std::ostream& out, const SwallowingRow& row)
+{
+    return out << row.value.toStdString();
+}
+
+class AMalformedValueOfSeveralLines : public testing::TestWithParam<SwallowingRow>
+{
+};
+
+TEST_P(AMalformedValueOfSeveralLines, TakesNoKeyWithIt)
+{
+    const auto entries =
+        entriesOf(header + "[HKEY_CURRENT_USER\\A]\r\n" + GetParam().value +
+                  "\r\n[HKEY_CURRENT_USER\\B]\r\n\"v\"=dword:1\r\n\"w\"=dword:2\r\n");
+    const auto malformed = static_cast<std::size_t>(GetParam().lines);
+    ASSERT_EQ(entries.size(), malformed + 4);
+    for (std::size_t i = 1; i <= malformed; ++i) {
+        EXPECT_EQ(entries[i].action, Action::Malformed);
+        EXPECT_EQ(entries[i].line, static_cast<int>(3 + i));
+    }
+    const RegFileEntry& key = entries[malformed + 1];
+    EXPECT_EQ(key.action, Action::CreateKey);
+    EXPECT_EQ(key.key.toStdString(), "HKEY_CURRENT_USER\\B");
+    EXPECT_EQ(key.line, GetParam().lines + 4);
+    for (std::size_t i = malformed + 2; i < entries.size(); ++i) {
+        EXPECT_EQ(entries[i].action, Action::SetValue);
+        EXPECT_EQ(entries[i].key.toStdString(), "HKEY_CURRENT_USER\\B");
+    }
+    EXPECT_EQ(entries.back().name.toStdString(), "w");
+}
+
+INSTANTIATE_TEST_SUITE_P(RegFileReader, AMalformedValueOfSeveralLines,
+                         testing::Values(SwallowingRow{"\"h\"=hex:00,01,\\", 1},
+                                         SwallowingRow{"\"h\"=hex:00,01\\", 1},
+                                         SwallowingRow{"\"h\"=hex:00,zz,\\\r\n  01", 2},
+                                         SwallowingRow{"\"a\"=\"C:\\\\dir\\\"", 1},
+                                         SwallowingRow{"\"a\"=\"open", 1},
+                                         SwallowingRow{"@=\"open\r\nmore", 2},
+                                         SwallowingRow{"@=\"one\r\ntwo\" tail", 2}));
+
+TEST(RegFileReader, ReadsOnBehindATextThatNeverCloses)
+{
+    const auto entries = entriesOf(
+        header + "[HKEY_CURRENT_USER\\K]\r\n@=\"open\r\n[HKEY_CURRENT_USER\\K2]\r\n@=dword:1\r\n");
+    ASSERT_EQ(entries.size(), 4U);
     EXPECT_EQ(entries[1].action, Action::Malformed);
     EXPECT_EQ(entries[1].line, 4);
+    EXPECT_EQ(entries[2].action, Action::CreateKey);
+    EXPECT_EQ(entries[3].key.toStdString(), "HKEY_CURRENT_USER\\K2");
+    EXPECT_EQ(entries[3].line, 6);
+}
+
+// Each line is tried on its own after the first, yet the time it takes grows only with the file.
+TEST(RegFileReader, ReadsManyUnfinishedValuesInTheirOrder)
+{
+    constexpr int many = 20000;
+    const QByteArray unfinished = QByteArray("\"v\"=hex:00,\\\r\n").repeated(many) +
+                                  QByteArray("@=\"open\r\n").repeated(many);
+    const auto entries = entriesOf(header + "[HKEY_CURRENT_USER\\K]\r\n" + unfinished);
+    ASSERT_EQ(entries.size(), 2U * many + 1);
+    EXPECT_EQ(entries.back().line, 2 * many + 3);
+    EXPECT_EQ(entries.back().action, Action::Malformed);
 }
 
 TEST(RegFileReader, ReadsKeysAndDeletions)
