@@ -3,6 +3,8 @@
 #include "app/regfile/RegFileText.h"
 #include "platform/WindowsTypes.h"
 
+#include <algorithm>
+
 namespace {
 
 void refuse(RegFileEntry& entry, const QString& problem)
@@ -20,6 +22,14 @@ bool isBlankOrComment(const QString& rest)
 bool isBlank(QChar c)
 {
     return c == QLatin1Char(' ') || c == QLatin1Char('\t');
+}
+
+// What stands behind may belong to a text that goes on in the next line.
+QString withoutIndent(const QString& line)
+{
+    const auto blank = [](QChar c) { return c.isSpace(); };
+    const auto first = std::find_if_not(line.cbegin(), line.cend(), blank);
+    return line.mid(static_cast<int>(std::distance(line.cbegin(), first)));
 }
 
 QString withoutComment(const QString& rest)
@@ -56,8 +66,11 @@ QString RegFileReader::nextLine()
     if (end < 0)
         end = m_text.size();
     QString line = m_text.mid(m_position, end - m_position);
-    if (line.endsWith(QLatin1Char('\r')))
+    m_lineEnd = QLatin1String("\n");
+    if (line.endsWith(QLatin1Char('\r'))) {
         line.chop(1);
+        m_lineEnd = QLatin1String("\r\n");
+    }
     m_position = end + 1;
     ++m_line;
     return line;
@@ -68,14 +81,14 @@ bool RegFileReader::readNext(RegFileEntry& entry)
     if (!m_error.isEmpty())
         return false;
     while (!atEnd()) {
-        const QString line = nextLine().trimmed();
+        const QString line = withoutIndent(nextLine());
         if (isBlankOrComment(line))
             continue;
         entry = {};
         entry.line = m_line;
         entry.key = m_key;
         if (line.startsWith(QLatin1Char('[')))
-            readKey(line, entry);
+            readKey(line.trimmed(), entry);
         else
             readValueOfLines(line, entry);
         return true;
@@ -121,7 +134,7 @@ void RegFileReader::readValue(const QString& line, RegFileEntry& entry)
         return refuse(entry, tr("The value has no \"=\" after its name."));
     if (m_key.isEmpty())
         return refuse(entry, tr("The value stands under no key."));
-    readData(line.mid(position + 1).trimmed(), entry);
+    readData(withoutIndent(line.mid(position + 1)), entry);
 }
 
 void RegFileReader::readData(const QString& rest, RegFileEntry& entry)
@@ -139,14 +152,15 @@ void RegFileReader::readData(const QString& rest, RegFileEntry& entry)
         refuse(entry, tr("The data has no known form."));
 }
 
-// A text may contain line ends: it goes on up to its closing quote.
+// A text may contain line ends: it goes on up to its closing quote, with everything in between as
+// it stands in the file.
 void RegFileReader::readText(QString rest, RegFileEntry& entry)
 {
     int position = 1;
     while (!unquoteRegText(rest, position, entry.text)) {
         if (atEnd())
             return refuse(entry, tr("The text has no closing quote."));
-        entry.text += QLatin1Char('\n');
+        entry.text += m_lineEnd;
         rest = nextLine();
         position = 0;
     }

@@ -43,6 +43,7 @@ private:
     QString m_text;
     int m_position = 0;
     int m_line = 0;
-    QString m_key; ///< of the values that follow; empty when they belong to none
+    QLatin1String m_lineEnd; ///< of the line read last
+    QString m_key;           ///< of the values that follow; empty when they belong to none
     QString m_error;
 };

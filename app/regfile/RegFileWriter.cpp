@@ -55,7 +55,7 @@ void RegFileWriter::key(const QString& path)
     line(QLatin1Char('[') + path + QLatin1Char(']'));
 }
 
-// A line end within quotes would come back as a plain LF whatever it was.
+// A line end within quotes: editors change it, and not every reader takes it.
 void RegFileWriter::text(const QString& name, const QString& value)
 {
     if (hasLineEnd(value))

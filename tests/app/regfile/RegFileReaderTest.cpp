@@ -104,7 +104,10 @@ INSTANTIATE_TEST_SUITE_P(
                     TextRow{"\"v\"=\"C:\\\\Dir\\\\\"", "C:\\Dir\\"},
                     TextRow{"\"v\"=\"say \\\"yes\\\"\"", "say \"yes\""},
                     TextRow{"\"v\"=\"a=b;c\" ; comment", "a=b;c"},
-                    TextRow{"\"v\"=\"one\r\ntwo\"", "one\ntwo"},
+                    TextRow{"\"v\"=\"one\r\ntwo\"", "one\r\ntwo"},
+                    TextRow{"\"v\"=\"one\ntwo\"", "one\ntwo"},
+                    TextRow{"\"v\"=\"one  \r\n \t\r\n  two \"", "one  \r\n \t\r\n  two "},
+                    TextRow{"\"v\" = \"C:\\\r\n\"  ", "C:\\\r\n"},
                     TextRow{"\"v\"=hex(1):61,00,0d,00,0a,00,62,00,00,00", "a\r\nb"},
                     TextRow{"\"v\"=\"\xE6\xB8\xAF\"", QString(QChar(0x6E2F))}));
 
