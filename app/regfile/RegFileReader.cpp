@@ -32,6 +32,21 @@ QString withoutIndent(const QString& line)
     return line.mid(static_cast<int>(std::distance(line.cbegin(), first)));
 }
 
+// Names of keys may contain "]": the first one closes that has nothing behind it but a comment. -1
+// where there is none.
+int closingBracket(const QString& line)
+{
+    int close = line.indexOf(QLatin1Char(']'));
+    for (; close >= 0; close = line.indexOf(QLatin1Char(']'), close + 1)) {
+        int next = close + 1;
+        while (next < line.size() && line.at(next).isSpace())
+            ++next;
+        if (next == line.size() || line.at(next) == QLatin1Char(';'))
+            break;
+    }
+    return close;
+}
+
 QString withoutComment(const QString& rest)
 {
     return rest.section(QLatin1Char(';'), 0, 0).trimmed();
@@ -108,14 +123,13 @@ void RegFileReader::readValueOfLines(const QString& line, RegFileEntry& entry)
     m_line = number;
 }
 
-// Names of keys may contain "]", so the last bracket of the line closes.
 void RegFileReader::readKey(const QString& line, RegFileEntry& entry)
 {
     m_key.clear();
-    const int close = line.lastIndexOf(QLatin1Char(']'));
+    const int close = closingBracket(line);
     const bool deletes = line.startsWith(QLatin1String("[-"));
     entry.key = close < 0 ? line : line.mid(deletes ? 2 : 1, close - (deletes ? 2 : 1));
-    if (close < 0 || entry.key.isEmpty() || !isBlankOrComment(line.mid(close + 1)))
+    if (close < 0 || entry.key.isEmpty())
         return refuse(entry, tr("The line of a key must have the form [key]."));
     entry.action = deletes ? RegFileEntry::Action::DeleteKey : RegFileEntry::Action::CreateKey;
     if (!deletes)

@@ -228,11 +228,22 @@ TEST(RegFileReader, RefusesAValueUnderNoKey)
     EXPECT_EQ(entries[1].action, Action::Malformed);
 }
 
-TEST(RegFileReader, KeepsBracketsInTheNameOfAKey)
+TEST(RegFileReader, TellsBracketsInTheNameOfAKeyFromItsEndAndFromComments)
 {
-    const auto entries = entriesOf(header + "[HKEY_CURRENT_USER\\A]B]\r\n");
-    ASSERT_EQ(entries.size(), 1U);
-    EXPECT_EQ(entries[0].key.toStdString(), "HKEY_CURRENT_USER\\A]B");
+    const struct
+    {
+        const char* line;
+        const char* key;
+    } rows[] = {{"[K\\A]B]", "K\\A]B"},       {"[K\\A]]", "K\\A]"},
+                {"[K\\A;b]", "K\\A;b"},       {"[K\\A]x;y]", "K\\A]x;y"},
+                {"[K\\A] ; see [b]", "K\\A"}, {"[K\\A];[b] ; [c]", "K\\A"},
+                {"[K\\A;b] ; [c]", "K\\A;b"}, {"[K\\A ] \t", "K\\A "}};
+    for (const auto& row : rows) {
+        const auto entries = entriesOf(header + row.line + "\r\n");
+        ASSERT_EQ(entries.size(), 1U) << row.line;
+        EXPECT_EQ(entries[0].action, Action::CreateKey) << row.line;
+        EXPECT_EQ(entries[0].key.toStdString(), row.key) << row.line;
+    }
 }
 
 class EncodedFile : public testing::TestWithParam<QByteArray>
