@@ -1027,6 +1027,14 @@
         <source>The key %1 goes with it, with everything in it.</source>
         <translation>项 %1 及其全部内容也会一并删除。</translation>
     </message>
+    <message>
+        <source>A name of separators alone names no value.</source>
+        <translation>只含分隔符的名称不指任何值。</translation>
+    </message>
+    <message>
+        <source>The separators in the name lead to a value of a sub-key.</source>
+        <translation>名称中含有分隔符，所指的是子项中的值。</translation>
+    </message>
 </context>
 <context>
     <name>ImportModel</name>

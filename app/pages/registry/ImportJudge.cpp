@@ -8,6 +8,17 @@
 
 using Action = RegFileEntry::Action;
 
+namespace {
+
+// A value's name as the store takes it.
+QString slashed(QString name)
+{
+    const QLatin1Char slash('/');
+    return name.replace(QLatin1Char('\\'), slash).split(slash, Qt::SkipEmptyParts).join(slash);
+}
+
+} // namespace
+
 ImportJudge::ImportJudge(const RegFileEntry& entry) : m_entry(entry)
 {
     if (entry.action == Action::Malformed)
@@ -60,12 +71,12 @@ void ImportJudge::judgeKeyDeletion()
 }
 
 // And a key of the same name along with a value.
-void ImportJudge::judgeValueDeletion()
+void ImportJudge::judgeValueDeletion(const QString& name)
 {
     if (m_path.isEmpty())
-        return remark(
-            tr("Deletes the key \"%1\" below the root with everything in it.").arg(m_entry.name));
-    const QString key = RegistryPath::join(m_path, m_entry.name);
+        return remark(tr("Deletes the key \"%1\" below the root with everything in it.")
+                          .arg(QString(name).replace(QLatin1Char('/'), QLatin1Char('\\'))));
+    const QString key = RegistryPath::join(m_path, name);
     if (isRegistryGroup(key))
         remark(tr("The key %1 goes with it, with everything in it.").arg(RegistryPath::shown(key)));
 }
@@ -74,10 +85,15 @@ void ImportJudge::judgeName()
 {
     if (m_entry.name.isEmpty())
         return refuse(tr("The default value, which has no name, cannot be stored."));
+    const bool deletes = m_entry.action == Action::DeleteValue;
+    const QString name = slashed(m_entry.name);
+    if (name.isEmpty())
+        return refuse(tr("A name of separators alone names no value."));
     if (m_entry.name.contains(QLatin1Char('\\')) || m_entry.name.contains(QLatin1Char('/')))
-        remark(tr("The separators in the name put the value into a sub-key."));
-    if (m_entry.action == Action::DeleteValue)
-        judgeValueDeletion();
+        remark(deletes ? tr("The separators in the name lead to a value of a sub-key.")
+                       : tr("The separators in the name put the value into a sub-key."));
+    if (deletes)
+        judgeValueDeletion(name);
     else if (m_path.isEmpty())
         remark(tr("Directly under a root, it is kept in a key of its own name."));
 }

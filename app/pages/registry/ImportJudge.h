@@ -18,7 +18,7 @@ private:
     void remark(const QString& what);
     void judgeKey();
     void judgeKeyDeletion();
-    void judgeValueDeletion();
+    void judgeValueDeletion(const QString& name);
     void judgeName();
     void judgeData();
     void judgeNumber(int size);

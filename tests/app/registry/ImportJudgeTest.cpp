@@ -1,7 +1,10 @@
 #include "app/pages/registry/ImportJudge.h"
 
+#include "host/HostLibraries.h"
 #include "platform/WindowsTypes.h"
 #include "tests/app/registry/RegistryTest.h"
+
+#include <QSettings>
 
 #include <ostream>
 
@@ -74,7 +77,14 @@ INSTANTIATE_TEST_SUITE_P(
             "everything in it"},
         Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", ""), Verdict::Refused,
             "default value"},
-        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "v"), Verdict::Done, ""}));
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "v"), Verdict::Done, ""},
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "a\\b"), Verdict::Altered,
+            "lead to a value of a sub-key"},
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "\\"), Verdict::Refused,
+            "separators alone"},
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER", "/\\"), Verdict::Refused,
+            "separators alone"},
+        Row{value(REG_DWORD, "01000000", "\\"), Verdict::Refused, "separators alone"}));
 
 INSTANTIATE_TEST_SUITE_P(
     OfAType, Statement,
@@ -120,6 +130,21 @@ TEST_F(StatementOnTwins, TellsOfTheKeyThatGoesWithAValue)
     EXPECT_EQ(remark(Action::DeleteValue, "HKEY_CURRENT_USER\\A", "twin"),
               "The key HKEY_CURRENT_USER\\A\\twin goes with it, with everything in it.");
     EXPECT_EQ(remark(Action::DeleteValue, "HKEY_CURRENT_USER\\A", "inside"), "");
+}
+
+TEST_F(StatementOnTwins, TellsOfTheKeyThatGoesWithAValueOfASubKey)
+{
+    const std::string leads = "The separators in the name lead to a value of a sub-key.";
+    for (const char* name : {"A\\twin", "A/twin", "\\A\\\\twin"}) {
+        EXPECT_EQ(remark(Action::DeleteValue, "HKEY_CURRENT_USER\\A", name), leads);
+        store("A/A/twin/inside", "1$1");
+        EXPECT_EQ(
+            remark(Action::DeleteValue, "HKEY_CURRENT_USER\\A", name),
+            leads + " The key HKEY_CURRENT_USER\\A\\A\\twin goes with it, with everything in it.");
+        g_globalSettings->clear();
+    }
+    EXPECT_EQ(remark(Action::DeleteValue, "HKEY_CURRENT_USER", "\\A\\key"),
+              leads + " Deletes the key \"A\\key\" below the root with everything in it.");
 }
 
 TEST(ImportJudge, PassesOnWhatTheReaderFound)
