@@ -2215,6 +2215,18 @@ Wide: %2</source>
         <source>left out: &quot;%1&quot;: %2</source>
         <translation>已略过：“%1”：%2</translation>
     </message>
+    <message>
+        <source>the format knows no line ends in names of keys</source>
+        <translation>该格式不支持项名称中含换行符</translation>
+    </message>
+    <message>
+        <source>a &quot;\&quot; in it separates keys</source>
+        <translation>其中的“\”会分隔项</translation>
+    </message>
+    <message>
+        <source>a part of its name would be taken for a comment</source>
+        <translation>其名称的一部分会被当作注释</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

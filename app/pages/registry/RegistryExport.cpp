@@ -5,11 +5,27 @@
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/StoredText.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 bool hasLineEnd(const QString& name)
 {
     return name.contains(QLatin1Char('\n')) || name.contains(QLatin1Char('\r'));
+}
+
+// Why a reader would find another key than this one, or an empty text.
+QString keyProblem(const QString& path)
+{
+    static const QRegularExpression comment(QStringLiteral("\\]\\s*;"),
+                                            QRegularExpression::UseUnicodePropertiesOption);
+    if (hasLineEnd(path))
+        return RegistryExport::tr("the format knows no line ends in names of keys");
+    if (path.contains(QLatin1Char('\\')))
+        return RegistryExport::tr("a \"\\\" in it separates keys");
+    if (path.contains(comment))
+        return RegistryExport::tr("a part of its name would be taken for a comment");
+    return {};
 }
 
 } // namespace
@@ -33,7 +49,7 @@ bool RegistryExport::step()
     if (!m_open || !m_writer.isGood())
         return false;
     switch (m_walk.next()) {
-    case RegistryWalk::Step::Key: m_writer.key(RegistryPath::shown(m_walk.path())); return true;
+    case RegistryWalk::Step::Key: writeKey(); return true;
     case RegistryWalk::Step::Value: writeValue(); return true;
     case RegistryWalk::Step::End: break;
     }
@@ -45,8 +61,22 @@ bool RegistryExport::commit()
     return m_open && m_writer.isGood() && m_file.commit();
 }
 
+// Its values are left out with it: without its line they would go into another key.
+void RegistryExport::writeKey()
+{
+    const QString path = m_walk.path();
+    const QString problem = keyProblem(path);
+    m_underKey = problem.isEmpty();
+    if (m_underKey)
+        m_writer.key(RegistryPath::shown(path));
+    else
+        leaveOut(RegistryPath::shown(path), problem);
+}
+
 void RegistryExport::writeValue()
 {
+    if (!m_underKey)
+        return;
     const QString name = m_walk.name();
     const RegistryReading reading = m_walk.key().read(name);
     const QVariant entry = rawRegistryEntry(RegistryPath::join(m_walk.path(), name));

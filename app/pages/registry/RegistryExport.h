@@ -7,7 +7,8 @@
 #include <QSaveFile>
 
 /// Writes a key with everything below it into a registry file, step by step, for a sliced job. What
-/// a host library cannot read is left out and told in a comment.
+/// a host library cannot read is left out and told in a comment, and so are names that the format
+/// cannot hold.
 class RegistryExport
 {
     Q_DECLARE_TR_FUNCTIONS(RegistryExport)
@@ -28,6 +29,7 @@ public:
     int leftOut() const { return m_leftOut; }
 
 private:
+    void writeKey();
     void writeValue();
     void write(const QString& name, const RegistryReading& reading);
     void leaveOut(const QString& name, const QString& why);
@@ -36,6 +38,7 @@ private:
     bool m_open;
     RegFileWriter m_writer;
     RegistryWalk m_walk;
+    bool m_underKey = false; ///< the key that the walk is in has been written
     int m_values = 0;
     int m_leftOut = 0;
 };

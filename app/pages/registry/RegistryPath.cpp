@@ -28,7 +28,7 @@ QString RegistryPath::shown(const QString& path)
 
 bool RegistryPath::parse(const QString& text, QString& path)
 {
-    QString slashed = text.trimmed();
+    QString slashed = text;
     slashed.replace(QLatin1Char('\\'), QLatin1Char('/'));
     QStringList levels = slashed.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     if (!levels.isEmpty() &&

@@ -10,8 +10,9 @@ namespace RegistryPath {
 QString shown(const QString& path);
 
 /// Reads what `shown` or a registry file writes: the name of any of the four roots, in any case of
-/// letters, then levels. A path without a root is taken to be below one. False when the first level
-/// begins with "HKEY_" and names no root that is known; `path` is then left alone.
+/// letters, then levels. A path without a root is taken to be below one. Names may begin and end
+/// with blanks: what a user has typed is to be tried without those around it too. False when the
+/// first level begins with "HKEY_" and names no root that is known; `path` is then left alone.
 bool parse(const QString& text, QString& path);
 
 QString join(const QString& parent, const QString& name);

@@ -33,6 +33,18 @@ protected:
         return text;
     }
 
+    void importFile() const
+    {
+        QFile input(file());
+        ASSERT_TRUE(input.open(QIODevice::ReadOnly));
+        RegistryImport task(input.readAll());
+        while (task.read()) {
+        }
+        EXPECT_EQ(task.count(RegistryImport::Verdict::Refused), 0);
+        while (task.apply()) {
+        }
+    }
+
     static void import(const QString& body)
     {
         RegistryImport task((QString(regFileHeader) + "\n" + body).toUtf8());
@@ -80,6 +92,31 @@ TEST_F(RegistryFiles, ExportLeavesOutWhatNoHostLibraryReads)
     EXPECT_TRUE(text.contains("\"good\"=dword:00000001"));
 }
 
+TEST_F(RegistryFiles, ExportLeavesOutKeysThatTheFormatCannotName)
+{
+    const struct
+    {
+        const char* key;
+        const char* why;
+    } rows[] = {{"x\ny", "no line ends in names of keys"},
+                {"x\r\n[HKEY_CURRENT_USER\\Evil]\r\n", "no line ends in names of keys"},
+                {"A] ; b", "taken for a comment"},
+                {"a\\b", "\"\\\" in it separates keys"}};
+    for (const auto& row : rows) {
+        g_globalSettings->clear();
+        store(QString("K/%1/v").arg(row.key), "1$1");
+        store(QString("K/%1/below/v").arg(row.key), "1$1");
+        store("K/good/v", "1$1");
+        const QString text = exported("K", RegFileWriter::Encoding::Utf8);
+        EXPECT_EQ(m_leftOut, 2) << row.key;
+        EXPECT_EQ(text.count(row.why), 2) << text.toStdString();
+        EXPECT_EQ(text.count("\"v\"=dword"), 1) << text.toStdString();
+        g_globalSettings->clear();
+        importFile();
+        EXPECT_EQ(g_globalSettings->allKeys(), QStringList({"K", "K/good", "K/good/v"})) << row.key;
+    }
+}
+
 TEST_F(RegistryFiles, ExportLeavesAnOlderFileAloneUntilItIsComplete)
 {
     QFile old(file());
@@ -103,22 +140,17 @@ TEST_F(RegistryFiles, ExportTellsOfAFileThatCannotBeWritten)
 
 TEST_F(RegistryFiles, ImportBringsBackWhatExportWrote)
 {
-    const QMap<QString, QString> entries = {{"A/text", "5$a\r\n\"b\""}, {"A/empty", "5$"},
-                                            {"A/number", "1$42"},       {"A/large", "2$255"},
-                                            {"A/B/bytes", "4$00ff"},    {"X/X", "5$under a root"}};
+    const QMap<QString, QString> entries = {
+        {"A/text", "5$a\r\n\"b\""}, {"A/empty", "5$"},       {"A/number", "1$42"},
+        {"A/large", "2$255"},       {"A/B/bytes", "4$00ff"}, {"X/X", "5$under a root"},
+        {"A/trail /v", "1$1"},      {"A/D\t/v", "1$2"},      {" lead/ v ", "1$3"},
+        {"A/[x; y]/v", "1$4"},      {"A/x]y/v", "1$5"},      {"last ] /v", "1$6"}};
     for (const QString& path : entries.keys())
         store(path, entries.value(path));
     for (const auto encoding : {RegFileWriter::Encoding::Utf8, RegFileWriter::Encoding::Utf16}) {
         exported("", encoding);
         g_globalSettings->clear();
-        QFile input(file());
-        ASSERT_TRUE(input.open(QIODevice::ReadOnly));
-        RegistryImport task(input.readAll());
-        while (task.read()) {
-        }
-        EXPECT_EQ(task.count(RegistryImport::Verdict::Refused), 0);
-        while (task.apply()) {
-        }
+        importFile();
         for (const QString& path : entries.keys())
             EXPECT_EQ(stored(path).toStdString(), entries.value(path).toStdString());
     }

@@ -350,6 +350,8 @@ TEST(RegistryPath, ReadsWhatItShows)
                 {"A/B\\C", true, "A/B/C"},
                 {"\\\\A\\", true, "A"},
                 {"", true, ""},
+                {"HKEY_CURRENT_USER\\A \\ B ", true, "A / B "},
+                {"HKEY_CURRENT_USER\\D\t", true, "D\t"},
                 {"HKEY_CURRENT_CONFIG\\A", false, "before"}};
     for (const auto& row : rows) {
         QString path = "before";
