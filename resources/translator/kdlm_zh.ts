@@ -2469,6 +2469,10 @@ Wide: %2</source>
         <source>it is larger than %1 MiB.</source>
         <translation>它大于 %1 MiB。</translation>
     </message>
+    <message>
+        <source>Cancelled: nothing was imported.</source>
+        <translation>已取消：未导入任何内容。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTreeModel</name>

@@ -117,6 +117,8 @@ void RegistryTransfer::importFile(const QString& file)
                       [this, file, import](bool complete) {
                           if (complete)
                               preview(file, import);
+                          else
+                              m_page->setStatus(tr("Cancelled: nothing was imported."));
                       }});
 }
 

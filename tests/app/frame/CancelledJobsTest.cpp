@@ -90,6 +90,17 @@ protected:
         probe.type("address", "HKEY_CURRENT_USER\\A");
         QTest::keyClick(&probe.control<QWidget>("address"), Qt::Key_Return);
     }
+    void beginImport(const WindowProbe& probe, int values) const
+    {
+        QFile file(m_folder.filePath("in.reg"));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write("Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n");
+        for (int i = 0; i < values; ++i)
+            file.write("\"v" + QByteArray::number(i) + "\"=dword:00000001\r\n");
+        file.close();
+        ASSERT_TRUE(QTest::qWaitFor([&probe] { return !probe.text("address").isEmpty(); }));
+        probe.page().findChild<RegistryTransfer*>()->importFile(file.fileName());
+    }
     static void removeKey(const WindowProbe& probe)
     {
         auto& tree = probe.control<QTreeView>("keys");
@@ -181,15 +192,8 @@ TEST_F(CancelledJobs, ADeletionOfAKeyLeavesTheRestAndShowsIt)
 
 TEST_F(CancelledJobs, AnImportLeavesWhatItHasCarriedOutAndShowsIt)
 {
-    QFile file(m_folder.filePath("in.reg"));
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
-    file.write("Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n");
-    for (int i = 0; i < many; ++i)
-        file.write("\"v" + QByteArray::number(i) + "\"=dword:00000001\r\n");
-    file.close();
     const WindowProbe probe("registry");
-    ASSERT_TRUE(QTest::qWaitFor([&probe] { return !probe.text("address").isEmpty(); }));
-    probe.page().findChild<RegistryTransfer*>()->importFile(file.fileName());
+    beginImport(probe, many);
     ASSERT_TRUE(probe.settle());
     confirm("I&mport");
     waitForProgress(probe, "^[\\d,]{2,}$");
@@ -200,6 +204,16 @@ TEST_F(CancelledJobs, AnImportLeavesWhatItHasCarriedOutAndShowsIt)
     EXPECT_EQ(storedValues(), carriedOut);
     openKey(probe);
     EXPECT_EQ(model(probe, "values").rowCount(), carriedOut - 1); // the first made the key
+}
+
+TEST_F(CancelledJobs, ReadingAFileToImportTellsThatNothingWasImported)
+{
+    const WindowProbe probe("registry");
+    beginImport(probe, 2 * many);
+    cancel(probe);
+    EXPECT_EQ(status(probe), "Cancelled: nothing was imported.");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(storedValues(), 0);
 }
 
 TEST_F(CancelledJobs, ASearchForFilesKeepsItsRowsAndCanBeDoneAgain)
