@@ -102,8 +102,7 @@ void Page::cancelJob()
 {
     if (!isBusy())
         return;
-    m_job.cancel();
-    endJob(false);
+    endJob(m_job.cancel());
 }
 
 // The callback may start the next job, so this one is out of the way before it is called.

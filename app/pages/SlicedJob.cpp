@@ -23,10 +23,12 @@ bool SlicedJob::start(Step step)
     return false;
 }
 
-void SlicedJob::cancel()
+bool SlicedJob::cancel()
 {
+    const bool complete = isRunning() && !m_step;
     m_timer.stop();
     m_step = nullptr;
+    return complete;
 }
 
 bool SlicedJob::slice()
@@ -44,8 +46,9 @@ bool SlicedJob::slice()
 
 void SlicedJob::next()
 {
-    if (slice()) {
-        emit progressed();
+    if (m_step) {
+        if (slice())
+            emit progressed();
         return;
     }
     m_timer.stop();

@@ -21,8 +21,9 @@ public:
     /// Otherwise the rest follows on the event loop. One job at a time: not to be called while one
     /// is running.
     bool start(Step step);
-    /// Drops what is left; emits nothing. Does nothing when no job is running.
-    void cancel();
+    /// Drops what is left; emits nothing. Does nothing when no job is running. True when the last
+    /// step had been done already, and only `finished` was still to come.
+    bool cancel();
     /// To be called by a step when the one after it is known to be long, as one call of a service
     /// may be: that one gets a slice of its own.
     void endSlice() { m_endsSlice = true; }
@@ -31,6 +32,7 @@ public:
 signals:
     /// A slice has ended and another one follows.
     void progressed();
+    /// In a turn of the event loop of its own: what is done then may take as long as a slice.
     void finished();
 
 private:

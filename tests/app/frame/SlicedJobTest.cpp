@@ -1,5 +1,6 @@
 #include "app/pages/SlicedJob.h"
 
+#include <QCoreApplication>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -55,6 +56,45 @@ TEST(SlicedJob, GivesTheStepAfterEndSliceASliceOfItsOwn)
     ASSERT_TRUE(QTest::qWaitFor([&finished] { return !finished.isEmpty(); }));
     EXPECT_EQ(slices, std::vector<int>({3}));
     EXPECT_EQ(steps, 6);
+}
+
+// Whoever waits for the end may have much to do then.
+TEST(SlicedJob, FinishesInATurnOfTheEventLoopOfItsOwn)
+{
+    SlicedJob job;
+    int steps = 0;
+    QSignalSpy finished(&job, &SlicedJob::finished);
+    ASSERT_FALSE(job.start([&] {
+        job.endSlice();
+        return ++steps < 2;
+    }));
+    while (steps < 2)
+        QCoreApplication::processEvents();
+    EXPECT_TRUE(finished.isEmpty());
+    EXPECT_TRUE(job.isRunning());
+    ASSERT_TRUE(finished.wait());
+    EXPECT_FALSE(job.isRunning());
+    EXPECT_EQ(steps, 2);
+}
+
+TEST(SlicedJob, TellsWhenNothingIsLeftToCancel)
+{
+    SlicedJob job;
+    int steps = 0;
+    QSignalSpy finished(&job, &SlicedJob::finished);
+    const auto step = [&] {
+        job.endSlice();
+        return ++steps < 2;
+    };
+    ASSERT_FALSE(job.start(step));
+    EXPECT_FALSE(job.cancel());
+    steps = 0;
+    ASSERT_FALSE(job.start(step));
+    while (steps < 2)
+        QCoreApplication::processEvents();
+    EXPECT_TRUE(job.cancel());
+    EXPECT_FALSE(job.isRunning());
+    EXPECT_FALSE(finished.wait(50));
 }
 
 } // namespace
