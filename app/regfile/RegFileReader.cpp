@@ -3,9 +3,21 @@
 #include "app/regfile/RegFileText.h"
 #include "platform/WindowsTypes.h"
 
+#include <QBuffer>
+
 #include <algorithm>
 
 namespace {
+
+constexpr int pieceSize = 256 * 1024; // some milliseconds at most, on a slow machine too
+
+std::unique_ptr<QIODevice> opened(const QByteArray& bytes)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(bytes);
+    buffer->open(QIODevice::ReadOnly);
+    return buffer;
+}
 
 void refuse(RegFileEntry& entry, const QString& problem)
 {
@@ -54,22 +66,57 @@ QString withoutComment(const QString& rest)
 
 } // namespace
 
-RegFileReader::RegFileReader(const QByteArray& file)
+RegFileReader::RegFileReader(std::unique_ptr<QIODevice> file) : m_file(std::move(file))
 {
-    if (decodeRegFile(file, m_text))
-        readHeader();
-    else
-        m_error = tr("The file is neither UTF-16 with a byte order mark nor UTF-8.");
+    m_decoder.reserve(m_file->size());
 }
 
-void RegFileReader::readHeader()
+RegFileReader::RegFileReader(const QByteArray& file) : RegFileReader(opened(file)) {}
+
+RegFileReader::~RegFileReader() = default;
+
+RegFileReader::Step RegFileReader::next(RegFileEntry& entry)
 {
-    QString header;
-    while (header.isEmpty() && !atEnd())
-        header = nextLine().trimmed();
-    if (header == regFileHeader)
+    if (!m_error.isEmpty())
+        return Step::End;
+    if (m_file)
+        readPiece();
+    else if (!atEnd())
+        return readLine(entry);
+    else if (!m_hasHeader)
+        readHeader({});
+    else
+        return Step::End;
+    return m_error.isEmpty() ? Step::Nothing : Step::End;
+}
+
+void RegFileReader::readPiece()
+{
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    const qint64 size = m_file->read(piece.data(), piece.size());
+    if (size < 0)
+        m_error = m_file->errorString();
+    piece.truncate(static_cast<int>(std::max(size, qint64{0})));
+    m_decoder.add(piece);
+    if (piece.isEmpty()) {
+        m_file = nullptr;
+        takeText();
+    }
+}
+
+void RegFileReader::takeText()
+{
+    if (m_error.isEmpty() && !m_decoder.isValid())
+        m_error = tr("The file is neither UTF-16 with a byte order mark nor UTF-8.");
+    m_text = m_decoder.takeText();
+}
+
+void RegFileReader::readHeader(const QString& line)
+{
+    m_hasHeader = true;
+    if (line == regFileHeader)
         return;
-    if (header == QLatin1String("REGEDIT4"))
+    if (line == QLatin1String("REGEDIT4"))
         m_error = tr("The file has version 4. Only version 5.00 is understood.");
     else
         m_error = tr("The file does not begin with \"%1\".").arg(regFileHeader);
@@ -91,24 +138,24 @@ QString RegFileReader::nextLine()
     return line;
 }
 
-bool RegFileReader::readNext(RegFileEntry& entry)
+RegFileReader::Step RegFileReader::readLine(RegFileEntry& entry)
 {
-    if (!m_error.isEmpty())
-        return false;
-    while (!atEnd()) {
-        const QString line = withoutIndent(nextLine());
-        if (isBlankOrComment(line))
-            continue;
-        entry = {};
-        entry.line = m_line;
-        entry.key = m_key;
-        if (line.startsWith(QLatin1Char('[')))
-            readKey(line.trimmed(), entry);
-        else
-            readValueOfLines(line, entry);
-        return true;
+    const QString line = withoutIndent(nextLine());
+    if (!m_hasHeader) {
+        if (!line.isEmpty())
+            readHeader(line.trimmed());
+        return m_error.isEmpty() ? Step::Nothing : Step::End;
     }
-    return false;
+    if (isBlankOrComment(line))
+        return Step::Nothing;
+    entry = {};
+    entry.line = m_line;
+    entry.key = m_key;
+    if (line.startsWith(QLatin1Char('[')))
+        readKey(line.trimmed(), entry);
+    else
+        readValueOfLines(line, entry);
+    return Step::Statement;
 }
 
 // The lines behind a malformed one may be statements of their own.

@@ -1,27 +1,6 @@
 #include "app/regfile/RegFileText.h"
 
-#include <QTextCodec>
-
-namespace {
-
-bool decode(const char* codecName, const QByteArray& bytes, QString& text)
-{
-    const QTextCodec* codec = QTextCodec::codecForName(codecName);
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
-
-} // namespace
-
-bool decodeRegFile(const QByteArray& file, QString& text)
-{
-    if (file.startsWith("\xFF\xFE"))
-        return decode("UTF-16LE", file.mid(2), text);
-    if (file.startsWith("\xFE\xFF"))
-        return decode("UTF-16BE", file.mid(2), text);
-    return decode("UTF-8", file.startsWith("\xEF\xBB\xBF") ? file.mid(3) : file, text);
-}
+#include <QVector>
 
 QString quoteRegText(const QString& text)
 {

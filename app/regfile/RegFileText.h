@@ -9,10 +9,6 @@
 /// a constant.
 inline constexpr QLatin1String regFileHeader("Windows Registry Editor Version 5.00", 36);
 
-/// Decodes a whole file: UTF-16 by its byte order mark, else UTF-8, with or without a mark. False
-/// when the bytes are valid in neither.
-bool decodeRegFile(const QByteArray& file, QString& text);
-
 /// A text in quotes, with backslashes before quotes and backslashes.
 QString quoteRegText(const QString& text);
 

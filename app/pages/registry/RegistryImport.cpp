@@ -6,6 +6,8 @@
 #include "app/pages/registry/RegistryPath.h"
 #include "app/pages/registry/RegistryRemoval.h"
 
+#include <QIODevice>
+
 #include <algorithm>
 
 namespace {
@@ -31,6 +33,8 @@ bool removeValue(const QString& path, const QString& name)
 
 } // namespace
 
+RegistryImport::RegistryImport(std::unique_ptr<QIODevice> file) : m_reader(std::move(file)) {}
+
 RegistryImport::RegistryImport(const QByteArray& file) : m_reader(file) {}
 
 RegistryImport::~RegistryImport() = default;
@@ -44,10 +48,10 @@ RegistryImport::Item RegistryImport::judged(const RegFileEntry& entry)
 bool RegistryImport::read()
 {
     RegFileEntry entry;
-    if (!m_reader.readNext(entry))
-        return false;
-    m_items.push_back(judged(entry));
-    return true;
+    const RegFileReader::Step step = m_reader.next(entry);
+    if (step == RegFileReader::Step::Statement)
+        m_items.push_back(judged(entry));
+    return step != RegFileReader::Step::End;
 }
 
 int RegistryImport::count(Verdict verdict) const

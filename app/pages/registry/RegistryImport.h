@@ -30,13 +30,17 @@ public:
         QString remark;
     };
 
+    /// `file` is open for reading.
+    explicit RegistryImport(std::unique_ptr<QIODevice> file);
+    /// A file that is in memory already.
     explicit RegistryImport(const QByteArray& file);
     ~RegistryImport();
 
-    /// Why the whole file is refused, in words; empty when it can be read.
+    /// Why the whole file is refused, in words; empty when it can be read, as far as it is known
+    /// yet.
     QString error() const { return m_reader.error(); }
 
-    /// Reads one statement; false at the end.
+    /// Reads one statement or a small piece of the file; false at the end.
     bool read();
     const std::vector<Item>& items() const { return m_items; }
     int count(Verdict verdict) const;

@@ -19,7 +19,7 @@ QString counted(qint64 number)
     return QLocale().toString(number);
 }
 
-// Far above any registry file; one is read and decoded in one go, which halts the window.
+// Far above any registry file; all of it and its statements are kept in memory.
 constexpr qint64 largestFile = qint64{32} * 1024 * 1024;
 
 // Why the file cannot be imported, or an empty text. To be asked before it is opened: opening a
@@ -100,22 +100,21 @@ void RegistryTransfer::importFile(const QString& file)
         m_page->report(Page::Report::Error, tr("%1 was not imported: %2").arg(file, refused));
         return;
     }
-    QFile input(file);
-    if (!input.open(QIODevice::ReadOnly)) {
+    auto input = std::make_unique<QFile>(file);
+    if (!input->open(QIODevice::ReadOnly)) {
         m_page->report(Page::Report::Error,
-                       tr("%1 could not be read: %2").arg(file, input.errorString()));
+                       tr("%1 could not be read: %2").arg(file, input->errorString()));
         return;
     }
-    const auto import = std::make_shared<RegistryImport>(input.readAll());
-    if (!import->error().isEmpty()) {
-        m_page->report(Page::Report::Error,
-                       tr("%1 was not imported: %2").arg(file, import->error()));
-        return;
-    }
+    const auto import = std::make_shared<RegistryImport>(std::move(input));
     m_page->startJob({tr("Reading the file"), [import] { return import->read(); },
                       [import] { return counted(static_cast<qint64>(import->items().size())); },
                       [this, file, import](bool complete) {
-                          if (complete)
+                          if (!import->error().isEmpty())
+                              m_page->report(
+                                  Page::Report::Error,
+                                  tr("%1 was not imported: %2").arg(file, import->error()));
+                          else if (complete)
                               preview(file, import);
                           else
                               m_page->setStatus(tr("Cancelled: nothing was imported."));

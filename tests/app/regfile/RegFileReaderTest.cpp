@@ -3,6 +3,8 @@
 #include "app/regfile/RegFileText.h"
 #include "platform/WindowsTypes.h"
 
+#include <QBuffer>
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -11,17 +13,27 @@
 namespace {
 
 using Action = RegFileEntry::Action;
+using Step = RegFileReader::Step;
 
 const QByteArray header = "Windows Registry Editor Version 5.00\r\n\r\n";
+
+std::vector<RegFileEntry> entriesOf(RegFileReader& reader)
+{
+    std::vector<RegFileEntry> entries;
+    RegFileEntry entry;
+    Step step = reader.next(entry);
+    for (; step != Step::End; step = reader.next(entry)) {
+        if (step == Step::Statement)
+            entries.push_back(entry);
+    }
+    return entries;
+}
 
 std::vector<RegFileEntry> entriesOf(const QByteArray& file)
 {
     RegFileReader reader(file);
+    const auto entries = entriesOf(reader);
     EXPECT_EQ(reader.error().toStdString(), "");
-    std::vector<RegFileEntry> entries;
-    RegFileEntry entry;
-    while (reader.readNext(entry))
-        entries.push_back(entry);
     return entries;
 }
 
@@ -273,6 +285,69 @@ INSTANTIATE_TEST_SUITE_P(RegFileReader, EncodedFile,
                                          "\xFE\xFF" + bigEndian(utf16Of(chinese)),
                                          "\n\n" + chinese.toUtf8()));
 
+// Gives a few bytes at a time, and fails behind the last one when it is told to.
+class Trickle : public QBuffer
+{
+public:
+    Trickle(const QByteArray& bytes, qint64 most, bool fails = false) : m_most(most), m_fails(fails)
+    {
+        setData(bytes);
+        open(ReadOnly | Unbuffered);
+    }
+
+    static qint64 s_largest; ///< request so far
+
+protected:
+    qint64 readData(char* data, qint64 room) override
+    {
+        s_largest = qMax(s_largest, room);
+        const qint64 size = QBuffer::readData(data, qMin(room, m_most));
+        if (size > 0 || !m_fails)
+            return size;
+        setErrorString("broken");
+        return -1;
+    }
+
+private:
+    qint64 m_most;
+    bool m_fails;
+};
+
+qint64 Trickle::s_largest = 0;
+
+TEST_P(EncodedFile, IsUnderstoodWhereverItIsDivided)
+{
+    for (qint64 most = 3; most < 8; ++most) {
+        RegFileReader reader(std::make_unique<Trickle>(GetParam(), most));
+        const auto entries = entriesOf(reader);
+        ASSERT_EQ(entries.size(), 1U);
+        EXPECT_EQ(entries[0].key, QString("HKEY_CURRENT_USER\\") + QChar(0x6E2F));
+    }
+}
+
+TEST(RegFileReader, SaysThatTheFileCannotBeReadToItsEnd)
+{
+    RegFileReader reader(std::make_unique<Trickle>(chinese.toUtf8(), 1000, true));
+    EXPECT_TRUE(entriesOf(reader).empty());
+    EXPECT_EQ(reader.error().toStdString(), "broken");
+}
+
+TEST(RegFileReader, TakesALargeFileInPiecesAndItsLinesOneByOne)
+{
+    constexpr int lines = 100000;
+    const QByteArray file = header + QByteArray("; a comment\n").repeated(lines) + "[K]\n";
+    Trickle::s_largest = 0;
+    RegFileReader reader(std::make_unique<Trickle>(file, file.size()));
+    RegFileEntry entry;
+    int steps = 0;
+    while (reader.next(entry) == Step::Nothing)
+        ++steps;
+    EXPECT_EQ(entry.key.toStdString(), "K");
+    EXPECT_GT(steps, lines);
+    EXPECT_LT(Trickle::s_largest, file.size());
+    EXPECT_LE(Trickle::s_largest, 1024 * 1024);
+}
+
 class RefusedFile : public testing::TestWithParam<QByteArray>
 {
 };
@@ -280,9 +355,10 @@ class RefusedFile : public testing::TestWithParam<QByteArray>
 TEST_P(RefusedFile, SaysWhyAndHoldsNoEntry)
 {
     RegFileReader reader(GetParam());
-    RegFileEntry entry;
+    EXPECT_TRUE(entriesOf(reader).empty());
     EXPECT_FALSE(reader.error().isEmpty());
-    EXPECT_FALSE(reader.readNext(entry));
+    RegFileEntry entry;
+    EXPECT_EQ(reader.next(entry), Step::End);
 }
 
 INSTANTIATE_TEST_SUITE_P(RegFileReader, RefusedFile,

@@ -116,8 +116,9 @@ TEST_P(TextBothWays, ComesBackUnchanged)
         w.text("name", text);
     }));
     RegFileEntry entry;
-    ASSERT_TRUE(reader.readNext(entry));
-    ASSERT_TRUE(reader.readNext(entry));
+    RegFileReader::Step step = reader.next(entry);
+    for (; step != RegFileReader::Step::End && entry.name.isEmpty(); step = reader.next(entry)) {
+    }
     EXPECT_EQ(entry.action, RegFileEntry::Action::SetValue);
     EXPECT_EQ(entry.type, REG_SZ);
     EXPECT_EQ(entry.text, text);

@@ -2,6 +2,7 @@
 #include "app/pages/registry/RegistryImport.h"
 #include "app/pages/registry/RegistryRemoval.h"
 #include "app/pages/registry/StoreHold.h"
+#include "app/regfile/RegFileDecoder.h"
 #include "app/regfile/RegFileText.h"
 #include "host/HostLibraries.h"
 #include "tests/app/registry/RegistryTest.h"
@@ -28,9 +29,10 @@ protected:
         EXPECT_TRUE(task.commit()) << task.error().toStdString();
         QFile input(file());
         EXPECT_TRUE(input.open(QIODevice::ReadOnly));
-        QString text;
-        EXPECT_TRUE(decodeRegFile(input.readAll(), text));
-        return text;
+        RegFileDecoder decoder;
+        decoder.add(input.readAll());
+        EXPECT_TRUE(decoder.isValid());
+        return decoder.takeText();
     }
 
     void importFile() const

@@ -91,6 +91,21 @@ TEST_F(RegistryTransferTest, AFileThatIsTooLargeIsNotRead)
     EXPECT_FALSE(QApplication::activeModalWidget());
 }
 
+TEST_F(RegistryTransferTest, ALargeFileIsReadInManyTurnsOfTheEventLoop)
+{
+    const QByteArray comment = "; a line that the reader skips, to the end of the last of them\r\n";
+    const QByteArray large = comment.repeated(30 * 1024 * 1024 / comment.size());
+    const QString path = written(header + large + "[HKEY_CURRENT_USER\\A]\r\n");
+    show();
+    m_page.transfer().importFile(path);
+    int turns = 0;
+    for (; m_page.isBusy(); ++turns)
+        QCoreApplication::processEvents();
+    EXPECT_GE(turns, 3);
+    EXPECT_TRUE(accept());
+    EXPECT_TRUE(holds("A"));
+}
+
 TEST_F(RegistryTransferTest, AFolderIsNoRegistryFile)
 {
     show();
