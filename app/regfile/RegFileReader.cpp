@@ -61,7 +61,7 @@ int closingBracket(const QString& line)
 
 QString withoutComment(const QString& rest)
 {
-    return rest.section(QLatin1Char(';'), 0, 0).trimmed();
+    return rest.left(rest.indexOf(QLatin1Char(';'))).trimmed();
 }
 
 } // namespace

@@ -1,6 +1,49 @@
 #include "app/regfile/RegFileText.h"
 
-#include <QVector>
+namespace {
+
+// -1 for what is no hexadecimal digit.
+int hexDigit(QChar c)
+{
+    const int lower = c.unicode() | 0x20;
+    if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
+        return c.unicode() - '0';
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+// One byte of a list, character by character: a list may have millions of them.
+class HexByte
+{
+public:
+    // False where `c` cannot belong to a byte, or makes it too long.
+    bool add(QChar c)
+    {
+        if (c.isSpace()) {
+            m_ended = m_digits > 0;
+            return true;
+        }
+        const int digit = hexDigit(c);
+        m_value = m_value * 16 + digit;
+        return digit >= 0 && !m_ended && ++m_digits <= 2;
+    }
+
+    // False where there is none.
+    bool moveTo(QByteArray& bytes)
+    {
+        if (m_digits == 0)
+            return false;
+        bytes.append(static_cast<char>(m_value));
+        *this = {};
+        return true;
+    }
+
+private:
+    int m_value = 0;
+    int m_digits = 0;
+    bool m_ended = false; // by a blank
+};
+
+} // namespace
 
 QString quoteRegText(const QString& text)
 {
@@ -30,17 +73,17 @@ bool parseHexBytes(const QString& list, QByteArray& bytes)
     bytes.clear();
     if (list.trimmed().isEmpty())
         return true;
-    const auto parts = list.splitRef(QLatin1Char(','));
-    bytes.reserve(parts.size());
-    for (const QStringRef& part : parts) {
-        const QStringRef digits = part.trimmed();
-        bool valid = false;
-        const unsigned int byte = digits.toUInt(&valid, 16);
-        if (!valid || digits.size() > 2 || !digits.at(0).isLetterOrNumber())
+    bytes.reserve(list.size() / 3 + 1);
+    HexByte byte;
+    for (const QChar c : list) {
+        if (c == QLatin1Char(',')) {
+            if (!byte.moveTo(bytes))
+                return false;
+        } else if (!byte.add(c)) {
             return false;
-        bytes.append(static_cast<char>(byte));
+        }
     }
-    return true;
+    return byte.moveTo(bytes);
 }
 
 QByteArray littleEndian(quint64 value, int size)

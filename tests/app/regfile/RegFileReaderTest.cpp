@@ -84,7 +84,8 @@ INSTANTIATE_TEST_SUITE_P(
                     DataRow{"\"v\"=hex(2):25,00", REG_EXPAND_SZ, "25 00"},
                     DataRow{"\"v\"=hex(7):61,00,00,00", REG_MULTI_SZ, "61 00 00 00"},
                     DataRow{"\"v\"=hex:01,\\\r\n  02,\\\r\n  03", REG_BINARY, "01 02 03"},
-                    DataRow{"  \"v\"  =  hex:01, 02", REG_BINARY, "01 02"}));
+                    DataRow{"  \"v\"  =  hex:01, 02", REG_BINARY, "01 02"},
+                    DataRow{"\"v\"=hex: \t0 ,1,a ,Fa,9 ; why", REG_BINARY, "00 01 0a fa 09"}));
 
 struct TextRow
 {
@@ -143,8 +144,11 @@ INSTANTIATE_TEST_SUITE_P(RegFileReader, MalformedLine,
                          testing::Values("garbage", "\"v\"", "\"v\" dword:1", "\"v=1",
                                          "\"v\"=dword:", "\"v\"=dword:123456789", "\"v\"=dword:-1",
                                          "\"v\"=dword:xyz", "\"v\"=hex:0g", "\"v\"=hex:001",
-                                         "\"v\"=hex:1,,2", "\"v\"=hex(zz):00", "\"v\"=hex 00",
-                                         "\"v\"=other:1", "\"v\"=\"text\" tail",
+                                         "\"v\"=hex:1,,2", "\"v\"=hex:,", "\"v\"=hex:1,",
+                                         "\"v\"=hex:0 1", "\"v\"=hex:0x", "\"v\"=hex:+1",
+                                         "\"v\"=hex:1,@", "\"v\"=hex:1,G", "\"v\"=hex:/,:",
+                                         "\"v\"=hex:\xC2\xA0\xEF\xBC\x91", "\"v\"=hex(zz):00",
+                                         "\"v\"=hex 00", "\"v\"=other:1", "\"v\"=\"text\" tail",
                                          "[HKEY_CURRENT_USER\\Open", "[]", "[K] tail"));
 
 struct SwallowingRow
