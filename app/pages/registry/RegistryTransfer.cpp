@@ -5,6 +5,7 @@
 #include "app/pages/registry/RegistryExport.h"
 #include "app/pages/registry/RegistryImport.h"
 #include "app/pages/registry/RegistryPath.h"
+#include "app/pages/registry/StoreFault.h"
 #include "app/pages/registry/StoreHold.h"
 
 #include <QFile>
@@ -141,8 +142,8 @@ void RegistryTransfer::apply(const QString& file, const std::shared_ptr<Registry
                                  ? tr("Imported %1. Statements carried out: %2. Refused: %3.")
                                  : tr("The import of %1 was cancelled. Statements carried out: %2. "
                                       "Refused: %3.");
-        m_page->report(good ? Page::Report::Info : Page::Report::Warning,
-                       text.arg(file, counted(import->applied()), counted(refused)));
+        reportChange(*m_page, good ? Page::Report::Info : Page::Report::Warning,
+                     text.arg(file, counted(import->applied()), counted(refused)));
     };
     m_page->startJob({tr("Importing"), [import, hold] { return import->apply(); },
                       [import] { return counted(import->applied()); }, finished});

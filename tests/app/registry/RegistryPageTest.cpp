@@ -61,6 +61,18 @@ TEST_F(RegistryPageTest, GoesToATypedPathUnderAnyRoot)
     EXPECT_EQ(status().toStdString(), "Values: 0. Sub-keys: 1.");
 }
 
+TEST_F(RegistryPageTest, GoesToAPathThatEndsWithABlank)
+{
+    store("trail /v", "1$1");
+    store("short/v", "1$1");
+    show();
+    enterAddress("HKEY_CURRENT_USER\\trail ");
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\trail ");
+    EXPECT_EQ(status().toStdString(), "Values: 1. Sub-keys: 0.");
+    enterAddress(" HKEY_CURRENT_USER\\short ");
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\short");
+}
+
 TEST_F(RegistryPageTest, GoesToATypedPathUnderAnAbbreviatedRoot)
 {
     store("A/B/v", "5$deep");

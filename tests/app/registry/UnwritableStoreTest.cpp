@@ -1,3 +1,4 @@
+#include "app/pages/registry/RegistryTransfer.h"
 #include "host/HostLibraries.h"
 #include "tests/app/registry/RegistryPageFixture.h"
 
@@ -6,6 +7,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
 
@@ -69,6 +71,20 @@ TEST_F(UnwritableStoreTest, IsToldWithEveryChange)
     pressDelete(tree());
     ASSERT_TRUE(accept());
     expectTold("Deleted the key HKEY_CURRENT_USER\\A\\K. ");
+}
+
+TEST_F(UnwritableStoreTest, IsToldAfterAnImport)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath("in.reg"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(
+        "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n\"v\"=dword:1\r\n");
+    file.close();
+    show();
+    m_page.transfer().importFile(file.fileName());
+    ASSERT_TRUE(accept());
+    expectTold("Imported " + file.fileName() + ". Statements carried out: 2. Refused: 0. ");
 }
 
 } // namespace
