@@ -2034,6 +2034,18 @@ Wide: %2</source>
         <source>No line contains “%1”.</source>
         <translation>没有包含“%1”的行。</translation>
     </message>
+    <message>
+        <source>Stopped before the file was read.</source>
+        <translation>已停止：文件尚未读取。</translation>
+    </message>
+    <message>
+        <source>Trying the change on a copy</source>
+        <translation>正在副本上试写</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>正在写入</translation>
+    </message>
 </context>
 <context>
     <name>RegFileReader</name>

@@ -15,6 +15,7 @@ QListWidget* lostLines(const ProfileDocument& document, ProfileFamily family)
 {
     auto* list = new QListWidget;
     list->setObjectName(QStringLiteral("lostLines"));
+    list->setUniformItemSizes(true); // a large file may have thousands
     list->setAccessibleName(LostLinesDialog::tr("Lines that would be lost"));
     for (const int number : document.lostLines(family)) {
         const ProfileDocument::Line& line = document.lines()[static_cast<std::size_t>(number) - 1];

@@ -1,31 +1,16 @@
 #include "app/pages/profiles/ProfileDocument.h"
 
-#include "app/pages/profiles/NarrowLines.h"
-#include "app/pages/profiles/WideLines.h"
-#include "platform/NarrowProfileFile.h"
-
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
 
 namespace {
 
-// Far above any profile. The services read the whole file with each call: larger ones would halt
-// the window again and again.
-constexpr qint64 largestFile = qint64{512} * 1024;
+// Far above any profile. The wide family writes the whole file in one call, which cannot be cut
+// into slices: more of it would hold the window up.
+constexpr qint64 largestFile = qint64{128} * 1024;
 
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// As the narrow family decodes it.
-QString textOf(const QString& path)
-{
-    NarrowProfileFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.text() : QString();
-}
+constexpr qint64 largeFile = qint64{16} * 1024;
 
 } // namespace
 
@@ -46,24 +31,15 @@ QString ProfileDocument::fault(const QString& path)
     return {};
 }
 
-QString ProfileDocument::load(const QString& path)
+QByteArray ProfileDocument::bytesOf(const QString& path)
 {
-    QString refused = fault(path);
-    if (!refused.isEmpty())
-        return refused;
-    const QFileInfo file(path);
-    m_path = file.absoluteFilePath();
-    m_exists = file.exists();
-    const QString text = textOf(m_path);
-    const std::vector<LineReading> narrow = NarrowLines(text).readings();
-    const std::vector<LineReading> wide = WideLines(bytesOf(m_path)).readings();
-    const QStringList texts = text.split(QLatin1Char('\n'));
-    m_lines.clear();
-    m_lines.reserve(narrow.size());
-    for (std::size_t i = 0; i < narrow.size(); ++i)
-        m_lines.push_back(
-            {texts.at(static_cast<int>(i)), narrow[i], i < wide.size() ? wide[i] : LineReading{}});
-    return {};
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+ProfileDocument::ProfileDocument(const QString& path)
+    : m_path(path), m_exists(QFileInfo::exists(path)), m_isLarge(QFileInfo(path).size() > largeFile)
+{
 }
 
 std::vector<ProfileDocument::Name> ProfileDocument::names() const

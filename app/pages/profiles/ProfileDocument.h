@@ -2,6 +2,7 @@
 
 #include "app/pages/profiles/LineReading.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -32,12 +33,17 @@ public:
     /// Why the path cannot be a profile, or an empty text.
     static QString fault(const QString& path);
 
-    /// Reads the file; a missing one has no lines. Returns why it cannot be read, or an empty text;
-    /// in the first case the document stays as it was.
-    QString load(const QString& path);
+    /// All that lies in the file; nothing where it cannot be read.
+    static QByteArray bytesOf(const QString& path);
+
+    ProfileDocument() = default;
+    /// A file that is there, or not, without its lines.
+    explicit ProfileDocument(const QString& path);
 
     const QString& path() const { return m_path; }
     bool exists() const { return m_exists; }
+    /// True where the services take milliseconds for one call.
+    bool isLarge() const { return m_isLarge; }
     std::vector<Line>& lines() { return m_lines; }
     const std::vector<Line>& lines() const { return m_lines; }
 
@@ -49,5 +55,6 @@ public:
 private:
     QString m_path;
     bool m_exists = false;
+    bool m_isLarge = false;
     std::vector<Line> m_lines;
 };

@@ -13,7 +13,7 @@ struct ProfileChange
     QString value;
 };
 
-/// Writes values through the profile service, after having tried on a copy what comes of it.
+/// Tells what stands against a change, and copies the file before it.
 class ProfileWriter
 {
     Q_DECLARE_TR_FUNCTIONS(ProfileWriter)
@@ -21,18 +21,16 @@ class ProfileWriter
 public:
     explicit ProfileWriter(const QString& file);
 
-    /// Why the change must not be made, or an empty text: a name is missing, the file cannot be
-    /// written, or the family would not read back what it wrote. The file is left alone.
+    /// Why the change must not be tried, or an empty text: a name is missing, or the file cannot be
+    /// written.
     QString fault(const ProfileChange& change) const;
+
+    /// Why it must not be made where a trial has shown that the family would not read it back.
+    static QString unreadable(ProfileFamily family);
 
     /// Copies the file beside itself under a name that is free; returns it. Empty where that fails.
     QString backUp() const;
 
-    /// Writes, and reads the file back; false when the family does not find the value in it.
-    bool write(const ProfileChange& change) const;
-
 private:
-    bool readsBack(const ProfileChange& change) const;
-
     QString m_file;
 };

@@ -11,6 +11,8 @@
 #include "app/pages/profiles/ProfileLinesModel.h"
 #include "app/pages/profiles/ProfileReader.h"
 #include "app/pages/profiles/ProfileReadingsModel.h"
+#include "app/pages/profiles/ProfileTrial.h"
+#include "app/pages/profiles/WideProfileHold.h"
 
 #include <QAction>
 #include <QDragEnterEvent>
@@ -76,6 +78,8 @@ ProfilesPage::ProfilesPage(QWidget* parent)
     setAcceptDrops(true);
     setFocusProxy(m_file);
 }
+
+ProfilesPage::~ProfilesPage() = default;
 
 QLayout* ProfilesPage::makeFileRow()
 {
@@ -218,37 +222,47 @@ void ProfilesPage::findNext()
     setStatus(tr("No line contains “%1”.").arg(text));
 }
 
-// Shows the file and asks both families for all that it names. Taking a large one apart fills a
-// slice of its own.
+// Shows the file and asks both families for all that it names.
 void ProfilesPage::read(const QString& path)
 {
-    startJob(
-        {tr("Reading through both families"),
-         [this, path, isLoaded = false]() mutable {
-             if (std::exchange(isLoaded, true))
-                 readStep();
-             else
-                 load(path);
-             return !m_names.empty();
-         },
-         [this] { return tr("%1 values").arg(QLocale().toString(m_readingsModel->rowCount())); },
-         [this](bool complete) { finish(complete); }});
+    m_loading = std::make_unique<ProfileLoading>(path);
+    startJob({tr("Reading through both families"), [this] { return readStep(); },
+              [this] { return progress(); }, [this](bool complete) { finish(complete); }});
 }
 
-void ProfilesPage::load(const QString& path)
+bool ProfilesPage::readStep()
 {
-    m_document.load(path);
-    m_file->setText(m_document.path());
-    m_linesModel->setDocument(&m_document);
+    if (m_loading)
+        loadStep();
+    else if (!m_hold)
+        m_hold = std::make_unique<WideProfileHold>(m_document.path());
+    else
+        readNext();
+    return m_loading || !m_names.empty();
+}
+
+// Each part of the work on a large file may fill a slice of its own.
+void ProfilesPage::loadStep()
+{
+    if (m_loading->document().isLarge())
+        endSlice();
+    if (!m_loading->step())
+        showDocument(*std::exchange(m_loading, nullptr));
+}
+
+void ProfilesPage::showDocument(ProfileLoading& loading)
+{
     m_readingsModel->clear();
-    m_names = m_document.names();
+    m_linesModel->setDocument(nullptr);
+    m_document = std::move(loading.document());
+    m_linesModel->setDocument(&m_document);
+    m_file->setText(m_document.path());
+    m_names = std::move(loading.names());
     std::reverse(m_names.begin(), m_names.end());
 }
 
-void ProfilesPage::readStep()
+void ProfilesPage::readNext()
 {
-    if (m_names.empty())
-        return;
     const ProfileDocument::Name name = m_names.back();
     m_names.pop_back();
     const ProfileReader reader(m_document.path());
@@ -259,8 +273,20 @@ void ProfilesPage::readStep()
     m_readingsModel->append({std::move(reading)});
 }
 
+QString ProfilesPage::progress() const
+{
+    return m_loading ? QString()
+                     : tr("%1 values").arg(QLocale().toString(m_readingsModel->rowCount()));
+}
+
 void ProfilesPage::finish(bool complete)
 {
+    m_hold.reset();
+    if (std::exchange(m_loading, nullptr)) {
+        m_file->setText(m_document.path());
+        report(Report::Warning, tr("Stopped before the file was read."));
+        return;
+    }
     if (!m_document.exists()) {
         report(Report::Warning, tr("There is no such file: both families read it as empty. Writing "
                                    "a value creates it."));
@@ -315,20 +341,40 @@ void ProfilesPage::write()
     }
     const ProfileChange change = m_panel->change();
     const QString refused = ProfileWriter(m_document.path()).fault(change);
-    if (!refused.isEmpty()) {
+    if (refused.isEmpty())
+        tryOut(change);
+    else
         report(Report::Error, refused);
+}
+
+void ProfilesPage::tryOut(const ProfileChange& change)
+{
+    const auto trial = std::make_shared<ProfileTrial>(m_document.path(), change);
+    const auto step = [this, trial] {
+        if (trial->document().isLarge())
+            endSlice();
+        return trial->step();
+    };
+    startJob({tr("Trying the change on a copy"), step, {}, [this, trial](bool complete) {
+                  if (complete)
+                      judge(*trial);
+                  else
+                      setStatus(tr("Nothing written."));
+              }});
+}
+
+void ProfilesPage::judge(const ProfileTrial& trial)
+{
+    const ProfileChange change = trial.change();
+    if (!trial.isReadBack()) {
+        report(Report::Error, ProfileWriter::unreadable(change.family));
         return;
     }
-    ProfileDocument now; // what is lost is what the file holds by now
-    now.load(m_document.path());
-    const QString changes = change.family == ProfileFamily::Narrow
-                                ? NarrowRewriting(m_document.path()).changes()
-                                : QString();
-    if (now.lostLines(change.family).empty() && changes.isEmpty()) {
+    if (trial.isHarmless()) {
         writeNow(change);
         return;
     }
-    auto* dialog = new LostLinesDialog(now, change.family, changes, this);
+    auto* dialog = new LostLinesDialog(trial.document(), change.family, trial.changes(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, change] { writeNow(change); });
     connect(dialog, &QDialog::rejected, this, [this] { setStatus(tr("Nothing written.")); });
@@ -337,16 +383,35 @@ void ProfilesPage::write()
 
 void ProfilesPage::writeNow(const ProfileChange& change)
 {
-    const ProfileWriter writer(m_document.path());
     QString backup;
     if (m_panel->keepsBackup() && QFile::exists(m_document.path())) {
-        backup = writer.backUp();
+        backup = ProfileWriter(m_document.path()).backUp();
         if (backup.isEmpty()) {
             report(Report::Error, tr("Nothing written: the backup copy could not be made."));
             return;
         }
     }
-    if (!writer.write(change)) {
+    const auto writing = std::make_shared<ProfileWriting>(m_document.path(), change);
+    const auto step = [this, writing] {
+        if (m_document.isLarge())
+            endSlice();
+        return writing->step();
+    };
+    startJob({tr("Writing"), step, {}, [this, writing, backup](bool complete) {
+                  finishWriting(*writing, backup, complete);
+              }});
+}
+
+// Cancelled, it may have written all the same.
+void ProfilesPage::finishWriting(const ProfileWriting& writing, const QString& backup,
+                                 bool complete)
+{
+    if (!complete && !writing.isWritten()) {
+        QFile::remove(backup);
+        setStatus(tr("Nothing written."));
+        return;
+    }
+    if (complete && !writing.isReadBack()) {
         report(Report::Error, tr("The value could not be written to %1.").arg(m_document.path()));
         return;
     }

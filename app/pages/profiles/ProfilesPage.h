@@ -4,14 +4,20 @@
 #include "app/pages/profiles/ProfileDocument.h"
 #include "app/pages/profiles/ProfileWriter.h"
 
+#include <memory>
+
 class EmptyHint;
 class ProfileEditPanel;
 class ProfileFindBar;
 class ProfileLinesModel;
+class ProfileLoading;
 class ProfileReadingsModel;
+class ProfileTrial;
+class ProfileWriting;
 class QLayout;
 class QLineEdit;
 class QTableView;
+class WideProfileHold;
 
 /// A profile (INI file): how each of the two families of calls reads its lines, and writing through
 /// either of them.
@@ -21,6 +27,7 @@ class ProfilesPage : public Page
 
 public:
     explicit ProfilesPage(QWidget* parent = nullptr);
+    ~ProfilesPage() override;
 
     /// Opens a file, or refuses it and keeps the one that is open.
     void open(const QString& path);
@@ -42,16 +49,24 @@ private:
     void findNext();
     void chooseFile();
     void read(const QString& path);
-    void load(const QString& path);
-    void readStep();
+    bool readStep();
+    void loadStep();
+    void showDocument(ProfileLoading& loading);
+    void readNext();
+    QString progress() const;
     void finish(bool complete);
     void showLine();
     void showReading();
     void write();
+    void tryOut(const ProfileChange& change);
+    void judge(const ProfileTrial& trial);
     void writeNow(const ProfileChange& change);
+    void finishWriting(const ProfileWriting& writing, const QString& backup, bool complete);
 
     QLineEdit* m_file;
     ProfileDocument m_document;
+    std::unique_ptr<ProfileLoading> m_loading; ///< while a file is taken apart
+    std::unique_ptr<WideProfileHold> m_hold;   ///< while the families are asked
     ProfileLinesModel* m_linesModel;
     ProfileReadingsModel* m_readingsModel;
     QTableView* m_lines;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -20,6 +22,15 @@ public:
     }
 
     QByteArray bytes() const { return bytesOf(path()); }
+
+    /// When it was written last.
+    QDateTime stamp() const { return QFileInfo(path()).lastModified(); }
+    void setStamp(const QDateTime& stamp) const
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(stamp, QFileDevice::FileModificationTime));
+    }
 
     static QByteArray bytesOf(const QString& path)
     {

@@ -1,6 +1,6 @@
 #include "app/pages/profiles/ProfileDocument.h"
 #include "app/pages/profiles/ProfileReader.h"
-#include "app/pages/profiles/ProfileWriter.h"
+#include "app/pages/profiles/ProfileWriting.h"
 #include "tests/app/pages/ProfileFixture.h"
 #include "tests/app/pages/WindowProbe.h"
 
@@ -59,6 +59,7 @@ protected:
         m_probe.type("value", value);
         m_probe.control<QComboBox>("family").setCurrentIndex(family);
         m_probe.click("write");
+        EXPECT_TRUE(m_probe.settle());
     }
     // The dialog that asks before lines are lost.
     static QDialog* question() { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
@@ -166,14 +167,13 @@ TEST_F(ProfilesPageTest, RefusesAFileInAMissingFolder)
 
 TEST_F(ProfilesPageTest, RefusesAFileThatIsTooLarge)
 {
-    constexpr int largest = 512 * 1024;
+    constexpr int largest = 128 * 1024;
     m_file.write(QByteArray(largest, '\n'));
-    m_probe.type("file", m_file.path());
-    EXPECT_EQ(ProfileDocument().load(m_file.path()), QString());
+    EXPECT_EQ(ProfileDocument::fault(m_file.path()), QString());
     m_file.write(QByteArray(largest + 1, '\n'));
     open();
     EXPECT_TRUE(
-        status().endsWith(QStringLiteral("is larger than 512 KiB, the most that is opened here.")));
+        status().endsWith(QStringLiteral("is larger than 128 KiB, the most that is opened here.")));
     EXPECT_EQ(model("lines").rowCount(), 0);
 }
 
@@ -353,9 +353,11 @@ TEST_F(ProfileInLockedFolderTest, TheWideFamilyWritesNothing)
     open();
     request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), wide);
     EXPECT_TRUE(status().endsWith(QStringLiteral("cannot be written."))) << status().toStdString();
-    EXPECT_FALSE(ProfileWriter(m_file.path())
-                     .write({ProfileFamily::Wide, QStringLiteral("Net"), QStringLiteral("Mask"),
-                             QStringLiteral("1")}));
+    ProfileWriting writing(m_file.path(), {ProfileFamily::Wide, QStringLiteral("Net"),
+                                           QStringLiteral("Mask"), QStringLiteral("1")});
+    while (writing.step())
+        ;
+    EXPECT_FALSE(writing.isReadBack());
     EXPECT_EQ(m_file.bytes(), "[Net]\nMask=255\n");
 }
 

@@ -5,6 +5,7 @@
 
 #include "app/pages/profiles/LostLinesDialog.h"
 #include "app/pages/profiles/NarrowRewriting.h"
+#include "app/pages/profiles/ProfileLoading.h"
 #include "app/pages/registry/ImportDialog.h"
 #include "app/pages/registry/NameDialog.h"
 #include "app/pages/registry/RegistryImport.h"
@@ -122,10 +123,11 @@ std::unique_ptr<QWidget> lostLines(const WindowProbe& probe)
 {
     const ProfileFixture file;
     file.write("; by hand\n[Net]\nHost\nQuery=a=b\n\n[App]\r\nx = 1\n");
-    ProfileDocument document;
-    document.load(file.path());
+    ProfileLoading loading(file.path());
+    while (loading.step())
+        ;
     const QString changes = NarrowRewriting(file.path()).changes();
-    return std::make_unique<LostLinesDialog>(document, Family, changes, &probe.page());
+    return std::make_unique<LostLinesDialog>(loading.document(), Family, changes, &probe.page());
 }
 
 const Scene scenes[] = {

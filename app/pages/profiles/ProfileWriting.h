@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/pages/profiles/ProfileWriter.h"
+
+#include <QTemporaryDir>
+
+#include <memory>
+
+class WideProfileHold;
+
+/// Writes a value through the profile service and reads it back, in steps of a few milliseconds
+/// each but for the call that writes.
+class ProfileWriting
+{
+public:
+    ProfileWriting(const QString& file, const ProfileChange& change);
+    ~ProfileWriting();
+
+    /// False when nothing was left to be done.
+    bool step();
+
+    /// True once the service says that it has written.
+    bool isWritten() const { return m_isWritten; }
+    /// True once the family has found the value in what lies on disk.
+    bool isReadBack() const { return m_isReadBack; }
+
+private:
+    bool isWide() const { return m_change.family == ProfileFamily::Wide; }
+    void open();
+    void takeApart() const;
+    void write();
+    void copy();
+    void read();
+    QString copiedFile() const;
+
+    QString m_file;
+    ProfileChange m_change;
+    QTemporaryDir m_folder;
+    std::unique_ptr<WideProfileHold> m_hold;
+    int m_stage = 0;
+    bool m_isWritten = false;
+    bool m_isCopied = false;
+    bool m_isReadBack = false;
+};
