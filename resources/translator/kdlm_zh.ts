@@ -1306,6 +1306,30 @@
         <source>An entry, but the family does not find it under its name.</source>
         <translation>是条目，但该接口按其名称找不到它。</translation>
     </message>
+    <message>
+        <source>cut at “;”</source>
+        <translation>在“;”处截断</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>escape</source>
+        <translation>转义</translation>
+    </message>
+    <message>
+        <source>A comma without quotes makes it a list, which reads as empty.</source>
+        <translation>未加引号的逗号使其成为列表，读取结果为空。</translation>
+    </message>
+    <message>
+        <source>It ends at the “;” without quotes.</source>
+        <translation>它在未加引号的“;”处结束。</translation>
+    </message>
+    <message>
+        <source>A backslash in it begins an escape.</source>
+        <translation>其中的反斜杠开始一个转义序列。</translation>
+    </message>
 </context>
 <context>
     <name>LogModel</name>

@@ -25,6 +25,11 @@ struct LineReading
     /// What to ask the family for; of entries only.
     QString section;
     QString key;
+    /// Why the value is not what stands behind the "="; of lines that are kept, and of the wide
+    /// family only.
+    bool isList = false;    ///< of more than one value, for a comma: reads as empty
+    bool isCut = false;     ///< ends before a semicolon
+    bool isEscaped = false; ///< holds a backslash, which begins an escape
 };
 
 /// True where the line is no longer in the file after the family has written to it. Blank lines,

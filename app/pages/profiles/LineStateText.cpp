@@ -9,8 +9,6 @@ class LineStateText
     Q_DECLARE_TR_FUNCTIONS(LineStateText)
 };
 
-} // namespace
-
 QString shortText(LineState state)
 {
     switch (state) {
@@ -30,7 +28,7 @@ QString shortText(LineState state)
     return {};
 }
 
-QString longText(LineState state, ProfileFamily family)
+QString sentence(LineState state, ProfileFamily family)
 {
     const bool narrow = family == ProfileFamily::Narrow;
     switch (state) {
@@ -59,4 +57,56 @@ QString longText(LineState state, ProfileFamily family)
         return LineStateText::tr("An entry, but the family does not find it under its name.");
     }
     return {};
+}
+
+// Of a kept line of which the family does not read all that stands there.
+QString cutText()
+{
+    return LineStateText::tr("cut at “;”");
+}
+
+QString listText()
+{
+    return LineStateText::tr("list");
+}
+
+QString escapeText()
+{
+    return LineStateText::tr("escape");
+}
+
+} // namespace
+
+QString shortText(const LineReading& reading)
+{
+    if (isLost(reading.state) || reading.state == LineState::NotFound)
+        return shortText(reading.state);
+    if (reading.isCut)
+        return cutText();
+    if (reading.isList)
+        return listText();
+    return reading.isEscaped ? escapeText() : shortText(reading.state);
+}
+
+QStringList shortTexts()
+{
+    QStringList texts = {cutText(), listText(), escapeText()};
+    for (int state = 0; state <= static_cast<int>(LineState::NotFound); ++state)
+        texts << shortText(static_cast<LineState>(state));
+    return texts;
+}
+
+QString longText(const LineReading& reading, ProfileFamily family)
+{
+    QStringList sentences = {sentence(reading.state, family)};
+    if (isLost(reading.state) || reading.state == LineState::NotFound)
+        return sentences.first();
+    if (reading.isList)
+        sentences << LineStateText::tr(
+            "A comma without quotes makes it a list, which reads as empty.");
+    if (reading.isCut)
+        sentences << LineStateText::tr("It ends at the “;” without quotes.");
+    if (reading.isEscaped)
+        sentences << LineStateText::tr("A backslash in it begins an escape.");
+    return sentences.join(QLatin1Char(' '));
 }

@@ -2,6 +2,7 @@
 
 #include "app/pages/Page.h"
 #include "app/pages/profiles/LineStateText.h"
+#include "app/pages/profiles/ProfileText.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -22,8 +23,8 @@ QListWidget* lostLines(const ProfileDocument& document, ProfileFamily family)
         const LineReading& reading = family == ProfileFamily::Narrow ? line.narrow : line.wide;
         auto* item = new QListWidgetItem(
             LostLinesDialog::tr("%1 (%2): %3")
-                .arg(QString::number(number), shortText(reading.state), line.text));
-        item->setToolTip(longText(reading.state, family));
+                .arg(QString::number(number), shortText(reading), shownText(line.text)));
+        item->setToolTip(longText(reading, family));
         list->addItem(item);
     }
     list->setCurrentRow(0);

@@ -1,6 +1,7 @@
 #include "app/pages/profiles/ProfileLinesModel.h"
 
 #include "app/pages/profiles/LineStateText.h"
+#include "app/pages/profiles/ProfileText.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -72,16 +73,16 @@ QString ProfileLinesModel::text(const ProfileDocument::Line& line, int row, int 
 {
     switch (column) {
     case NumberColumn: return QString::number(row + 1);
-    case NarrowColumn: return shortText(line.narrow.state);
-    case WideColumn: return shortText(line.wide.state);
-    default: return line.text;
+    case NarrowColumn: return shortText(line.narrow);
+    case WideColumn: return shortText(line.wide);
+    default: return shownText(line.text);
     }
 }
 
 QString ProfileLinesModel::toolTip(const ProfileDocument::Line& line, int column)
 {
-    QString narrow = longText(line.narrow.state, ProfileFamily::Narrow);
-    QString wide = longText(line.wide.state, ProfileFamily::Wide);
+    QString narrow = longText(line.narrow, ProfileFamily::Narrow);
+    QString wide = longText(line.wide, ProfileFamily::Wide);
     if (column == NarrowColumn)
         return narrow;
     if (column == WideColumn)

@@ -1,6 +1,7 @@
 #include "app/pages/profiles/ProfileReadingsModel.h"
 
 #include "app/pages/PlainToolTip.h"
+#include "app/pages/profiles/ProfileText.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -95,10 +96,10 @@ QString ProfileReadingsModel::text(const ProfileReading& reading, int column)
     if (!stand.isNull())
         return stand;
     switch (column) {
-    case SectionColumn: return reading.section;
-    case KeyColumn: return reading.key;
-    case WideColumn: return *reading.wide;
-    case NarrowColumn: return reading.narrow;
+    case SectionColumn: return shownText(reading.section);
+    case KeyColumn: return shownText(reading.key);
+    case WideColumn: return shownText(*reading.wide);
+    case NarrowColumn: return shownText(reading.narrow);
     default: return QString(reading.differs() ? QChar(u'≠') : QLatin1Char('='));
     }
 }

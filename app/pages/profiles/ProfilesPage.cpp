@@ -106,9 +106,9 @@ QTableView* ProfilesPage::makeLines()
     const QFontMetrics metrics = table->fontMetrics();
     const int gap = metrics.height();
     int margin = 0;
-    for (int state = 0; state <= static_cast<int>(LineState::NotFound); ++state)
-        margin =
-            std::max(margin, metrics.horizontalAdvance(shortText(static_cast<LineState>(state))));
+    const QStringList texts = shortTexts();
+    for (const QString& text : texts)
+        margin = std::max(margin, metrics.horizontalAdvance(text));
     QHeaderView* header = table->horizontalHeader();
     header->resizeSection(ProfileLinesModel::NumberColumn,
                           metrics.horizontalAdvance(QStringLiteral("99999")) + gap);
@@ -320,8 +320,8 @@ void ProfilesPage::showLine()
         }
     }
     setStatus(tr("Line %1. Narrow: %2 Wide: %3")
-                  .arg(QString::number(row + 1), longText(line.narrow.state, ProfileFamily::Narrow),
-                       longText(line.wide.state, ProfileFamily::Wide)));
+                  .arg(QString::number(row + 1), longText(line.narrow, ProfileFamily::Narrow),
+                       longText(line.wide, ProfileFamily::Wide)));
 }
 
 void ProfilesPage::showReading()

@@ -72,6 +72,8 @@ bool WideLines::next()
     }
     m_begin = m_position;
     m_equals = -1;
+    m_isList = false;
+    m_isEscaped = false;
     scan();
     return m_position > m_begin;
 }
@@ -81,6 +83,8 @@ void WideLines::skipComment()
     LineReading& reading = m_readings[lineOf(m_position)];
     if (reading.state == LineState::Blank)
         reading.state = LineState::Comment;
+    else
+        reading.isCut = true;
     while (m_position < m_bytes.size() && !isLineEnd(m_bytes.at(m_position)))
         ++m_position;
 }
@@ -96,14 +100,23 @@ void WideLines::scan()
             quoted = !quoted;
         else if (character == '=' && !quoted && m_equals < 0)
             m_equals = m_position;
-        else if (character == '\\') {
-            ++m_position; // whatever follows belongs to the line
-            const QByteArray pair = m_bytes.mid(m_position, 2);
-            if (pair == "\r\n" || pair == "\n\r")
-                ++m_position;
-        }
+        else if (character == ',' && !quoted && m_equals >= 0)
+            m_isList = true;
+        else if (character == '\\')
+            skipEscape();
     }
     m_position = std::min(m_position, m_bytes.size());
+}
+
+// Whatever follows a backslash belongs to the line, also a line end, which goes.
+void WideLines::skipEscape()
+{
+    ++m_position;
+    const QByteArray pair = m_bytes.mid(m_position, 2);
+    if (pair == "\r\n" || pair == "\n\r")
+        ++m_position;
+    if (m_equals >= 0 && !pair.isEmpty() && !isLineEnd(pair.at(0)))
+        m_isEscaped = true;
 }
 
 void WideLines::take()
@@ -142,7 +155,7 @@ void WideLines::takeEntry()
     if (earlier != m_names.end())
         m_readings[*earlier].state = LineState::ReplacedKey;
     m_names[name] = line;
-    m_readings[line] = {LineState::Entry, m_section, key};
+    m_readings[line] = {LineState::Entry, m_section, key, m_isList, false, m_isEscaped};
 }
 
 void WideLines::takeOther()

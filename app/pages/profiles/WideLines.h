@@ -23,6 +23,7 @@ private:
     bool next();
     void skipComment();
     void scan();
+    void skipEscape();
     void take();
     void takeHeader();
     void takeEntry();
@@ -36,6 +37,8 @@ private:
     int m_position = 0;
     int m_begin = 0;   ///< of the line being read
     int m_equals = -1; ///< its first unquoted "=", or -1
+    bool m_isList = false;
+    bool m_isEscaped = false;
     QString m_section;
     QHash<QString, std::size_t> m_names;
 };

@@ -118,6 +118,45 @@ TEST_F(ProfilesPageTest, ExplainsTheChosenLineAndChoosesItsReading)
     EXPECT_EQ(m_probe.text("key"), QStringLiteral("Query"));
 }
 
+TEST_F(ProfilesPageTest, TellsWhyAListReadsEmpty)
+{
+    m_file.write("[S]\nServers=alpha, beta\n");
+    open();
+    EXPECT_EQ(row("lines", 1), QStringList({"2", "kept", "list", "Servers=alpha, beta"}));
+    EXPECT_EQ(row("readings", 0), QStringList({"S", "Servers", "(empty)", "≠", "alpha, beta"}));
+    m_probe.control<QTableView>("lines").selectRow(1);
+    EXPECT_TRUE(status().endsWith(QStringLiteral(
+        "Wide: Kept: the family finds this entry. A comma without quotes makes it a list, which "
+        "reads as empty.")))
+        << status().toStdString();
+}
+
+TEST_F(ProfilesPageTest, TellsWhyAValueIsCut)
+{
+    m_file.write("[S]\nTail=1 ; why\n");
+    open();
+    EXPECT_EQ(row("lines", 1), QStringList({"2", "kept", "cut at “;”", "Tail=1 ; why"}));
+    EXPECT_EQ(row("readings", 0), QStringList({"S", "Tail", "1", "≠", "1 ; why"}));
+}
+
+TEST_F(ProfilesPageTest, ShowsWhatEscapesMakeOfAValue)
+{
+    m_file.write("[S]\nPath=C:\\new\\table\n");
+    open();
+    EXPECT_EQ(row("lines", 1), QStringList({"2", "kept", "escape", "Path=C:\\new\\table"}));
+    EXPECT_EQ(row("readings", 0), QStringList({"S", "Path", "C:↵ew⇥able", "≠", "C:\\new\\table"}));
+}
+
+TEST_F(ProfilesPageTest, ShortensWhatNoCellHasRoomFor)
+{
+    const QByteArray fits = QByteArray(496, 'x');
+    m_file.write("[S]\nfit=" + fits + "\nlong=" + QByteArray(100000, 'x') + "\n");
+    open();
+    EXPECT_EQ(row("lines", 1).last(), QLatin1String("fit=" + fits));
+    EXPECT_EQ(row("lines", 2).last(), QStringLiteral("long=") + QString(495, 'x') + "…");
+    EXPECT_EQ(row("readings", 1)[2], QString(500, 'x') + "…");
+}
+
 TEST_F(ProfilesPageTest, RefreshReadsTheFileAgain)
 {
     open();

@@ -88,6 +88,39 @@ std::vector<LineReading> readingsOf(const QByteArray& text)
     return WideLines(text).readings();
 }
 
+// What becomes of a value that is kept, one line each: list, cut, escaped.
+struct ValueRow
+{
+    const char* name;
+    QByteArray line;
+    std::string kinds;
+    std::string value;
+};
+
+void PrintTo(const ValueRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+const ValueRow valueRows[] = {
+    {"Plain", "k=a b", "", "a b"},
+    {"Comma", "k=alpha, beta", "list", ""},
+    {"CommaAtTheEnd", "k=a,", "list", ""},
+    {"CommaInQuotes", "k=\"a, b\"", "", "a, b"},
+    {"CommaBehindQuotes", "k=\"a\", b", "list", ""},
+    {"CommaInTheKey", "a,b=1", "", "1"},
+    {"Semicolon", "k=1 ; why", "cut", "1"},
+    {"SemicolonAlone", "k=1;", "cut", "1"},
+    {"SemicolonInQuotes", "k=\"1;2\"", "", "1;2"},
+    {"CommaInTheTail", "k=1 ; a, b\\", "cut", "1"},
+    {"CommaAndSemicolon", "k=a,b;c", "list cut", ""},
+    {"Backslash", "k=C:\\new\\table", "escape", "C:\new\table"},
+    {"TwoBackslashes", "k=C:\\\\dir", "escape", "C:\\dir"},
+    {"BackslashInQuotes", "k=\"a\\tb\"", "escape", "a\tb"},
+    {"BackslashBeforeAComma", "k=a\\,b", "escape", "ab"},
+    {"BackslashAtTheEnd", "k=a\\\nb", "", "ab"},
+};
+
 class WideLinesTest : public testing::TestWithParam<Row>
 {
 };
@@ -114,6 +147,34 @@ TEST_P(WideLinesTest, AgreesWithWhatTheServiceReads)
     }
     EXPECT_EQ(values, GetParam().values);
 }
+
+class WideValueTest : public testing::TestWithParam<ValueRow>
+{
+};
+
+TEST_P(WideValueTest, TellsWhatBecomesOfTheValue)
+{
+    const LineReading reading = readingsOf("[S]\n" + GetParam().line + "\n")[1];
+    EXPECT_EQ(reading.state, entry);
+    QStringList kinds;
+    kinds << (reading.isList ? QStringLiteral("list") : QString())
+          << (reading.isCut ? QStringLiteral("cut") : QString())
+          << (reading.isEscaped ? QStringLiteral("escape") : QString());
+    kinds.removeAll(QString());
+    EXPECT_EQ(kinds.join(QLatin1Char(' ')).toStdString(), GetParam().kinds);
+}
+
+TEST_P(WideValueTest, AgreesWithWhatTheServiceReads)
+{
+    const ProfileFixture file;
+    file.write("[S]\n" + GetParam().line + "\n");
+    const LineReading reading = readingsOf(file.bytes())[1];
+    const auto value = ProfileReader(file.path()).wide(reading.section, reading.key);
+    EXPECT_EQ(value.value_or(QStringLiteral("(not found)")).toStdString(), GetParam().value);
+}
+
+INSTANTIATE_TEST_SUITE_P(Values, WideValueTest, testing::ValuesIn(valueRows),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 INSTANTIATE_TEST_SUITE_P(Texts, WideLinesTest, testing::ValuesIn(rows),
                          [](const auto& row) { return std::string(row.param.name); });
