@@ -1472,10 +1472,6 @@
         <translation>窄字符接口会按排序重写整个文件，且只写入它保留的内容。以下各行将会丢失：</translation>
     </message>
     <message>
-        <source>The wide family writes the whole file anew, and only what it has kept. These lines would be lost:</source>
-        <translation>宽字符接口会重写整个文件，且只写入它保留的内容。以下各行将会丢失：</translation>
-    </message>
-    <message>
         <source>&amp;Write all the same</source>
         <translation>仍然写入(&amp;W)</translation>
     </message>
@@ -1486,6 +1482,10 @@
     <message>
         <source>The narrow family writes the whole file anew. No line that holds anything would be lost, but the file would not stay as it is:</source>
         <translation>窄字符接口会重写整个文件。不会丢失有内容的行，但文件不会保持原样：</translation>
+    </message>
+    <message>
+        <source>The wide family writes the whole file anew, and only what it has kept. These lines would be lost or cut short:</source>
+        <translation>宽字符接口会重写整个文件，且只写入它保留的内容。以下各行将会丢失或被截断：</translation>
     </message>
 </context>
 <context>

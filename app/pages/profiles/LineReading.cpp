@@ -12,3 +12,8 @@ bool isLost(LineState state)
     default: return false;
     }
 }
+
+bool isLost(const LineReading& reading)
+{
+    return isLost(reading.state) || reading.isCut;
+}

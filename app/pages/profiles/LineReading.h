@@ -35,3 +35,5 @@ struct LineReading
 /// True where the line is no longer in the file after the family has written to it. Blank lines,
 /// which go too, are not counted: they hold nothing.
 bool isLost(LineState state);
+/// True where that holds, or a part of the line goes.
+bool isLost(const LineReading& reading);

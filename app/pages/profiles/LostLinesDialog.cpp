@@ -78,6 +78,7 @@ void LostLinesDialog::addLines(QVBoxLayout* layout, const ProfileDocument& docum
             ? tr("The narrow family writes the whole file anew, sorted, and only what it has kept. "
                  "These lines would be lost:")
             : tr("The wide family writes the whole file anew, and only what it has kept. These "
-                 "lines would be lost:")));
+                 "lines "
+                 "would be lost or cut short:")));
     layout->addWidget(lostLines(document, family), 1);
 }

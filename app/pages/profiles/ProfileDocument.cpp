@@ -66,7 +66,7 @@ std::vector<int> ProfileDocument::lostLines(ProfileFamily family) const
     int number = 0;
     for (const Line& line : m_lines) {
         ++number;
-        if (isLost(family == ProfileFamily::Narrow ? line.narrow.state : line.wide.state))
+        if (isLost(family == ProfileFamily::Narrow ? line.narrow : line.wide))
             numbers.push_back(number);
     }
     return numbers;

@@ -49,7 +49,8 @@ public:
 
     /// What can be asked for, each name once, in the order of the file.
     std::vector<Name> names() const;
-    /// The numbers of the lines, from 1 on, that writing through a family loses.
+    /// The numbers of the lines, from 1 on, that writing through a family loses, or loses a part
+    /// of.
     std::vector<int> lostLines(ProfileFamily family) const;
 
 private:

@@ -259,6 +259,25 @@ TEST_F(ProfilesPageTest, AsksBeforeANarrowWriteLosesLines)
     EXPECT_EQ(files(), QStringList({"profile.ini"}));
 }
 
+TEST_F(ProfilesPageTest, AsksBeforeAWideWriteCutsATail)
+{
+    constexpr char tails[] = "[S] ; s\nTail=1 ; why\nW=a;b\nQ=\"a;b\"\nL=a, b\n";
+    m_file.write(tails);
+    open();
+    request(QStringLiteral("S"), QStringLiteral("x"), QStringLiteral("1"), wide);
+    ASSERT_NE(question(), nullptr);
+    const auto* list = question()->findChild<QListWidget*>(QStringLiteral("lostLines"));
+    ASSERT_EQ(list->count(), 3);
+    EXPECT_EQ(list->item(0)->text(), QStringLiteral("1 (cut at “;”): [S] ; s"));
+    EXPECT_EQ(list->item(1)->text(), QStringLiteral("2 (cut at “;”): Tail=1 ; why"));
+    EXPECT_EQ(list->item(2)->text(), QStringLiteral("3 (cut at “;”): W=a;b"));
+    question()->reject();
+    EXPECT_EQ(m_file.bytes(), tails);
+    request(QStringLiteral("S"), QStringLiteral("x"), QStringLiteral("1"), wide);
+    accept();
+    EXPECT_EQ(m_file.bytes(), "[S]\nL=a, b\nQ=\"a;b\"\nTail=1\nW=a\nx=1\n");
+}
+
 struct Rewriting
 {
     const char* name;
