@@ -74,13 +74,23 @@ void ProfileEditPanel::setReading(const ProfileReading& reading)
                                                               : reading.wide.value_or(QString()));
 }
 
-// Follows the family as long as the fields still hold the reading and not what the user typed.
+void ProfileEditPanel::updateReading(const ProfileReading& reading)
+{
+    if (isUntouched())
+        setReading(reading);
+}
+
+// The fields still hold the reading and not what the user typed.
+bool ProfileEditPanel::isUntouched() const
+{
+    return m_section->text() == m_reading.section && m_key->text() == m_reading.key &&
+           !m_value->isModified();
+}
+
+// Follows the family.
 void ProfileEditPanel::showValue()
 {
-    const bool untouched = m_section->text() == m_reading.section &&
-                           m_key->text() == m_reading.key && !m_value->isModified();
-    if (untouched)
-        setReading(m_reading);
+    updateReading(m_reading);
 }
 
 void ProfileEditPanel::editValue()

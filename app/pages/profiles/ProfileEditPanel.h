@@ -20,6 +20,8 @@ public:
 
     /// Shows a reading to be edited: the value as the chosen family reads it.
     void setReading(const ProfileReading& reading);
+    /// The same for a reading that was read again: what the user has typed stays.
+    void updateReading(const ProfileReading& reading);
     /// Puts the keyboard on the value.
     void editValue();
 
@@ -33,6 +35,7 @@ private:
     QLineEdit* addInput(QGridLayout* grid, int row, int column, int span, const QString& label,
                         const char* objectName);
     void addLastRow(QGridLayout* grid);
+    bool isUntouched() const;
     void showValue();
 
     QLineEdit* m_section;

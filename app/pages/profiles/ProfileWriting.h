@@ -16,6 +16,8 @@ public:
     ProfileWriting(const QString& file, const ProfileChange& change);
     ~ProfileWriting();
 
+    const ProfileChange& change() const { return m_change; }
+
     /// False when nothing was left to be done.
     bool step();
 

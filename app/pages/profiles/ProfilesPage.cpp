@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -24,6 +25,7 @@
 #include <QLocale>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -169,6 +171,10 @@ void ProfilesPage::open(const QString& path)
         return;
     }
     m_summary.clear();
+    m_keptName.reset();
+    m_keptLine = -1;
+    if (QFileInfo(path).absoluteFilePath() == m_document.path())
+        keepPlace();
     read(path);
 }
 
@@ -287,6 +293,7 @@ void ProfilesPage::finish(bool complete)
         report(Report::Warning, tr("Stopped before the file was read."));
         return;
     }
+    restorePlace(complete);
     if (!m_document.exists()) {
         report(Report::Warning, tr("There is no such file: both families read it as empty. Writing "
                                    "a value creates it."));
@@ -299,6 +306,43 @@ void ProfilesPage::finish(bool complete)
         report(Report::Warning, tr("Stopped. %1").arg(counts));
     else
         report(Report::Info, m_summary.isEmpty() ? counts : m_summary + QLatin1Char(' ') + counts);
+}
+
+int ProfilesPage::rowOf(const ProfileDocument::Name& name) const
+{
+    for (int row = 0; row < m_readingsModel->rowCount(); ++row) {
+        const ProfileReading& reading = m_readingsModel->reading(row);
+        if (reading.section == name.first && reading.key == name.second)
+            return row;
+    }
+    return -1;
+}
+
+void ProfilesPage::keepPlace()
+{
+    m_keptLine = m_lines->currentIndex().row();
+    if (m_keptLine >= 0)
+        m_keptText = m_document.lines()[static_cast<std::size_t>(m_keptLine)].text;
+    const int row = m_readings->currentIndex().row();
+    if (row < 0)
+        return;
+    const ProfileReading& reading = m_readingsModel->reading(row);
+    m_keptName.emplace(reading.section, reading.key);
+}
+
+// The fields let go of a reading that is there no more.
+void ProfilesPage::restorePlace(bool complete)
+{
+    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
+    const std::vector<ProfileDocument::Line>& lines = m_document.lines();
+    const auto line = static_cast<std::size_t>(m_keptLine);
+    if (m_keptLine >= 0 && line < lines.size() && lines[line].text == m_keptText)
+        m_lines->selectRow(m_keptLine);
+    const int row = m_keptName ? rowOf(*m_keptName) : -1;
+    if (row >= 0)
+        m_readings->selectRow(row);
+    else if (complete && !m_readings->currentIndex().isValid())
+        m_panel->updateReading({});
 }
 
 // The line in words, for those who see no tool tips, and the reading that it gives.
@@ -327,7 +371,11 @@ void ProfilesPage::showLine()
 void ProfilesPage::showReading()
 {
     const int row = m_readings->currentIndex().row();
-    if (row >= 0)
+    if (row < 0)
+        return;
+    if (m_isRestoring)
+        m_panel->updateReading(m_readingsModel->reading(row));
+    else
         m_panel->setReading(m_readingsModel->reading(row));
 }
 
@@ -415,6 +463,10 @@ void ProfilesPage::finishWriting(const ProfileWriting& writing, const QString& b
         report(Report::Error, tr("The value could not be written to %1.").arg(m_document.path()));
         return;
     }
+    const ProfileChange& change = writing.change();
+    keepPlace();
+    m_keptName.emplace(change.section, change.key);
+    m_panel->setReading({change.section, change.key, change.value, change.value});
     m_summary =
         backup.isEmpty() ? tr("Written.") : tr("Written; the backup copy is %1.").arg(backup);
     read(m_document.path());

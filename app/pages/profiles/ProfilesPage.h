@@ -5,6 +5,7 @@
 #include "app/pages/profiles/ProfileWriter.h"
 
 #include <memory>
+#include <optional>
 
 class EmptyHint;
 class ProfileEditPanel;
@@ -55,6 +56,9 @@ private:
     void readNext();
     QString progress() const;
     void finish(bool complete);
+    int rowOf(const ProfileDocument::Name& name) const;
+    void keepPlace();
+    void restorePlace(bool complete);
     void showLine();
     void showReading();
     void write();
@@ -73,6 +77,10 @@ private:
     QTableView* m_readings;
     ProfileEditPanel* m_panel;
     ProfileFindBar* m_find;
-    std::vector<ProfileDocument::Name> m_names; ///< still to be asked for, the next one last
-    QString m_summary;                          ///< reported with the readings, once they are there
+    std::vector<ProfileDocument::Name> m_names;      ///< still to be asked for, the next one last
+    std::optional<ProfileDocument::Name> m_keptName; ///< the reading to be chosen again
+    int m_keptLine = -1;                             ///< the line to be chosen again, or -1
+    QString m_keptText;                              ///< only if it still reads so
+    bool m_isRestoring = false;                      ///< while they are
+    QString m_summary; ///< reported with the readings, once they are there
 };

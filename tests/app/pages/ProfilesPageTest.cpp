@@ -12,6 +12,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
@@ -164,6 +165,67 @@ TEST_F(ProfilesPageTest, RefreshReadsTheFileAgain)
     m_probe.page().refresh();
     ASSERT_TRUE(m_probe.settle());
     EXPECT_EQ(row("readings", 0), QStringList({"Net", "Mask", "254", "=", "254"}));
+}
+
+TEST_F(ProfilesPageTest, RefreshKeepsTheChosenLineAndReading)
+{
+    open();
+    m_probe.control<QTableView>("lines").selectRow(3);
+    m_probe.control<QTableView>("readings").selectRow(2);
+    m_file.write("[New]\na=1\n[Net]\nQuery=a=b\nMask=254\n");
+    m_probe.page().refresh();
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_probe.control<QTableView>("lines").currentIndex().row(), 3);
+    EXPECT_EQ(m_probe.control<QTableView>("readings").currentIndex().row(), 2);
+    EXPECT_EQ(m_probe.text("key"), QStringLiteral("Mask"));
+    EXPECT_EQ(m_probe.text("value"), QStringLiteral("254"));
+    EXPECT_EQ(status(), QStringLiteral("3 values, 1 of them read differently."));
+}
+
+TEST_F(ProfilesPageTest, RefreshKeepsWhatIsBeingTyped)
+{
+    open();
+    m_probe.control<QTableView>("readings").selectRow(2);
+    m_probe.control<QLineEdit>("value").selectAll();
+    QTest::keyClicks(&m_probe.control<QLineEdit>("value"), QStringLiteral("7"));
+    m_probe.page().refresh();
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_probe.control<QTableView>("readings").currentIndex().row(), 2);
+    EXPECT_EQ(m_probe.text("value"), QStringLiteral("7"));
+}
+
+TEST_F(ProfilesPageTest, RefreshLetsGoOfAReadingThatIsGone)
+{
+    open();
+    m_probe.control<QTableView>("lines").selectRow(6);
+    m_file.write("[Other]\n\n\n\n\n\nk=v\n");
+    m_probe.page().refresh();
+    ASSERT_TRUE(m_probe.settle());
+    for (const char* view : {"lines", "readings"})
+        EXPECT_FALSE(m_probe.control<QTableView>(view).currentIndex().isValid()) << view;
+    for (const char* field : {"section", "key", "value"})
+        EXPECT_EQ(m_probe.text(field), QString()) << field;
+}
+
+TEST_F(ProfilesPageTest, AnotherFileLetsGoOfTheReading)
+{
+    open();
+    m_probe.control<QTableView>("readings").selectRow(2);
+    open(m_file.folder() + QStringLiteral("/new.ini"));
+    EXPECT_EQ(m_probe.text("section"), QString());
+}
+
+TEST_F(ProfilesPageTest, ChoosesWhatWasWritten)
+{
+    m_file.write("[Net]\nMask=255\n");
+    open();
+    m_probe.control<QTableView>("readings").selectRow(0);
+    request(QStringLiteral("Net"), QStringLiteral("Query"), QStringLiteral("a=b"), wide);
+    EXPECT_EQ(m_probe.control<QTableView>("readings").currentIndex().row(), 1);
+    EXPECT_EQ(row("readings", 1)[1], QStringLiteral("Query"));
+    EXPECT_EQ(m_probe.text("key"), QStringLiteral("Query"));
+    EXPECT_EQ(m_probe.text("value"), QStringLiteral("a=b"));
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Written;"))) << status().toStdString();
 }
 
 TEST_F(ProfilesPageTest, OpensADroppedFile)
