@@ -2070,6 +2070,10 @@ Wide: %2</source>
         <source>Writing</source>
         <translation>正在写入</translation>
     </message>
+    <message>
+        <source>The file has been changed meanwhile: the change is tried again.</source>
+        <translation>文件在此期间已被更改：正在重新试写。</translation>
+    </message>
 </context>
 <context>
     <name>RegFileReader</name>

@@ -21,6 +21,7 @@ public:
     bool isReadBack() const { return m_writing.isReadBack(); }
     /// The file as it was found.
     const ProfileDocument& document() const { return m_loading.document(); }
+    const QByteArray& bytes() const { return m_loading.bytes(); }
     /// See NarrowRewriting::changes; empty for the wide family.
     const QString& changes() const { return m_changes; }
     /// True where the file would lose nothing and not change otherwise.

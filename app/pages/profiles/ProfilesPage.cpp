@@ -418,15 +418,28 @@ void ProfilesPage::judge(const ProfileTrial& trial)
         report(Report::Error, ProfileWriter::unreadable(change.family));
         return;
     }
+    const QByteArray judged = trial.bytes();
     if (trial.isHarmless()) {
-        writeNow(change);
+        writeAsJudged(change, judged);
         return;
     }
     auto* dialog = new LostLinesDialog(trial.document(), change.family, trial.changes(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, change] { writeNow(change); });
+    connect(dialog, &QDialog::accepted, this,
+            [this, change, judged] { writeAsJudged(change, judged); });
     connect(dialog, &QDialog::rejected, this, [this] { setStatus(tr("Nothing written.")); });
     dialog->open();
+}
+
+// What was agreed to are the losses of the file as it was.
+void ProfilesPage::writeAsJudged(const ProfileChange& change, const QByteArray& judged)
+{
+    if (ProfileDocument::bytesOf(m_document.path()) == judged) {
+        writeNow(change);
+        return;
+    }
+    report(Report::Warning, tr("The file has been changed meanwhile: the change is tried again."));
+    tryOut(change);
 }
 
 void ProfilesPage::writeNow(const ProfileChange& change)

@@ -64,6 +64,7 @@ private:
     void write();
     void tryOut(const ProfileChange& change);
     void judge(const ProfileTrial& trial);
+    void writeAsJudged(const ProfileChange& change, const QByteArray& judged);
     void writeNow(const ProfileChange& change);
     void finishWriting(const ProfileWriting& writing, const QString& backup, bool complete);
 

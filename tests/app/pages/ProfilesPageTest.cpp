@@ -340,6 +340,35 @@ TEST_F(ProfilesPageTest, AsksBeforeAWideWriteCutsATail)
     EXPECT_EQ(m_file.bytes(), "[S]\nL=a, b\nQ=\"a;b\"\nTail=1\nW=a\nx=1\n");
 }
 
+TEST_F(ProfilesPageTest, AsksAgainWhereTheFileHasBeenChangedMeanwhile)
+{
+    constexpr char changed[] = "[Net]\nMask=255\nnew line\n";
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    m_file.write(changed);
+    accept();
+    ASSERT_NE(question(), nullptr);
+    EXPECT_TRUE(status().startsWith(QStringLiteral("The file has been changed meanwhile")));
+    EXPECT_EQ(m_file.bytes(), changed);
+    EXPECT_EQ(files(), QStringList({"profile.ini"}));
+    const auto* list = question()->findChild<QListWidget*>(QStringLiteral("lostLines"));
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_EQ(list->item(0)->text(), QStringLiteral("3 (no “=”): new line"));
+    accept();
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
+    EXPECT_EQ(ProfileFixture::bytesOf(m_file.path() + QStringLiteral(".bak")), changed);
+}
+
+TEST_F(ProfilesPageTest, DoesNotAskAgainWhereNothingIsLostAnyMore)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    m_file.write("[Net]\nMask=255\n");
+    accept();
+    EXPECT_EQ(question(), nullptr);
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
+}
+
 struct Rewriting
 {
     const char* name;
