@@ -413,12 +413,12 @@ void ProfilesPage::tryOut(const ProfileChange& change)
 
 void ProfilesPage::judge(const ProfileTrial& trial)
 {
-    const ProfileChange change = trial.change();
+    const ProfileChange& change = trial.change();
     if (!trial.isReadBack()) {
         report(Report::Error, ProfileWriter::unreadable(change.family));
         return;
     }
-    const QByteArray judged = trial.bytes();
+    const QByteArray& judged = trial.bytes();
     if (trial.isHarmless()) {
         writeAsJudged(change, judged);
         return;
