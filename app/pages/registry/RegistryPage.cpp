@@ -93,6 +93,12 @@ RegistryPage::RegistryPage(QWidget* parent)
         reportStore();
 }
 
+// The keyboard leaves the views when they are destroyed, which is after this part of the page.
+RegistryPage::~RegistryPage()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void RegistryPage::makeTree()
 {
     m_tree->setModel(m_keys);

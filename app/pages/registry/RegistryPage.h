@@ -23,6 +23,7 @@ class RegistryPage : public Page
 
 public:
     explicit RegistryPage(QWidget* parent = nullptr);
+    ~RegistryPage() override;
 
     void refresh() override;
     void find() override;
