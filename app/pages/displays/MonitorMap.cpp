@@ -195,13 +195,14 @@ void MonitorMap::paintCaption(QPainter& painter, const Monitor& monitor) const
     painter.setPen(palette().color(QPalette::Text));
     const double gap = fontMetrics().height() / 2.0;
     const QRectF room = mapped(monitor.work).adjusted(gap, gap, -gap, -gap);
-    for (const QString& caption : captions(monitor)) {
+    const QStringList list = captions(monitor);
+    for (const QString& caption : list) {
         if (room.contains(painter.boundingRect(room, captionAlignment, caption))) {
             painter.drawText(room, captionAlignment, caption);
             return;
         }
     }
-    painter.drawText(mapped(monitor.work), Qt::AlignCenter, captions(monitor).last());
+    painter.drawText(mapped(monitor.work), Qt::AlignCenter, list.last());
 }
 
 // From the longest to the shortest.
