@@ -161,7 +161,7 @@ TEST_F(CancelledJobs, ADeletionLeavesTheRestAndShowsIt)
 
 TEST_F(CancelledJobs, CountingWhatGoesWithAKeyDeletesNothing)
 {
-    constexpr int more = 4 * many; // listing them takes longer than the first slice
+    constexpr int more = 2 * many; // listing them takes longer than the first slice
     fill(more);
     const WindowProbe probe("registry");
     openKey(probe);

@@ -259,7 +259,7 @@ TEST_F(LogPageTest, LeavesTheTargetAloneWhenSavingIsCancelled)
     QFile log(ApplicationLog::path());
     const qint64 size = log.size();
     ASSERT_TRUE(log.open(QIODevice::Append));
-    log.write(info.repeated(300000)); // far more than one slice saves
+    log.write(info.repeated(100000)); // far more than one slice saves
     log.close();
     m_page.refresh();
     ASSERT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }, 60000));

@@ -58,7 +58,8 @@ WindowProbe::WindowProbe(const char* page, Language language) : m_translator(ins
     m_window.resize(800, 600);
     m_window.show();
     QApplication::setActiveWindow(&m_window);
-    if (!QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }))
+    // A large store that a test has filled saves itself first.
+    if (!QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }, 60000))
         qFatal("the page is not built");
 }
 

@@ -13,6 +13,12 @@
 #include <QTest>
 #include <QTreeView>
 
+namespace {
+
+constexpr int longestWait = 30000; // milliseconds: for emulated and watched machines
+
+} // namespace
+
 void RegistryPageFixture::show()
 {
     m_page.resize(700, 500);
@@ -63,8 +69,13 @@ void RegistryPageFixture::chooseExport()
 
 QDialog& RegistryPageFixture::dialog()
 {
-    auto* open = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!open)
+    // A job that finds out what to ask comes before some dialogs.
+    QDialog* open = nullptr;
+    const auto isOpen = [&open] {
+        open = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        return open != nullptr;
+    };
+    if (!QTest::qWaitFor(isOpen, longestWait))
         qFatal("no dialog is open");
     return *open;
 }
@@ -78,7 +89,7 @@ void RegistryPageFixture::type(const QString& name, const QString& data)
         edit->setPlainText(data);
 }
 
-bool RegistryPageFixture::accept()
+bool RegistryPageFixture::accept() const
 {
     for (QPushButton* button : dialog().findChildren<QPushButton*>()) {
         auto* box = dialog().findChild<QDialogButtonBox*>();
@@ -88,7 +99,7 @@ bool RegistryPageFixture::accept()
         const bool enabled = button->isEnabled();
         if (enabled)
             button->click();
-        return enabled;
+        return enabled && QTest::qWaitFor([this] { return !m_page.isBusy(); }, longestWait);
     }
     return false;
 }

@@ -33,11 +33,12 @@ protected:
     void chooseNew(NewEntry entry);
     /// Chooses "Export key..." in the tree's menu.
     void chooseExport();
-    /// The dialog that is open.
+    /// The dialog that is open, or opens soon.
     static QDialog& dialog();
     static void type(const QString& name, const QString& data);
-    /// Presses the dialog's button for Enter; false when it is off.
-    static bool accept();
+    /// Presses the dialog's button for Enter, and waits for the job that follows; false when the
+    /// button is off.
+    bool accept() const;
     static void reject();
     /// All words in the dialog that is open.
     static QString words();
