@@ -224,8 +224,7 @@ void RegistryPage::connectParts()
             [this](const QString& why) { report(Report::Error, why); });
     connect(m_find, &FindPane::chosen, this, &RegistryPage::goTo);
     connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
-    connect(m_opening, &SlicedJob::finished, this, &RegistryPage::refreshEntered,
-            Qt::QueuedConnection);
+    connect(m_opening, &SlicedJob::finished, this, &RegistryPage::refreshEntered);
 }
 
 QString RegistryPage::path() const
