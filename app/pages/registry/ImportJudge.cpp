@@ -8,17 +8,6 @@
 
 using Action = RegFileEntry::Action;
 
-namespace {
-
-// A value's name as the store takes it.
-QString slashed(QString name)
-{
-    const QLatin1Char slash('/');
-    return name.replace(QLatin1Char('\\'), slash).split(slash, Qt::SkipEmptyParts).join(slash);
-}
-
-} // namespace
-
 ImportJudge::ImportJudge(const RegFileEntry& entry) : m_entry(entry)
 {
     if (entry.action == Action::Malformed)
@@ -86,7 +75,7 @@ void ImportJudge::judgeName()
     if (m_entry.name.isEmpty())
         return refuse(tr("The default value, which has no name, cannot be stored."));
     const bool deletes = m_entry.action == Action::DeleteValue;
-    const QString name = slashed(m_entry.name);
+    const QString name = RegistryPath::slashed(m_entry.name);
     if (name.isEmpty())
         return refuse(tr("A name of separators alone names no value."));
     if (m_entry.name.contains(QLatin1Char('\\')) || m_entry.name.contains(QLatin1Char('/')))

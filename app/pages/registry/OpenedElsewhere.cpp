@@ -3,7 +3,6 @@
 #include "app/pages/registry/RegistryPath.h"
 
 #include <QCoreApplication>
-#include <QStringList>
 
 namespace {
 
@@ -29,11 +28,7 @@ bool isOpenedElsewhere(const QString& path)
 
 QString openedPath(const QString& path)
 {
-    if (!isOpenedElsewhere(path))
-        return path;
-    QString slashed = path;
-    slashed.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    return slashed.split(QLatin1Char('/'), Qt::SkipEmptyParts).join(QLatin1Char('/'));
+    return isOpenedElsewhere(path) ? RegistryPath::slashed(path) : path;
 }
 
 QString keyOpenedElsewhere(const QString& path)

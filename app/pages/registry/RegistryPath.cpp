@@ -26,11 +26,15 @@ QString RegistryPath::shown(const QString& path)
     return text.isEmpty() ? root : root + QLatin1Char('\\') + text;
 }
 
+QString RegistryPath::slashed(QString text)
+{
+    const QLatin1Char slash('/');
+    return text.replace(QLatin1Char('\\'), slash).split(slash, Qt::SkipEmptyParts).join(slash);
+}
+
 bool RegistryPath::parse(const QString& text, QString& path)
 {
-    QString slashed = text;
-    slashed.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    QStringList levels = slashed.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    QStringList levels = slashed(text).split(QLatin1Char('/'), Qt::SkipEmptyParts);
     if (!levels.isEmpty() &&
         levels.first().startsWith(QLatin1String("HKEY_"), Qt::CaseInsensitive)) {
         if (!isRoot(levels.first()))

@@ -9,6 +9,9 @@ namespace RegistryPath {
 /// HKEY_CURRENT_USER\Vendor\Product for Vendor/Product.
 QString shown(const QString& path);
 
+/// A name or a path as the store takes it: "\" separates as "/" does, and no level is empty.
+QString slashed(QString text);
+
 /// Reads what `shown` or a registry file writes: the name of any of the four roots, in any case of
 /// letters, then levels. A path without a root is taken to be below one. Names may begin and end
 /// with blanks: what a user has typed is to be tried without those around it too. False when the
