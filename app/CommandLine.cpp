@@ -1,7 +1,7 @@
 #include "app/CommandLine.h"
 
+#include "app/ServicesObject.h"
 #include "host/HostLibraries.h"
-#include "platform/PlatformServicesImp.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -55,7 +55,7 @@ void install(QTranslator& translator, const QString& path)
 void parseCommandLine(int argc, char** argv, QTranslator& appTranslator, QTranslator& qtTranslator)
 {
     const QString language = optionValue(argc, argv, "/language");
-    setPlatformServices(&g_PlatformServices);
+    setPlatformServices(servicesObject());
     const int identifier = configuredLanguage(language);
     if (identifier != simplifiedChinese && language != QLatin1String("zh-CN"))
         return;

@@ -1,5 +1,5 @@
 #include "app/CommandLine.h"
-#include "app/MainWindow.h"
+#include "window/MainWindow.h"
 
 #include <QApplication>
 #include <QDesktopWidget>

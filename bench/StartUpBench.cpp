@@ -2,8 +2,8 @@
 // fresh process, in turns.
 
 #include "app/CommandLine.h"
-#include "app/MainWindow.h"
 #include "tests/support/Display.h"
+#include "window/MainWindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

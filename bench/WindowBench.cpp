@@ -4,11 +4,11 @@
 
 #include "bench/Ratio.h"
 
-#include "app/pages/files/FilesPage.h"
-#include "app/pages/registry/RegistryPage.h"
-#include "app/pages/registry/RegistrySearch.h"
-#include "app/pages/registry/StoreOpening.h"
 #include "host/HostLibraries.h"
+#include "inspection/registry/RegistrySearch.h"
+#include "inspection/registry/StoreOpening.h"
+#include "pages/files/FilesPage.h"
+#include "pages/registry/RegistryPage.h"
 #include "platform/PlatformServicesImp.h"
 
 #include <QApplication>

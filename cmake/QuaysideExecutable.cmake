@@ -5,7 +5,8 @@
 # first by their priorities, then the stream initialisers of the libraries, then the Base64 alphabet
 # (the last object of the crypto library), then the compiled-in resources. Linking them whole also
 # keeps what nothing references from inside, such as the exported decryption entry.
-set(quayside_archives platform widgets support app crypto resources)
+set(quayside_archives
+  platform widgets support app regfile inspection window pages crypto resources)
 
 add_executable(quayside ${PROJECT_SOURCE_DIR}/app/main.cpp)
 quayside_configure(quayside)
@@ -27,6 +28,8 @@ endforeach()
 target_link_libraries(quayside PRIVATE
   -Wl,--whole-archive ${whole_archives} -Wl,--no-whole-archive
   quayside_host_in_use Qt5::Widgets ${CMAKE_DL_LIBS})
+target_include_directories(quayside PRIVATE
+  $<TARGET_PROPERTY:quayside_pages,INTERFACE_INCLUDE_DIRECTORIES>)
 set_target_properties(quayside PROPERTIES LINK_DEPENDS
   "${PROJECT_SOURCE_DIR}/cmake/exports.list;${PROJECT_SOURCE_DIR}/cmake/exports.map")
 

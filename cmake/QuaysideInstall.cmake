@@ -5,8 +5,8 @@ include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Quayside)
 install(TARGETS quayside RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS
-    quayside_support quayside_platform quayside_crypto quayside_widgets
-    quayside_resources quayside_app
+    quayside_support quayside_platform quayside_crypto quayside_widgets quayside_resources
+    quayside_app quayside_regfile quayside_inspection quayside_window quayside_pages
   EXPORT QuaysideTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
@@ -14,10 +14,22 @@ install(TARGETS
 if(NOT QUAYSIDE_HOST_LIBRARIES)
   install(TARGETS quayside_host EXPORT QuaysideTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 endif()
-foreach(folder app crypto host platform widgets)
-  install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder}
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/quayside
-    FILES_MATCHING PATTERN "*.h")
+# The headers that others compile against; all others may change from one version to the next.
+set(public_headers
+  app/CStdStr.h app/CommandLine.h app/Logger.h app/TextTime.h
+  crypto/AesEncrypt.h crypto/Base64Encoder.h crypto/Encrypt.h crypto/MD5.h crypto/Sha256.h
+  host/HostLibraries.h
+  platform/IPlatformServices.h platform/PlatformCursorManagerImp.h
+  platform/PlatformDirectoryManagerImp.h platform/PlatformFontManagerImp.h
+  platform/PlatformMessageManagerImp.h platform/PlatformProfileManagerImp.h
+  platform/PlatformRegisterManagerImp.h platform/PlatformResourceManagerImp.h
+  platform/PlatformServicesImp.h platform/PlatformUserInputManagerImp.h platform/WindowsTypes.h
+  widgets/ButtonMonitor.h widgets/QAnimationStackedWidget.h widgets/QProgressIndicator.h
+  window/MainWindow.h)
+foreach(header IN LISTS public_headers)
+  get_filename_component(folder ${header} DIRECTORY)
+  install(FILES ${PROJECT_SOURCE_DIR}/${header}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/quayside/${folder})
 endforeach()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/run/translations
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quayside)

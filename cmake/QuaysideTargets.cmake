@@ -25,11 +25,24 @@ else()
     $<${delivered}:-Wl,-z,relro -Wl,-z,now>)
 endif()
 
+# A floor is a folder whose code may use what stands below it and nothing else. So the root of the
+# sources is on nobody's include path: each floor has an include folder of its own, which holds links
+# to its headers alone, and a target gets those of the libraries that it links.
+set(QUAYSIDE_FLOORS ${PROJECT_BINARY_DIR}/floors)
+
+# quayside_floor(<name> <folder or header>...): the include folder of a floor.
+function(quayside_floor name)
+  foreach(path IN LISTS ARGN)
+    get_filename_component(parent ${QUAYSIDE_FLOORS}/${name}/${path} DIRECTORY)
+    file(MAKE_DIRECTORY ${parent})
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${path} ${QUAYSIDE_FLOORS}/${name}/${path} SYMBOLIC)
+  endforeach()
+endfunction()
+
 # quayside_configure(<target>): the common properties of a library or program.
 function(quayside_configure target)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:quayside_flags>)
   target_include_directories(${target} PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/quayside>)
   set_target_properties(${target} PROPERTIES
     CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
@@ -37,11 +50,14 @@ function(quayside_configure target)
     POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
-# quayside_library(<name> <sources>...): the static library quayside_<name>, alias Quayside::<name>.
+# quayside_library(<name> <sources>...): the static library quayside_<name>, alias Quayside::<name>,
+# on the floor of the same name.
 function(quayside_library name)
   add_library(quayside_${name} STATIC ${ARGN})
   add_library(Quayside::${name} ALIAS quayside_${name})
   quayside_configure(quayside_${name})
+  target_include_directories(quayside_${name} PUBLIC
+    $<BUILD_INTERFACE:${QUAYSIDE_FLOORS}/${name}>)
   target_compile_features(quayside_${name} PUBLIC cxx_std_17)
   set_target_properties(quayside_${name} PROPERTIES EXPORT_NAME ${name})
 endfunction()

@@ -6,8 +6,8 @@
 
 #include "crypto/AesEncrypt.h"
 
-#include "crypto/RijndaelBitExtraction.h"
-#include "crypto/RijndaelModes.h"
+#include "crypto/rijndael/RijndaelBitExtraction.h"
+#include "crypto/rijndael/RijndaelModes.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "crypto/Base64Encoder.h"
 
-#include "crypto/Base64Tables.h"
+#include "crypto/base64/Base64Tables.h"
 
 #include <cstdint>
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "crypto/MD5.h"
 
-#include "crypto/MD5Compression.h"
+#include "crypto/md5/MD5Compression.h"
 
 #include <algorithm>
 #include <array>

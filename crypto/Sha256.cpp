@@ -1,7 +1,7 @@
 #include "crypto/Sha256.h"
 
-#include "crypto/Sha256Compression.h"
-#include "crypto/Sha256Constants.h"
+#include "crypto/sha256/Sha256Compression.h"
+#include "crypto/sha256/Sha256Constants.h"
 
 #include <algorithm>
 #include <array>

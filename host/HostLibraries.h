@@ -1,9 +1,10 @@
 #pragma once
 
-#include "platform/WindowsTypes.h"
-
 class IPlatformServices;
 class QSettings;
+
+/// A module's handle; the same type as in the Windows types of the services.
+using HINSTANCE = void*;
 
 /// What the closed host libraries supply. Everything here is declared, never defined, by Quayside's
 /// own libraries: the executable links it from the maker's libraries or from the stand-in.

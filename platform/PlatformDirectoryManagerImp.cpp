@@ -1,7 +1,7 @@
 #include "platform/PlatformDirectoryManagerImp.h"
 
-#include "platform/DirectoryListing.h"
-#include "platform/UrlPattern.h"
+#include "platform/files/DirectoryListing.h"
+#include "platform/files/UrlPattern.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "platform/PlatformProfileManagerImp.h"
 
-#include "platform/NarrowProfile.h"
-#include "platform/NarrowProfileFile.h"
+#include "platform/profiles/NarrowProfile.h"
+#include "platform/profiles/NarrowProfileFile.h"
 
 #include <QSettings>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/GraphicsObjectTable.h"
 #include "platform/IPlatformServices.h"
+#include "platform/graphics/GraphicsObjectTable.h"
 
 #include <map>
 

@@ -1,5 +1,6 @@
 #include "platform/PlatformServicesImp.h"
 
+#include "app/ServicesObject.h"
 #include "platform/PlatformCursorManagerImp.h"
 #include "platform/PlatformDirectoryManagerImp.h"
 #include "platform/PlatformFontManagerImp.h"
@@ -13,6 +14,11 @@
 
 // First of all static objects: anything that hands the services over may run before main.
 [[gnu::init_priority(201)]] PlatformServicesImp g_PlatformServices;
+
+IPlatformServices* servicesObject()
+{
+    return &g_PlatformServices;
+}
 
 namespace {
 

@@ -3,8 +3,8 @@
 # saves gallery.png, with a page that arrives from the right and a glowing button, and
 # gallery-back.png, with a page that arrives from the left and a disabled button that keeps its glow.
 set -euo pipefail
-# shellcheck source=tests/support/virtual-display.sh
-. "$(dirname "${BASH_SOURCE[0]}")/../../tests/support/virtual-display.sh"
+# shellcheck source=tools/virtual-display.sh
+. "$(dirname "${BASH_SOURCE[0]}")/../../tools/virtual-display.sh"
 build=$1
 folder=$2
 

@@ -95,6 +95,13 @@
     </message>
 </context>
 <context>
+    <name>ChangeReport</name>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
+    </message>
+</context>
+<context>
     <name>CipherPanel</name>
     <message>
         <source>Clear te&amp;xt</source>
@@ -966,7 +973,7 @@
     </message>
 </context>
 <context>
-    <name>ImportJudge</name>
+    <name>ImportCheck</name>
     <message>
         <source>&quot;%1&quot; is not one of the root keys.</source>
         <translation>“%1”不是根项。</translation>
@@ -1614,7 +1621,7 @@
     </message>
 </context>
 <context>
-    <name>OpenedElsewhere</name>
+    <name>RedirectedName</name>
     <message>
         <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
         <translation>名称中含有“\”：主机库打开此项时，得到的是 %2 中的项“%1”。</translation>
@@ -2596,10 +2603,6 @@ Wide: %2</source>
     <message>
         <source>The store %1 cannot be written: changes last until the program ends.</source>
         <translation>无法写入存储 %1：更改只保留到程序结束。</translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1%2</translation>
     </message>
 </context>
 <context>

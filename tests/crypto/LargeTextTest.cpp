@@ -7,7 +7,7 @@
 #include "crypto/Sha256.h"
 #include "tests/crypto/Bytes.h"
 #include "tests/crypto/Digests.h"
-#include "tests/crypto/Md5BlockPeer.h"
+#include "tests/crypto/md5/Md5BlockPeer.h"
 
 #include <gtest/gtest.h>
 

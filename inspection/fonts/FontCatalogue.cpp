@@ -1,0 +1,76 @@
+#include "inspection/fonts/FontCatalogue.h"
+
+#include "platform/PlatformServicesImp.h"
+
+#include <algorithm>
+#include <cwchar>
+
+namespace {
+
+template <std::size_t size>
+QString fromField(const wchar_t (&field)[size])
+{
+    return QString::fromWCharArray(field,
+                                   static_cast<int>(std::find(field, field + size, L'\0') - field));
+}
+
+// Cut where it does not fit; always terminated.
+template <std::size_t size>
+void toField(wchar_t (&field)[size], const QString& text)
+{
+    std::wcsncpy(field, text.toStdWString().c_str(), size - 1);
+    field[size - 1] = L'\0';
+}
+
+CStdStr<wchar_t> wide(const QString& text)
+{
+    return text.toStdWString().c_str();
+}
+
+// The enumeration procedure; `vector` is what it appends to. 0 asks for the next record.
+int append(const tagLOGFONTW* font, const tagTEXTMETRICW* /*metrics*/, unsigned int /*type*/,
+           long vector)
+{
+    const auto* record = reinterpret_cast<const ENUMLOGFONTEXW*>(font);
+    auto* records = reinterpret_cast<std::vector<RegisteredFont>*>(vector);
+    records->push_back({fromField(font->lfFaceName), fromField(record->elfFullName),
+                        fromField(record->elfStyle), fromField(record->elfScript), font->lfCharSet,
+                        font->lfWeight, font->lfItalic != 0});
+    return 0;
+}
+
+} // namespace
+
+std::vector<RegisteredFont> FontCatalogue::records(const QString& face, BYTE charSet)
+{
+    LOGFONTW filter{};
+    toField(filter.lfFaceName, face);
+    filter.lfCharSet = charSet;
+    std::vector<RegisteredFont> records;
+    g_PlatformServices.fontManager()->enumFontFamiliesEx(nullptr, &filter, &append,
+                                                         reinterpret_cast<long>(&records), 0);
+    return records;
+}
+
+QString FontCatalogue::globalName(const QString& localName)
+{
+    return QString::fromStdWString(
+        g_PlatformServices.fontManager()->getGlobalNameByLocalName(wide(localName)));
+}
+
+void FontCatalogue::add(const QString& globalName, const RegisteredFont& font)
+{
+    ENUMLOGFONTEXW record{};
+    record.elfLogFont.lfWeight = font.weight;
+    record.elfLogFont.lfItalic = font.italic ? 1 : 0;
+    record.elfLogFont.lfCharSet = font.charSet;
+    toField(record.elfLogFont.lfFaceName, font.face);
+    toField(record.elfFullName, font.fullName);
+    toField(record.elfStyle, font.style);
+    g_PlatformServices.fontManager()->addLogFont(wide(globalName), &record);
+}
+
+bool FontCatalogue::fits(const QString& face)
+{
+    return face.toStdWString().size() < static_cast<std::size_t>(LF_FACESIZE);
+}

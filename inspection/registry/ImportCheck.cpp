@@ -1,0 +1,116 @@
+#include "inspection/registry/ImportCheck.h"
+
+#include "inspection/registry/RegistryFormat.h"
+#include "inspection/registry/RegistryListing.h"
+#include "inspection/registry/RegistryPath.h"
+#include "inspection/registry/ValueInput.h"
+#include "platform/WindowsTypes.h"
+
+using Action = RegFileEntry::Action;
+
+ImportCheck::ImportCheck(const RegFileEntry& entry) : m_entry(entry)
+{
+    if (entry.action == Action::Malformed)
+        refuse(entry.problem);
+    else
+        judgeKey();
+    if (entry.action == Action::SetValue || entry.action == Action::DeleteValue)
+        judgeName();
+    if (entry.action == Action::SetValue)
+        judgeData();
+}
+
+void ImportCheck::refuse(const QString& why)
+{
+    m_verdict = RegistryImport::Verdict::Refused;
+    m_remarks = QStringList(why);
+}
+
+// Once refused, only the reason for that is told.
+void ImportCheck::remark(const QString& what)
+{
+    if (what.isEmpty() || m_verdict == RegistryImport::Verdict::Refused)
+        return;
+    m_verdict = RegistryImport::Verdict::Altered;
+    m_remarks.append(what);
+}
+
+void ImportCheck::judgeKey()
+{
+    const QString root = m_entry.key.section(QLatin1Char('\\'), 0, 0);
+    if (!root.startsWith(QLatin1String("HKEY_"), Qt::CaseInsensitive) ||
+        !RegistryPath::parse(m_entry.key, m_path))
+        return refuse(tr("\"%1\" is not one of the root keys.").arg(root));
+    if (m_entry.key.contains(QLatin1Char('/')))
+        remark(tr("\"/\" in a key's name separates keys like \"\\\"."));
+    if (m_entry.action == Action::DeleteKey)
+        judgeKeyDeletion();
+}
+
+// The service deletes a value of the same name along with a key.
+void ImportCheck::judgeKeyDeletion()
+{
+    if (m_path.isEmpty())
+        return refuse(tr("A root key cannot be deleted."));
+    remark(tr("Deletes the key with everything below it."));
+    if (!rawRegistryEntry(m_path).isNull())
+        remark(tr("The value \"%1\" of %2 goes with it.")
+                   .arg(RegistryPath::name(m_path),
+                        RegistryPath::shown(RegistryPath::parent(m_path))));
+}
+
+// And a key of the same name along with a value.
+void ImportCheck::judgeValueDeletion(const QString& name)
+{
+    if (m_path.isEmpty())
+        return remark(tr("Deletes the key \"%1\" below the root with everything in it.")
+                          .arg(QString(name).replace(QLatin1Char('/'), QLatin1Char('\\'))));
+    const QString key = RegistryPath::join(m_path, name);
+    if (isRegistryGroup(key))
+        remark(tr("The key %1 goes with it, with everything in it.").arg(RegistryPath::shown(key)));
+}
+
+void ImportCheck::judgeName()
+{
+    if (m_entry.name.isEmpty())
+        return refuse(tr("The default value, which has no name, cannot be stored."));
+    const bool deletes = m_entry.action == Action::DeleteValue;
+    const QString name = RegistryPath::slashed(m_entry.name);
+    if (name.isEmpty())
+        return refuse(tr("A name of separators alone names no value."));
+    if (m_entry.name.contains(QLatin1Char('\\')) || m_entry.name.contains(QLatin1Char('/')))
+        remark(deletes ? tr("The separators in the name lead to a value of a sub-key.")
+                       : tr("The separators in the name put the value into a sub-key."));
+    if (deletes)
+        judgeValueDeletion(name);
+    else if (m_path.isEmpty())
+        remark(tr("Directly under a root, it is kept in a key of its own name."));
+}
+
+void ImportCheck::judgeData()
+{
+    switch (m_entry.type) {
+    case REG_SZ: return;
+    case REG_BINARY:
+        if (m_entry.data.isEmpty())
+            refuse(tr("Binary data without a byte cannot be stored."));
+        return;
+    case REG_DWORD:
+    case REG_NONE: return judgeNumber(4);
+    case REG_QWORD: return judgeNumber(8);
+    default: refuse(tr("%1 cannot be stored.").arg(RegistryFormat::typeName(m_entry.type)));
+    }
+}
+
+void ImportCheck::judgeNumber(int size)
+{
+    if (m_entry.data.isEmpty())
+        return refuse(tr("A number without a byte cannot be stored."));
+    if (m_entry.type == REG_NONE)
+        remark(tr("REG_NONE becomes REG_DWORD."));
+    if (m_entry.data.size() != size)
+        return remark(
+            tr("The number does not have %1 bytes: its first byte alone is kept.").arg(size));
+    remark(ValueInput::numberWarning(m_entry.type == REG_QWORD ? REG_QWORD : REG_DWORD,
+                                     RegistryFormat::number(m_entry.data)));
+}

@@ -1,0 +1,30 @@
+#include "inspection/registry/RegistryRemoval.h"
+
+#include "inspection/registry/RegistryListing.h"
+
+RegistryRemoval::RegistryRemoval(const QStringList& keys) : m_keys(keys) {}
+
+bool RegistryRemoval::step()
+{
+    if (m_keys.isEmpty())
+        return false;
+    if (!m_key) {
+        openLast();
+        return true;
+    }
+    if (!m_values.isEmpty()) {
+        m_key->removeValue(m_values.takeLast());
+        ++m_removed;
+        return true;
+    }
+    m_key.reset();
+    if (RegistryKey(QString()).removeKey(m_keys.takeLast()) != ERROR_SUCCESS)
+        m_succeeded = false;
+    return true;
+}
+
+void RegistryRemoval::openLast()
+{
+    m_key = std::make_unique<RegistryKey>(m_keys.last());
+    m_values = registryValueNames(m_keys.last());
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "inspection/registry/RegistryWalk.h"
+
+#include <vector>
+
+/// Looks for a text, ignoring case, in the names of keys and values and in the data of values, from
+/// one key downwards. Texts and bytes are searched whole, numbers as they are shown; hexadecimal
+/// digits of bytes are found with and without blanks. Step by step, for a sliced job.
+class RegistrySearch
+{
+public:
+    struct Hit
+    {
+        QString path;
+        QString name; ///< empty: the key itself
+        QString data; ///< of a value, as shown
+    };
+
+    /// The search ends by itself after so many hits.
+    static constexpr std::size_t mostHits = 1000;
+
+    RegistrySearch(const QString& text, const QString& path, bool inNames, bool inData);
+
+    /// False at the end.
+    bool step();
+
+    const std::vector<Hit>& hits() const { return m_hits; }
+    /// True when there may be more than were listed.
+    bool isFull() const { return m_hits.size() >= mostHits; }
+    const RegistryWalk& walk() const { return m_walk; }
+
+private:
+    void lookAtKey();
+    void lookAtValue();
+    bool matches(const QString& text) const { return text.contains(m_text, Qt::CaseInsensitive); }
+    bool matches(const RegistryReading& reading) const;
+    bool matchesBytes(const QByteArray& data) const;
+
+    QString m_text;
+    QByteArray m_digits; ///< in lower case, as bytes are written
+    bool m_inNames;
+    bool m_inData;
+    RegistryWalk m_walk;
+    std::vector<Hit> m_hits;
+};

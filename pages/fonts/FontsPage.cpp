@@ -1,0 +1,197 @@
+#include "pages/fonts/FontsPage.h"
+
+#include "inspection/fonts/CharacterSets.h"
+#include "inspection/fonts/SystemFonts.h"
+#include "pages/fonts/FontRecordsModel.h"
+#include "window/AnswerField.h"
+#include "window/ColumnBalancer.h"
+#include "window/EmptyHint.h"
+#include "window/TableLook.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+FontsPage::FontsPage(QWidget* parent)
+    : Page(parent),
+      m_family(new QLineEdit),
+      m_charSet(new QComboBox),
+      m_model(new FontRecordsModel(this)),
+      m_table(makeTable()),
+      m_hint(new EmptyHint(m_table, QString())),
+      m_localName(new QLineEdit),
+      m_globalName(new AnswerField(tr("Global name"), QStringLiteral("globalName")))
+{
+    body()->addLayout(makeFilterRow());
+    body()->addWidget(m_table, 1);
+    body()->addLayout(makeButtonRow());
+    body()->addWidget(makeMapping());
+    setFocusProxy(m_family);
+    showRecords();
+}
+
+FontsPage::~FontsPage() = default;
+
+QLayout* FontsPage::makeFilterRow()
+{
+    m_family->setObjectName(QStringLiteral("family"));
+    m_family->setAccessibleName(tr("Family to show"));
+    m_family->setPlaceholderText(tr("All families"));
+    m_family->setMaxLength(LF_FACESIZE - 1);
+    auto* familyLabel = new QLabel(tr("Famil&y:"));
+    familyLabel->setBuddy(m_family);
+    auto* charSetLabel = new QLabel(tr("Character &set:"));
+    charSetLabel->setBuddy(m_charSet);
+    m_charSet->setObjectName(QStringLiteral("charSet"));
+    m_charSet->setAccessibleName(tr("Character set to show"));
+    m_charSet->view()->setAccessibleName(m_charSet->accessibleName());
+    m_charSet->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_charSet->setMinimumContentsLength(22);
+    m_charSet->addItem(tr("All character sets"), DEFAULT_CHARSET);
+    for (const BYTE code : CharacterSets::codes()) {
+        if (code != DEFAULT_CHARSET)
+            m_charSet->addItem(CharacterSets::title(code), code);
+    }
+    auto* row = new QHBoxLayout;
+    row->addWidget(familyLabel);
+    row->addWidget(m_family, 1);
+    row->addWidget(charSetLabel);
+    row->addWidget(m_charSet, 1);
+    connect(m_family, &QLineEdit::textChanged, this, &FontsPage::showRecords);
+    connect(m_charSet, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &FontsPage::showRecords);
+    return row;
+}
+
+QLayout* FontsPage::makeButtonRow()
+{
+    auto* add = glowing(new QPushButton(tr("Re&gister the system's fonts")));
+    add->setObjectName(QStringLiteral("register"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(add);
+    row->addStretch();
+    connect(add, &QPushButton::clicked, this, &FontsPage::registerSystemFonts);
+    return row;
+}
+
+QTableView* FontsPage::makeTable()
+{
+    auto* table = new QTableView;
+    table->setObjectName(QStringLiteral("records"));
+    table->setAccessibleName(tr("Registered fonts"));
+    table->setModel(m_model);
+    arrangeTable(*table);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 7 / 4);
+    fitColumns(*table,
+               {QStringLiteral("Family"), QStringLiteral("Demi Oblique "),
+                CharacterSets::title(CHINESEBIG5_CHARSET), QStringLiteral("CHINESE_GB2312")});
+    new ColumnBalancer(table, FontRecordsModel::FaceColumn, QStringLiteral("WenQuanYi Micro"));
+    connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) {
+                if (current.isValid())
+                    m_localName->setText(
+                        current.siblingAtColumn(FontRecordsModel::FaceColumn).data().toString());
+            });
+    return table;
+}
+
+QWidget* FontsPage::makeMapping()
+{
+    m_localName->setObjectName(QStringLiteral("localName"));
+    m_localName->setAccessibleName(tr("Local name"));
+    m_localName->setPlaceholderText(tr("A registered face name"));
+    auto* box = new QGroupBox(tr("Name mapping"));
+    auto* row = new QHBoxLayout(box);
+    auto* local = new QLabel(tr("Loc&al name:"));
+    local->setBuddy(m_localName);
+    row->addWidget(local);
+    row->addWidget(m_localName, 1);
+    row->addWidget(new QLabel(tr("Global name:")));
+    row->addWidget(m_globalName, 1);
+    connect(m_localName, &QLineEdit::textChanged, this, &FontsPage::showGlobalName);
+    return box;
+}
+
+void FontsPage::refresh()
+{
+    showRecords();
+    showGlobalName();
+}
+
+void FontsPage::find()
+{
+    m_family->setFocus(Qt::ShortcutFocusReason);
+    m_family->selectAll();
+}
+
+// Host libraries may have registered fonts in the meantime. A job that runs ends with a refresh.
+void FontsPage::entered()
+{
+    if (!isBusy())
+        refresh();
+}
+
+void FontsPage::showRecords()
+{
+    const auto charSet = static_cast<BYTE>(m_charSet->currentData().toUInt());
+    const bool all = m_family->text().isEmpty() && charSet == DEFAULT_CHARSET;
+    m_hint->setText(
+        all ? tr("No font is registered. Host libraries register theirs when they start; "
+                 "the button below registers those of this system.")
+            : tr("The service reports no record of this family and character set. Names "
+                 "are compared exactly, upper and lower case included."));
+    m_model->setRecords(FontCatalogue::records(m_family->text(), charSet));
+    setStatus(tr("%1 records").arg(QLocale().toString(m_model->rowCount())));
+}
+
+void FontsPage::showGlobalName()
+{
+    const QString local = m_localName->text();
+    const QString global = local.isEmpty() ? QString() : FontCatalogue::globalName(local);
+    m_globalName->setAnswer(!local.isEmpty() && global.isEmpty() ? tr("None") : global);
+}
+
+void FontsPage::registerSystemFonts()
+{
+    if (isBusy())
+        return;
+    m_systemFonts = std::make_unique<SystemFonts>();
+    startJob(
+        {tr("Registering the system's fonts"), [this] { return m_systemFonts->registerNext(); },
+         [this] {
+             return tr("%1 families left").arg(QLocale().toString(m_systemFonts->familiesLeft()));
+         },
+         [this](bool complete) { finish(complete); }});
+}
+
+void FontsPage::finish(bool complete)
+{
+    refresh();
+    const QLocale locale;
+    QString text = m_systemFonts->families() == 0
+                       ? tr("All families were registered before.")
+                       : tr("Registered: %1 records of %2 families.")
+                             .arg(locale.toString(m_systemFonts->records()),
+                                  locale.toString(m_systemFonts->families()));
+    if (!complete)
+        text = tr("Stopped. %1").arg(text);
+    const QStringList tooLong = m_systemFonts->tooLong();
+    m_systemFonts = nullptr;
+    if (tooLong.isEmpty()) {
+        report(complete ? Report::Info : Report::Warning, text);
+        return;
+    }
+    report(Report::Warning, text + QLatin1Char(' ') +
+                                tr("Left out, because their names do not fit a record: %1.")
+                                    .arg(tooLong.join(QStringLiteral(", "))));
+}

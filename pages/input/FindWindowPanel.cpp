@@ -1,0 +1,75 @@
+#include "pages/input/FindWindowPanel.h"
+
+#include "platform/PlatformServicesImp.h"
+#include "window/MnemonicText.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+QString description(HWND handle)
+{
+    const auto* widget = static_cast<const QWidget*>(handle);
+    return FindWindowPanel::tr("%1, title \u201c%2\u201d, at 0x%3")
+        .arg(QString::fromLatin1(widget->metaObject()->className()), widget->windowTitle(),
+             QString::number(reinterpret_cast<quintptr>(handle), 16));
+}
+
+} // namespace
+
+FindWindowPanel::FindWindowPanel(QWidget* parent)
+    : QGroupBox(QStringLiteral("FindWindowW"), parent), m_result(new QLabel)
+{
+    auto* form = new QFormLayout(this);
+    m_className = addField(tr("Class na&me:"), form);
+    m_windowName = addField(tr("&Window name:"), form);
+    auto* button = glowing(new QPushButton(tr("Find &now")));
+    connect(button, &QPushButton::clicked, this, &FindWindowPanel::find);
+    m_result->setText(tr("With a class name, the window name is not looked at. Without both, the "
+                         "first window is found."));
+    m_result->setTextFormat(Qt::PlainText);
+    m_result->setWordWrap(true);
+    m_result->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_result->setObjectName(QStringLiteral("result"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(button);
+    row->addStretch();
+    form->addRow(QString(), row);
+    form->addRow(m_result);
+}
+
+QLineEdit* FindWindowPanel::addField(const QString& caption, QFormLayout* form)
+{
+    auto* field = new QLineEdit;
+    field->setAccessibleName(withoutMnemonic(caption));
+    field->setPlaceholderText(tr("null"));
+    connect(field, &QLineEdit::returnPressed, this, &FindWindowPanel::find);
+    form->addRow(caption, field);
+    return field;
+}
+
+void FindWindowPanel::focusFirst()
+{
+    m_className->setFocus();
+    m_className->selectAll();
+}
+
+void FindWindowPanel::find()
+{
+    const std::wstring className = m_className->text().toStdWString();
+    const std::wstring windowName = m_windowName->text().toStdWString();
+    const HWND found = g_PlatformServices.userInputManager()->FindWindowW(
+        className.empty() ? nullptr : className.c_str(),
+        windowName.empty() ? nullptr : windowName.c_str());
+    m_result->setText(found ? description(found) : tr("null: no window was found"));
+    if (found)
+        emit reported(Page::Report::Info, tr("A window was found."));
+    else
+        emit reported(Page::Report::Info,
+                      tr("No window was found. Names must match exactly, upper and lower case "
+                         "included."));
+}

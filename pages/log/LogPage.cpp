@@ -1,0 +1,199 @@
+#include "pages/log/LogPage.h"
+
+#include "app/ApplicationLog.h"
+#include "pages/log/LogFilter.h"
+#include "pages/log/LogModel.h"
+#include "pages/log/TailFollower.h"
+#include "window/EmptyHint.h"
+#include "window/PathLabel.h"
+#include "window/TableLook.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QTableView>
+
+namespace {
+
+QString lostText()
+{
+    return LogPage::tr("The log cannot be written to %1.").arg(ApplicationLog::path());
+}
+
+// Writing it anew would cut it off from the lines that are still to come.
+bool isLog(const QString& path)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return !file.isEmpty() && file == QFileInfo(ApplicationLog::path()).canonicalFilePath();
+}
+
+} // namespace
+
+LogPage::LogPage(QWidget* parent)
+    : Page(parent),
+      m_model(new LogModel(ApplicationLog::path(), this)),
+      m_filter(new LogFilter(this)),
+      m_table(new QTableView),
+      m_level(new QComboBox),
+      m_text(new QLineEdit),
+      m_count(new QLabel)
+{
+    m_filter->setSourceModel(m_model);
+    makeTable();
+    body()->addLayout(makeControls());
+    body()->addWidget(m_table, 1);
+    body()->addLayout(makeFooter());
+    setFocusProxy(m_table);
+    new TailFollower(m_table);
+    connect(&ApplicationLog::instance(), &ApplicationLog::written, this, &LogPage::readNew);
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, &LogPage::showCount);
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &LogPage::showCount);
+    if (!ApplicationLog::isWritable())
+        setStatus(lostText()); // a report would be lost as well
+    refresh();
+}
+
+void LogPage::makeTable()
+{
+    m_table->setModel(m_filter);
+    arrangeTable(*m_table);
+    m_table->setAccessibleName(tr("Log"));
+    fitColumns(*m_table,
+               {QStringLiteral("2000-00-00 00:00:00"), QStringLiteral("[x] Information")});
+    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* copyAction = new QAction(tr("Copy"), m_table);
+    copyAction->setShortcut(QKeySequence::Copy);
+    copyAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(copyAction, &QAction::triggered, this, &LogPage::copy);
+    m_table->addAction(copyAction);
+    new EmptyHint(m_table, ApplicationLog::isWritable()
+                               ? tr("No line of the log has this level and this text.")
+                               : lostText());
+}
+
+QLayout* LogPage::makeControls()
+{
+    m_level->setAccessibleName(tr("Lowest level shown"));
+    m_level->addItem(tr("Everything"), static_cast<int>(LogEntry::Level::Debug));
+    m_level->addItem(tr("Information and above"), static_cast<int>(LogEntry::Level::Info));
+    m_level->addItem(tr("Warnings and errors"), static_cast<int>(LogEntry::Level::Warning));
+    m_level->addItem(tr("Errors"), static_cast<int>(LogEntry::Level::Error));
+    m_text->setAccessibleName(tr("Text to find"));
+    m_text->setPlaceholderText(tr("Text to find"));
+    m_text->setClearButtonEnabled(true);
+    auto* caption = new QLabel(tr("&Show:"));
+    caption->setBuddy(m_level);
+    auto* save = glowing(new QPushButton(tr("S&ave as...")));
+    auto* line = new QHBoxLayout;
+    line->addWidget(caption);
+    line->addWidget(m_level);
+    line->addWidget(m_text, 1);
+    line->addWidget(save);
+    connect(m_level, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
+        m_filter->setLowest(static_cast<LogEntry::Level>(m_level->currentData().toInt()));
+        showCount();
+    });
+    connect(m_text, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_filter->setText(text);
+        showCount();
+    });
+    connect(save, &QPushButton::clicked, this, &LogPage::askSave);
+    return line;
+}
+
+QLayout* LogPage::makeFooter()
+{
+    auto* line = new QHBoxLayout;
+    line->addWidget(m_count);
+    line->addStretch();
+    line->addWidget(new QLabel(tr("File:")));
+    auto* file = new PathLabel(ApplicationLog::path());
+    file->setCaption(tr("File:"));
+    line->addWidget(file);
+    return line;
+}
+
+void LogPage::refresh()
+{
+    startJob({tr("Reading the log"), [this] { return m_model->readMore(); },
+              [this] { return QLocale().toString(m_model->rowCount()); },
+              [this](bool) { showCount(); }});
+}
+
+void LogPage::find()
+{
+    m_text->setFocus();
+    m_text->selectAll();
+}
+
+void LogPage::readNew()
+{
+    if (!isBusy())
+        m_model->readMore();
+}
+
+void LogPage::showCount()
+{
+    const QLocale locale;
+    m_count->setText(
+        tr("Lines shown: %1 of %2")
+            .arg(locale.toString(m_filter->rowCount()), locale.toString(m_model->rowCount())));
+}
+
+void LogPage::askSave()
+{
+    auto* dialog = new QFileDialog(this, tr("Save the lines shown"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters({tr("Log files (*.log)"), tr("All files (*)")});
+    dialog->setDefaultSuffix(QStringLiteral("log"));
+    dialog->selectFile(QStringLiteral("quayside.log"));
+    connect(dialog, &QFileDialog::fileSelected, this, &LogPage::saveAs);
+    dialog->open();
+}
+
+void LogPage::saveAs(const QString& path)
+{
+    if (isLog(path))
+        return report(Report::Error, tr("%1 was not written: this is the log itself.").arg(path));
+    const auto file = std::make_shared<QSaveFile>(path);
+    file->open(QIODevice::WriteOnly);
+    const auto row = std::make_shared<int>(0);
+    const int rows = m_filter->rowCount();
+    const auto step = [this, file, row, rows] {
+        if (!file->isOpen() || *row >= rows)
+            return false;
+        const QModelIndex index = m_filter->index((*row)++, 0);
+        file->write(index.data(LogModel::LineRole).toString().toUtf8() + '\n');
+        return true;
+    };
+    startJob({tr("Saving"), step, [row] { return QLocale().toString(*row); },
+              [this, file, row, path](bool complete) {
+                  if (!complete)
+                      report(Report::Warning, tr("Nothing was saved."));
+                  else if (file->isOpen() && file->commit())
+                      report(Report::Info,
+                             tr("Saved to %2. Lines: %1.").arg(QLocale().toString(*row), path));
+                  else
+                      report(Report::Error,
+                             tr("%1 could not be written: %2").arg(path, file->errorString()));
+              }});
+}
+
+void LogPage::copy()
+{
+    QStringList lines;
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    for (const QModelIndex& index : rows)
+        lines.append(index.data(LogModel::LineRole).toString());
+    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "window/Page.h"
+
+class LogFilter;
+class LogModel;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QTableView;
+
+/// The application's log file, live: earlier runs first, new lines as they are written.
+class LogPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit LogPage(QWidget* parent = nullptr);
+
+    void refresh() override;
+    void find() override;
+
+    /// Writes the lines in view to a file, as they stand in the log.
+    void saveAs(const QString& file);
+
+private:
+    void makeTable();
+    QLayout* makeControls();
+    QLayout* makeFooter();
+    void readNew();
+    void showCount();
+    void askSave();
+    void copy();
+
+    LogModel* m_model;
+    LogFilter* m_filter;
+    QTableView* m_table;
+    QComboBox* m_level;
+    QLineEdit* m_text;
+    QLabel* m_count;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "inspection/profiles/ProfileWriter.h"
+#include "pages/profiles/ProfileReadingsModel.h"
+
+#include <QGroupBox>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+
+/// Takes what is to be written: section, key, value, the family and whether to keep a copy.
+class ProfileEditPanel : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit ProfileEditPanel(QWidget* parent = nullptr);
+
+    /// Shows a reading to be edited: the value as the chosen family reads it.
+    void setReading(const ProfileReading& reading);
+    /// The same for a reading that was read again: what the user has typed stays.
+    void updateReading(const ProfileReading& reading);
+    /// Puts the keyboard on the value.
+    void editValue();
+
+    ProfileChange change() const;
+    bool keepsBackup() const;
+
+signals:
+    void writeRequested();
+
+private:
+    QLineEdit* addInput(QGridLayout* grid, int row, int column, int span, const QString& label,
+                        const char* objectName);
+    void addLastRow(QGridLayout* grid);
+    bool isUntouched() const;
+    void showValue();
+
+    QLineEdit* m_section;
+    QLineEdit* m_key;
+    QLineEdit* m_value;
+    QComboBox* m_family;
+    QCheckBox* m_backup;
+    ProfileReading m_reading;
+};

@@ -1,0 +1,46 @@
+#include "tests/pages/SmallFont.h"
+#include "tests/pages/WindowProbe.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class PageLayoutTest : public testing::TestWithParam<const char*>
+{
+    SmallFont m_font;
+};
+
+TEST_P(PageLayoutTest, ShowsAllOfItsEnglishTexts)
+{
+    const WindowProbe probe(GetParam());
+    EXPECT_TRUE(QTest::qWaitFor([&probe] { return probe.clipped().isEmpty(); }, 1000))
+        << probe.clipped().join(QLatin1String(" | ")).toStdString();
+}
+
+TEST_P(PageLayoutTest, ShowsAllOfItsChineseTexts)
+{
+    const WindowProbe probe(GetParam(), WindowProbe::Language::Chinese);
+    EXPECT_TRUE(QTest::qWaitFor([&probe] { return probe.clipped().isEmpty(); }, 1000))
+        << probe.clipped().join(QLatin1String(" | ")).toStdString();
+}
+
+TEST_P(PageLayoutTest, NamesEveryControl)
+{
+    const WindowProbe probe(GetParam());
+    EXPECT_EQ(probe.nameless().join(QLatin1String(" | ")).toStdString(), "");
+}
+
+TEST_P(PageLayoutTest, LetsTheKeyboardReachEveryControl)
+{
+    const WindowProbe probe(GetParam());
+    EXPECT_EQ(probe.unreachable().join(QLatin1String(" | ")).toStdString(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, PageLayoutTest,
+                         testing::Values("registry", "profiles", "files", "fonts", "displays",
+                                         "input", "crypto", "log"),
+                         [](const auto& page) { return std::string(page.param); });
+
+} // namespace

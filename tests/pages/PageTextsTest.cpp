@@ -1,0 +1,140 @@
+#include "tests/pages/PageFixture.h"
+
+#include <QLabel>
+#include <QTabWidget>
+#include <QTranslator>
+
+#include <memory>
+
+// The macro does not work inside a namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(quayside);
+}
+
+namespace {
+
+struct Row
+{
+    const char* page;
+    const char* language;
+};
+
+class PageTextsTest : public testing::TestWithParam<Row>
+{
+protected:
+    void SetUp() override
+    {
+        QFont font = QApplication::font();
+        font.setPointSize(9);
+        QApplication::setFont(font);
+        if (qstrcmp(GetParam().language, "zh") == 0) {
+            initResources();
+            ASSERT_TRUE(m_translator.load(":/translator/kdlm_zh.qm"));
+            QApplication::installTranslator(&m_translator);
+        }
+        m_window = std::make_unique<MainWindow>();
+        m_window->showPage(GetParam().page);
+        m_window->resize(800, 600);
+        m_window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return m_window->currentPage() != nullptr; }));
+        QApplication::processEvents();
+    }
+
+    void TearDown() override
+    {
+        m_window.reset();
+        QApplication::removeTranslator(&m_translator);
+    }
+
+    void expectTextsFit();
+
+    QTranslator m_translator;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+bool fits(const QWidget* widget)
+{
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    if (label && label->wordWrap())
+        return label->height() >= label->heightForWidth(label->width());
+    return widget->width() >= widget->sizeHint().width() &&
+           widget->height() >= widget->fontMetrics().height();
+}
+
+void PageTextsTest::expectTextsFit()
+{
+    const QRect inside = m_window->rect();
+    EXPECT_EQ(m_window->size(), QSize(800, 600));
+    const auto all = m_window->currentPage()->findChildren<QWidget*>();
+    for (const QWidget* widget : all) {
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        if ((!label && !button) || !widget->isVisible())
+            continue;
+        const std::string text = (label ? label->text() : button->text()).toStdString();
+        EXPECT_TRUE(fits(widget)) << text;
+        const QRect place(widget->mapTo(m_window.get(), QPoint()), widget->size());
+        EXPECT_TRUE(inside.contains(place)) << text;
+    }
+}
+
+TEST_P(PageTextsTest, NoTextIsCutOffInTheSmallWindow)
+{
+    auto* tabs = m_window->currentPage()->findChild<QTabWidget*>();
+    for (int i = 0; tabs && i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        QApplication::processEvents();
+        expectTextsFit();
+    }
+    expectTextsFit();
+}
+
+bool needsName(const QWidget* widget)
+{
+    const auto* button = qobject_cast<const QAbstractButton*>(widget);
+    return widget->focusPolicy() != Qt::NoFocus && !widget->objectName().startsWith("qt_") &&
+           widget->isVisibleTo(widget->parentWidget()) && !(button && !button->text().isEmpty()) &&
+           !qobject_cast<const QLabel*>(widget); // its text is read out
+}
+
+TEST_P(PageTextsTest, EveryControlHasAnAccessibleName)
+{
+    const auto all = m_window->currentPage()->findChildren<QWidget*>();
+    for (const QWidget* widget : all) {
+        EXPECT_FALSE(needsName(widget) && widget->accessibleName().isEmpty())
+            << widget->metaObject()->className();
+    }
+}
+
+// It is an answer of the services, and the Chinese for it reads like "empty".
+TEST(PageTexts, NullIsNotTranslated)
+{
+    initResources();
+    QTranslator translator;
+    ASSERT_TRUE(translator.load(":/translator/kdlm_zh.qm"));
+    const std::pair<const char*, const char*> rows[] = {
+        {"FindWindowPanel", "null"},
+        {"FindWindowPanel", "null: no window was found"},
+        {"CursorPanel", "null: none is set"},
+        {"CursorPanel", "SetCursor with null changes nothing."},
+        {"PointPanel", "The monitor that holds the point, else null."},
+        {"CipherPanel", "DecryptionAES_Export gives null: its result holds at most %L1 bytes. This "
+                        "is what Encrypt::DecryptionAES gives."},
+    };
+    for (const auto& [context, text] : rows) {
+        const QString translation = translator.translate(context, text);
+        EXPECT_TRUE(translation.contains("null")) << text << ": " << translation.toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, PageTextsTest,
+                         testing::Values(Row{"displays", "en"}, Row{"displays", "zh"},
+                                         Row{"input", "en"}, Row{"input", "zh"},
+                                         Row{"crypto", "en"}, Row{"crypto", "zh"}),
+                         [](const auto& row) {
+                             return std::string(row.param.page) + "_" + row.param.language;
+                         });
+
+} // namespace

@@ -1,0 +1,195 @@
+#include "tests/inspection/profiles/ProfileFixture.h"
+#include "tests/pages/CutTexts.h"
+#include "tests/pages/SmallFont.h"
+#include "tests/pages/WindowProbe.h"
+
+#include "inspection/profiles/NarrowRewriting.h"
+#include "inspection/profiles/ProfileLoading.h"
+#include "inspection/registry/RegistryImport.h"
+#include "pages/profiles/LostLinesDialog.h"
+#include "pages/registry/ImportDialog.h"
+#include "pages/registry/NameDialog.h"
+#include "pages/registry/RegistryPage.h"
+#include "pages/registry/ValueDialog.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Language = WindowProbe::Language;
+
+/// Something that the window shows: its page, then what is done with it, which may bring a dialog.
+struct Scene
+{
+    const char* name;
+    const char* page;
+    std::unique_ptr<QWidget> (*show)(const WindowProbe& probe);
+};
+
+void PrintTo(const Scene& scene, std::ostream* out)
+{
+    *out << scene.name;
+}
+
+std::unique_ptr<QWidget> nothing(const WindowProbe& /*probe*/)
+{
+    return nullptr;
+}
+
+template <int Tab>
+std::unique_ptr<QWidget> tab(const WindowProbe& probe)
+{
+    probe.page().findChild<QTabWidget*>()->setCurrentIndex(Tab);
+    return nullptr;
+}
+
+std::unique_ptr<QWidget> find(const WindowProbe& probe)
+{
+    probe.page().find();
+    return nullptr;
+}
+
+std::unique_ptr<QWidget> job(const WindowProbe& probe)
+{
+    probe.page().startJob({QCoreApplication::translate("FontsPage", "Registering the system's "
+                                                                    "fonts"),
+                           [] {
+                               QTest::qSleep(1);
+                               return true;
+                           },
+                           [] {
+                               return QCoreApplication::translate("FontsPage", "%1 families left")
+                                   .arg(QStringLiteral("1,234,567"));
+                           },
+                           {}});
+    return nullptr;
+}
+
+// As long as the longest that the pages tell.
+std::unique_ptr<QWidget> report(const WindowProbe& probe)
+{
+    const QString text = QCoreApplication::translate(
+        "FilesPage", "The service finds nothing for a pattern without a directory, whatever the "
+                     "working directory holds. Put one before it, such as ./%1.");
+    probe.page().report(Page::Report::Error, text.arg(QStringLiteral("name")));
+    return nullptr;
+}
+
+std::unique_ptr<QWidget> reportOnInput(const WindowProbe& probe)
+{
+    probe.page().report(Page::Report::Warning,
+                        QCoreApplication::translate("FindWindowPanel",
+                                                    "No window was found. Names must match "
+                                                    "exactly, upper and lower case included."));
+    return nullptr;
+}
+
+template <unsigned int Type>
+std::unique_ptr<QWidget> value(const WindowProbe& probe)
+{
+    auto dialog = std::make_unique<ValueDialog>(Type, &probe.page());
+    dialog->findChild<QLineEdit*>()->setText(QStringLiteral("name"));
+    dialog->findChild<QPlainTextEdit*>()->setPlainText(QStringLiteral("65\u4e2d\u6587"));
+    return dialog;
+}
+
+std::unique_ptr<QWidget> name(const WindowProbe& probe)
+{
+    auto dialog = std::make_unique<NameDialog>(
+        QStringLiteral("HKEY_CURRENT_USER\\Software\\Maker\\Program\\Settings"), &probe.page());
+    dialog->findChild<QLineEdit*>()->setText(QStringLiteral("a/b"));
+    return dialog;
+}
+
+std::unique_ptr<QWidget> import(const WindowProbe& probe)
+{
+    static RegistryImport import("Windows Registry Editor Version 5.00\r\n\r\n"
+                                 "[HKEY_CURRENT_USER\\A]\r\n\"good\"=dword:1\r\n"
+                                 "\"multi\"=hex(7):00,00\r\n");
+    while (import.read())
+        ;
+    return std::make_unique<ImportDialog>(QStringLiteral("file.reg"), import, &probe.page());
+}
+
+template <ProfileFamily Family>
+std::unique_ptr<QWidget> lostLines(const WindowProbe& probe)
+{
+    const ProfileFixture file;
+    file.write("; by hand\n[Net]\nHost\nQuery=a=b\n\n[App]\r\nx = 1\n");
+    ProfileLoading loading(file.path());
+    while (loading.step())
+        ;
+    const QString changes = NarrowRewriting(file.path()).changes();
+    return std::make_unique<LostLinesDialog>(loading.document(), Family, changes, &probe.page());
+}
+
+const Scene scenes[] = {
+    {"Registry", "registry", nothing},
+    {"Profiles", "profiles", nothing},
+    {"Files", "files", nothing},
+    {"Fonts", "fonts", nothing},
+    {"Displays", "displays", nothing},
+    {"Input", "input", nothing},
+    {"Log", "log", nothing},
+    {"Cipher", "crypto", tab<0>},
+    {"Digests", "crypto", tab<1>},
+    {"Base64", "crypto", tab<2>},
+    {"Find", "registry", find},
+    {"JobOnRegistry", "registry", job},
+    {"JobOnLog", "log", job},
+    {"ReportOnRegistry", "registry", report},
+    {"ReportOnProfiles", "profiles", report},
+    {"ReportOnFiles", "files", report},
+    {"ReportOnFonts", "fonts", report},
+    {"ReportOnDisplays", "displays", report},
+    {"ReportOnInput", "input", reportOnInput},
+    {"ReportOnCrypto", "crypto", report},
+    {"ReportOnLog", "log", report},
+    {"StringDialog", "registry", value<REG_SZ>},
+    {"NumberDialog", "registry", value<REG_DWORD>},
+    {"LargeNumberDialog", "registry", value<REG_QWORD>},
+    {"BinaryDialog", "registry", value<REG_BINARY>},
+    {"NameDialog", "registry", name},
+    {"ImportDialog", "registry", import},
+    {"LostLinesNarrow", "profiles", lostLines<ProfileFamily::Narrow>},
+    {"LostLinesWide", "profiles", lostLines<ProfileFamily::Wide>},
+};
+
+class TextsOfAScene : public testing::TestWithParam<std::tuple<Scene, Language>>
+{
+    SmallFont m_font;
+};
+
+TEST_P(TextsOfAScene, AreNotCutOffInASmallWindow)
+{
+    const auto& [scene, language] = GetParam();
+    const WindowProbe probe(scene.page, language);
+    const std::unique_ptr<QWidget> dialog = scene.show(probe);
+    QWidget* root = dialog ? dialog.get() : probe.page().window();
+    root->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(root));
+    // What has just got its text is laid out at the next turns of the event loop.
+    EXPECT_TRUE(QTest::qWaitFor([root] { return cutTexts(*root).isEmpty(); }, 1000))
+        << cutTexts(*root).join(QLatin1String(" | ")).toStdString();
+    EXPECT_LE(root->width(), 800);
+    EXPECT_LE(root->height(), 600);
+    probe.page().cancelJob();
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, TextsOfAScene,
+                         testing::Combine(testing::ValuesIn(scenes),
+                                          testing::Values(Language::English, Language::Chinese)),
+                         [](const auto& row) {
+                             return std::string(std::get<0>(row.param).name) +
+                                    (std::get<1>(row.param) == Language::English ? "English"
+                                                                                 : "Chinese");
+                         });
+
+} // namespace

@@ -1,0 +1,103 @@
+#include "tests/pages/PageFixture.h"
+
+#include "pages/displays/MonitorMap.h"
+#include "pages/input/KeyLamp.h"
+#include "tests/support/Display.h"
+
+namespace {
+
+class RealInputTest : public PageTest
+{
+protected:
+    void openActive(const QString& name)
+    {
+        open(name);
+        m_window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+    }
+
+    bool becomesLit(const QString& name, bool lit)
+    {
+        return QTest::qWaitFor(
+            [this, name, lit] { return control<KeyLamp>(name)->isLit() == lit; });
+    }
+};
+
+TEST_F(RealInputTest, LampsFollowModifiersAndTellNoSides)
+{
+    openActive("input");
+    const std::pair<const char*, QStringList> rows[] = {
+        {"shift", {"VK_SHIFT", "VK_LSHIFT", "VK_RSHIFT"}},
+        {"ctrl", {"VK_CONTROL", "VK_LCONTROL", "VK_RCONTROL"}},
+        {"alt", {"VK_MENU", "VK_LMENU", "VK_RMENU"}},
+    };
+    // The event of a modifier's own press still tells the state before; the next event tells it.
+    QPoint place = m_window.mapToGlobal(m_window.rect().center());
+    const auto moveMouse = [&place] {
+        place.rx() += 1;
+        return Display::xdotool(
+            {"mousemove", QString::number(place.x()), QString::number(place.y())});
+    };
+    ASSERT_TRUE(moveMouse());
+    for (const auto& [key, lamps] : rows) {
+        ASSERT_TRUE(Display::xdotool({"keydown", key}) && moveMouse());
+        for (const QString& lamp : lamps)
+            EXPECT_TRUE(becomesLit(lamp, true)) << lamp.toStdString();
+        ASSERT_TRUE(Display::xdotool({"keyup", key}) && moveMouse());
+        for (const QString& lamp : lamps)
+            EXPECT_TRUE(becomesLit(lamp, false)) << lamp.toStdString();
+    }
+}
+
+TEST_F(RealInputTest, LampsFollowTheMouseButtons)
+{
+    openActive("input");
+    const QPoint place = control<KeyLamp>("VK_F12")->mapToGlobal({2, 2});
+    ASSERT_TRUE(
+        Display::xdotool({"mousemove", QString::number(place.x()), QString::number(place.y())}));
+    const std::pair<const char*, const char*> rows[] = {
+        {"1", "VK_LBUTTON"}, {"2", "VK_MBUTTON"}, {"3", "VK_RBUTTON"}};
+    for (const auto& [number, lamp] : rows) {
+        ASSERT_TRUE(Display::xdotool({"mousedown", number}));
+        EXPECT_TRUE(becomesLit(lamp, true)) << lamp;
+        ASSERT_TRUE(Display::xdotool({"mouseup", number}));
+        EXPECT_TRUE(becomesLit(lamp, false)) << lamp;
+    }
+}
+
+TEST_F(RealInputTest, ALetterLeavesEveryLampDark)
+{
+    openActive("input");
+    control<KeyLamp>("VK_SHIFT"); // the page is there
+    ASSERT_TRUE(Display::xdotool({"keydown", "a"}));
+    QTest::qWait(200);
+    const auto all = page()->findChildren<KeyLamp*>();
+    for (const KeyLamp* lamp : all)
+        EXPECT_FALSE(lamp->isLit()) << lamp->accessibleName().toStdString();
+    ASSERT_TRUE(Display::xdotool({"keyup", "a"}));
+}
+
+TEST_F(RealInputTest, TheMapFollowsThePointer)
+{
+    openActive("displays");
+    ASSERT_TRUE(Display::xdotool({"mousemove", "321", "123"}));
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return control<QLineEdit>("Pointer")->text() == "321, 123"; }));
+}
+
+TEST_F(RealInputTest, EncryptsAndDecryptsByKeyboardAlone)
+{
+    openActive("crypto");
+    ASSERT_TRUE(Display::xdotool({"type", "secret"}));
+    ASSERT_TRUE(Display::xdotool({"key", "alt+x"}));
+    ASSERT_TRUE(Display::xdotool({"type", "hello quay"}));
+    ASSERT_TRUE(Display::xdotool({"key", "alt+n"}));
+    auto* cipher = control<QPlainTextEdit>("Base64 of the cipher text");
+    ASSERT_TRUE(QTest::qWaitFor([cipher] { return !cipher->toPlainText().isEmpty(); }));
+    auto* clear = control<QPlainTextEdit>("Clear text");
+    clear->clear();
+    ASSERT_TRUE(Display::xdotool({"key", "alt+t"}));
+    EXPECT_TRUE(QTest::qWaitFor([clear] { return clear->toPlainText() == "hello quay"; }));
+}
+
+} // namespace

@@ -1,0 +1,330 @@
+#include "app/ApplicationLog.h"
+#include "inspection/log/LogLines.h"
+#include "pages/log/LogFilter.h"
+#include "pages/log/LogModel.h"
+#include "pages/log/LogPage.h"
+#include "tests/pages/ShownToolTip.h"
+#include "window/BusyOverlay.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Level = LogEntry::Level;
+
+TEST(LogLines, TakesLinesApart)
+{
+    LogLines lines;
+    lines.add("2026-03-07 09:05:01 : === Start logging ===\n"
+              "[DEBUG] 2026-03-07 09:05:02 : a : b\n[INFO] 2026-03-07 09:05:03 : \n"
+              "[WARNING] 2026-03-07 09:05:04 : w\n[ERROR] 2026-03-07 09:05:05 : e\n"
+              "2026-03-07 09:05:06 : === End logging ===\r\n");
+    ASSERT_EQ(lines.entries().size(), 6U);
+    const Level levels[] = {Level::None,    Level::Debug, Level::Info,
+                            Level::Warning, Level::Error, Level::None};
+    for (std::size_t i = 0; i < 6; ++i)
+        EXPECT_EQ(lines.entries()[i].level, levels[i]);
+    EXPECT_EQ(lines.entries()[1].time.toStdString(), "2026-03-07 09:05:02");
+    EXPECT_EQ(lines.entries()[1].text.toStdString(), "a : b");
+    EXPECT_EQ(lines.entries()[2].text.toStdString(), "");
+    EXPECT_EQ(lines.entries()[5].text.toStdString(), "=== End logging ===");
+}
+
+TEST(LogLines, PutsFurtherLinesToTheirEntry)
+{
+    LogLines lines;
+    lines.add("stray\n[INFO] 2026-03-07 09:05:03 : one\ntwo\n[INFO] no time\n");
+    ASSERT_EQ(lines.entries().size(), 2U);
+    EXPECT_EQ(lines.entries()[0].text.toStdString(), "stray");
+    EXPECT_EQ(lines.entries()[1].text.toStdString(), "one\ntwo\n[INFO] no time");
+}
+
+TEST(LogLines, WaitsForTheEndOfALine)
+{
+    LogLines lines;
+    lines.add("[INFO] 2026-03-07 09:0");
+    EXPECT_TRUE(lines.entries().empty());
+    lines.add("5:03 : \xE6\xB8");
+    lines.add("\xAF\n");
+    ASSERT_EQ(lines.entries().size(), 1U);
+    EXPECT_EQ(lines.entries()[0].text, QString(QChar(0x6E2F)));
+}
+
+class LogModelTest : public testing::Test
+{
+protected:
+    LogModelTest() : m_path(m_folder.filePath("x.log")), m_model(m_path) {}
+
+    void write(const QByteArray& lines, QIODevice::OpenMode mode = QIODevice::Append)
+    {
+        QFile file(m_path);
+        ASSERT_TRUE(file.open(mode));
+        file.write(lines);
+        file.close();
+        while (m_model.readMore()) {
+        }
+    }
+
+    QTemporaryDir m_folder;
+    QString m_path;
+    LogModel m_model;
+};
+
+const QByteArray info = "[INFO] 2026-03-07 09:05:03 : text\n";
+const QByteArray error = "[ERROR] 2026-03-07 09:05:03 : fault\n";
+
+TEST_F(LogModelTest, GrowsWithTheFile)
+{
+    EXPECT_FALSE(m_model.readMore());
+    write(info);
+    EXPECT_EQ(m_model.rowCount(), 1);
+    write(error + info);
+    EXPECT_EQ(m_model.rowCount(), 3);
+    EXPECT_EQ(m_model.index(1, LogModel::Text).data().toString().toStdString(), "fault");
+    EXPECT_EQ(m_model.index(1, LogModel::Level).data().toString().toStdString(), "Error");
+}
+
+TEST_F(LogModelTest, ShowsMarkupInItsToolTipAsItStands)
+{
+    write("[INFO] 2026-03-07 09:05:03 : <b>bold</b>\n");
+    const QModelIndex index = m_model.index(0, LogModel::Text);
+    EXPECT_EQ(shownToolTip(index.data(Qt::ToolTipRole).toString()).toStdString(), "<b>bold</b>");
+}
+
+TEST_F(LogModelTest, StartsAnewWithAFileThatBecameShorter)
+{
+    write(info + info + error);
+    write(error, QIODevice::WriteOnly);
+    EXPECT_EQ(m_model.rowCount(), 1);
+    EXPECT_EQ(m_model.index(0, LogModel::Text).data().toString().toStdString(), "fault");
+}
+
+// A view lays out all it is given, and a tool tip too.
+TEST_F(LogModelTest, ShowsTheBeginningOfALongEntry)
+{
+    const QByteArray prefix = "[INFO] 2026-03-07 09:05:03 : ";
+    const struct
+    {
+        QByteArray text;
+        int shown;
+    } rows[] = {
+        // each shorter than the one before: the file is read from its start
+        {QByteArray(4 << 20, 'x') + "needle", 1001},
+        {QByteArray("one\n").repeated(40000) + "needle", 1001},
+        {QByteArray(999, 'x') + "\xF0\x9F\x9A\xA2 and more", 1000}, // a pair is not cut in two
+        {QByteArray(1001, 'x'), 1001},
+        {QByteArray(1000, 'x'), 1000},
+    };
+    for (const auto& row : rows) {
+        write(prefix + row.text + '\n', QIODevice::WriteOnly);
+        ASSERT_EQ(m_model.rowCount(), 1);
+        const QModelIndex index = m_model.index(0, LogModel::Text);
+        const bool cut = row.text.size() > 1000;
+        const QString shown = index.data().toString();
+        EXPECT_EQ(shown.size(), row.shown);
+        EXPECT_EQ(shown.endsWith(QChar(0x2026)), cut);
+        EXPECT_EQ(QString(shown).replace(QChar(0x21B5), '\n'), index.data(Qt::ToolTipRole));
+        EXPECT_TRUE(index.data(LogModel::LineRole).toString() == prefix + row.text);
+        LogFilter filter;
+        filter.setSourceModel(&m_model);
+        filter.setText("needle");
+        EXPECT_EQ(filter.rowCount(), row.text.endsWith("needle") ? 1 : 0);
+    }
+}
+
+TEST_F(LogModelTest, FiltersByLevelAndText)
+{
+    write("2026-03-07 09:05:01 : === Start logging ===\n[DEBUG] 2026-03-07 09:05:03 : d\n" + info +
+          "[WARNING] 2026-03-07 09:05:03 : w\n" + error);
+    LogFilter filter;
+    filter.setSourceModel(&m_model);
+    const struct
+    {
+        Level level;
+        int rows;
+    } rows[] = {{Level::Debug, 5}, {Level::Info, 3}, {Level::Warning, 2}, {Level::Error, 1}};
+    for (const auto& row : rows) {
+        filter.setLowest(row.level);
+        EXPECT_EQ(filter.rowCount(), row.rows) << static_cast<int>(row.level);
+    }
+    filter.setLowest(Level::Debug);
+    filter.setText("FAULT");
+    EXPECT_EQ(filter.rowCount(), 1);
+}
+
+class LogPageTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { logInfo("before"); } // the first line marks the run's start
+
+    LogPageTest()
+    {
+        m_page.resize(700, 300);
+        m_page.show();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }));
+    }
+
+    QTableView& table() { return *m_page.findChild<QTableView*>(); }
+    QString lastLine()
+    {
+        const QAbstractItemModel* model = table().model();
+        return model->index(model->rowCount() - 1, LogModel::Text).data().toString();
+    }
+
+    QTemporaryDir m_folder;
+    LogPage m_page;
+};
+
+TEST_F(LogPageTest, ShowsANewLineAtOnce)
+{
+    const int before = table().model()->rowCount();
+    logWarning("something new");
+    EXPECT_EQ(table().model()->rowCount(), before + 1);
+    EXPECT_EQ(lastLine().toStdString(), "something new");
+}
+
+// The names of files that messages tell of may hold line ends.
+TEST_F(LogPageTest, ALineEndInAMessageMakesNoFurtherEntry)
+{
+    const char* const endings[] = {"\n", "\r", "\r\n"};
+    for (const QString ending : endings) {
+        const int before = table().model()->rowCount();
+        logInfo("one" + ending + "two" + ending + "[ERROR] 2026-01-01 00:00:00 : forged" + ending);
+        EXPECT_EQ(table().model()->rowCount(), before + 1);
+        EXPECT_EQ(lastLine().toStdString(),
+                  "one\u21B5two\u21B5[ERROR] 2026-01-01 00:00:00 : forged\u21B5");
+    }
+}
+
+TEST_F(LogPageTest, FollowsNewLinesOnlyFromTheEnd)
+{
+    for (int i = 0; i < 60; ++i)
+        logInfo(QString::number(i));
+    QScrollBar* bar = table().verticalScrollBar();
+    ASSERT_TRUE(QTest::qWaitFor([bar] { return bar->maximum() > 3; }));
+    EXPECT_EQ(bar->value(), bar->maximum());
+    bar->setValue(3);
+    logInfo("later");
+    EXPECT_EQ(bar->value(), 3);
+}
+
+TEST_F(LogPageTest, FiltersByTheChosenLevel)
+{
+    logInfo("harmless");
+    logError("serious");
+    m_page.findChild<QComboBox*>()->setCurrentIndex(3);
+    EXPECT_EQ(lastLine().toStdString(), "serious");
+    logInfo("harmless too");
+    EXPECT_EQ(lastLine().toStdString(), "serious");
+}
+
+TEST_F(LogPageTest, FindFiltersByText)
+{
+    logInfo("needle 4711");
+    logInfo("hay");
+    m_page.find();
+    auto* field = m_page.findChild<QLineEdit*>();
+    EXPECT_EQ(m_page.window()->focusWidget(), field);
+    QTest::keyClicks(field, "4711");
+    EXPECT_EQ(table().model()->rowCount(), 1);
+}
+
+TEST_F(LogPageTest, SavesTheLinesInView)
+{
+    logError("to be saved");
+    m_page.findChild<QLineEdit*>()->setText("to be saved");
+    const QString path = m_folder.filePath("saved.log");
+    m_page.saveAs(path);
+    QFile saved(path);
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    const QByteArray lines = saved.readAll();
+    EXPECT_TRUE(lines.startsWith("[ERROR] "));
+    EXPECT_TRUE(lines.endsWith(" : to be saved\n"));
+    EXPECT_TRUE(m_page.statusText().startsWith("Saved to"));
+}
+
+TEST_F(LogPageTest, LeavesTheTargetAloneWhenSavingIsCancelled)
+{
+    QFile log(ApplicationLog::path());
+    const qint64 size = log.size();
+    ASSERT_TRUE(log.open(QIODevice::Append));
+    log.write(info.repeated(100000)); // far more than one slice saves
+    log.close();
+    m_page.refresh();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }, 60000));
+    QFile target(m_folder.filePath("saved.log"));
+    ASSERT_TRUE(target.open(QIODevice::ReadWrite));
+    target.write("older\n");
+    target.close();
+    m_page.saveAs(target.fileName());
+    ASSERT_TRUE(m_page.isBusy());
+    m_page.findChild<BusyOverlay*>()->findChild<QPushButton*>()->click();
+    EXPECT_FALSE(m_page.isBusy());
+    EXPECT_EQ(m_page.statusText(), "Nothing was saved.");
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList("saved.log"));
+    ASSERT_TRUE(target.open(QIODevice::ReadOnly));
+    EXPECT_EQ(target.readAll(), "older\n");
+    ASSERT_TRUE(log.resize(size)); // the other tests need none of it
+}
+
+TEST_F(LogPageTest, RefusesToBeSavedOverItself)
+{
+    const QString link = m_folder.filePath("link.log");
+    ASSERT_TRUE(QFile::link(ApplicationLog::path(), link));
+    for (const QString& path : {ApplicationLog::path(), link}) {
+        m_page.findChild<QLineEdit*>()->setText("no such line");
+        m_page.saveAs(path);
+        EXPECT_TRUE(m_page.statusText().endsWith("this is the log itself."))
+            << m_page.statusText().toStdString();
+        m_page.findChild<QLineEdit*>()->clear();
+        logInfo("later");
+        EXPECT_EQ(lastLine().toStdString(), "later");
+    }
+}
+
+TEST(LogPage, SaysThatTheLogCannotBeWritten)
+{
+    ApplicationLog::instance(); // the tests' own
+    const QByteArray state = qgetenv("XDG_STATE_HOME");
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("file"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    qputenv("XDG_STATE_HOME", file.fileName().toLocal8Bit());
+    const LogPage page;
+    const std::string expected =
+        "The log cannot be written to " + ApplicationLog::path().toStdString() + ".";
+    qputenv("XDG_STATE_HOME", state);
+    EXPECT_EQ(page.statusText().toStdString(), expected);
+    const auto* hint = page.findChild<QTableView*>()->viewport()->findChild<QLabel*>();
+    EXPECT_EQ(hint->text().toStdString(), expected);
+}
+
+TEST_F(LogPageTest, SaysThatAFileCannotBeWritten)
+{
+    m_page.saveAs(m_folder.filePath("missing/saved.log"));
+    EXPECT_TRUE(m_page.statusText().contains("could not be written"))
+        << m_page.statusText().toStdString();
+}
+
+TEST(ApplicationLog, LiesBelowTheStateFolder)
+{
+    const QString state = QString::fromLocal8Bit(qgetenv("XDG_STATE_HOME"));
+    EXPECT_TRUE(ApplicationLog::path().startsWith(state + "/"));
+    qputenv("XDG_STATE_HOME", "relative");
+    EXPECT_TRUE(ApplicationLog::path().contains("/.local/state/"));
+    qputenv("XDG_STATE_HOME", state.toLocal8Bit());
+}
+
+} // namespace

@@ -1,0 +1,257 @@
+#include "inspection/profiles/ProfileReader.h"
+#include "inspection/profiles/ProfileWriting.h"
+#include "tests/pages/profiles/ProfilesPageFixture.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QListWidget>
+
+#include <unistd.h>
+
+namespace {
+
+TEST_F(ProfilesPageTest, WritesThroughTheWideFamily)
+{
+    m_file.write("[Net]\nMask=255\n");
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Query"), QStringLiteral("a=b"), wide);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(ProfileReader(m_file.path()).wide(QStringLiteral("Net"), QStringLiteral("Query")),
+              QStringLiteral("a=b"));
+    EXPECT_EQ(model("readings").rowCount(), 2);
+}
+
+TEST_F(ProfilesPageTest, AsksBeforeANarrowWriteLosesLines)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    ASSERT_NE(question(), nullptr);
+    const auto* list = question()->findChild<QListWidget*>(QStringLiteral("lostLines"));
+    ASSERT_EQ(list->count(), 4);
+    EXPECT_EQ(list->item(3)->text(), QStringLiteral("4 (two “=”): Query=a=b"));
+    EXPECT_EQ(question()->findChild<QLabel*>(QStringLiteral("changes"))->text(),
+              QStringLiteral("Blank lines lost: 1."));
+    question()->reject();
+    EXPECT_EQ(m_file.bytes(), text);
+    EXPECT_EQ(files(), QStringList({"profile.ini"}));
+}
+
+TEST_F(ProfilesPageTest, AsksBeforeAWideWriteCutsATail)
+{
+    constexpr char tails[] = "[S] ; s\nTail=1 ; why\nW=a;b\nQ=\"a;b\"\nL=a, b\n";
+    m_file.write(tails);
+    open();
+    request(QStringLiteral("S"), QStringLiteral("x"), QStringLiteral("1"), wide);
+    ASSERT_NE(question(), nullptr);
+    const auto* list = question()->findChild<QListWidget*>(QStringLiteral("lostLines"));
+    ASSERT_EQ(list->count(), 3);
+    EXPECT_EQ(list->item(0)->text(), QStringLiteral("1 (cut at “;”): [S] ; s"));
+    EXPECT_EQ(list->item(1)->text(), QStringLiteral("2 (cut at “;”): Tail=1 ; why"));
+    EXPECT_EQ(list->item(2)->text(), QStringLiteral("3 (cut at “;”): W=a;b"));
+    question()->reject();
+    EXPECT_EQ(m_file.bytes(), tails);
+    request(QStringLiteral("S"), QStringLiteral("x"), QStringLiteral("1"), wide);
+    accept();
+    EXPECT_EQ(m_file.bytes(), "[S]\nL=a, b\nQ=\"a;b\"\nTail=1\nW=a\nx=1\n");
+}
+
+TEST_F(ProfilesPageTest, AsksAgainWhereTheFileHasBeenChangedMeanwhile)
+{
+    constexpr char changed[] = "[Net]\nMask=255\nnew line\n";
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    m_file.write(changed);
+    accept();
+    ASSERT_NE(question(), nullptr);
+    EXPECT_TRUE(status().startsWith(QStringLiteral("The file has been changed meanwhile")));
+    EXPECT_EQ(m_file.bytes(), changed);
+    EXPECT_EQ(files(), QStringList({"profile.ini"}));
+    const auto* list = question()->findChild<QListWidget*>(QStringLiteral("lostLines"));
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_EQ(list->item(0)->text(), QStringLiteral("3 (no “=”): new line"));
+    accept();
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
+    EXPECT_EQ(ProfileFixture::bytesOf(m_file.path() + QStringLiteral(".bak")), changed);
+}
+
+TEST_F(ProfilesPageTest, DoesNotAskAgainWhereNothingIsLostAnyMore)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    m_file.write("[Net]\nMask=255\n");
+    accept();
+    EXPECT_EQ(question(), nullptr);
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
+}
+
+struct Rewriting
+{
+    const char* name;
+    const char* bytes;
+    const char* changes; ///< empty: nobody is asked
+};
+
+class ProfileRewritingTest : public ProfilesPageTest, public testing::WithParamInterface<Rewriting>
+{
+};
+
+TEST_P(ProfileRewritingTest, IsToldBeforeANarrowWrite)
+{
+    m_file.write(GetParam().bytes);
+    open();
+    request(QStringLiteral("B"), QStringLiteral("x"), QStringLiteral("1"), narrow);
+    ASSERT_EQ(question() != nullptr, *GetParam().changes != 0);
+    if (question()) {
+        EXPECT_EQ(question()->findChild<QLabel*>(QStringLiteral("changes"))->text(),
+                  QLatin1String(GetParam().changes));
+        EXPECT_EQ(question()->findChild<QListWidget*>(QStringLiteral("lostLines")), nullptr);
+        question()->reject();
+        EXPECT_EQ(m_file.bytes(), GetParam().bytes);
+    }
+    ASSERT_TRUE(m_probe.settle());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, ProfileRewritingTest,
+    testing::Values(
+        Rewriting{
+            "All", "[B]\nx = 1\n\n[A]\ny=2\n",
+            "Blank lines lost: 1. The order of sections and keys changes. Spaces and line ends "
+            "are normalised."},
+        Rewriting{"BlankLines", "\n[B]\n \nx=1\n", "Blank lines lost: 2."},
+        Rewriting{"Sections", "[B]\nx=1\n[A]\ny=2\n", "The order of sections and keys changes."},
+        Rewriting{"Keys", "[A]\ny=2\nx=1\n", "The order of sections and keys changes."},
+        Rewriting{"Spaces", "[A]\nx= 1\n", "Spaces and line ends are normalised."},
+        Rewriting{"LineEnds", "[A]\r\nx=1\r\n", "Spaces and line ends are normalised."},
+        Rewriting{"OpenEnd", "[A]\nx=1", "Spaces and line ends are normalised."},
+        Rewriting{"Mark", "\xef\xbb\xbf[A]\nx=1\n", "Spaces and line ends are normalised."},
+        Rewriting{"Encoding", "[A]\nx=\xe4\n", "The encoding becomes UTF-8."},
+        Rewriting{"None", "[A]\nx=1\ny=2\n[B]\nz=3\n", ""}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(ProfilesPageTest, WritesThroughTheNarrowFamilyAfterABackup)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    accept();
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
+    EXPECT_EQ(ProfileFixture::bytesOf(m_file.path() + QStringLiteral(".bak")), text);
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Written; the backup copy is")));
+}
+
+TEST_F(ProfilesPageTest, NeverOverwritesABackup)
+{
+    open();
+    for (const char* value : {"1", "2"}) {
+        m_file.write(text);
+        request(QStringLiteral("Net"), QStringLiteral("Mask"), QLatin1String(value), narrow);
+        accept();
+    }
+    EXPECT_EQ(files(), QStringList({"profile.ini", "profile.ini.bak", "profile.ini.bak2"}));
+}
+
+TEST_F(ProfilesPageTest, MakesNoBackupWhereNoneIsWanted)
+{
+    open();
+    m_probe.control<QCheckBox>("backup").setChecked(false);
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    accept();
+    EXPECT_EQ(files(), QStringList({"profile.ini"}));
+}
+
+TEST_F(ProfilesPageTest, CreatesAMissingFile)
+{
+    open(m_file.folder() + QStringLiteral("/new.ini"));
+    EXPECT_TRUE(status().startsWith(QStringLiteral("There is no such file")));
+    request(QStringLiteral("S"), QStringLiteral("k"), QStringLiteral("v"), narrow);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(ProfileFixture::bytesOf(m_file.folder() + QStringLiteral("/new.ini")), "[S]\nk=v\n");
+}
+
+TEST_F(ProfilesPageTest, RefusesToWriteWithoutAFile)
+{
+    request(QStringLiteral("S"), QStringLiteral("k"), QStringLiteral("v"), wide);
+    EXPECT_EQ(status(), QStringLiteral("Open a file first."));
+}
+
+// In a folder in which nothing can be created.
+class ProfileInLockedFolderTest : public ProfilesPageTest
+{
+protected:
+    void SetUp() override
+    {
+        if (geteuid() == 0)
+            GTEST_SKIP() << "may write to every folder";
+        m_file.write("[Net]\nMask=255\n");
+        ASSERT_TRUE(QFile::setPermissions(m_file.folder(), QFile::ReadOwner | QFile::ExeOwner));
+    }
+    void TearDown() override
+    {
+        QFile::setPermissions(m_file.folder(),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+};
+
+TEST_F(ProfileInLockedFolderTest, TheWideFamilyWritesNothing)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), wide);
+    EXPECT_TRUE(status().endsWith(QStringLiteral("cannot be written."))) << status().toStdString();
+    ProfileWriting writing(m_file.path(), {ProfileFamily::Wide, QStringLiteral("Net"),
+                                           QStringLiteral("Mask"), QStringLiteral("1")});
+    while (writing.step())
+        ;
+    EXPECT_FALSE(writing.isReadBack());
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=255\n");
+}
+
+TEST_F(ProfileInLockedFolderTest, TheNarrowFamilyWritesWithoutABackupAlone)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    EXPECT_EQ(status(), QStringLiteral("Nothing written: the backup copy could not be made."));
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=255\n");
+    m_probe.control<QCheckBox>("backup").setChecked(false);
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
+}
+
+struct Refusal
+{
+    const char* name;
+    const char* section;
+    const char* key;
+    const char* value;
+    int family;
+};
+
+class ProfileRefusalTest : public ProfilesPageTest, public testing::WithParamInterface<Refusal>
+{
+};
+
+TEST_P(ProfileRefusalTest, LeavesTheFileAlone)
+{
+    open();
+    const Refusal& refusal = GetParam();
+    const QString before = status();
+    request(QString::fromUtf8(refusal.section), QString::fromUtf8(refusal.key),
+            QString::fromUtf8(refusal.value), refusal.family);
+    EXPECT_EQ(question(), nullptr);
+    EXPECT_NE(status(), before);
+    EXPECT_EQ(m_file.bytes(), text);
+    EXPECT_EQ(files(), QStringList({"profile.ini"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Inputs, ProfileRefusalTest,
+    testing::Values(Refusal{"NoKey", "S", "", "v", 0}, Refusal{"NoNarrowSection", "", "k", "v", 1},
+                    Refusal{"EqualsInNarrowValue", "S", "k", "a=b", 1},
+                    Refusal{"EqualsInNarrowKey", "S", "a=b", "v", 1},
+                    Refusal{"SpaceAtNarrowValue", "S", "k", " v", 1},
+                    Refusal{"SpaceAtNarrowKey", "S", "k ", "v", 1},
+                    Refusal{"BracketAtNarrowKey", "S", "[k", "v", 1},
+                    Refusal{"BeyondTheBasicPlane", "S", "k", "\xf0\x9f\x98\x80", 0}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+} // namespace

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "pages/registry/RegistryPage.h"
+#include "tests/inspection/registry/RegistryTest.h"
+
+class QDialog;
+class QTableView;
+class QTreeView;
+
+/// The registry page in a window of its own, on the stand-in's store.
+class RegistryPageFixture : public RegistryTest
+{
+protected:
+    /// Shows the page; fill the store before.
+    void show();
+
+    QTreeView& tree() const;
+    QTableView& table() const;
+    QString cell(int row, int column) const;
+    /// The key that is selected, as the address line shows it.
+    QString address() const;
+    QString status() const { return m_page.statusText(); }
+
+    /// The entries of the menu of new things.
+    enum NewEntry
+    {
+        NewKey,
+        NewString,
+        NewDword,
+        NewQword,
+        NewBinary
+    };
+    void chooseNew(NewEntry entry);
+    /// Chooses "Export key..." in the tree's menu.
+    void chooseExport();
+    /// The dialog that is open, or opens soon.
+    static QDialog& dialog();
+    static void type(const QString& name, const QString& data);
+    /// Presses the dialog's button for Enter, and waits for the job that follows; false when the
+    /// button is off.
+    bool accept() const;
+    static void reject();
+    /// All words in the dialog that is open.
+    static QString words();
+    /// Presses Delete with the keyboard in one of the views.
+    static void pressDelete(QWidget& view);
+
+    RegistryPage m_page;
+};

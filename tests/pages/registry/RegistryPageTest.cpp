@@ -1,0 +1,260 @@
+#include "host/HostLibraries.h"
+#include "pages/registry/RegistryValueModel.h"
+#include "tests/pages/registry/RegistryPageFixture.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <QTreeView>
+
+namespace {
+
+class RegistryPageTest : public RegistryPageFixture
+{
+protected:
+    void enterAddress(const QString& text)
+    {
+        auto* line = m_page.findChild<QLineEdit*>("address");
+        line->setText(text);
+        QTest::keyClick(line, Qt::Key_Return);
+    }
+};
+
+TEST_F(RegistryPageTest, OpensOnTheRootWithTheKeyboardInTheTree)
+{
+    store("A/v", "1$1");
+    show();
+    m_page.setFocus();
+    EXPECT_TRUE(tree().hasFocus());
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER");
+    EXPECT_TRUE(tree().isExpanded(tree().currentIndex()));
+    EXPECT_EQ(status().toStdString(), "Values: 0. Sub-keys: 1.");
+}
+
+TEST_F(RegistryPageTest, FollowsTheTreeByKeyboard)
+{
+    store("A/B/v", "5$deep");
+    show();
+    tree().setFocus();
+    for (const auto key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Down})
+        QTest::keyClick(&tree(), key);
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+    EXPECT_EQ(cell(0, RegistryValueModel::Data).toStdString(), "deep");
+}
+
+TEST_F(RegistryPageTest, GoesToATypedPathUnderAnyRoot)
+{
+    store("A/B/v", "5$deep");
+    show();
+    enterAddress("hkey_local_machine\\A\\B");
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+    EXPECT_TRUE(tree().hasFocus());
+    enterAddress("HKLM\\missing");
+    EXPECT_EQ(status().toStdString(), "There is no key HKEY_CURRENT_USER\\missing.");
+    enterAddress("HKEY_LOCAL_MACHINE"); // where the first failure has left the selection
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER");
+    EXPECT_EQ(status().toStdString(), "Values: 0. Sub-keys: 1.");
+}
+
+TEST_F(RegistryPageTest, GoesToAPathThatEndsWithABlank)
+{
+    store("trail /v", "1$1");
+    store("short/v", "1$1");
+    show();
+    enterAddress("HKEY_CURRENT_USER\\trail ");
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\trail ");
+    EXPECT_EQ(status().toStdString(), "Values: 1. Sub-keys: 0.");
+    enterAddress(" HKEY_CURRENT_USER\\short ");
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\short");
+}
+
+TEST_F(RegistryPageTest, GoesToATypedPathUnderAnAbbreviatedRoot)
+{
+    store("A/B/v", "5$deep");
+    store("HKCR/A/v", "1$1");
+    show();
+    for (const char* root : {"HKCU", "HKLM", "hkcr", "HKU"}) {
+        enterAddress(QString(" %1\\A\\B ").arg(root));
+        EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B") << root;
+        enterAddress(root);
+        EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER") << root;
+    }
+    enterAddress("HKCR\\A"); // a key of that name comes first
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\HKCR\\A");
+}
+
+TEST_F(RegistryPageTest, SaysThatATypedPathLeadsNowhere)
+{
+    store("A/v", "1$1");
+    show();
+    enterAddress("HKEY_CURRENT_USER\\A\\missing");
+    EXPECT_EQ(status().toStdString(), "There is no key HKEY_CURRENT_USER\\A\\missing.");
+    enterAddress("HKEY_CURRENT_CONFIG\\A");
+    EXPECT_TRUE(status().contains("none of the four root keys")) << status().toStdString();
+}
+
+TEST_F(RegistryPageTest, MarksWhatAHostLibraryCannotReadAndSaysWhy)
+{
+    store("A/bad", "3$1");
+    show();
+    m_page.goTo("A", "bad");
+    EXPECT_EQ(cell(0, RegistryValueModel::Type).toStdString(), "unreadable");
+    EXPECT_EQ(cell(0, RegistryValueModel::Raw).toStdString(), "3$1");
+    EXPECT_EQ(status().toStdString(), "bad: Tag 3 is refused");
+}
+
+TEST_F(RegistryPageTest, RefreshReadsWhatTheHostLibraryChanged)
+{
+    store("A/v", "5$before");
+    show();
+    m_page.goTo("A", "v");
+    EXPECT_EQ(cell(0, RegistryValueModel::Data).toStdString(), "before");
+    store("A/v", "5$after");
+    store("A/u", "1$1");
+    store("A/sub/v", "1$1");
+    m_page.refresh();
+    EXPECT_EQ(table().model()->rowCount(), 2);
+    EXPECT_EQ(cell(1, RegistryValueModel::Data).toStdString(), "after");
+    EXPECT_EQ(table().currentIndex().row(), 1); // the same value
+    EXPECT_EQ(status().toStdString(), "Values: 2. Sub-keys: 1.");
+}
+
+TEST_F(RegistryPageTest, CopiesThePathAsWindowsWritesIt)
+{
+    store("A/B/v", "1$1");
+    show();
+    m_page.goTo("A/B");
+    tree().setFocus();
+    QTest::keyClick(&tree(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+}
+
+TEST_F(RegistryPageTest, CopiesTheWholeData)
+{
+    const QString text = "one\r\n" + QString(700, 'x');
+    const QString bytes = QString("ab ").repeated(79) + "ab";
+    const struct
+    {
+        QString entry;
+        QString copied;
+    } rows[] = {{"5$" + text, text},
+                {"1$42", "42"},
+                {"2$255", "255"},
+                {"4$" + QString(bytes).remove(' '), bytes},
+                {"3$x", "Tag 3 is refused"}};
+    show();
+    for (const auto& row : rows) {
+        store("A/v", row.entry);
+        m_page.refresh();
+        m_page.goTo("A", "v");
+        QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
+        QTest::keyRelease(&table(), Qt::Key_Control); // held, it keeps rows from being selected
+        EXPECT_EQ(QApplication::clipboard()->text().toStdString(), row.copied.toStdString());
+    }
+}
+
+TEST_F(RegistryPageTest, FindsAndGoesToAHit)
+{
+    store("A/B/colour", "5$Blue");
+    store("A/other", "1$1");
+    show();
+    m_page.find();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_TRUE(field);
+    QTest::keyClicks(field, "blue");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Found: 1.");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+    EXPECT_TRUE(table().hasFocus());
+    EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "colour");
+}
+
+TEST_F(RegistryPageTest, SaysWhatASearchLacks)
+{
+    show();
+    m_page.find();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Type the text to find first.");
+    field->setText("x");
+    for (QCheckBox* box : m_page.findChildren<QCheckBox*>())
+        box->setChecked(false);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Choose where to search: in names, in values, or in both.");
+}
+
+TEST_F(RegistryPageTest, IsNotReadAnewWhileAJobRuns)
+{
+    store("A/v", "1$1");
+    show();
+    m_page.goTo("A");
+    m_page.startJob({"Endless", [] { return true; }, {}, {}});
+    store("A/w", "1$1");
+    m_page.entered();
+    EXPECT_EQ(table().model()->rowCount(), 1);
+    m_page.cancelJob();
+    m_page.entered();
+    EXPECT_EQ(table().model()->rowCount(), 2);
+}
+
+TEST_F(RegistryPageTest, GivesEachButtonAMnemonicOfItsOwn)
+{
+    show();
+    m_page.find();
+    QStringList mnemonics;
+    for (const auto* button : m_page.findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty())
+            continue;
+        const QString mnemonic = QKeySequence::mnemonic(button->text()).toString();
+        EXPECT_FALSE(mnemonic.isEmpty()) << button->text().toStdString();
+        EXPECT_FALSE(mnemonics.contains(mnemonic)) << button->text().toStdString();
+        mnemonics.append(mnemonic);
+    }
+    EXPECT_EQ(mnemonics.size(), 11);
+}
+
+TEST_F(RegistryPageTest, EscapeHidesTheSearch)
+{
+    show();
+    m_page.find();
+    QWidget* field = QApplication::focusWidget();
+    EXPECT_TRUE(field->isVisible());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_FALSE(field->isVisible());
+    EXPECT_TRUE(tree().hasFocus());
+}
+
+TEST_F(RegistryPageTest, GivesEveryControlAnAccessibleName)
+{
+    show();
+    m_page.find();
+    for (const QWidget* widget : m_page.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus ||
+            qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLabel*>(widget))
+            continue; // their texts are read out
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
+    }
+}
+
+TEST_F(RegistryPageTest, SaysThatThereIsNoStore)
+{
+    QSettings* settings = std::exchange(g_globalSettings, nullptr);
+    {
+        RegistryPage page;
+        EXPECT_TRUE(page.statusText().contains("no settings store"))
+            << page.statusText().toStdString();
+        page.find();
+        page.refresh();
+        page.goTo("A/B");
+        EXPECT_EQ(page.findChild<QTreeView*>()->model()->rowCount(), 1);
+    }
+    g_globalSettings = settings;
+}
+
+} // namespace

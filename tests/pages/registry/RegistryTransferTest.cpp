@@ -1,0 +1,154 @@
+#include "pages/registry/RegistryTransfer.h"
+#include "host/HostLibraries.h"
+#include "tests/pages/registry/RegistryPageFixture.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QSettings>
+#include <QTableView>
+#include <QTemporaryDir>
+
+namespace {
+
+const QByteArray header = "Windows Registry Editor Version 5.00\r\n\r\n";
+
+class RegistryTransferTest : public RegistryPageFixture
+{
+protected:
+    QString written(const QByteArray& content)
+    {
+        const QString path = m_folder.filePath("in.reg");
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return path;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(RegistryTransferTest, ImportShowsFirstWhatItWillDoAndRefuse)
+{
+    show();
+    m_page.transfer().importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"good\"=dword:1\r\n"
+                                                  "\"large\"=hex(b):00,01,00,00,00,00,00,00\r\n"
+                                                  "\"multi\"=hex(7):00,00\r\n"));
+    EXPECT_TRUE(g_globalSettings->allKeys().isEmpty());
+    EXPECT_EQ(dialog().findChild<QLabel*>()->text().toStdString(),
+              "As written in the file: 2. Altered: 1. Refused: 1.");
+    auto* rows = dialog().findChild<QTableView*>()->model();
+    EXPECT_EQ(rows->rowCount(), 4);
+    EXPECT_EQ(rows->index(3, 0).data().toString().toStdString(),
+              "Refused: REG_MULTI_SZ cannot be stored.");
+    dialog().findChild<QCheckBox*>()->setChecked(true);
+    EXPECT_EQ(rows->rowCount(), 2);
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/good").toStdString(), "1$1");
+    EXPECT_EQ(stored("A/large").toStdString(), "2$0");
+    EXPECT_FALSE(holds("A/multi"));
+    EXPECT_TRUE(status().contains("carried out: 3. Refused: 1.")) << status().toStdString();
+}
+
+TEST_F(RegistryTransferTest, ImportThatIsNotConfirmedWritesNothing)
+{
+    show();
+    m_page.transfer().importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=dword:1\r\n"));
+    reject();
+    EXPECT_TRUE(g_globalSettings->allKeys().isEmpty());
+}
+
+TEST_F(RegistryTransferTest, ImportOfNothingButRefusalsCannotBeConfirmed)
+{
+    show();
+    m_page.transfer().importFile(written(header + "garbage\r\n"));
+    EXPECT_FALSE(accept());
+    reject();
+}
+
+TEST_F(RegistryTransferTest, AFileThatIsNoRegistryFileIsRefusedWithItsReason)
+{
+    show();
+    m_page.transfer().importFile(written("REGEDIT4\r\n"));
+    EXPECT_TRUE(status().contains("version 4")) << status().toStdString();
+    m_page.transfer().importFile(written("hello"));
+    EXPECT_TRUE(status().contains("does not begin with")) << status().toStdString();
+    m_page.transfer().importFile(m_folder.filePath("missing.reg"));
+    EXPECT_TRUE(status().contains("could not be read")) << status().toStdString();
+}
+
+TEST_F(RegistryTransferTest, AFileThatIsTooLargeIsNotRead)
+{
+    constexpr qint64 largest = qint64{32} * 1024 * 1024;
+    const QString path = written(header);
+    show();
+    ASSERT_TRUE(QFile::resize(path, largest + 1));
+    m_page.transfer().importFile(path);
+    EXPECT_TRUE(status().endsWith("was not imported: it is larger than 32 MiB."))
+        << status().toStdString();
+    EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
+TEST_F(RegistryTransferTest, ALargeFileIsReadInManyTurnsOfTheEventLoop)
+{
+    const QByteArray comment = "; a line that the reader skips, to the end of the last of them\r\n";
+    const QByteArray large = comment.repeated(30 * 1024 * 1024 / comment.size());
+    const QString path = written(header + large + "[HKEY_CURRENT_USER\\A]\r\n");
+    show();
+    m_page.transfer().importFile(path);
+    int turns = 0;
+    for (; m_page.isBusy(); ++turns)
+        QCoreApplication::processEvents();
+    EXPECT_GE(turns, 3);
+    EXPECT_TRUE(accept());
+    EXPECT_TRUE(holds("A"));
+}
+
+TEST_F(RegistryTransferTest, AFolderIsNoRegistryFile)
+{
+    show();
+    m_page.transfer().importFile(m_folder.path());
+    EXPECT_TRUE(status().endsWith("was not imported: it is not a regular file."))
+        << status().toStdString();
+}
+
+TEST_F(RegistryTransferTest, ExportWritesTheKeyAndCountsWhatItLeftOut)
+{
+    store("A/good", "1$1");
+    store("A/bad", "none");
+    store("B/other", "1$1");
+    show();
+    const QString path = m_folder.filePath("out.reg");
+    m_page.transfer().exportKey("A", path, RegFileWriter::Encoding::Utf8);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    EXPECT_TRUE(text.contains("\"good\"=dword:00000001"));
+    EXPECT_FALSE(text.contains("other"));
+    EXPECT_TRUE(status().contains("Values: 1. Left out: 1")) << status().toStdString();
+}
+
+TEST_F(RegistryTransferTest, ExportSaysThatAFileCannotBeWritten)
+{
+    show();
+    m_page.transfer().exportKey("", m_folder.filePath("no/out.reg"),
+                                RegFileWriter::Encoding::Utf16);
+    EXPECT_TRUE(status().contains("could not be written")) << status().toStdString();
+}
+
+TEST_F(RegistryTransferTest, CancellingAnExportLeavesNoFile)
+{
+    for (int i = 0; i < 20000; ++i)
+        store(QString("A/v%1").arg(i), "5$some text that takes its time to write");
+    show();
+    const QString path = m_folder.filePath("out.reg");
+    m_page.transfer().exportKey("A", path, RegFileWriter::Encoding::Utf16);
+    ASSERT_TRUE(m_page.isBusy());
+    m_page.cancelJob();
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_EQ(status().toStdString(), "The export was cancelled.");
+}
+
+} // namespace

@@ -1,0 +1,274 @@
+#include "window/MainWindow.h"
+
+#include "app/CommandLine.h"
+#include "host/HostLibraries.h"
+#include "platform/PlatformServicesImp.h"
+#include "tests/pages/ShownToolTip.h"
+#include "widgets/QAnimationStackedWidget.h"
+#include "window/Page.h"
+#include "window/PageRail.h"
+#include "window/PathLabel.h"
+#include "window/StatusLine.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QStringList names = {"registry", "profiles", "files",  "fonts",
+                           "displays", "input",    "crypto", "log"};
+
+class MainWindowTest : public testing::Test
+{
+protected:
+    MainWindowTest() { setPlatformServices(&g_PlatformServices); }
+
+    void show()
+    {
+        m_window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }));
+    }
+
+    QAnimationStackedWidget& stack() { return *m_window.findChild<QAnimationStackedWidget*>(); }
+    QPushButton& button(const QString& name)
+    {
+        return *m_window.findChild<PageRail*>()->findChild<QPushButton*>(name);
+    }
+    bool reaches(int index)
+    {
+        return QTest::qWaitFor([this, index] {
+            return stack().currentIndex() == index && m_window.currentPage() != nullptr;
+        });
+    }
+    int madePages() { return stack().findChildren<Page*>().size(); }
+
+    MainWindow m_window;
+};
+
+TEST_F(MainWindowTest, HasOneCheckableButtonForEachPage)
+{
+    const auto buttons = m_window.findChild<PageRail*>()->findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), names.size());
+    ASSERT_EQ(stack().count(), names.size());
+    for (int i = 0; i < names.size(); ++i) {
+        EXPECT_EQ(buttons.at(i)->objectName(), names.at(i));
+        EXPECT_TRUE(buttons.at(i)->isCheckable());
+        EXPECT_FALSE(buttons.at(i)->icon().isNull());
+        EXPECT_FALSE(buttons.at(i)->accessibleName().isEmpty());
+        EXPECT_EQ(buttons.at(i)->isChecked(), i == 0);
+    }
+}
+
+TEST_F(MainWindowTest, MakesNoPageBeforeItIsShown)
+{
+    EXPECT_EQ(madePages(), 0);
+    show();
+    EXPECT_EQ(madePages(), 1);
+}
+
+TEST_F(MainWindowTest, MakesAPageOnItsFirstVisitAndKeepsIt)
+{
+    show();
+    Page* registry = m_window.currentPage();
+    button("log").click();
+    ASSERT_TRUE(reaches(7));
+    EXPECT_EQ(madePages(), 2);
+    button("registry").click();
+    ASSERT_TRUE(reaches(0));
+    EXPECT_EQ(m_window.currentPage(), registry);
+    EXPECT_EQ(madePages(), 2);
+}
+
+TEST_F(MainWindowTest, SlidesOnAndBackAndChecksTheButton)
+{
+    show();
+    button("files").click();
+    EXPECT_TRUE(button("files").isChecked());
+    EXPECT_EQ(stack().currentIndex(), 0); // the slide has only begun
+    ASSERT_TRUE(reaches(2));
+    button("profiles").click();
+    ASSERT_TRUE(reaches(1));
+    EXPECT_TRUE(button("profiles").isChecked());
+    EXPECT_FALSE(button("files").isChecked());
+}
+
+TEST_F(MainWindowTest, ChoosingThePageInViewDoesNotFreezeTheStack)
+{
+    show();
+    button("registry").click();
+    QTest::qWait(50);
+    button("log").click();
+    EXPECT_TRUE(reaches(7));
+}
+
+TEST_F(MainWindowTest, RemembersTheLastChoiceMadeDuringASlide)
+{
+    show();
+    QSignalSpy changes(&stack(), &QStackedWidget::currentChanged);
+    button("files").click();
+    button("fonts").click();
+    button("crypto").click();
+    EXPECT_TRUE(button("crypto").isChecked());
+    ASSERT_TRUE(reaches(6));
+    EXPECT_EQ(changes.size(), 2); // files, then crypto
+    QTest::qWait(400);
+    EXPECT_EQ(stack().currentIndex(), 6);
+}
+
+TEST_F(MainWindowTest, ComesBackWhenTheLeavingPageIsChosenDuringASlide)
+{
+    show();
+    button("files").click();
+    button("registry").click();
+    ASSERT_TRUE(reaches(2));
+    EXPECT_TRUE(reaches(0));
+    EXPECT_TRUE(button("registry").isChecked());
+    button("log").click();
+    EXPECT_TRUE(reaches(7));
+}
+
+TEST_F(MainWindowTest, AltAndADigitChooseAPage)
+{
+    show();
+    for (const int page : {7, 3, 0}) {
+        QTest::keyClick(&m_window, static_cast<Qt::Key>(Qt::Key_1 + page), Qt::AltModifier);
+        ASSERT_TRUE(reaches(page)) << page;
+    }
+}
+
+TEST_F(MainWindowTest, ABusyPageIsCancelledByKeyboardAfterAVisitElsewhere)
+{
+    show();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window.currentPage()->isBusy(); }));
+    m_window.currentPage()->setFocus();
+    bool cancelled = false;
+    m_window.currentPage()->startJob({"Endless",
+                                      [] {
+                                          QTest::qSleep(1);
+                                          return true;
+                                      },
+                                      {},
+                                      [&cancelled](bool complete) { cancelled = !complete; }});
+    for (const int page : {7, 0}) {
+        QTest::keyClick(&m_window, static_cast<Qt::Key>(Qt::Key_1 + page), Qt::AltModifier);
+        ASSERT_TRUE(reaches(page));
+        QTest::qWait(50);
+    }
+    ASSERT_TRUE(QApplication::focusWidget());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(cancelled);
+    m_window.currentPage()->cancelJob();
+}
+
+TEST_F(MainWindowTest, TheRailTakesArrowKeysAndIsOneStopForTab)
+{
+    show();
+    button("registry").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    ASSERT_TRUE(reaches(1));
+    EXPECT_TRUE(button("profiles").hasFocus());
+    EXPECT_EQ(button("log").focusPolicy() & Qt::TabFocus, 0);
+    EXPECT_NE(button("profiles").focusPolicy() & Qt::TabFocus, 0);
+}
+
+TEST_F(MainWindowTest, OpensOnTheRequestedPageWithoutSliding)
+{
+    m_window.showPage("log");
+    show();
+    EXPECT_EQ(stack().currentIndex(), 7);
+    EXPECT_EQ(madePages(), 1);
+    EXPECT_TRUE(button("log").isChecked());
+}
+
+TEST_F(MainWindowTest, IgnoresAPageThatDoesNotExist)
+{
+    for (const char* name : {"", "Registry", "pages"}) {
+        m_window.showPage(name);
+        EXPECT_EQ(stack().currentIndex(), 0);
+        EXPECT_TRUE(button("registry").isChecked());
+    }
+}
+
+TEST_F(MainWindowTest, TellsItsSurroundingsInTheStatusLine)
+{
+    QStringList texts;
+    for (const QLabel* label : m_window.findChildren<QLabel*>())
+        texts.append(label->text());
+    for (const PathLabel* label : m_window.findChildren<PathLabel*>())
+        texts.append(label->text() + "|" + label->toolTip());
+    EXPECT_TRUE(texts.contains("English")) << texts.join('\n').toStdString();
+    EXPECT_EQ(texts.filter("libKdPlatformBase.so|/").size(), 1) << texts.join('\n').toStdString();
+    EXPECT_EQ(
+        texts.filter("~/data/window_test/registry.ini|" + g_globalSettings->fileName()).size(), 1)
+        << texts.join('\n').toStdString();
+}
+
+TEST(PathLabelTest, ShowsAPathThatLooksLikeMarkupInItsToolTip)
+{
+    const PathLabel label(QStringLiteral("/<b>bold"));
+    EXPECT_EQ(shownToolTip(label.toolTip()).toStdString(), "/<b>bold");
+}
+
+TEST_F(MainWindowTest, ThePathsOfTheStatusLineAreReadOutAndCopied)
+{
+    show();
+    const auto labels = m_window.findChild<StatusLine*>()->findChildren<PathLabel*>();
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_EQ(labels.last()->accessibleName(), "Settings store: " + g_globalSettings->fileName());
+    for (PathLabel* label : labels) {
+        EXPECT_NE(label->focusPolicy() & Qt::TabFocus, 0);
+        m_window.setAttribute(Qt::WA_KeyboardFocusChange); // as Tab does
+        const QImage without = label->grab().toImage();
+        label->setFocus(Qt::TabFocusReason);
+        EXPECT_NE(label->grab().toImage(), without) << "no focus frame";
+        QTest::keyClick(label, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), label->toolTip());
+    }
+}
+
+TEST_F(MainWindowTest, FitsASmallScreen)
+{
+    show();
+    m_window.resize(800, 600);
+    EXPECT_EQ(m_window.size(), QSize(800, 600));
+    EXPECT_LE(m_window.minimumSizeHint().width(), 800);
+    EXPECT_LE(m_window.minimumSizeHint().height(), 560);
+}
+
+struct PageOption
+{
+    std::vector<const char*> arguments;
+    const char* page;
+};
+
+TEST(RequestedPage, FollowsTheGrammarOfPairs)
+{
+    const PageOption rows[] = {{{"/page", "log"}, "log"},
+                               {{"/language", "zh-CN", "/page", "files"}, "files"},
+                               {{"/page", "log", "/page", "input"}, "input"},
+                               {{"/page"}, ""},
+                               {{"/page", "log", "/x"}, ""},
+                               {{"page", "log"}, ""},
+                               {{"/PAGE", "log"}, ""},
+                               {{"/x", "/page"}, ""},
+                               {{}, ""}};
+    for (const PageOption& row : rows) {
+        std::vector<std::string> texts = {"program"};
+        texts.insert(texts.end(), row.arguments.begin(), row.arguments.end());
+        std::vector<char*> arguments;
+        for (std::string& text : texts)
+            arguments.push_back(text.data());
+        EXPECT_EQ(requestedPage(static_cast<int>(arguments.size()), arguments.data()).toStdString(),
+                  row.page);
+    }
+}
+
+} // namespace

@@ -1,0 +1,390 @@
+#include "window/Page.h"
+
+#include "app/ApplicationLog.h"
+#include "widgets/QProgressIndicator.h"
+#include "window/BusyOverlay.h"
+#include "window/EmptyHint.h"
+#include "window/GlyphIcon.h"
+
+#include <QAccessible>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QStringListModel>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class OnePage : public Page
+{
+public:
+    OnePage() : field(new QLineEdit) { body()->addWidget(field); }
+
+    QLineEdit* field;
+};
+
+class PaintCounter : public QObject
+{
+public:
+    int count = 0;
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+class PageTest : public testing::Test
+{
+protected:
+    PageTest()
+    {
+        m_page.resize(640, 480);
+        m_page.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_page));
+        m_page.field->setFocus();
+    }
+
+    BusyOverlay& overlay() { return *m_page.findChild<BusyOverlay*>(); }
+
+    // A job of so many steps of one millisecond.
+    void start(int steps)
+    {
+        const auto step = [this, steps] {
+            QTest::qSleep(1);
+            return ++m_done < steps;
+        };
+        m_page.startJob({"Counting", step, [this] { return QString::number(m_done); },
+                         [this](bool complete) { m_end = complete ? "complete" : "cancelled"; }});
+    }
+    bool ends()
+    {
+        return QTest::qWaitFor([this] { return !m_end.isEmpty(); });
+    }
+
+    OnePage m_page;
+    int m_done = 0;
+    QString m_end;
+};
+
+TEST_F(PageTest, AShortJobEndsAtOnceWithoutCoveringThePage)
+{
+    start(3);
+    EXPECT_EQ(m_done, 3);
+    EXPECT_EQ(m_end.toStdString(), "complete");
+    EXPECT_FALSE(overlay().isVisible());
+    EXPECT_TRUE(m_page.field->hasFocus());
+}
+
+TEST_F(PageTest, ALongJobCoversThePageWithAWheelTheCountAndACancelButton)
+{
+    start(1000000);
+    EXPECT_TRUE(m_page.isBusy());
+    EXPECT_TRUE(overlay().isVisible());
+    EXPECT_EQ(overlay().geometry(), m_page.rect());
+    EXPECT_FALSE(m_page.field->isEnabled());
+    QTest::qWait(50);
+    auto* wheel = overlay().findChild<QProgressIndicator*>();
+    ASSERT_TRUE(wheel);
+    EXPECT_TRUE(wheel->isAnimated());
+    EXPECT_EQ(wheel->size(), m_page.size());
+    QStringList texts;
+    for (const QLabel* label : overlay().findChildren<QLabel*>())
+        texts.append(label->text());
+    EXPECT_TRUE(texts.contains("Counting"));
+    EXPECT_TRUE(texts.contains(QString::number(m_done)));
+    auto* cancel = overlay().findChild<QPushButton*>();
+    EXPECT_TRUE(cancel->hasFocus());
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    EXPECT_EQ(m_end.toStdString(), "cancelled");
+    EXPECT_FALSE(m_page.isBusy());
+    EXPECT_FALSE(overlay().isVisible());
+    EXPECT_TRUE(m_page.field->hasFocus());
+}
+
+TEST_F(PageTest, ALongJobGoesOnToItsEnd)
+{
+    start(60);
+    EXPECT_LT(m_done, 60);
+    ASSERT_TRUE(ends());
+    EXPECT_EQ(m_done, 60);
+    EXPECT_EQ(m_end.toStdString(), "complete");
+    EXPECT_TRUE(m_page.field->isEnabled());
+}
+
+TEST_F(PageTest, EscapeCancelsAJob)
+{
+    start(1000000);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(m_end.toStdString(), "cancelled");
+}
+
+TEST_F(PageTest, OneJobRunsAtATime)
+{
+    start(60);
+    bool ran = false;
+    m_page.startJob({"Second", [&ran] { return ran = true; }, {}, {}});
+    EXPECT_FALSE(ran);
+    ASSERT_TRUE(ends());
+    EXPECT_FALSE(ran);
+}
+
+TEST_F(PageTest, TheEndOfAJobMayStartTheNextOne)
+{
+    m_page.startJob({"First", [] { return false; }, {}, [this](bool) { start(3); }});
+    EXPECT_EQ(m_done, 3);
+}
+
+TEST_F(PageTest, AJobLeavesTheEventLoopItsTurns)
+{
+    int turns = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&turns] { ++turns; });
+    timer.start(0);
+    start(100);
+    ASSERT_TRUE(ends());
+    EXPECT_GE(turns, 4); // a hundred milliseconds in slices of twelve
+}
+
+TEST_F(PageTest, TheOverlayFollowsThePagesSize)
+{
+    start(1000000);
+    m_page.resize(500, 400);
+    QTest::qWait(20);
+    EXPECT_EQ(overlay().size(), QSize(500, 400));
+    EXPECT_EQ(overlay().findChild<QProgressIndicator*>()->size(), QSize(500, 400));
+    m_page.cancelJob();
+}
+
+TEST_F(PageTest, ThePageIsSeldomPaintedUnderTheWheel)
+{
+    PaintCounter field;
+    m_page.field->installEventFilter(&field);
+    start(1000000);
+    PaintCounter wheel;
+    overlay().findChild<QProgressIndicator*>()->installEventFilter(&wheel);
+    field.count = 0;
+    ASSERT_TRUE(QTest::qWaitFor([&wheel] { return wheel.count > 20; }));
+    EXPECT_LT(3 * field.count, wheel.count);
+    m_page.cancelJob();
+    EXPECT_TRUE(QTest::qWaitFor([&field] { return field.count > 0; }));
+}
+
+TEST_F(PageTest, TheOverlayLooksAsThePageBelowIt)
+{
+    start(1000000);
+    overlay().findChild<QProgressIndicator*>()->hide();
+    overlay().findChild<QFrame*>()->hide();
+    const QImage covered = m_page.grab().toImage();
+    overlay().hide();
+    EXPECT_EQ(covered, m_page.grab().toImage());
+    m_page.cancelJob();
+}
+
+TEST_F(PageTest, TheOverlayShowsThePageItselfOnceThatHasChanged)
+{
+    const std::function<void(OnePage&)> changes[] = {
+        [](OnePage& page) { page.resize(700, 500); },
+        [](OnePage& page) { page.setPalette(QPalette(Qt::darkGreen)); },
+        [](OnePage& page) { page.setFont(QFont(page.font().family(), 30)); },
+        [](OnePage& page) { page.setStyleSheet("QLineEdit { background: red; }"); }};
+    for (const auto& change : changes) {
+        start(1000000);
+        overlay().findChild<QProgressIndicator*>()->hide();
+        overlay().findChild<QFrame*>()->hide();
+        change(m_page);
+        QTest::qWait(20);
+        const QImage covered = m_page.grab().toImage();
+        overlay().hide();
+        EXPECT_EQ(covered, m_page.grab().toImage()) << &change - changes;
+        m_page.cancelJob();
+    }
+}
+
+TEST_F(PageTest, WhatThePageFillsInDuringAJobIsSeen)
+{
+    start(1000000);
+    overlay().findChild<QProgressIndicator*>()->hide();
+    m_page.field->setText("arrived");
+    const auto seen = [this] {
+        overlay().findChild<QFrame*>()->hide();
+        const QImage covered = m_page.grab().toImage();
+        overlay().hide();
+        const QImage page = m_page.grab().toImage();
+        overlay().show();
+        return covered == page;
+    };
+    EXPECT_FALSE(seen()); // still the picture
+    EXPECT_TRUE(QTest::qWaitFor(seen));
+    m_page.cancelJob();
+}
+
+TEST_F(PageTest, TheWheelIsGoneAfterTheJob)
+{
+    start(60);
+    ASSERT_TRUE(ends());
+    QTest::qWait(20);
+    EXPECT_FALSE(overlay().findChild<QProgressIndicator*>());
+}
+
+TEST_F(PageTest, DestroyingThePageDropsItsJob)
+{
+    bool ended = false;
+    {
+        OnePage page;
+        page.startJob({"Endless",
+                       [] {
+                           QTest::qSleep(1);
+                           return true;
+                       },
+                       {},
+                       [&ended](bool) { ended = true; }});
+        EXPECT_TRUE(page.isBusy());
+    }
+    QTest::qWait(30);
+    EXPECT_FALSE(ended);
+}
+
+TEST_F(PageTest, AReportIsShownAndLogged)
+{
+    m_page.report(Page::Report::Error, "It was refused.");
+    EXPECT_EQ(m_page.statusText().toStdString(), "It was refused.");
+    QFile log(ApplicationLog::path());
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    const QByteArray lines = log.readAll();
+    EXPECT_TRUE(lines.contains("[ERROR] "));
+    EXPECT_TRUE(lines.endsWith(" : It was refused.\n"));
+}
+
+QStringList alerts;
+
+void noteAlert(QAccessibleEvent* event)
+{
+    if (event->type() == QAccessible::Alert)
+        alerts += event->accessibleInterface()->text(QAccessible::Name);
+}
+
+TEST_F(PageTest, AStatusIsReadOut)
+{
+    // As a running assistive tool does.
+    QPlatformAccessibility* platform =
+        QGuiApplicationPrivate::platformIntegration()->accessibility();
+    platform->setActive(true);
+    const auto former = QAccessible::installUpdateHandler(&noteAlert);
+    m_page.setStatus("It is done.");
+    m_page.setStatus(QString());
+    QAccessible::installUpdateHandler(former);
+    platform->setActive(false);
+    EXPECT_EQ(alerts, QStringList("It is done."));
+}
+
+TEST_F(PageTest, AStatusIsShownAndNotLogged)
+{
+    const auto logged = [] {
+        QFile log(ApplicationLog::path());
+        return log.open(QIODevice::ReadOnly) && log.readAll().contains("Only seen here");
+    };
+    m_page.setStatus("Only seen here");
+    EXPECT_EQ(m_page.statusText().toStdString(), "Only seen here");
+    EXPECT_FALSE(logged());
+}
+
+// A label wraps between words only: one that is longer than a line would widen the window.
+TEST_F(PageTest, ALongWordIsShortenedInTheStatusAlone)
+{
+    const QString text = QStringLiteral("No such name: ") + QString(300, QLatin1Char('W'));
+    const int width = m_page.minimumSizeHint().width();
+    m_page.report(Page::Report::Error, text);
+    EXPECT_EQ(m_page.statusText(), text);
+    EXPECT_LE(m_page.minimumSizeHint().width(), qMax(width, 640));
+    QFile log(ApplicationLog::path());
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(log.readAll().contains(text.toUtf8()));
+}
+
+TEST_F(PageTest, TheIconOfAReportFollowsThePalette)
+{
+    m_page.report(Page::Report::Error, "It was refused.");
+    const auto icon = [this] {
+        const auto* label = m_page.findChild<QLabel*>("statusIcon");
+        return label->pixmap(Qt::ReturnByValue).toImage();
+    };
+    const QImage light = icon();
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Highlight, Qt::yellow);
+    QApplication::setPalette(dark);
+    QTest::qWait(10);
+    EXPECT_NE(icon(), light);
+    QApplication::setPalette(before);
+    QTest::qWait(10);
+    EXPECT_EQ(icon(), light);
+}
+
+TEST(EmptyHint, StandsInAViewForAsLongAsItIsEmpty)
+{
+    QStringListModel model;
+    QListView view;
+    view.setModel(&model);
+    view.resize(200, 200);
+    view.show();
+    new EmptyHint(&view, "Nothing here yet.");
+    auto* label = view.viewport()->findChild<QLabel*>();
+    EXPECT_TRUE(label->isVisible());
+    model.setStringList({"a"});
+    EXPECT_FALSE(label->isVisible());
+    model.removeRows(0, 1);
+    EXPECT_TRUE(label->isVisible());
+    EXPECT_TRUE(view.viewport()->rect().contains(label->geometry()));
+}
+
+class EveryGlyph : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(EveryGlyph, IsPaintedCrisplyAtEverySize)
+{
+    const QIcon icon = glyphIcon(static_cast<Glyph>(GetParam()));
+    for (const int side : {16, 24, 48, 72}) {
+        const QImage image = icon.pixmap(side, side).toImage();
+        EXPECT_EQ(image.size(), QSize(side, side));
+        int painted = 0;
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x)
+                painted += image.pixelColor(x, y).alpha() > 0 ? 1 : 0;
+        }
+        EXPECT_GT(painted, side * side / 20);
+        EXPECT_LT(painted, side * side);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(GlyphIcon, EveryGlyph,
+                         testing::Range(0, static_cast<int>(Glyph::Error) + 1));
+
+TEST(GlyphIcon, FollowsThePalette)
+{
+    const QPalette before = QApplication::palette();
+    const QIcon icon = glyphIcon(Glyph::Log);
+    const QImage light = icon.pixmap(24, 24).toImage();
+    QPalette dark = before;
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Highlight, Qt::yellow);
+    QApplication::setPalette(dark);
+    EXPECT_NE(icon.pixmap(24, 24).toImage(), light);
+    QApplication::setPalette(before);
+    EXPECT_EQ(icon.pixmap(24, 24).toImage(), light);
+}
+
+} // namespace

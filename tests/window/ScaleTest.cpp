@@ -1,0 +1,82 @@
+#include "tests/pages/CutTexts.h"
+#include "tests/pages/SmallFont.h"
+#include "tests/pages/WindowProbe.h"
+
+#include "window/PageRail.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// What the environment asks for: this program runs once for each.
+int wantedRatio()
+{
+    return qMax(1, qEnvironmentVariableIntValue("QT_SCALE_FACTOR"));
+}
+
+// A page of the real window on a screen of 3840 x 2160, at 100 % to 300 %.
+class ScaledPage : public testing::TestWithParam<const char*>
+{
+protected:
+    ScaledPage() { QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); }
+
+    QWidget& window() { return *m_probe.page().window(); }
+
+    SmallFont m_font;
+    WindowProbe m_probe{GetParam()};
+};
+
+TEST_P(ScaledPage, StandsOnALargeScreenOfThatScale)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+    const QScreen& screen = *window().windowHandle()->screen();
+    EXPECT_EQ(screen.size() * wantedRatio(), QSize(3840, 2160));
+    EXPECT_EQ(qRound(window().devicePixelRatioF()), wantedRatio());
+    EXPECT_TRUE(screen.availableGeometry().contains(window().frameGeometry()))
+        << window().frameGeometry().width() << " x " << window().frameGeometry().height();
+    const QSize first = MainWindow().size();
+    EXPECT_TRUE(first.width() >= 800 && first.width() <= screen.size().width());
+    EXPECT_TRUE(first.height() >= 600 && first.height() <= screen.size().height());
+}
+
+TEST_P(ScaledPage, CutsOffNoText)
+{
+    EXPECT_TRUE(QTest::qWaitFor([this] { return cutTexts(window()).isEmpty(); }, 1000))
+        << cutTexts(window()).join(QLatin1String(" | ")).toStdString();
+    EXPECT_EQ(window().size(), QSize(800, 600));
+}
+
+TEST_P(ScaledPage, HasGlyphsOfTheScreensResolution)
+{
+    const auto buttons = window().findChild<PageRail*>()->findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), 8);
+    for (const QPushButton* button : buttons) {
+        const QPixmap glyph = button->icon().pixmap(window().windowHandle(), button->iconSize());
+        EXPECT_EQ(glyph.size(), button->iconSize() * wantedRatio());
+        EXPECT_EQ(qRound(glyph.devicePixelRatio()), wantedRatio());
+    }
+    m_probe.page().report(Page::Report::Warning, "It was refused.");
+    int glyphs = 0;
+    for (const QLabel* label : m_probe.page().findChildren<QLabel*>()) {
+        const QPixmap glyph = label->pixmap(Qt::ReturnByValue);
+        if (!label->isVisible() || glyph.isNull())
+            continue;
+        ++glyphs;
+        EXPECT_EQ(qRound(glyph.devicePixelRatio()), wantedRatio());
+        EXPECT_EQ(glyph.height(), label->fontMetrics().height() * wantedRatio());
+    }
+    EXPECT_GE(glyphs, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, ScaledPage,
+                         testing::Values("registry", "profiles", "files", "fonts", "displays",
+                                         "input", "crypto", "log"),
+                         [](const auto& page) { return std::string(page.param); });
+
+} // namespace

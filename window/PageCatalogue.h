@@ -1,0 +1,25 @@
+#pragma once
+
+#include "window/GlyphIcon.h"
+
+#include <QString>
+
+#include <vector>
+
+class Page;
+class QWidget;
+
+/// One page of the window. The order of the catalogue is the order in the rail and in the stack.
+struct PageEntry
+{
+    /// The value of the option "/page".
+    QString name;
+    /// Translated, with its mnemonic.
+    QString title;
+    Glyph glyph;
+    /// Makes the page; `parent` owns it.
+    Page* (*create)(QWidget* parent);
+};
+
+/// All pages. Declared here for the window and defined above it, beside the pages.
+std::vector<PageEntry> pageCatalogue();

@@ -1,0 +1,37 @@
+#include "window/PageRail.h"
+
+#include "widgets/ButtonMonitor.h"
+#include "window/MnemonicText.h"
+#include "window/RailButton.h"
+
+#include <QButtonGroup>
+#include <QKeySequence>
+#include <QVBoxLayout>
+
+PageRail::PageRail(const std::vector<PageEntry>& pages, QWidget* parent)
+    : QWidget(parent), m_buttons(new QButtonGroup(this))
+{
+    setAccessibleName(tr("Pages"));
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+    auto* layout = new QVBoxLayout(this);
+    for (const PageEntry& page : pages) {
+        const int index = m_buttons->buttons().size();
+        auto* button = new RailButton(glyphIcon(page.glyph), page.title);
+        button->setObjectName(page.name);
+        button->setAccessibleName(withoutMnemonic(page.title));
+        button->setToolTip(QKeySequence(QStringLiteral("Alt+%1").arg(index + 1))
+                               .toString(QKeySequence::NativeText));
+        button->installEventFilter(&g_buttonMonitor);
+        connect(button, &QPushButton::clicked, this, [this, index] { emit chosen(index); });
+        m_buttons->addButton(button, index);
+        layout->addWidget(button);
+    }
+    layout->addStretch();
+}
+
+void PageRail::setChosen(int page)
+{
+    if (QAbstractButton* button = m_buttons->button(page))
+        button->setChecked(true);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "window/PageCatalogue.h"
+
+#include <QWidget>
+
+class QButtonGroup;
+
+/// The column of buttons that choose pages. Exactly one is checked: the page chosen last.
+class PageRail : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PageRail(const std::vector<PageEntry>& pages, QWidget* parent = nullptr);
+
+    /// Checks the button of this page without emitting anything.
+    void setChosen(int page);
+
+signals:
+    /// The user has pressed the button of this page, which may be the one in view.
+    void chosen(int page);
+
+private:
+    QButtonGroup* m_buttons;
+};

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "window/PageCatalogue.h"
+
+#include <QWidget>
+
+class Page;
+class QAnimationStackedWidget;
+
+/// The pages, one in view. A later page slides in from the right, an earlier one from the left.
+/// Pages are made on their first visit.
+class PageStack : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PageStack(std::vector<PageEntry> pages, QWidget* parent = nullptr);
+
+    /// Puts a page in view without sliding; for the time before the window is shown.
+    void open(int page);
+    /// Slides to a page. While a slide runs the choice is remembered, the last one wins, and the
+    /// slide to it follows.
+    void slideTo(int page);
+
+    /// The page in view; the leaving one while a slide runs.
+    int current() const;
+    /// Null before the first visit.
+    Page* page(int index) const;
+    /// Makes the page unless it has been made.
+    Page* made(int index);
+
+signals:
+    /// A page has come into view, by a slide or when the window was shown first.
+    void entered(int page);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QWidget* place(int index) const;
+    void slid();
+    void enter();
+
+    std::vector<PageEntry> m_pages;
+    QAnimationStackedWidget* m_stack;
+    bool m_opened = false; ///< the window has been painted
+    bool m_sliding = false;
+    bool m_focusFollows = false;
+    int m_next = -1; ///< what was chosen while a slide ran, or -1
+};
