@@ -6,7 +6,7 @@
 
 #include "host/HostLibraries.h"
 #include "inspection/registry/RegistrySearch.h"
-#include "inspection/registry/StoreOpening.h"
+#include "inspection/registry/StoreOpeningJob.h"
 #include "pages/files/FilesPage.h"
 #include "pages/registry/RegistryPage.h"
 #include "platform/PlatformServicesImp.h"
@@ -109,7 +109,7 @@ double longestSearchStep()
 
 double longestOpeningStep()
 {
-    StoreOpening opening;
+    StoreOpeningJob opening;
     double longest = 0;
     bool more = true;
     while (more)

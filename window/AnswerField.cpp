@@ -1,6 +1,6 @@
 #include "window/AnswerField.h"
 
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QEvent>
 #include <QGuiApplication>

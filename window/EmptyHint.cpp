@@ -1,6 +1,6 @@
 #include "window/EmptyHint.h"
 
-#include "window/LongWords.h"
+#include "window/ShownText.h"
 
 #include <QAbstractItemView>
 #include <QEvent>

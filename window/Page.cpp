@@ -4,8 +4,7 @@
 #include "widgets/ButtonMonitor.h"
 #include "window/BusyOverlay.h"
 #include "window/GlyphIcon.h"
-#include "window/LongWords.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QAccessible>
 #include <QEvent>
@@ -59,8 +58,8 @@ Page::Page(QWidget* parent)
     m_status->setWordWrap(true);
     m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
     connect(m_overlay, &BusyOverlay::cancelRequested, this, &Page::cancelJob);
-    connect(&m_job, &SlicedJob::progressed, this, &Page::showProgress);
-    connect(&m_job, &SlicedJob::finished, this, [this] { endJob(true); });
+    connect(&m_runner, &JobRunner::progressed, this, &Page::showProgress);
+    connect(&m_runner, &JobRunner::finished, this, [this] { endJob(true); });
 }
 
 void Page::refresh() {}
@@ -82,19 +81,47 @@ QString Page::statusText() const
     return m_statusText;
 }
 
-void Page::startJob(Job job)
+void Page::startJob(Steps steps)
+{
+    class StepsJob : public Job
+    {
+    public:
+        StepsJob(Steps steps, bool& isLong) : m_steps(std::move(steps)), m_long(isLong) {}
+        bool step() override
+        {
+            m_long = false;
+            return m_steps.step();
+        }
+        QString progress() const override
+        {
+            return m_steps.progress ? m_steps.progress() : QString();
+        }
+        bool isNextStepLong() const override { return m_long; }
+
+    private:
+        Steps m_steps;
+        bool& m_long;
+    };
+    const auto finished = steps.finished;
+    const QString title = steps.title;
+    run(title, std::make_unique<StepsJob>(std::move(steps), m_nextStepIsLong), finished);
+}
+
+void Page::run(const QString& title, std::unique_ptr<Job> job,
+               std::function<void(bool complete)> finished)
 {
     if (isBusy())
         return;
-    m_current = std::move(job);
-    if (m_job.start(m_current.step)) {
+    m_job = std::move(job);
+    m_finished = std::move(finished);
+    if (m_runner.start(*m_job)) {
         endJob(true);
         return;
     }
     QWidget* focus = window()->focusWidget();
     m_focusBefore = isAncestorOf(focus) ? focus : nullptr;
     m_content->setEnabled(false);
-    m_overlay->cover(m_current.title);
+    m_overlay->cover(title);
     showProgress();
 }
 
@@ -102,26 +129,28 @@ void Page::cancelJob()
 {
     if (!isBusy())
         return;
-    endJob(m_job.cancel());
+    endJob(m_runner.cancel());
 }
 
 // The callback may start the next job, so this one is out of the way before it is called.
 void Page::endJob(bool complete)
 {
-    const Job job = std::exchange(m_current, {});
+    const std::unique_ptr<Job> job = std::move(m_job);
+    const auto finished = std::exchange(m_finished, {});
     const bool hadFocus = m_overlay->isAncestorOf(window()->focusWidget());
     m_content->setEnabled(true);
     m_overlay->uncover();
     if (hadFocus && m_focusBefore)
         m_focusBefore->setFocus();
-    if (job.finished)
-        job.finished(complete);
+    if (finished)
+        finished(complete);
 }
 
 void Page::showProgress()
 {
-    if (m_current.progress)
-        m_overlay->setProgress(m_current.progress());
+    const QString progress = m_job->progress();
+    if (!progress.isEmpty())
+        m_overlay->setProgress(progress);
 }
 
 void Page::report(Report kind, const QString& text)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "inspection/SlicedJob.h"
+#include "inspection/JobRunner.h"
+#include "window/PageContext.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -24,25 +25,18 @@ class QVBoxLayout;
 /// What a page keeps to:
 ///  - Everything that it shows comes through `g_PlatformServices`, so that it shows what a host
 ///    library gets; text read past the services is marked as raw. Models know nothing of views.
-///  - Nothing takes longer than 30 ms at a time. What may, is a job: see `startJob`.
+///  - Nothing takes longer than 30 ms at a time. What may, is a job: see PageContext.
 ///  - F5 calls `refresh`, Ctrl+F calls `find`, both only while no job runs. F2 and Delete belong to
 ///    the page's own actions (QAction, Qt::WidgetWithChildrenShortcut, added to the view).
 ///  - The letters R P F O D I C L after Alt choose pages; do not use them as mnemonics.
 ///  - Sizes come from the font (QFontMetrics, style metrics), colours from the palette, and every
 ///    text through tr(). A page must fit 640 x 520 pixels with a 9 point font.
 ///  - What happened, and what was refused and why, is told with `report`.
-class Page : public QWidget
+class Page : public QWidget, public PageContext
 {
     Q_OBJECT
 
 public:
-    enum class Report
-    {
-        Info,
-        Warning,
-        Error
-    };
-
     explicit Page(QWidget* parent = nullptr);
 
     /// Reads everything anew. Does nothing by default.
@@ -54,8 +48,8 @@ public:
     /// construction. Does nothing by default.
     virtual void entered();
 
-    /// True while a job runs; the page's controls are then disabled.
-    bool isBusy() const { return m_job.isRunning(); }
+    /// The page's controls are disabled while a job runs.
+    bool isBusy() const override { return m_runner.isRunning(); }
 
     /// Takes the keyboard: the control that gets it first, or Cancel while a job runs.
     void takeFocus();
@@ -63,32 +57,23 @@ public:
     /// The text of the last report.
     QString statusText() const;
 
-    struct Job
+    // To be replaced by jobs of their own.
+    struct Steps
     {
-        /// What is being done, such as "Searching".
         QString title;
-        /// See SlicedJob::Step. Must not open dialogs.
-        SlicedJob::Step step;
-        /// The count so far in words, such as "1,234 values". May be empty.
+        std::function<bool()> step;
         std::function<QString()> progress;
-        /// Called once at the end, `complete` false after Cancel; the page is usable again then.
-        /// Not called when the page is destroyed before.
         std::function<void(bool complete)> finished;
     };
+    void startJob(Steps steps);
+    void endSlice() { m_nextStepIsLong = true; }
+    using PageContext::startJob;
 
-    /// Runs a job. The page is covered, with a wheel, the progress and a Cancel button, unless the
-    /// job ends within its first slice. One job at a time: a further one is ignored.
-    void startJob(Job job);
     /// As the Cancel button.
     void cancelJob();
 
-    /// See SlicedJob::endSlice.
-    void endSlice() { m_job.endSlice(); }
-
-    /// Shows `text` below the page's body until the next report, and logs it: never pass secrets.
-    void report(Report kind, const QString& text);
-    /// Shows `text` in the same place without logging it.
-    void setStatus(const QString& text);
+    void report(Report kind, const QString& text) override;
+    void setStatus(const QString& text) override;
 
 protected:
     /// Where the page's widgets go; below it stands the line of `report`.
@@ -97,6 +82,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void run(const QString& title, std::unique_ptr<Job> job,
+             std::function<void(bool complete)> finished) override;
     void showStatus(Report kind, const QString& text);
     void paintStatusIcon();
     void endJob(bool complete);
@@ -109,8 +96,10 @@ private:
     QLabel* m_status;
     QString m_statusText; ///< whole: the label leaves out the middle of long words
     BusyOverlay* m_overlay;
-    SlicedJob m_job;
-    Job m_current;
+    JobRunner m_runner;
+    std::unique_ptr<Job> m_job; ///< the one that runs
+    std::function<void(bool complete)> m_finished;
+    bool m_nextStepIsLong = false;
     QPointer<QWidget> m_focusBefore;
 };
 

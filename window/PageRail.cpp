@@ -1,8 +1,8 @@
 #include "window/PageRail.h"
 
 #include "widgets/ButtonMonitor.h"
-#include "window/MnemonicText.h"
 #include "window/RailButton.h"
+#include "window/ShownText.h"
 
 #include <QButtonGroup>
 #include <QKeySequence>

@@ -1,6 +1,6 @@
 #include "window/PathLabel.h"
 
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QAction>
 #include <QClipboard>

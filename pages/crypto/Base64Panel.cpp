@@ -5,7 +5,7 @@
 #include "inspection/crypto/DecodedText.h"
 #include "inspection/crypto/TextLimits.h"
 #include "pages/crypto/TextPane.h"
-#include "window/MnemonicText.h"
+#include "window/ShownText.h"
 
 #include <QHBoxLayout>
 #include <QPlainTextEdit>

@@ -4,7 +4,7 @@
 #include "pages/crypto/Base64Panel.h"
 #include "pages/crypto/CipherPanel.h"
 #include "pages/crypto/DigestPanel.h"
-#include "window/TabLook.h"
+#include "window/ViewLook.h"
 
 #include <QTabWidget>
 #include <QVBoxLayout>

@@ -3,7 +3,7 @@
 #include "inspection/crypto/DigestJob.h"
 #include "pages/crypto/CopyButton.h"
 #include "pages/crypto/DigestSource.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QFontDatabase>
 #include <QGridLayout>

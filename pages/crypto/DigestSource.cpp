@@ -2,7 +2,7 @@
 
 #include "inspection/crypto/DigestJob.h"
 #include "window/Page.h"
-#include "window/PlainText.h"
+#include "window/ShownText.h"
 
 #include <QDragEnterEvent>
 #include <QFileDialog>

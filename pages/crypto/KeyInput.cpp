@@ -1,6 +1,6 @@
 #include "pages/crypto/KeyInput.h"
 
-#include "window/MnemonicText.h"
+#include "window/ShownText.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

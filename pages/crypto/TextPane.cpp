@@ -1,8 +1,7 @@
 #include "pages/crypto/TextPane.h"
 
 #include "pages/crypto/CopyButton.h"
-#include "window/MnemonicText.h"
-#include "window/PlainText.h"
+#include "window/ShownText.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>

@@ -6,7 +6,7 @@
 #include "pages/displays/MonitorTable.h"
 #include "pages/displays/PointPanel.h"
 #include "platform/PlatformServicesImp.h"
-#include "window/TabLook.h"
+#include "window/ViewLook.h"
 
 #include <QHBoxLayout>
 #include <QLocale>

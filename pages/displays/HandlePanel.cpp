@@ -2,8 +2,8 @@
 
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
-#include "window/MnemonicText.h"
-#include "window/TableLook.h"
+#include "window/ShownText.h"
+#include "window/ViewLook.h"
 
 #include <QAction>
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 
 #include "platform/PlatformServicesImp.h"
 #include "window/AnswerField.h"
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

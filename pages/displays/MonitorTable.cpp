@@ -1,6 +1,6 @@
 #include "pages/displays/MonitorTable.h"
 
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "platform/PlatformServicesImp.h"
 #include "window/AnswerField.h"
-#include "window/MnemonicText.h"
+#include "window/ShownText.h"
 
 #include <QFormLayout>
 #include <QLabel>

@@ -4,7 +4,7 @@
 #include "pages/files/PathPanel.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 #include "pages/files/FoundEntriesModel.h"
 
 #include "inspection/files/FileAttributes.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QDateTime>
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 #include "pages/fonts/FontRecordsModel.h"
 
 #include "inspection/fonts/CharacterSets.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QFont>
 #include <QGuiApplication>

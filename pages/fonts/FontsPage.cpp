@@ -4,9 +4,8 @@
 #include "inspection/fonts/SystemFonts.h"
 #include "pages/fonts/FontRecordsModel.h"
 #include "window/AnswerField.h"
-#include "window/ColumnBalancer.h"
 #include "window/EmptyHint.h"
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

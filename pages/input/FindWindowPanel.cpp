@@ -1,7 +1,7 @@
 #include "pages/input/FindWindowPanel.h"
 
 #include "platform/PlatformServicesImp.h"
-#include "window/MnemonicText.h"
+#include "window/ShownText.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "pages/log/LogModel.h"
 
 #include "window/GlyphIcon.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QFile>
 

@@ -6,7 +6,7 @@
 #include "pages/log/TailFollower.h"
 #include "window/EmptyHint.h"
 #include "window/PathLabel.h"
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QAction>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #include "pages/profiles/ProfileEditPanel.h"
 
-#include "window/MnemonicText.h"
 #include "window/Page.h"
+#include "window/ShownText.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>

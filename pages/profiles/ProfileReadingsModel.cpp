@@ -1,7 +1,7 @@
 #include "pages/profiles/ProfileReadingsModel.h"
 
 #include "pages/profiles/ProfileText.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QFont>
 #include <QGuiApplication>

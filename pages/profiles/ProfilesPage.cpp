@@ -10,9 +10,8 @@
 #include "pages/profiles/ProfileLinesModel.h"
 #include "pages/profiles/ProfileReadingsModel.h"
 #include "platform/profiles/LineStateText.h"
-#include "window/ColumnBalancer.h"
 #include "window/EmptyHint.h"
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QAction>
 #include <QDragEnterEvent>

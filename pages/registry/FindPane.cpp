@@ -3,7 +3,7 @@
 #include "pages/registry/HitModel.h"
 #include "window/EmptyHint.h"
 #include "window/Page.h"
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "pages/registry/HitModel.h"
 
 #include "inspection/registry/RegistryPath.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 void HitModel::setHits(const std::vector<RegistrySearch::Hit>& hits)
 {

@@ -2,7 +2,7 @@
 
 #include "pages/registry/ImportModel.h"
 #include "window/Page.h"
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

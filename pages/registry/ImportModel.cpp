@@ -4,7 +4,7 @@
 #include "inspection/registry/RegistryKey.h"
 #include "platform/WindowsTypes.h"
 #include "window/GlyphIcon.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 namespace {
 

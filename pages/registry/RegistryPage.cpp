@@ -6,15 +6,14 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreFault.h"
-#include "inspection/registry/StoreOpening.h"
+#include "inspection/registry/StoreOpeningJob.h"
 #include "inspection/registry/TypedAddress.h"
 #include "pages/registry/FindPane.h"
 #include "pages/registry/RegistryEditor.h"
 #include "pages/registry/RegistryTransfer.h"
 #include "pages/registry/RegistryTreeModel.h"
-#include "window/ColumnBalancer.h"
 #include "window/EmptyHint.h"
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QAction>
 #include <QApplication>
@@ -64,8 +63,7 @@ RegistryPage::RegistryPage(QWidget* parent)
       m_address(new QLineEdit),
       m_tree(new QTreeView),
       m_table(new QTableView),
-      m_find(new FindPane),
-      m_opening(new SlicedJob(this))
+      m_find(new FindPane)
 {
     makeTree();
     makeTable();
@@ -224,7 +222,7 @@ void RegistryPage::connectParts()
             [this](const QString& why) { report(Report::Error, why); });
     connect(m_find, &FindPane::chosen, this, &RegistryPage::goTo);
     connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
-    connect(m_opening, &SlicedJob::finished, this, &RegistryPage::refreshEntered);
+    connect(&m_openingRunner, &JobRunner::finished, this, &RegistryPage::refreshEntered);
 }
 
 QString RegistryPage::path() const
@@ -321,8 +319,10 @@ void RegistryPage::readFirst()
         QMetaObject::invokeMethod(this, work, Qt::QueuedConnection);
     };
     later([this, later] {
-        const auto opening = std::make_shared<StoreOpening>();
-        if (!m_opening->isRunning() && m_opening->start([opening] { return opening->step(); }))
+        if (m_openingRunner.isRunning())
+            return;
+        m_opening = std::make_unique<StoreOpeningJob>();
+        if (m_openingRunner.start(*m_opening))
             later([this] { refreshEntered(); });
     });
 }

@@ -13,6 +13,7 @@ class QTreeView;
 class RegistryEditor;
 class RegistryTreeModel;
 class RegistryTransfer;
+class StoreOpeningJob;
 class RegistryValueModel;
 
 /// The registry as a host library finds it: the keys, the values of one of them, and every change
@@ -75,7 +76,8 @@ private:
     QTreeView* m_tree;
     QTableView* m_table;
     FindPane* m_find;
-    SlicedJob* m_opening; ///< of the store, before it is listed
+    std::unique_ptr<StoreOpeningJob> m_opening; ///< of the store, before it is listed
+    JobRunner m_openingRunner;
     EmptyHint* m_hint = nullptr;
     QWidget* m_lastView = nullptr; ///< that had the keyboard
     bool m_read = false;           ///< the store has been listed

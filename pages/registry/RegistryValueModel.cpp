@@ -6,7 +6,7 @@
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoredText.h"
 #include "pages/registry/ValueGlyph.h"
-#include "window/PlainToolTip.h"
+#include "window/ShownText.h"
 
 #include <QFont>
 #include <QFontDatabase>

@@ -5,7 +5,7 @@
 #include "inspection/registry/ValueInput.h"
 #include "window/GlyphIcon.h"
 #include "window/Page.h"
-#include "window/PlainText.h"
+#include "window/ShownText.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

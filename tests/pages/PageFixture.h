@@ -1,8 +1,8 @@
 #pragma once
 
 #include "window/MainWindow.h"
-#include "window/MnemonicText.h"
 #include "window/Page.h"
+#include "window/ShownText.h"
 
 #include <QApplication>
 #include <QLineEdit>

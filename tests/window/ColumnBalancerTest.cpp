@@ -1,6 +1,4 @@
-#include "window/ColumnBalancer.h"
-
-#include "window/TableLook.h"
+#include "window/ViewLook.h"
 
 #include <QApplication>
 #include <QHeaderView>

@@ -1,4 +1,4 @@
-#include "window/LongWords.h"
+#include "window/ShownText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "window/MnemonicText.h"
 #include "tests/pages/WindowProbe.h"
+#include "window/ShownText.h"
 
 #include <QLineEdit>
 

@@ -1,7 +1,7 @@
 #include "tools/pictures/PageDriver.h"
 
 #include "tests/support/Display.h"
-#include "window/MnemonicText.h"
+#include "window/ShownText.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>

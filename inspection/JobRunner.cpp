@@ -1,4 +1,4 @@
-#include "inspection/SlicedJob.h"
+#include "inspection/JobRunner.h"
 
 #include <QElapsedTimer>
 
@@ -8,45 +8,44 @@ constexpr qint64 sliceMilliseconds = 12; // leaves room for a last step and for 
 
 } // namespace
 
-SlicedJob::SlicedJob(QObject* parent) : QObject(parent)
+JobRunner::JobRunner(QObject* parent) : QObject(parent)
 {
-    connect(&m_timer, &QTimer::timeout, this, &SlicedJob::next);
+    connect(&m_timer, &QTimer::timeout, this, &JobRunner::next);
 }
 
-bool SlicedJob::start(Step step)
+bool JobRunner::start(Job& job)
 {
     Q_ASSERT(!isRunning());
-    m_step = std::move(step);
+    m_job = &job;
     if (!slice())
         return true;
     m_timer.start(0);
     return false;
 }
 
-bool SlicedJob::cancel()
+bool JobRunner::cancel()
 {
-    const bool complete = isRunning() && !m_step;
+    const bool complete = isRunning() && !m_job;
     m_timer.stop();
-    m_step = nullptr;
+    m_job = nullptr;
     return complete;
 }
 
-bool SlicedJob::slice()
+bool JobRunner::slice()
 {
     QElapsedTimer clock;
     clock.start();
-    m_endsSlice = false;
-    while (m_step()) {
-        if (m_endsSlice || clock.elapsed() >= sliceMilliseconds)
+    while (m_job->step()) {
+        if (m_job->isNextStepLong() || clock.elapsed() >= sliceMilliseconds)
             return true;
     }
-    m_step = nullptr;
+    m_job = nullptr;
     return false;
 }
 
-void SlicedJob::next()
+void JobRunner::next()
 {
-    if (m_step) {
+    if (m_job) {
         if (slice())
             emit progressed();
         return;

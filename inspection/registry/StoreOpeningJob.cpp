@@ -1,4 +1,4 @@
-#include "inspection/registry/StoreOpening.h"
+#include "inspection/registry/StoreOpeningJob.h"
 
 #include "host/HostLibraries.h"
 
@@ -38,7 +38,7 @@ QString groupOf(const QByteArray& section)
 
 } // namespace
 
-StoreOpening::StoreOpening()
+StoreOpeningJob::StoreOpeningJob()
 {
     if (!g_globalSettings)
         return;
@@ -53,7 +53,7 @@ StoreOpening::StoreOpening()
     }
 }
 
-bool StoreOpening::step()
+bool StoreOpeningJob::step()
 {
     if (m_at == m_sections.size())
         return false;

@@ -1,4 +1,4 @@
-#include "inspection/registry/StoreOpening.h"
+#include "inspection/registry/StoreOpeningJob.h"
 
 #include "host/HostLibraries.h"
 
@@ -10,11 +10,11 @@
 
 namespace {
 
-class StoreOpeningTest : public testing::Test
+class StoreOpeningJobTest : public testing::Test
 {
 protected:
-    StoreOpeningTest() { g_globalSettings = nullptr; }
-    ~StoreOpeningTest() override { g_globalSettings = m_hosts; }
+    StoreOpeningJobTest() { g_globalSettings = nullptr; }
+    ~StoreOpeningJobTest() override { g_globalSettings = m_hosts; }
 
     QString path() const { return m_folder.filePath(QStringLiteral("store.ini")); }
 
@@ -37,7 +37,7 @@ protected:
     {
         m_store = std::make_unique<QSettings>(path(), QSettings::IniFormat);
         g_globalSettings = m_store.get();
-        StoreOpening opening;
+        StoreOpeningJob opening;
         int steps = 0;
         while (opening.step())
             ++steps;
@@ -50,7 +50,7 @@ protected:
     std::unique_ptr<QSettings> m_store;
 };
 
-TEST_F(StoreOpeningTest, FindsTheGroupsAsTheStoreListsThem)
+TEST_F(StoreOpeningJobTest, FindsTheGroupsAsTheStoreListsThem)
 {
     write({QStringLiteral("Plain/a"), QStringLiteral("With space/b/c"), QStringLiteral("General/d"),
            QString::fromUtf8("\xC3\xA4/e"), QString::fromUtf8("\xE6\xB1\x89\xE5\xAD\x97/f"),
@@ -61,13 +61,13 @@ TEST_F(StoreOpeningTest, FindsTheGroupsAsTheStoreListsThem)
     EXPECT_EQ(sections.size(), 7);
 }
 
-TEST_F(StoreOpeningTest, FindsWhatStandsInNoGroup)
+TEST_F(StoreOpeningJobTest, FindsWhatStandsInNoGroup)
 {
     write({QStringLiteral("top"), QStringLiteral("Group/a")});
     EXPECT_EQ(open(), QStringList({QString(), QStringLiteral("Group")}));
 }
 
-TEST_F(StoreOpeningTest, LeavesEveryEntryAsItWas)
+TEST_F(StoreOpeningJobTest, LeavesEveryEntryAsItWas)
 {
     write({QStringLiteral("top"), QStringLiteral("A/a"), QStringLiteral("B/b/c")});
     open();
@@ -76,15 +76,15 @@ TEST_F(StoreOpeningTest, LeavesEveryEntryAsItWas)
     EXPECT_EQ(m_store->value(QStringLiteral("B/b/c")).toString(), QStringLiteral("5$text"));
 }
 
-TEST_F(StoreOpeningTest, TakesAFileThatSomebodyElseWrote)
+TEST_F(StoreOpeningJobTest, TakesAFileThatSomebodyElseWrote)
 {
     write(QByteArray("[general]\r\nx=1\r\n[%Unclosed%2\r\n[%ZZ]\r\ny=2\n[Last"));
     EXPECT_EQ(open().size(), 3);
 }
 
-TEST_F(StoreOpeningTest, HasNothingToDoWithoutAStoreOrAFile)
+TEST_F(StoreOpeningJobTest, HasNothingToDoWithoutAStoreOrAFile)
 {
-    EXPECT_FALSE(StoreOpening().step());
+    EXPECT_FALSE(StoreOpeningJob().step());
     EXPECT_EQ(open(), QStringList());
 }
 

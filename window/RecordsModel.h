@@ -1,0 +1,101 @@
+#pragma once
+
+#include "window/ShownText.h"
+
+#include <QAbstractTableModel>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+/// One column of a table of records.
+template <typename Record>
+struct RecordColumn
+{
+    /// The header, translated.
+    QString title;
+    /// What a cell shows; its tool tip too, unless `look` has another one.
+    std::function<QString(const Record& record)> text;
+    /// What a cell has for any other role: a colour, a font, a decoration, a tool tip. An invalid
+    /// answer stands for nothing of its own. May be empty.
+    std::function<QVariant(const Record& record, int role)> look = {};
+};
+
+/// A table of records, one a row, that is described by its columns: the one model of all flat lists
+/// of the window.
+template <typename Record>
+class RecordsModel : public QAbstractTableModel
+{
+public:
+    using Column = RecordColumn<Record>;
+
+    explicit RecordsModel(std::vector<Column> columns, QObject* parent = nullptr)
+        : QAbstractTableModel(parent), m_columns(std::move(columns))
+    {
+    }
+
+    const std::vector<Record>& records() const { return m_records; }
+    const Record& record(int row) const { return m_records[static_cast<std::size_t>(row)]; }
+
+    /// Replaces all records.
+    void setRecords(std::vector<Record> records)
+    {
+        beginResetModel();
+        m_records = std::move(records);
+        endResetModel();
+    }
+
+    /// Adds records at the end.
+    void append(std::vector<Record> records)
+    {
+        if (records.empty())
+            return;
+        const int first = rowCount();
+        beginInsertRows({}, first, first + static_cast<int>(records.size()) - 1);
+        std::move(records.begin(), records.end(), std::back_inserter(m_records));
+        endInsertRows();
+    }
+
+    /// Lets `change` alter the record of a row, and tells the views.
+    template <typename Change>
+    void update(int row, Change change)
+    {
+        change(m_records[static_cast<std::size_t>(row)]);
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+    }
+
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_records.size());
+    }
+
+    int columnCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+    }
+
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override
+    {
+        if (!index.isValid())
+            return {};
+        const Column& column = m_columns[static_cast<std::size_t>(index.column())];
+        const Record& each = record(index.row());
+        if (role == Qt::DisplayRole)
+            return column.text(each);
+        const QVariant look = column.look ? column.look(each, role) : QVariant();
+        if (role == Qt::ToolTipRole && !look.isValid())
+            return plainToolTip(column.text(each));
+        return look;
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+            return {};
+        return m_columns[static_cast<std::size_t>(section)].title;
+    }
+
+private:
+    std::vector<Column> m_columns;
+    std::vector<Record> m_records;
+};

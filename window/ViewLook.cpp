@@ -1,0 +1,89 @@
+#include "window/ViewLook.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QLayout>
+#include <QTabWidget>
+#include <QTableView>
+
+#include <algorithm>
+
+// A pane has a colour of its own, which on a dark page looks like an island.
+void arrangeTabs(QTabWidget& tabs)
+{
+    tabs.setDocumentMode(true);
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        if (QLayout* layout = tabs.widget(tab)->layout())
+            layout->setContentsMargins(0, layout->contentsMargins().top(), 0, 0);
+    }
+}
+
+void arrangeTable(QTableView& table)
+{
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.setWordWrap(false);
+    table.setTabKeyNavigation(false);
+    table.setShowGrid(false);
+    table.setAlternatingRowColors(true);
+    table.verticalHeader()->hide();
+    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() * 3 / 2);
+    table.horizontalHeader()->setHighlightSections(false);
+    table.horizontalHeader()->setStretchLastSection(true);
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+int sampleWidth(const QTableView& table, const QString& sample)
+{
+    const QFontMetrics metrics = table.fontMetrics();
+    return metrics.horizontalAdvance(sample) + metrics.height() * 2 / 3;
+}
+
+void fitColumns(QTableView& table, const QStringList& samples)
+{
+    for (int column = 0; column < samples.size(); ++column)
+        table.setColumnWidth(column, sampleWidth(table, samples[column]));
+}
+
+void fitColumnsToContents(QTableView& table)
+{
+    table.resizeColumnsToContents();
+    const int columns = table.model()->columnCount();
+    for (int column = 0; column + 1 < columns; ++column)
+        table.setColumnWidth(column, table.columnWidth(column) + table.fontMetrics().height() / 2);
+}
+
+ColumnBalancer::ColumnBalancer(QTableView* table, int column, const QString& sample)
+    : QObject(table), m_table(table), m_column(column), m_least(sampleWidth(*table, sample))
+{
+    // The least that the last column is stretched from.
+    table->setColumnWidth(table->model()->columnCount() - 1, table->fontMetrics().height() * 4);
+    table->viewport()->installEventFilter(this);
+    connect(table->horizontalHeader(), &QHeaderView::sectionResized, this, &ColumnBalancer::follow);
+}
+
+void ColumnBalancer::follow(int resized)
+{
+    if (m_sharing || resized == m_table->model()->columnCount() - 1)
+        return;
+    m_dragged = m_dragged || resized == m_column;
+    share();
+}
+
+void ColumnBalancer::share()
+{
+    if (m_dragged)
+        return;
+    int rest = m_table->viewport()->width();
+    for (int column = 0; column < m_table->model()->columnCount() - 1; ++column)
+        rest -= column == m_column ? 0 : m_table->columnWidth(column);
+    m_sharing = true;
+    m_table->setColumnWidth(m_column, std::max(rest / 2, m_least));
+    m_sharing = false;
+}
+
+bool ColumnBalancer::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        share();
+    return QObject::eventFilter(watched, event);
+}
