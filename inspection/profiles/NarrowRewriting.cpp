@@ -3,6 +3,7 @@
 #include "platform/profiles/NarrowLines.h"
 #include "platform/profiles/NarrowProfile.h"
 #include "platform/profiles/NarrowProfileFile.h"
+#include "platform/profiles/NarrowScanner.h"
 
 #include <QFile>
 #include <QLocale>
@@ -18,12 +19,11 @@ bool isKept(LineState state)
 }
 
 // A line that is kept, as it is written.
-QString normalised(const QString& line, LineState state)
+QString normalised(const NarrowScanner& line)
 {
-    if (state == LineState::Header)
-        return line;
-    const int split = line.indexOf(QLatin1Char('='));
-    return line.left(split).trimmed() + QLatin1Char('=') + line.mid(split + 1).trimmed();
+    if (line.isHeader())
+        return line.line().toString();
+    return line.key().toString() + QLatin1Char('=') + line.value().toString();
 }
 
 } // namespace
@@ -42,16 +42,14 @@ NarrowRewriting::NarrowRewriting(const QString& path)
 void NarrowRewriting::compare(const QString& text)
 {
     const std::vector<LineReading> readings = NarrowLines(text).readings();
-    const QStringList lines = text.split(lineFeed);
+    auto reading = readings.begin();
     QString kept;
-    for (std::size_t i = 0; i < readings.size(); ++i) {
-        const QString& line = lines.at(static_cast<int>(i));
-        const LineState state = readings[i].state;
-        m_blankLines += state == LineState::Blank ? 1 : 0;
-        if (!isKept(state))
+    for (NarrowScanner line(text); line.next(); ++reading) {
+        m_blankLines += reading->state == LineState::Blank ? 1 : 0;
+        if (!isKept(reading->state))
             continue;
-        const QString written = normalised(line, state);
-        m_normalises = m_normalises || written != line;
+        const QString written = normalised(line);
+        m_normalises = m_normalises || line.line() != written;
         kept += written + lineFeed;
     }
     m_reorders = kept != NarrowProfile(text).toText();

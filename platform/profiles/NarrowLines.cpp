@@ -1,86 +1,58 @@
 #include "platform/profiles/NarrowLines.h"
 
+#include "platform/profiles/NarrowScanner.h"
+
 namespace {
 
-constexpr QChar equalsSign = QLatin1Char('=');
-
-bool isComment(const QString& line)
+bool isHeader(LineState state)
 {
-    const QString text = line.trimmed();
-    return text.startsWith(QLatin1Char(';')) || text.startsWith(QLatin1Char('#'));
-}
-
-// The calls put the brackets round the section's name themselves.
-bool isReachable(const QString& header)
-{
-    return header.size() >= 2 && header.endsWith(QLatin1Char(']'));
+    return state == LineState::Header || state == LineState::ReplacedHeader;
 }
 
 } // namespace
 
-NarrowLines::NarrowLines(const QString& text)
+NarrowLines::NarrowLines(QStringView text)
 {
-    QStringList lines = text.split(QLatin1Char('\n'));
-    if (lines.last().isEmpty())
-        lines.removeLast();
-    m_readings.reserve(static_cast<std::size_t>(lines.size()));
-    for (const QString& line : qAsConst(lines))
-        add(line);
-}
-
-void NarrowLines::add(const QString& line)
-{
-    if (line.startsWith(QLatin1Char('[')))
-        addHeader(line);
-    else if (!m_header.isNull() && line.count(equalsSign) == 1)
-        addEntry(line);
-    else
-        m_readings.push_back({dropped(line), {}, {}});
+    Places headers;
+    Places keys; // of the current section
+    for (NarrowScanner scanner(text); scanner.next();) {
+        if (scanner.isHeader()) {
+            replaceSection(scanner.line(), headers);
+            keys.clear();
+        }
+        if (scanner.isEntry())
+            addEntry(scanner, keys);
+        else
+            m_readings.push_back({scanner.state(), {}, {}});
+    }
 }
 
 // The section begins anew: what it held under this header so far is gone.
-void NarrowLines::addHeader(const QString& line)
+void NarrowLines::replaceSection(QStringView header, Places& headers)
 {
-    const auto earlier = m_headers.find(line);
-    if (earlier != m_headers.end()) {
+    const auto earlier = headers.find(header);
+    if (earlier != headers.end()) {
         std::size_t replaced = *earlier;
         m_readings[replaced].state = LineState::ReplacedHeader;
-        while (++replaced < m_readings.size() && m_readings[replaced].state != LineState::Header &&
-               m_readings[replaced].state != LineState::ReplacedHeader) {
+        while (++replaced < m_readings.size() && !isHeader(m_readings[replaced].state)) {
             LineState& state = m_readings[replaced].state;
             if (state == LineState::Entry || state == LineState::Unreachable)
                 state = LineState::ReplacedHeader;
         }
     }
-    m_header = line;
-    m_headers[line] = m_readings.size();
-    m_keys.clear();
-    m_readings.push_back({LineState::Header, {}, {}});
+    headers[header] = m_readings.size();
 }
 
-void NarrowLines::addEntry(const QString& line)
+void NarrowLines::addEntry(const NarrowScanner& line, Places& keys)
 {
-    const int split = line.indexOf(equalsSign);
-    const QString key = line.left(split).trimmed();
-    const auto earlier = m_keys.find(key);
-    if (earlier != m_keys.end())
+    const QStringView key = line.key();
+    const auto earlier = keys.find(key);
+    if (earlier != keys.end())
         m_readings[*earlier].state = LineState::ReplacedKey;
-    m_keys[key] = m_readings.size();
-    if (isReachable(m_header))
-        m_readings.push_back({LineState::Entry, m_header.mid(1, m_header.size() - 2), key});
+    keys[key] = m_readings.size();
+    const LineState state = line.state();
+    if (state == LineState::Entry)
+        m_readings.push_back({state, line.header().mid(1).chopped(1).toString(), key.toString()});
     else
-        m_readings.push_back({LineState::Unreachable, {}, {}});
-}
-
-// There is no comment syntax: a comment is dropped for its "=", and kept where it has just one.
-LineState NarrowLines::dropped(const QString& line) const
-{
-    if (line.trimmed().isEmpty())
-        return LineState::Blank;
-    if (isComment(line))
-        return LineState::Comment;
-    const int equalsSigns = line.count(equalsSign);
-    if (equalsSigns == 0)
-        return LineState::NoEquals;
-    return equalsSigns > 1 ? LineState::TwoEquals : LineState::BeforeHeader;
+        m_readings.push_back({state, {}, {}});
 }

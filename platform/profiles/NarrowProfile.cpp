@@ -1,20 +1,13 @@
 #include "platform/profiles/NarrowProfile.h"
 
+#include "platform/profiles/NarrowScanner.h"
+
 #include <algorithm>
 
 namespace {
 
 constexpr QChar lineFeed = QLatin1Char('\n');
 constexpr QChar equalsSign = QLatin1Char('=');
-
-// Takes the first line, without its line feed, off the text.
-QStringView takeLine(QStringView& text)
-{
-    const qsizetype end = text.indexOf(lineFeed);
-    const QStringView line = end < 0 ? text : text.left(end);
-    text = end < 0 ? QStringView() : text.mid(end + 1);
-    return line;
-}
 
 void append(QString& text, QStringView part)
 {
@@ -26,18 +19,14 @@ void append(QString& text, QStringView part)
 NarrowProfile::NarrowProfile(QStringView text)
 {
     Entries* section = nullptr;
-    while (!text.isEmpty()) {
-        const QStringView line = takeLine(text);
-        if (line.startsWith(QLatin1Char('['))) {
-            section = &m_sections[line];
+    for (NarrowScanner scanner(text); scanner.next();) {
+        if (scanner.isHeader()) {
+            section = &m_sections[scanner.line()];
             // Intended: of several sections with one header the last one counts.
             section->clear();
-            continue;
+        } else if (scanner.isEntry()) {
+            section->push_back({scanner.key(), scanner.value()});
         }
-        const qsizetype split = line.indexOf(equalsSign);
-        // A value with a "=" in it is lost. Intended.
-        if (section && split >= 0 && line.indexOf(equalsSign, split + 1) < 0)
-            section->push_back({line.left(split).trimmed(), line.mid(split + 1).trimmed()});
     }
 }
 

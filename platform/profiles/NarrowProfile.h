@@ -8,11 +8,8 @@
 
 /// The entries of a profile's text, as the narrow profile calls see it.
 ///
-/// A line that begins with "[" is a header; the whole line, with its brackets and untrimmed, names
-/// the section. A header that occurs again discards what the section held. A line with exactly one
-/// "=" is an entry, key and value trimmed; of several entries with one key the last one counts.
-/// Everything else is dropped: lines without "=" or with more than one, and what stands before the
-/// first header. There are no comments.
+/// What of a line is kept is told by NarrowScanner. A header that occurs again discards what the
+/// section held; of several entries with one key the last one counts.
 ///
 /// Keeps views, not copies: the text, and whatever is set, must outlive it.
 class NarrowProfile
