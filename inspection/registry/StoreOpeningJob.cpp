@@ -1,39 +1,19 @@
 #include "inspection/registry/StoreOpeningJob.h"
 
 #include "host/HostLibraries.h"
+#include "platform/profiles/IniName.h"
 
 #include <QFile>
 #include <QSettings>
 
 namespace {
 
-// The code unit that an escape in a section's name stands for: "%" and two hexadecimal digits, or
-// "%U" and four. Moves `at` to the escape's last character; what is no escape stands for itself.
-QChar unescaped(const QByteArray& name, int& at)
+// The group whose header begins at `start`. A header without an end is one up to the line's end.
+QString groupAt(const QByteArray& text, int start)
 {
-    if (name.at(at) != '%')
-        return QLatin1Char(name.at(at));
-    const bool isWide = name.mid(at + 1, 1) == "U";
-    const QByteArray digits = isWide ? name.mid(at + 2, 4) : name.mid(at + 1, 2);
-    bool isNumber = false;
-    const ushort unit = digits.toUShort(&isNumber, 16);
-    if (!isNumber)
-        return QLatin1Char('%');
-    at += digits.size() + (isWide ? 1 : 0);
-    return unit;
-}
-
-// The group that a section is for, as QSettings names it in a file.
-QString groupOf(const QByteArray& section)
-{
-    if (section.compare("General", Qt::CaseInsensitive) == 0)
-        return {};
-    if (section.compare("%General", Qt::CaseInsensitive) == 0)
-        return QString::fromLatin1(section.mid(1));
-    QString group;
-    for (int at = 0; at < section.size(); ++at)
-        group += unescaped(section, at);
-    return group;
+    const int end = text.indexOf('\n', start);
+    const QString prefix = IniName::sectionPrefix(text.mid(start, end < 0 ? -1 : end - start));
+    return prefix.chopped(prefix.isEmpty() ? 0 : 1);
 }
 
 } // namespace
@@ -46,11 +26,8 @@ StoreOpeningJob::StoreOpeningJob()
     if (!file.open(QIODevice::ReadOnly))
         return;
     const QByteArray text = '\n' + file.readAll();
-    for (int start = text.indexOf("\n["); start >= 0; start = text.indexOf("\n[", start + 1)) {
-        const int end = text.indexOf(']', start);
-        if (end >= 0)
-            m_sections.append(groupOf(text.mid(start + 2, end - start - 2)));
-    }
+    for (int at = text.indexOf("\n["); at >= 0; at = text.indexOf("\n[", at + 1))
+        m_sections.append(groupAt(text, at + 1));
 }
 
 bool StoreOpeningJob::step()

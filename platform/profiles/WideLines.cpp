@@ -1,12 +1,16 @@
 #include "platform/profiles/WideLines.h"
 
+#include "platform/profiles/IniName.h"
+
 #include <algorithm>
 
 namespace {
 
-bool isSpace(char character)
+constexpr char byteOrderMark[] = "\xef\xbb\xbf";
+
+bool isBlank(char character)
 {
-    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+    return character == ' ' || character == '\t';
 }
 
 bool isLineEnd(char character)
@@ -14,34 +18,17 @@ bool isLineEnd(char character)
     return character == '\n' || character == '\r';
 }
 
-// The character that "%41" or "%U0041" stands for at the beginning of `text`; `length` is that of
-// the escape, 1 where there is none.
-QChar unescaped(const QByteArray& text, int& length)
+bool isSpace(char character)
 {
-    const int digitsAt = text.mid(1, 1) == "U" ? 2 : 1;
-    const int digits = digitsAt == 2 ? 4 : 2;
-    bool ok = false;
-    const uint code =
-        text.size() >= digitsAt + digits ? text.mid(digitsAt, digits).toUInt(&ok, 16) : 0;
-    length = ok ? digitsAt + digits : 1;
-    return ok ? QChar(static_cast<ushort>(code)) : QLatin1Char('%');
+    return isBlank(character) || isLineEnd(character);
 }
 
-// Names are bytes: what is not ASCII has to be written as an escape. A backslash stands for "/".
-QString unescapedName(const QByteArray& name)
+// QSettings drops the slashes that are too many from a name that it is asked for, but keeps names
+// as they are in the file.
+bool isAskable(const QString& name)
 {
-    QString text;
-    for (int i = 0; i < name.size();) {
-        int length = 1;
-        if (name.at(i) == '\\')
-            text += QLatin1Char('/');
-        else if (name.at(i) == '%' && i + 1 < name.size())
-            text += unescaped(name.mid(i, 6), length);
-        else
-            text += QLatin1Char(name.at(i));
-        i += length;
-    }
-    return text;
+    constexpr QChar slash = QLatin1Char('/');
+    return !name.startsWith(slash) && !name.endsWith(slash) && !name.contains(QLatin1String("//"));
 }
 
 } // namespace
@@ -54,10 +41,19 @@ WideLines::WideLines(const QByteArray& bytes) : m_bytes(bytes)
         start = end < 0 ? -1 : end + 1;
     }
     m_readings.resize(m_starts.size());
-    if (bytes.startsWith("\xef\xbb\xbf"))
-        m_position = 3;
+    if (bytes.startsWith(byteOrderMark))
+        skipMark();
     while (next())
-        take();
+        readLine();
+}
+
+// A byte order mark becomes part of a key that follows it. Intended: so it does in QSettings.
+void WideLines::skipMark()
+{
+    m_position = static_cast<int>(sizeof byteOrderMark) - 1;
+    m_marked = m_position;
+    while (m_marked < m_bytes.size() && isBlank(m_bytes.at(m_marked)))
+        ++m_marked;
 }
 
 // Reads one line; false at the end.
@@ -115,50 +111,58 @@ void WideLines::skipEscape()
     const QByteArray pair = m_bytes.mid(m_position, 2);
     if (pair == "\r\n" || pair == "\n\r")
         ++m_position;
-    if (m_equals >= 0 && !pair.isEmpty() && !isLineEnd(pair.at(0)))
+    const bool joinsLines = m_position + 1 < m_bytes.size() && isLineEnd(pair.at(0));
+    if (m_equals >= 0 && !joinsLines)
         m_isEscaped = true;
 }
 
-void WideLines::take()
+void WideLines::readLine()
 {
     if (m_bytes.at(m_begin) == '[')
-        takeHeader();
+        readHeader();
     else if (m_equals >= 0)
-        takeEntry();
+        readEntry();
     else
-        takeOther();
+        readOther();
     markContinuations();
 }
 
-void WideLines::takeHeader()
+void WideLines::readHeader()
 {
-    const int end = m_bytes.indexOf(']', m_begin);
-    const int length = (end < 0 || end >= m_position ? m_position : end) - m_begin - 1;
-    const QByteArray name = m_bytes.mid(m_begin + 1, length).trimmed();
-    if (name.toLower() == "general")
-        m_section.clear();
-    else
-        m_section =
-            name.toLower() == "%general" ? QString::fromLatin1(name.mid(1)) : unescapedName(name);
+    m_prefix = IniName::sectionPrefix(m_bytes.mid(m_begin, m_position - m_begin));
     m_readings[lineOf(m_begin)].state = LineState::Header;
 }
 
-void WideLines::takeEntry()
+void WideLines::readEntry()
 {
-    int end = m_equals;
-    while (end > m_begin && (m_bytes.at(end - 1) == ' ' || m_bytes.at(end - 1) == '\t'))
-        --end;
-    const QString key = unescapedName(m_bytes.mid(m_begin, end - m_begin));
-    const QString name = m_section + QLatin1Char('/') + key;
-    const std::size_t line = lineOf(m_begin);
-    const auto earlier = m_names.find(name);
-    if (earlier != m_names.end())
-        m_readings[*earlier].state = LineState::ReplacedKey;
-    m_names[name] = line;
-    m_readings[line] = {LineState::Entry, m_section, key, m_isList, false, m_isEscaped};
+    const QString key = IniName::unescaped(keyBytes());
+    const QString name = m_prefix + key;
+    LineReading reading;
+    reading.state = isAskable(name) ? LineState::Entry : LineState::NotFound;
+    if (isReplaced(name))
+        reading.state = LineState::ReplacedKey;
+    reading.section = m_prefix.chopped(m_prefix.isEmpty() ? 0 : 1);
+    reading.key = key;
+    reading.isList = m_isList;
+    reading.isEscaped = m_isEscaped;
+    m_readings[lineOf(m_begin)] = reading;
 }
 
-void WideLines::takeOther()
+// Of several entries of one name the last one counts. With a slash in a key they may stand in
+// different sections, which QSettings reads in the order of their names: the longer one counts.
+bool WideLines::isReplaced(const QString& name)
+{
+    const auto earlier = m_names.find(name);
+    if (earlier != m_names.end()) {
+        if (earlier->prefixSize > m_prefix.size())
+            return true;
+        m_readings[earlier->line].state = LineState::ReplacedKey;
+    }
+    m_names[name] = {lineOf(m_begin), m_prefix.size()};
+    return false;
+}
+
+void WideLines::readOther()
 {
     m_readings[lineOf(m_begin)].state =
         m_bytes.at(m_begin) == '#' ? LineState::Comment : LineState::NoEquals;
@@ -166,7 +170,7 @@ void WideLines::takeOther()
 
 void WideLines::markContinuations()
 {
-    const std::size_t last = lineOf(std::max(m_begin, m_position - 1));
+    const std::size_t last = lineOf(m_position);
     for (std::size_t line = lineOf(m_begin) + 1; line <= last; ++line)
         m_readings[line].state = LineState::Continuation;
 }
@@ -175,4 +179,13 @@ std::size_t WideLines::lineOf(int position) const
 {
     const auto next = std::upper_bound(m_starts.begin(), m_starts.end(), position);
     return static_cast<std::size_t>(next - m_starts.begin()) - 1;
+}
+
+QByteArray WideLines::keyBytes() const
+{
+    const int begin = m_begin == m_marked ? 0 : m_begin;
+    int end = m_equals;
+    while (end > begin && isBlank(m_bytes.at(end - 1)))
+        --end;
+    return m_bytes.mid(begin, end - begin);
 }

@@ -79,7 +79,15 @@ TEST_F(StoreOpeningJobTest, LeavesEveryEntryAsItWas)
 TEST_F(StoreOpeningJobTest, TakesAFileThatSomebodyElseWrote)
 {
     write(QByteArray("[general]\r\nx=1\r\n[%Unclosed%2\r\n[%ZZ]\r\ny=2\n[Last"));
-    EXPECT_EQ(open().size(), 3);
+    EXPECT_EQ(open(), QStringList({QString(), QStringLiteral("%Unclosed%2"), QStringLiteral("%ZZ"),
+                                   QStringLiteral("Last")}));
+}
+
+TEST_F(StoreOpeningJobTest, EndsANameWithItsLine)
+{
+    write(QByteArray("[a\n[b\nx=1]\n[c] ; ]\n["));
+    EXPECT_EQ(open(), QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
+                                   QString()}));
 }
 
 TEST_F(StoreOpeningJobTest, HasNothingToDoWithoutAStoreOrAFile)
