@@ -1,7 +1,6 @@
 #include "platform/profiles/NarrowLines.h"
-#include "inspection/profiles/ProfileReader.h"
-#include "platform/PlatformServicesImp.h"
-#include "tests/inspection/profiles/ProfileFixture.h"
+
+#include "tests/platform/profiles/ProfileManagerTest.h"
 
 #include <QSet>
 #include <QStringList>
@@ -80,18 +79,23 @@ QStringList linesOf(const char* text)
 
 std::vector<LineReading> readingsOf(const char* text)
 {
-    return NarrowLines(linesOf(text).join(u'\n')).readings();
+    const QString plain = linesOf(text).join(u'\n');
+    return NarrowLines(plain).readings();
 }
 
-class NarrowLinesTest : public testing::TestWithParam<Row>
+class NarrowLinesTest : public ProfileManagerTest, public testing::WithParamInterface<Row>
 {
 protected:
-    void SetUp() override { m_file.write(GetParam().text); }
+    void SetUp() override { write(GetParam().text); }
+
+    QString read(const QString& section, const QString& key)
+    {
+        return QString::fromStdString(readNarrow(section.toUtf8(), key.toUtf8()));
+    }
 
     // Everything that the service answers for any name that a line of the file could mean.
-    QSet<QString> answers() const
+    QSet<QString> answers()
     {
-        const ProfileReader reader(m_file.path());
         QSet<QString> found;
         const QStringList lines = linesOf(GetParam().text);
         for (const QString& sectionLine : lines) {
@@ -99,14 +103,12 @@ protected:
                 for (const QString& section :
                      {sectionLine.mid(1),
                       sectionLine.mid(1).chopped(sectionLine.size() > 1 ? 1 : 0)})
-                    found.insert(reader.narrow(section, line.section(u'=', 0, 0).trimmed()));
+                    found.insert(read(section, line.section(u'=', 0, 0).trimmed()));
             }
         }
         found.remove(QString());
         return found;
     }
-
-    ProfileFixture m_file;
 };
 
 TEST_P(NarrowLinesTest, TellsWhatBecomesOfEachLine)
@@ -120,14 +122,13 @@ TEST_P(NarrowLinesTest, TellsWhatBecomesOfEachLine)
 TEST_P(NarrowLinesTest, AgreesWithWhatTheServiceReads)
 {
     const QStringList lines = linesOf(GetParam().text);
-    const ProfileReader reader(m_file.path());
     QSet<QString> kept;
     int number = 0;
     for (const LineReading& reading : readingsOf(GetParam().text)) {
         const QString value = lines.at(number++).section(u'=', 1).trimmed();
         if (reading.state != LineState::Entry)
             continue;
-        EXPECT_EQ(reader.narrow(reading.section, reading.key), value);
+        EXPECT_EQ(read(reading.section, reading.key), value);
         kept.insert(value);
     }
     EXPECT_EQ(answers(), kept);
@@ -136,10 +137,8 @@ TEST_P(NarrowLinesTest, AgreesWithWhatTheServiceReads)
 // A kept value stands in the file after a write, a lost one does not.
 TEST_P(NarrowLinesTest, AgreesWithWhatAWriteLeaves)
 {
-    ASSERT_EQ(g_PlatformServices.profileManager()->WritePrivateProfileStringA(
-                  "Another", "key", "value", m_file.path().toUtf8().constData()),
-              1);
-    const QString after = QString::fromUtf8(m_file.bytes());
+    ASSERT_EQ(writeNarrow("Another", "key", "value"), 1);
+    const QString after = QString::fromUtf8(content());
     const QStringList lines = linesOf(GetParam().text);
     int number = 0;
     for (const LineReading& reading : readingsOf(GetParam().text)) {

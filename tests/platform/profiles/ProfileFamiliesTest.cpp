@@ -1,4 +1,4 @@
-#include "tests/platform/profiles/ProfileFixture.h"
+#include "tests/platform/profiles/ProfileManagerTest.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -6,10 +6,10 @@
 
 namespace {
 
-class ProfileFamilies : public ProfileFixture
+class ProfileFamilies : public ProfileManagerTest
 {
 protected:
-    ProfileFamilies() : ProfileFixture(memoryFolder()) { write("[S]\nn=0000\nw=0000\n"); }
+    ProfileFamilies() : ProfileManagerTest(memoryFolder()) { write("[S]\nn=0000\nw=0000\n"); }
 
     // In memory, where there is such a folder: while QSettings flushes a file to a disk, the clock
     // that stamps it goes on, and the writes no longer follow one another at once.

@@ -1,4 +1,4 @@
-#include "tests/platform/profiles/ProfileFixture.h"
+#include "tests/platform/profiles/ProfileManagerTest.h"
 
 #include <QMap>
 #include <QTextStream>
@@ -77,7 +77,7 @@ const std::vector<QByteArray> marks = {"",
                                        QByteArray("\xFF\xFE\0\0", 4),
                                        QByteArray("\0\0\xFE\xFF", 4)};
 
-class ProfileNarrowDifferential : public ProfileFixture
+class ProfileNarrowDifferential : public ProfileManagerTest
 {
 protected:
     template <typename Range>

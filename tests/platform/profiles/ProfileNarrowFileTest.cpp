@@ -1,4 +1,4 @@
-#include "tests/platform/profiles/ProfileFixture.h"
+#include "tests/platform/profiles/ProfileManagerTest.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -25,7 +25,7 @@ private:
     uid_t m_former;
 };
 
-class ProfileNarrowFile : public ProfileFixture
+class ProfileNarrowFile : public ProfileManagerTest
 {
 protected:
     static struct stat statusOf(const QByteArray& file)

@@ -1,4 +1,4 @@
-#include "tests/platform/profiles/ProfileFixture.h"
+#include "tests/platform/profiles/ProfileManagerTest.h"
 #include "tests/support/CanaryBuffer.h"
 
 namespace {
@@ -17,7 +17,7 @@ void PrintTo(const Line& row, std::ostream* out)
     *out << row.name;
 }
 
-class ProfileNarrowLine : public ProfileFixture, public testing::WithParamInterface<Line>
+class ProfileNarrowLine : public ProfileManagerTest, public testing::WithParamInterface<Line>
 {
 };
 
@@ -72,7 +72,7 @@ const Line lines[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Rows, ProfileNarrowLine, testing::ValuesIn(lines));
 
-class ProfileNarrow : public ProfileFixture
+class ProfileNarrow : public ProfileManagerTest
 {
 protected:
     unsigned int read(CanaryBuffer<char>& buffer, const char* key = "k",

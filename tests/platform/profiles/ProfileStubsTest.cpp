@@ -1,4 +1,4 @@
-#include "tests/platform/profiles/ProfileFixture.h"
+#include "tests/platform/profiles/ProfileManagerTest.h"
 #include "tests/support/CanaryBuffer.h"
 
 #include "platform/PlatformServicesImp.h"
@@ -7,7 +7,7 @@ namespace {
 
 static_assert(sizeof(PlatformProfileManagerImp) == sizeof(void*), "the interface, nothing else");
 
-class ProfileStubs : public ProfileFixture
+class ProfileStubs : public ProfileManagerTest
 {
 protected:
     ProfileStubs() { write("[S]\nk=7\n"); }

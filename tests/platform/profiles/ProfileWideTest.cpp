@@ -1,9 +1,9 @@
-#include "tests/platform/profiles/ProfileFixture.h"
+#include "tests/platform/profiles/ProfileManagerTest.h"
 #include "tests/support/CanaryBuffer.h"
 
 namespace {
 
-class ProfileWide : public ProfileFixture
+class ProfileWide : public ProfileManagerTest
 {
 protected:
     // Reads into a buffer between canaries; the result is what the call returns.

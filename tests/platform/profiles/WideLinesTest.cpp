@@ -1,6 +1,6 @@
 #include "platform/profiles/WideLines.h"
-#include "inspection/profiles/ProfileReader.h"
-#include "tests/inspection/profiles/ProfileFixture.h"
+
+#include "tests/platform/profiles/ProfileManagerTest.h"
 
 #include <gtest/gtest.h>
 
@@ -29,6 +29,7 @@ constexpr LineState comment = LineState::Comment;
 constexpr LineState noEquals = LineState::NoEquals;
 constexpr LineState replacedKey = LineState::ReplacedKey;
 constexpr LineState continuation = LineState::Continuation;
+constexpr LineState notFound = LineState::NotFound;
 
 const Row rows[] = {
     {"Empty", "", {}, {}},
@@ -77,6 +78,18 @@ const Row rows[] = {
      {"v1", "v2", "v3", "v4", "v5", "v6"}},
     {"NamesAreBytes", "[\xe8\x8a\x82]\n\xe9\x94\xae=v1\n", {header, entry}, {"v1"}},
     {"ByteOrderMark", "\xef\xbb\xbf[S]\na=v1\n", {header, entry}, {"v1"}},
+    {"ByteOrderMarkBeforeAKey", "\xef\xbb\xbf a=v1\n", {entry}, {"v1"}},
+    {"BackslashBeforeABlankLine",
+     "[S]\na=v1\\\n\nb=v2\n",
+     {header, entry, continuation, entry},
+     {"v1", "v2"}},
+    {"NoSectionName", "[]\na=v1\n", {header, notFound}, {}},
+    {"NoKey", "=v1\n[S]\n=v2\n", {entry, header, notFound}, {"v1"}},
+    {"SlashInAKey", "[S]\nT\\k=v1\n[S\\T]\nk=v2\n", {header, replacedKey, header, entry}, {"v2"}},
+    {"SlashInALaterKey",
+     "[S\\T]\nk=v1\n[S]\nT\\k=v2\n",
+     {header, entry, header, replacedKey},
+     {"v1"}},
     {"SpaceBehindAComment",
      "; c\n a=v1\n;d\n  ; e\n [S]\nb=v2\n",
      {comment, entry, comment, comment, header, entry},
@@ -119,9 +132,21 @@ const ValueRow valueRows[] = {
     {"BackslashInQuotes", "k=\"a\\tb\"", "escape", "a\tb"},
     {"BackslashBeforeAComma", "k=a\\,b", "escape", "ab"},
     {"BackslashAtTheEnd", "k=a\\\nb", "", "ab"},
+    {"BackslashAtTheEndOfTheFile", "k=a\\", "escape", "a"},
 };
 
-class WideLinesTest : public testing::TestWithParam<Row>
+class WideReading : public ProfileManagerTest
+{
+protected:
+    std::string read(const LineReading& reading)
+    {
+        const std::wstring value = readWide(reading.section.toStdWString().c_str(),
+                                            reading.key.toStdWString().c_str(), L"(not found)");
+        return QString::fromStdWString(value).toStdString();
+    }
+};
+
+class WideLinesTest : public WideReading, public testing::WithParamInterface<Row>
 {
 };
 
@@ -135,20 +160,16 @@ TEST_P(WideLinesTest, TellsWhatBecomesOfEachLine)
 
 TEST_P(WideLinesTest, AgreesWithWhatTheServiceReads)
 {
-    const ProfileFixture file;
-    file.write(GetParam().text);
-    const ProfileReader reader(file.path());
+    write(GetParam().text);
     std::vector<std::string> values;
     for (const LineReading& reading : readingsOf(GetParam().text)) {
         if (reading.state == LineState::Entry)
-            values.push_back(reader.wide(reading.section, reading.key)
-                                 .value_or(QStringLiteral("(not found)"))
-                                 .toStdString());
+            values.push_back(read(reading));
     }
     EXPECT_EQ(values, GetParam().values);
 }
 
-class WideValueTest : public testing::TestWithParam<ValueRow>
+class WideValueTest : public WideReading, public testing::WithParamInterface<ValueRow>
 {
 };
 
@@ -166,11 +187,8 @@ TEST_P(WideValueTest, TellsWhatBecomesOfTheValue)
 
 TEST_P(WideValueTest, AgreesWithWhatTheServiceReads)
 {
-    const ProfileFixture file;
-    file.write("[S]\n" + GetParam().line + "\n");
-    const LineReading reading = readingsOf(file.bytes())[1];
-    const auto value = ProfileReader(file.path()).wide(reading.section, reading.key);
-    EXPECT_EQ(value.value_or(QStringLiteral("(not found)")).toStdString(), GetParam().value);
+    write("[S]\n" + GetParam().line + "\n");
+    EXPECT_EQ(read(readingsOf(content())[1]), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, WideValueTest, testing::ValuesIn(valueRows),

@@ -11,12 +11,12 @@
 #include <string>
 
 /// A profile manager and one profile of the test's own.
-class ProfileFixture : public testing::Test
+class ProfileManagerTest : public testing::Test
 {
 protected:
-    ProfileFixture() = default;
+    ProfileManagerTest() = default;
     /// Puts the profile below another folder than that for temporary files.
-    explicit ProfileFixture(const QString& parent) : folder(parent + "/quayside-XXXXXX") {}
+    explicit ProfileManagerTest(const QString& parent) : folder(parent + "/quayside-XXXXXX") {}
 
     /// Makes the file anew. Where one is emptied and written again, some file systems flush it to
     /// disk, and the tests would take many times as long.
