@@ -2,13 +2,13 @@
 
 #include <QStringList>
 
-// Opened as the wide calls open it: who takes a section apart first decides how it is decoded.
+// Opened as the wide calls open it: whoever parses a section first decides how it is decoded.
 ParsedProfileCache::ParsedProfileCache(const QString& file) : m_settings(file, QSettings::IniFormat)
 {
     m_settings.setIniCodec("utf-8");
 }
 
-void ParsedProfileCache::takeApart() const
+void ParsedProfileCache::parse() const
 {
-    static_cast<void>(m_settings.childGroups()); // has to know all of them
+    static_cast<void>(m_settings.childGroups()); // which only all sections tell
 }

@@ -3,18 +3,20 @@
 #include <QSettings>
 #include <QString>
 
-/// Keeps a profile in memory, taken apart, for the wide calls.
+/// Keeps a parsed profile in memory for the wide calls.
 ///
-/// Each of them opens the file anew, and QSettings takes it apart anew unless an object on the same
-/// path is alive. It still looks at the file's size and time with each opening, so that what others
-/// write is seen. Nothing is asked or written here: what is shown is what the calls answer.
+/// Each wide call opens the file anew, and QSettings parses it anew unless another of its objects
+/// on the same path is alive. It still looks at the file's size and time with each opening, so that
+/// what others write is seen. Nothing is read or written through this object: what is shown is what
+/// the calls answer.
 class ParsedProfileCache
 {
 public:
     explicit ParsedProfileCache(const QString& file);
 
-    /// Takes all sections apart. By itself each is when something in it is asked for first.
-    void takeApart() const;
+    /// Parses all sections. Otherwise QSettings parses a section when something in it is first
+    /// asked for.
+    void parse() const;
 
 private:
     QSettings m_settings;

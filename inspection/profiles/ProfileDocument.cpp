@@ -6,11 +6,16 @@
 
 namespace {
 
-// Far above any profile. The wide family writes the whole file in one call, which cannot be cut
-// into slices: more of it would hold the window up.
+// Far above any profile. The wide family writes the whole file in one call, which cannot be divided
+// into steps: with a larger file it would hold the window up.
 constexpr qint64 largestFile = qint64{128} * 1024;
 
 constexpr qint64 largeFile = qint64{16} * 1024;
+
+bool isNamed(LineState state)
+{
+    return state == LineState::Entry || state == LineState::NotFound;
+}
 
 } // namespace
 
@@ -48,7 +53,7 @@ std::vector<ProfileDocument::Name> ProfileDocument::names() const
     QSet<Name> seen;
     const auto add = [&](const LineReading& reading) {
         const Name name(reading.section, reading.key);
-        if (reading.state != LineState::Entry || seen.contains(name))
+        if (!isNamed(reading.state) || seen.contains(name))
             return;
         seen.insert(name);
         names.push_back(name);
@@ -63,11 +68,9 @@ std::vector<ProfileDocument::Name> ProfileDocument::names() const
 std::vector<int> ProfileDocument::lostLines(ProfileFamily family) const
 {
     std::vector<int> numbers;
-    int number = 0;
     for (const Line& line : m_lines) {
-        ++number;
         if (isLost(family == ProfileFamily::Narrow ? line.narrow : line.wide))
-            numbers.push_back(number);
+            numbers.push_back(line.number);
     }
     return numbers;
 }

@@ -17,6 +17,7 @@ class ProfileDocument
 public:
     struct Line
     {
+        int number = 0; ///< from 1 on
         QString text;
         LineReading narrow;
         LineReading wide;
@@ -41,7 +42,7 @@ public:
     std::vector<Line>& lines() { return m_lines; }
     const std::vector<Line>& lines() const { return m_lines; }
 
-    /// What can be asked for, each name once, in the order of the file.
+    /// What lines of the file name for either family, each name once, in the order of the file.
     std::vector<Name> names() const;
     /// The numbers of the lines, from 1 on, that writing through a family loses, or loses a part
     /// of.

@@ -25,7 +25,8 @@ public:
     /// written.
     QString fault(const ProfileChange& change) const;
 
-    /// Why it must not be made where a trial has shown that the family would not read it back.
+    /// Why a change must not be made where a dry run has shown that the family would not read it
+    /// back.
     static QString unreadable(ProfileFamily family);
 
     /// Copies the file beside itself under a name that is free; returns it. Empty where that fails.

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "inspection/profiles/ProfileReading.h"
 #include "inspection/profiles/ProfileWriter.h"
-#include "pages/profiles/ProfileReadingsModel.h"
 
 #include <QGroupBox>
 

@@ -1,40 +1,18 @@
 #pragma once
 
-#include "inspection/profiles/ProfileDocument.h"
+#include "pages/profiles/ProfileColumns.h"
 
-#include <QAbstractTableModel>
-
-/// The lines of a profile with the margin that tells how each family reads them.
-class ProfileLinesModel : public QAbstractTableModel
+/// The lines of a profile; the header over their numbers stands as the numbers do.
+class ProfileLinesModel : public RecordsModel<ProfileDocument::Line>
 {
-    Q_OBJECT
-
 public:
-    enum Column
+    explicit ProfileLinesModel(QObject* parent = nullptr)
+        : RecordsModel(ProfileColumns::ofLines(), parent)
     {
-        NumberColumn,
-        NarrowColumn,
-        WideColumn,
-        TextColumn,
-        ColumnCount
-    };
+    }
 
-    explicit ProfileLinesModel(QObject* parent = nullptr);
-
-    /// Must outlive the model.
-    void setDocument(ProfileDocument* document);
     /// Marks the wide entries of this name as not found.
-    void setNotFound(const ProfileDocument::Name& name);
+    void setNotFound(const QString& section, const QString& key);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
-private:
-    static QString text(const ProfileDocument::Line& line, int row, int column);
-    static QString toolTip(const ProfileDocument::Line& line, int column);
-    static QVariant foreground(const ProfileDocument::Line& line, int column);
-
-    ProfileDocument* m_document = nullptr;
 };

@@ -1,14 +1,10 @@
 #include "pages/profiles/ProfilesPage.h"
 
-#include "inspection/profiles/NarrowRewriting.h"
-#include "inspection/profiles/ParsedProfileCache.h"
-#include "inspection/profiles/ProfileDryRun.h"
-#include "inspection/profiles/ProfileReader.h"
-#include "pages/profiles/LostLinesDialog.h"
+#include "inspection/profiles/ProfileReadingJob.h"
 #include "pages/profiles/ProfileEditPanel.h"
+#include "pages/profiles/ProfileEditor.h"
 #include "pages/profiles/ProfileFindBar.h"
 #include "pages/profiles/ProfileLinesModel.h"
-#include "pages/profiles/ProfileReadingsModel.h"
 #include "platform/profiles/LineStateText.h"
 #include "window/EmptyHint.h"
 #include "window/ViewLook.h"
@@ -60,11 +56,12 @@ ProfilesPage::ProfilesPage(QWidget* parent)
     : Page(parent),
       m_file(new QLineEdit),
       m_linesModel(new ProfileLinesModel(this)),
-      m_readingsModel(new ProfileReadingsModel(this)),
+      m_readingsModel(new RecordsModel<ProfileReading>(ProfileColumns::ofReadings(), this)),
       m_lines(makeLines()),
       m_readings(makeReadings()),
       m_panel(new ProfileEditPanel),
-      m_find(new ProfileFindBar)
+      m_find(new ProfileFindBar),
+      m_editor(new ProfileEditor(*this, this))
 {
     body()->addLayout(makeFileRow());
     addFindBar();
@@ -75,12 +72,11 @@ ProfilesPage::ProfilesPage(QWidget* parent)
     body()->addWidget(splitter, 1);
     body()->addWidget(m_panel);
     connect(m_panel, &ProfileEditPanel::writeRequested, this, &ProfilesPage::write);
+    connect(m_editor, &ProfileEditor::written, this, &ProfilesPage::showWritten);
     addEditAction();
     setAcceptDrops(true);
     setFocusProxy(m_file);
 }
-
-ProfilesPage::~ProfilesPage() = default;
 
 QLayout* ProfilesPage::makeFileRow()
 {
@@ -111,10 +107,10 @@ QTableView* ProfilesPage::makeLines()
     for (const QString& text : texts)
         margin = std::max(margin, metrics.horizontalAdvance(text));
     QHeaderView* header = table->horizontalHeader();
-    header->resizeSection(ProfileLinesModel::NumberColumn,
+    header->resizeSection(ProfileColumns::NumberColumn,
                           metrics.horizontalAdvance(QStringLiteral("99999")) + gap);
-    header->resizeSection(ProfileLinesModel::NarrowColumn, margin + gap);
-    header->resizeSection(ProfileLinesModel::WideColumn, margin + gap);
+    header->resizeSection(ProfileColumns::NarrowStateColumn, margin + gap);
+    header->resizeSection(ProfileColumns::WideStateColumn, margin + gap);
     new EmptyHint(table,
                   tr("Open a profile, or drop one here: each line appears with a margin that "
                      "tells how either family of calls reads it."));
@@ -127,9 +123,8 @@ QTableView* ProfilesPage::makeReadings()
 {
     QTableView* table = makeTable(m_readingsModel, tr("Readings of both families"), "readings");
     fitColumns(*table, {QStringLiteral("Name of section"), QStringLiteral("Name of a key")});
-    table->setColumnWidth(ProfileReadingsModel::DifferenceColumn,
-                          table->fontMetrics().height() * 2);
-    new ColumnBalancer(table, ProfileReadingsModel::WideColumn, QStringLiteral("255.255.255.0"));
+    table->setColumnWidth(ProfileColumns::DifferenceColumn, table->fontMetrics().height() * 2);
+    new ColumnBalancer(table, ProfileColumns::WideColumn, QStringLiteral("255.255.255.0"));
     new EmptyHint(table, tr("What the wide and the narrow calls read stands here side by side."));
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ProfilesPage::showReading);
@@ -149,7 +144,7 @@ void ProfilesPage::addEditAction()
 
 void ProfilesPage::chooseFile()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open a profile"), m_document.path(),
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open a profile"), m_path,
                                                       tr("Profiles (*.ini);;All files (*)"));
     if (!path.isEmpty())
         open(path);
@@ -165,22 +160,19 @@ void ProfilesPage::open(const QString& path)
     }
     const QString refused = ProfileDocument::fault(path);
     if (!refused.isEmpty()) {
-        m_file->setText(m_document.path());
+        m_file->setText(m_path);
         report(Report::Error, refused);
         return;
     }
     m_summary.clear();
-    m_keptName.reset();
-    m_keptLine = -1;
-    if (QFileInfo(path).absoluteFilePath() == m_document.path())
-        keepPlace();
+    m_place = QFileInfo(path).absoluteFilePath() == m_path ? currentPlace() : Place();
     read(path);
 }
 
 void ProfilesPage::refresh()
 {
-    if (!m_document.path().isEmpty())
-        open(m_document.path());
+    if (!m_path.isEmpty())
+        open(m_path);
 }
 
 void ProfilesPage::addFindBar()
@@ -198,7 +190,7 @@ void ProfilesPage::addFindBar()
 
 void ProfilesPage::find()
 {
-    if (m_document.lines().empty()) {
+    if (m_linesModel->records().empty()) {
         setStatus(tr("There are no lines to search. Open a file first."));
         m_file->setFocus(Qt::ShortcutFocusReason);
         return;
@@ -206,23 +198,22 @@ void ProfilesPage::find()
     m_find->open();
 }
 
-// From the line after the current one on, and at the end from the first one.
+// Searches from the line behind the current one to the end, and from the first line on.
 void ProfilesPage::findNext()
 {
     const QString text = m_find->text();
-    if (text.isEmpty() || m_document.lines().empty()) {
+    const int count = m_linesModel->rowCount();
+    if (text.isEmpty() || count == 0) {
         find();
         return;
     }
-    const std::size_t count = m_document.lines().size();
-    const auto current = static_cast<std::size_t>(m_lines->currentIndex().row() + 1);
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t row = (current + i) % count;
-        if (!m_document.lines()[row].text.contains(text, Qt::CaseInsensitive))
-            continue;
-        m_lines->setCurrentIndex(
-            m_linesModel->index(static_cast<int>(row), ProfileLinesModel::TextColumn));
-        return;
+    const int first = m_lines->currentIndex().row() + 1;
+    for (int i = 0; i < count; ++i) {
+        const int row = (first + i) % count;
+        if (m_linesModel->record(row).text.contains(text, Qt::CaseInsensitive)) {
+            m_lines->setCurrentIndex(m_linesModel->index(row, ProfileColumns::TextColumn));
+            return;
+        }
     }
     setStatus(tr("No line contains “%1”.").arg(text));
 }
@@ -230,141 +221,125 @@ void ProfilesPage::findNext()
 // Shows the file and asks both families for all that it names.
 void ProfilesPage::read(const QString& path)
 {
-    m_loading = std::make_unique<ProfileLoading>(path);
-    startJob({tr("Reading through both families"), [this] { return readStep(); },
-              [this] { return progress(); }, [this](bool complete) { finish(complete); }});
+    ProfileReadingJob::Receiver receiver{
+        [this](ProfileDocument document) { showDocument(std::move(document)); },
+        [this](ProfileReading reading) { addReading(std::move(reading)); }};
+    startJob<ProfileReadingJob>(
+        tr("Reading through both families"),
+        std::make_unique<ProfileReadingJob>(path, std::move(receiver)),
+        [this](const ProfileReadingJob& job, bool complete) { finish(job, complete); });
 }
 
-bool ProfilesPage::readStep()
+void ProfilesPage::showDocument(ProfileDocument document)
 {
-    if (m_loading)
-        loadStep();
-    else if (!m_hold)
-        m_hold = std::make_unique<ParsedProfileCache>(m_document.path());
-    else
-        readNext();
-    return m_loading || !m_names.empty();
+    m_path = document.path();
+    m_exists = document.exists();
+    m_file->setText(m_path);
+    m_readingsModel->setRecords({});
+    m_linesModel->setRecords(std::move(document.lines()));
 }
 
-// Each part of the work on a large file may fill a slice of its own.
-void ProfilesPage::loadStep()
+void ProfilesPage::addReading(ProfileReading reading)
 {
-    if (m_loading->document().isLarge())
-        endSlice();
-    if (!m_loading->step())
-        showDocument(*std::exchange(m_loading, nullptr));
-}
-
-void ProfilesPage::showDocument(ProfileLoading& loading)
-{
-    m_readingsModel->clear();
-    m_linesModel->setDocument(nullptr);
-    m_document = std::move(loading.document());
-    m_linesModel->setDocument(&m_document);
-    m_file->setText(m_document.path());
-    m_names = std::move(loading.names());
-    std::reverse(m_names.begin(), m_names.end());
-}
-
-void ProfilesPage::readNext()
-{
-    const ProfileDocument::Name name = m_names.back();
-    m_names.pop_back();
-    const ProfileReader reader(m_document.path());
-    ProfileReading reading{name.first, name.second, reader.wide(name.first, name.second),
-                           reader.narrow(name.first, name.second)};
     if (!reading.wide)
-        m_linesModel->setNotFound(name);
+        m_linesModel->setNotFound(reading.section, reading.key);
     m_readingsModel->append({std::move(reading)});
 }
 
-QString ProfilesPage::progress() const
+void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
 {
-    return m_loading ? QString()
-                     : tr("%1 values").arg(QLocale().toString(m_readingsModel->rowCount()));
-}
-
-void ProfilesPage::finish(bool complete)
-{
-    m_hold.reset();
-    if (std::exchange(m_loading, nullptr)) {
-        m_file->setText(m_document.path());
+    if (!job.isLoaded()) {
+        m_file->setText(m_path);
         report(Report::Warning, tr("Stopped before the file was read."));
         return;
     }
     restorePlace(complete);
-    if (!m_document.exists()) {
+    if (!m_exists)
         report(Report::Warning, tr("There is no such file: both families read it as empty. Writing "
                                    "a value creates it."));
-        return;
-    }
-    const QString counts = tr("%1 values, %2 of them read differently.")
-                               .arg(QLocale().toString(m_readingsModel->rowCount()),
-                                    QLocale().toString(m_readingsModel->differences()));
-    if (!complete)
-        report(Report::Warning, tr("Stopped. %1").arg(counts));
+    else if (!complete)
+        report(Report::Warning, tr("Stopped. %1").arg(counts()));
+    else if (m_summary.isEmpty())
+        report(Report::Info, counts());
     else
-        report(Report::Info, m_summary.isEmpty() ? counts : m_summary + QLatin1Char(' ') + counts);
+        report(Report::Info, m_summary + QLatin1Char(' ') + counts());
+}
+
+QString ProfilesPage::counts() const
+{
+    const std::vector<ProfileReading>& readings = m_readingsModel->records();
+    const auto differences = std::count_if(readings.begin(), readings.end(),
+                                           [](const auto& reading) { return reading.differs(); });
+    return tr("%1 values, %2 of them read differently.")
+        .arg(QLocale().toString(m_readingsModel->rowCount()),
+             QLocale().toString(static_cast<int>(differences)));
 }
 
 int ProfilesPage::rowOf(const ProfileDocument::Name& name) const
 {
     for (int row = 0; row < m_readingsModel->rowCount(); ++row) {
-        const ProfileReading& reading = m_readingsModel->reading(row);
+        const ProfileReading& reading = m_readingsModel->record(row);
         if (reading.section == name.first && reading.key == name.second)
             return row;
     }
     return -1;
 }
 
-void ProfilesPage::keepPlace()
+ProfilesPage::Place ProfilesPage::currentPlace() const
 {
-    m_keptLine = m_lines->currentIndex().row();
-    if (m_keptLine >= 0)
-        m_keptText = m_document.lines()[static_cast<std::size_t>(m_keptLine)].text;
+    Place place;
+    place.line = m_lines->currentIndex().row();
+    if (place.line >= 0)
+        place.text = m_linesModel->record(place.line).text;
     const int row = m_readings->currentIndex().row();
-    if (row < 0)
-        return;
-    const ProfileReading& reading = m_readingsModel->reading(row);
-    m_keptName.emplace(reading.section, reading.key);
+    if (row >= 0) {
+        const ProfileReading& reading = m_readingsModel->record(row);
+        place.name.emplace(reading.section, reading.key);
+    }
+    return place;
 }
 
-// The fields let go of a reading that is there no more.
+// The fields are emptied where they show a reading that is no longer in the file.
 void ProfilesPage::restorePlace(bool complete)
 {
     const QScopedValueRollback<bool> restoring(m_isRestoring, true);
-    const std::vector<ProfileDocument::Line>& lines = m_document.lines();
-    const auto line = static_cast<std::size_t>(m_keptLine);
-    if (m_keptLine >= 0 && line < lines.size() && lines[line].text == m_keptText)
-        m_lines->selectRow(m_keptLine);
-    const int row = m_keptName ? rowOf(*m_keptName) : -1;
+    const int line = m_place.line;
+    if (line >= 0 && line < m_linesModel->rowCount() &&
+        m_linesModel->record(line).text == m_place.text)
+        m_lines->selectRow(line);
+    const int row = m_place.name ? rowOf(*m_place.name) : -1;
     if (row >= 0)
         m_readings->selectRow(row);
     else if (complete && !m_readings->currentIndex().isValid())
         m_panel->updateReading({});
 }
 
-// The line in words, for those who see no tool tips, and the reading that it gives.
+// Tells of the line in words, for users who see no tool tips.
 void ProfilesPage::showLine()
 {
     const int row = m_lines->currentIndex().row();
     if (row < 0)
         return;
-    const ProfileDocument::Line& line = m_document.lines()[static_cast<std::size_t>(row)];
-    for (int i = 0; i < m_readingsModel->rowCount(); ++i) {
-        const ProfileReading& reading = m_readingsModel->reading(i);
+    const ProfileDocument::Line& line = m_linesModel->record(row);
+    chooseReadingOf(line);
+    setStatus(tr("Line %1. Narrow: %2 Wide: %3")
+                  .arg(QString::number(line.number), longText(line.narrow, ProfileFamily::Narrow),
+                       longText(line.wide, ProfileFamily::Wide)));
+}
+
+void ProfilesPage::chooseReadingOf(const ProfileDocument::Line& line)
+{
+    for (int row = 0; row < m_readingsModel->rowCount(); ++row) {
+        const ProfileReading& reading = m_readingsModel->record(row);
         const auto gives = [&reading](const LineReading& read) {
             return read.state == LineState::Entry && read.section == reading.section &&
                    read.key == reading.key;
         };
         if (gives(line.narrow) || gives(line.wide)) {
-            m_readings->selectRow(i);
-            break;
+            m_readings->selectRow(row);
+            return;
         }
     }
-    setStatus(tr("Line %1. Narrow: %2 Wide: %3")
-                  .arg(QString::number(row + 1), longText(line.narrow, ProfileFamily::Narrow),
-                       longText(line.wide, ProfileFamily::Wide)));
 }
 
 void ProfilesPage::showReading()
@@ -373,115 +348,24 @@ void ProfilesPage::showReading()
     if (row < 0)
         return;
     if (m_isRestoring)
-        m_panel->updateReading(m_readingsModel->reading(row));
+        m_panel->updateReading(m_readingsModel->record(row));
     else
-        m_panel->setReading(m_readingsModel->reading(row));
+        m_panel->setReading(m_readingsModel->record(row));
 }
 
 void ProfilesPage::write()
 {
-    if (isBusy())
-        return;
-    if (m_document.path().isEmpty()) {
-        report(Report::Error, tr("Open a file first."));
-        return;
-    }
-    const ProfileChange change = m_panel->change();
-    const QString refused = ProfileWriter(m_document.path()).fault(change);
-    if (refused.isEmpty())
-        tryOut(change);
-    else
-        report(Report::Error, refused);
+    m_editor->write({m_path, m_panel->change(), m_panel->keepsBackup()});
 }
 
-void ProfilesPage::tryOut(const ProfileChange& change)
+void ProfilesPage::showWritten(const ProfileChange& change, const QString& backup)
 {
-    const auto trial = std::make_shared<ProfileDryRun>(m_document.path(), change);
-    const auto step = [this, trial] {
-        if (trial->document().isLarge())
-            endSlice();
-        return trial->step();
-    };
-    startJob({tr("Trying the change on a copy"), step, {}, [this, trial](bool complete) {
-                  if (complete)
-                      judge(*trial);
-                  else
-                      setStatus(tr("Nothing written."));
-              }});
-}
-
-void ProfilesPage::judge(const ProfileDryRun& trial)
-{
-    const ProfileChange& change = trial.change();
-    if (!trial.isReadBack()) {
-        report(Report::Error, ProfileWriter::unreadable(change.family));
-        return;
-    }
-    const QByteArray& judged = trial.bytes();
-    if (trial.isHarmless()) {
-        writeAsJudged(change, judged);
-        return;
-    }
-    auto* dialog = new LostLinesDialog(trial.document(), change.family, trial.changes(), this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this,
-            [this, change, judged] { writeAsJudged(change, judged); });
-    connect(dialog, &QDialog::rejected, this, [this] { setStatus(tr("Nothing written.")); });
-    dialog->open();
-}
-
-// What was agreed to are the losses of the file as it was.
-void ProfilesPage::writeAsJudged(const ProfileChange& change, const QByteArray& judged)
-{
-    if (ProfileDocument::bytesOf(m_document.path()) == judged) {
-        writeNow(change);
-        return;
-    }
-    report(Report::Warning, tr("The file has been changed meanwhile: the change is tried again."));
-    tryOut(change);
-}
-
-void ProfilesPage::writeNow(const ProfileChange& change)
-{
-    QString backup;
-    if (m_panel->keepsBackup() && QFile::exists(m_document.path())) {
-        backup = ProfileWriter(m_document.path()).backUp();
-        if (backup.isEmpty()) {
-            report(Report::Error, tr("Nothing written: the backup copy could not be made."));
-            return;
-        }
-    }
-    const auto writing = std::make_shared<ProfileWriting>(m_document.path(), change);
-    const auto step = [this, writing] {
-        if (m_document.isLarge())
-            endSlice();
-        return writing->step();
-    };
-    startJob({tr("Writing"), step, {}, [this, writing, backup](bool complete) {
-                  finishWriting(*writing, backup, complete);
-              }});
-}
-
-// Cancelled, it may have written all the same.
-void ProfilesPage::finishWriting(const ProfileWriting& writing, const QString& backup,
-                                 bool complete)
-{
-    if (!complete && !writing.isWritten()) {
-        QFile::remove(backup);
-        setStatus(tr("Nothing written."));
-        return;
-    }
-    if (complete && !writing.isReadBack()) {
-        report(Report::Error, tr("The value could not be written to %1.").arg(m_document.path()));
-        return;
-    }
-    const ProfileChange& change = writing.change();
-    keepPlace();
-    m_keptName.emplace(change.section, change.key);
+    m_place = currentPlace();
+    m_place.name.emplace(change.section, change.key);
     m_panel->setReading({change.section, change.key, change.value, change.value});
     m_summary =
         backup.isEmpty() ? tr("Written.") : tr("Written; the backup copy is %1.").arg(backup);
-    read(m_document.path());
+    read(m_path);
 }
 
 void ProfilesPage::dragEnterEvent(QDragEnterEvent* event)

@@ -1,24 +1,21 @@
 #pragma once
 
 #include "inspection/profiles/ProfileDocument.h"
-#include "inspection/profiles/ProfileWriter.h"
+#include "inspection/profiles/ProfileReading.h"
 #include "window/Page.h"
+#include "window/RecordsModel.h"
 
-#include <memory>
 #include <optional>
 
-class EmptyHint;
 class ProfileEditPanel;
+class ProfileEditor;
 class ProfileFindBar;
 class ProfileLinesModel;
-class ProfileLoading;
-class ProfileReadingsModel;
-class ProfileDryRun;
-class ProfileWriting;
+class ProfileReadingJob;
+struct ProfileChange;
 class QLayout;
 class QLineEdit;
 class QTableView;
-class ParsedProfileCache;
 
 /// A profile (INI file): how each of the two families of calls reads its lines, and writing through
 /// either of them.
@@ -28,7 +25,6 @@ class ProfilesPage : public Page
 
 public:
     explicit ProfilesPage(QWidget* parent = nullptr);
-    ~ProfilesPage() override;
 
     /// Opens a file, or refuses it and keeps the one that is open.
     void open(const QString& path);
@@ -42,6 +38,14 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    /// What is chosen again when the file has been read again.
+    struct Place
+    {
+        int line = -1;                             ///< row of the chosen line, or -1
+        QString text;                              ///< of that line, which has to read so still
+        std::optional<ProfileDocument::Name> name; ///< of the chosen reading
+    };
+
     QLayout* makeFileRow();
     QTableView* makeLines();
     QTableView* makeReadings();
@@ -50,38 +54,30 @@ private:
     void findNext();
     void chooseFile();
     void read(const QString& path);
-    bool readStep();
-    void loadStep();
-    void showDocument(ProfileLoading& loading);
-    void readNext();
-    QString progress() const;
-    void finish(bool complete);
+    void showDocument(ProfileDocument document);
+    void addReading(ProfileReading reading);
+    void finish(const ProfileReadingJob& job, bool complete);
+    QString counts() const;
     int rowOf(const ProfileDocument::Name& name) const;
-    void keepPlace();
+    Place currentPlace() const;
     void restorePlace(bool complete);
     void showLine();
+    void chooseReadingOf(const ProfileDocument::Line& line);
     void showReading();
     void write();
-    void tryOut(const ProfileChange& change);
-    void judge(const ProfileDryRun& trial);
-    void writeAsJudged(const ProfileChange& change, const QByteArray& judged);
-    void writeNow(const ProfileChange& change);
-    void finishWriting(const ProfileWriting& writing, const QString& backup, bool complete);
+    void showWritten(const ProfileChange& change, const QString& backup);
 
     QLineEdit* m_file;
-    ProfileDocument m_document;
-    std::unique_ptr<ProfileLoading> m_loading;  ///< while a file is taken apart
-    std::unique_ptr<ParsedProfileCache> m_hold; ///< while the families are asked
     ProfileLinesModel* m_linesModel;
-    ProfileReadingsModel* m_readingsModel;
+    RecordsModel<ProfileReading>* m_readingsModel;
     QTableView* m_lines;
     QTableView* m_readings;
     ProfileEditPanel* m_panel;
     ProfileFindBar* m_find;
-    std::vector<ProfileDocument::Name> m_names;      ///< still to be asked for, the next one last
-    std::optional<ProfileDocument::Name> m_keptName; ///< the reading to be chosen again
-    int m_keptLine = -1;                             ///< the line to be chosen again, or -1
-    QString m_keptText;                              ///< only if it still reads so
-    bool m_isRestoring = false;                      ///< while they are
-    QString m_summary; ///< reported with the readings, once they are there
+    ProfileEditor* m_editor;
+    QString m_path; ///< of the open file; empty where none is
+    bool m_exists = false;
+    Place m_place;
+    bool m_isRestoring = false; ///< true while m_place is being chosen again
+    QString m_summary;          ///< what was written, to be reported together with the readings
 };

@@ -1779,6 +1779,72 @@
     </message>
 </context>
 <context>
+    <name>ProfileColumns</name>
+    <message>
+        <source>Narrow: %1
+Wide: %2</source>
+        <translation>窄字符：%1
+宽字符：%2</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>（无名称）</translation>
+    </message>
+    <message>
+        <source>(not found)</source>
+        <translation>（找不到）</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>（空）</translation>
+    </message>
+    <message>
+        <source>The families read different values.</source>
+        <translation>两种接口读到的值不同。</translation>
+    </message>
+    <message>
+        <source>The families read the same value.</source>
+        <translation>两种接口读到的值相同。</translation>
+    </message>
+    <message>
+        <source>Empty: the narrow family answers this for missing values too.</source>
+        <translation>空：值不存在时窄字符接口也返回空。</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <comment>number of a line</comment>
+        <translation>行号</translation>
+    </message>
+    <message>
+        <source>Narrow</source>
+        <translation>窄字符</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>宽字符</translation>
+    </message>
+    <message>
+        <source>Line (raw)</source>
+        <translation>行（原始内容）</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>节</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Wide reading</source>
+        <translation>宽字符读取</translation>
+    </message>
+    <message>
+        <source>Narrow reading</source>
+        <translation>窄字符读取</translation>
+    </message>
+</context>
+<context>
     <name>ProfileDocument</name>
     <message>
         <source>%1 is a folder.</source>
@@ -1849,6 +1915,37 @@
     </message>
 </context>
 <context>
+    <name>ProfileEditor</name>
+    <message>
+        <source>Open a file first.</source>
+        <translation>请先打开文件。</translation>
+    </message>
+    <message>
+        <source>Trying the change on a copy</source>
+        <translation>正在副本上试写</translation>
+    </message>
+    <message>
+        <source>Nothing written.</source>
+        <translation>未写入任何内容。</translation>
+    </message>
+    <message>
+        <source>The file has been changed meanwhile: the change is tried again.</source>
+        <translation>文件在此期间已被更改：正在重新试写。</translation>
+    </message>
+    <message>
+        <source>Nothing written: the backup copy could not be made.</source>
+        <translation>未写入：无法创建备份。</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>正在写入</translation>
+    </message>
+    <message>
+        <source>The value could not be written to %1.</source>
+        <translation>无法将值写入 %1。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileFindBar</name>
     <message>
         <source>Text to find</source>
@@ -1864,72 +1961,10 @@
     </message>
 </context>
 <context>
-    <name>ProfileLinesModel</name>
+    <name>ProfileReadingJob</name>
     <message>
-        <source>Narrow: %1
-Wide: %2</source>
-        <translation>窄字符：%1
-宽字符：%2</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <comment>number of a line</comment>
-        <translation>行号</translation>
-    </message>
-    <message>
-        <source>Narrow</source>
-        <translation>窄字符</translation>
-    </message>
-    <message>
-        <source>Wide</source>
-        <translation>宽字符</translation>
-    </message>
-    <message>
-        <source>Line (raw)</source>
-        <translation>行（原始内容）</translation>
-    </message>
-</context>
-<context>
-    <name>ProfileReadingsModel</name>
-    <message>
-        <source>(no name)</source>
-        <translation>（无名称）</translation>
-    </message>
-    <message>
-        <source>(not found)</source>
-        <translation>（找不到）</translation>
-    </message>
-    <message>
-        <source>(empty)</source>
-        <translation>（空）</translation>
-    </message>
-    <message>
-        <source>The families read different values.</source>
-        <translation>两种接口读到的值不同。</translation>
-    </message>
-    <message>
-        <source>The families read the same value.</source>
-        <translation>两种接口读到的值相同。</translation>
-    </message>
-    <message>
-        <source>Empty: the narrow family answers this for missing values too.</source>
-        <translation>空：值不存在时窄字符接口也返回空。</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>节</translation>
-    </message>
-    <message>
-        <source>Key</source>
-        <translation>键</translation>
-    </message>
-    <message>
-        <source>Wide reading</source>
-        <translation>宽字符读取</translation>
-    </message>
-    <message>
-        <source>Narrow reading</source>
-        <translation>窄字符读取</translation>
+        <source>%1 values</source>
+        <translation>%1 个值</translation>
     </message>
 </context>
 <context>
@@ -2010,10 +2045,6 @@ Wide: %2</source>
         <translation>正在通过两种接口读取</translation>
     </message>
     <message>
-        <source>%1 values</source>
-        <translation>%1 个值</translation>
-    </message>
-    <message>
         <source>There is no such file: both families read it as empty. Writing a value creates it.</source>
         <translation>文件不存在：两种接口都将其读作空。写入值时会创建该文件。</translation>
     </message>
@@ -2028,22 +2059,6 @@ Wide: %2</source>
     <message>
         <source>Line %1. Narrow: %2 Wide: %3</source>
         <translation>第 %1 行。窄字符：%2 宽字符：%3</translation>
-    </message>
-    <message>
-        <source>Open a file first.</source>
-        <translation>请先打开文件。</translation>
-    </message>
-    <message>
-        <source>Nothing written.</source>
-        <translation>未写入任何内容。</translation>
-    </message>
-    <message>
-        <source>Nothing written: the backup copy could not be made.</source>
-        <translation>未写入：无法创建备份。</translation>
-    </message>
-    <message>
-        <source>The value could not be written to %1.</source>
-        <translation>无法将值写入 %1。</translation>
     </message>
     <message>
         <source>Written.</source>
@@ -2068,18 +2083,6 @@ Wide: %2</source>
     <message>
         <source>Stopped before the file was read.</source>
         <translation>已停止：文件尚未读取。</translation>
-    </message>
-    <message>
-        <source>Trying the change on a copy</source>
-        <translation>正在副本上试写</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>正在写入</translation>
-    </message>
-    <message>
-        <source>The file has been changed meanwhile: the change is tried again.</source>
-        <translation>文件在此期间已被更改：正在重新试写。</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,7 @@
 #include "tests/pages/WindowProbe.h"
 
 #include "inspection/profiles/NarrowRewriting.h"
-#include "inspection/profiles/ProfileLoading.h"
+#include "inspection/profiles/ProfileLoadingJob.h"
 #include "inspection/registry/RegistryImport.h"
 #include "pages/profiles/LostLinesDialog.h"
 #include "pages/registry/ImportDialog.h"
@@ -123,7 +123,7 @@ std::unique_ptr<QWidget> lostLines(const WindowProbe& probe)
 {
     const ProfileFixture file;
     file.write("; by hand\n[Net]\nHost\nQuery=a=b\n\n[App]\r\nx = 1\n");
-    ProfileLoading loading(file.path());
+    ProfileLoadingJob loading(file.path());
     while (loading.step())
         ;
     const QString changes = NarrowRewriting(file.path()).changes();

@@ -10,7 +10,7 @@
 
 namespace {
 
-// More keys than QSettings remembers of a file that nobody holds.
+// More keys than QSettings remembers of a file that nobody has open.
 constexpr int manyKeys = 1000;
 
 class ParsedProfileCacheTest : public testing::Test
@@ -44,16 +44,16 @@ protected:
 
 TEST_F(ParsedProfileCacheTest, KeepsTheFileInMemoryForTheService)
 {
-    const ParsedProfileCache hold(m_file.path());
+    const ParsedProfileCache cache(m_file.path());
     EXPECT_EQ(read(), QStringLiteral("1"));
     writeUnnoticed('2');
     EXPECT_EQ(read(), QStringLiteral("1"));
 }
 
-TEST_F(ParsedProfileCacheTest, KeepsWhatItHasTakenApart)
+TEST_F(ParsedProfileCacheTest, KeepsWhatItHasParsed)
 {
-    const ParsedProfileCache hold(m_file.path());
-    hold.takeApart();
+    const ParsedProfileCache cache(m_file.path());
+    cache.parse();
     writeUnnoticed('2');
     EXPECT_EQ(read(), QStringLiteral("1"));
 }
@@ -61,7 +61,7 @@ TEST_F(ParsedProfileCacheTest, KeepsWhatItHasTakenApart)
 TEST_F(ParsedProfileCacheTest, LetsGoOfTheFile)
 {
     {
-        const ParsedProfileCache hold(m_file.path());
+        const ParsedProfileCache cache(m_file.path());
         EXPECT_EQ(read(), QStringLiteral("1"));
     }
     writeUnnoticed('2');
@@ -70,7 +70,7 @@ TEST_F(ParsedProfileCacheTest, LetsGoOfTheFile)
 
 TEST_F(ParsedProfileCacheTest, ShowsTheServiceAFileOfTheSameSizeThatOthersWrote)
 {
-    const ParsedProfileCache hold(m_file.path());
+    const ParsedProfileCache cache(m_file.path());
     EXPECT_EQ(read(), QStringLiteral("1"));
     const QDateTime stamp = m_file.stamp();
     write('2');
@@ -80,7 +80,7 @@ TEST_F(ParsedProfileCacheTest, ShowsTheServiceAFileOfTheSameSizeThatOthersWrote)
 
 TEST_F(ParsedProfileCacheTest, ShowsTheServiceAFileOfAnotherSizeWithTheSameStamp)
 {
-    const ParsedProfileCache hold(m_file.path());
+    const ParsedProfileCache cache(m_file.path());
     EXPECT_EQ(read(), QStringLiteral("1"));
     const QDateTime stamp = m_file.stamp();
     m_file.write("[S]\nk5=22\n");
@@ -90,7 +90,7 @@ TEST_F(ParsedProfileCacheTest, ShowsTheServiceAFileOfAnotherSizeWithTheSameStamp
 
 TEST_F(ParsedProfileCacheTest, ShowsTheServiceThatTheFileIsGone)
 {
-    const ParsedProfileCache hold(m_file.path());
+    const ParsedProfileCache cache(m_file.path());
     EXPECT_EQ(read(), QStringLiteral("1"));
     ASSERT_TRUE(QFile::remove(m_file.path()));
     EXPECT_EQ(read(), std::nullopt);
@@ -99,8 +99,8 @@ TEST_F(ParsedProfileCacheTest, ShowsTheServiceThatTheFileIsGone)
 TEST_F(ParsedProfileCacheTest, LeavesWhatTheServiceAndOthersWriteMeanwhile)
 {
     {
-        const ParsedProfileCache hold(m_file.path());
-        hold.takeApart();
+        const ParsedProfileCache cache(m_file.path());
+        cache.parse();
         g_PlatformServices.profileManager()->WritePrivateProfileStringW(
             L"S", L"k5", L"written", m_file.path().toStdWString().c_str());
         EXPECT_EQ(read(), QStringLiteral("written"));
@@ -113,19 +113,19 @@ TEST_F(ParsedProfileCacheTest, LeavesWhatTheServiceAndOthersWriteMeanwhile)
 TEST_F(ParsedProfileCacheTest, WritesNothing)
 {
     const QDateTime stamp = m_file.stamp();
-    ParsedProfileCache(m_file.path()).takeApart();
+    ParsedProfileCache(m_file.path()).parse();
     EXPECT_EQ(m_file.bytes(), content('1'));
     EXPECT_EQ(m_file.stamp(), stamp);
     const QString missing = m_file.folder() + QStringLiteral("/missing.ini");
-    ParsedProfileCache(missing).takeApart();
+    ParsedProfileCache(missing).parse();
     EXPECT_FALSE(QFile::exists(missing));
 }
 
-TEST_F(ParsedProfileCacheTest, TakesTextApartInTheCodecOfTheService)
+TEST_F(ParsedProfileCacheTest, ParsesInTheCodecOfTheService)
 {
     m_file.write("[S]\nk5=\xe8\x8a\x82\n");
-    const ParsedProfileCache hold(m_file.path());
-    hold.takeApart();
+    const ParsedProfileCache cache(m_file.path());
+    cache.parse();
     EXPECT_EQ(read(), QString::fromUtf8("\xe8\x8a\x82"));
 }
 

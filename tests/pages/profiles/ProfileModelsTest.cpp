@@ -1,5 +1,4 @@
 #include "pages/profiles/ProfileLinesModel.h"
-#include "pages/profiles/ProfileReadingsModel.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +7,7 @@ namespace {
 TEST(ProfileModels, HaveNothingToShowWhereThereIsNoCell)
 {
     const ProfileLinesModel lines;
-    const ProfileReadingsModel readings;
+    const RecordsModel<ProfileReading> readings(ProfileColumns::ofReadings());
     for (const int role : {Qt::DisplayRole, Qt::ToolTipRole, Qt::ForegroundRole}) {
         EXPECT_FALSE(lines.data({}, role).isValid());
         EXPECT_FALSE(readings.data({}, role).isValid());
@@ -17,13 +16,13 @@ TEST(ProfileModels, HaveNothingToShowWhereThereIsNoCell)
 
 TEST(ProfileModels, ShowMarkupInToolTipsAsItStands)
 {
-    ProfileReadingsModel readings;
+    RecordsModel<ProfileReading> readings(ProfileColumns::ofReadings());
     readings.append({{QStringLiteral("S"), QStringLiteral("<b>key</b>"), {}, QStringLiteral("1")}});
     const auto tip = [&readings](int column) {
         return readings.index(0, column).data(Qt::ToolTipRole).toString().toStdString();
     };
-    EXPECT_EQ(tip(ProfileReadingsModel::KeyColumn), "<span>&lt;b&gt;key&lt;/b&gt;</span>");
-    EXPECT_EQ(tip(ProfileReadingsModel::SectionColumn), "S");
+    EXPECT_EQ(tip(ProfileColumns::KeyColumn), "<span>&lt;b&gt;key&lt;/b&gt;</span>");
+    EXPECT_EQ(tip(ProfileColumns::SectionColumn), "S");
 }
 
 } // namespace

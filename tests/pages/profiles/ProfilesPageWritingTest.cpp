@@ -1,5 +1,5 @@
 #include "inspection/profiles/ProfileReader.h"
-#include "inspection/profiles/ProfileWriting.h"
+#include "inspection/profiles/ProfileWritingJob.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
 
 #include <QCheckBox>
@@ -197,8 +197,8 @@ TEST_F(ProfileInLockedFolderTest, TheWideFamilyWritesNothing)
     open();
     request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), wide);
     EXPECT_TRUE(status().endsWith(QStringLiteral("cannot be written."))) << status().toStdString();
-    ProfileWriting writing(m_file.path(), {ProfileFamily::Wide, QStringLiteral("Net"),
-                                           QStringLiteral("Mask"), QStringLiteral("1")});
+    ProfileWritingJob writing(m_file.path(), {ProfileFamily::Wide, QStringLiteral("Net"),
+                                              QStringLiteral("Mask"), QStringLiteral("1")});
     while (writing.step())
         ;
     EXPECT_FALSE(writing.isReadBack());

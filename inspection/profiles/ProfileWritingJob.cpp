@@ -1,4 +1,4 @@
-#include "inspection/profiles/ProfileWriting.h"
+#include "inspection/profiles/ProfileWritingJob.h"
 
 #include "inspection/profiles/ParsedProfileCache.h"
 #include "inspection/profiles/ProfileReader.h"
@@ -30,18 +30,18 @@ bool reads(const QString& file, const ProfileChange& change)
 
 } // namespace
 
-ProfileWriting::ProfileWriting(const QString& file, const ProfileChange& change)
-    : m_file(file), m_change(change)
+ProfileWritingJob::ProfileWritingJob(const QString& file, const ProfileChange& change)
+    : m_file(file), m_change(change), m_isLarge(ProfileDocument(file).isLarge())
 {
 }
 
-ProfileWriting::~ProfileWriting() = default;
+ProfileWritingJob::~ProfileWritingJob() = default;
 
-bool ProfileWriting::step()
+bool ProfileWritingJob::step()
 {
     switch (m_stage++) {
     case 0: open(); return true;
-    case 1: takeApart(); return true;
+    case 1: parse(); return true;
     case 2: write(); return true;
     case 3: copy(); return true;
     case 4: read(); return true;
@@ -49,38 +49,38 @@ bool ProfileWriting::step()
     }
 }
 
-// The wide call has to take the whole file apart before it writes: done here, it takes half as
-// long.
-void ProfileWriting::open()
+// The wide call has to parse the whole file before it writes. With the file parsed in a step of its
+// own, the call takes half as long.
+void ProfileWritingJob::open()
 {
     if (isWide())
-        m_hold = std::make_unique<ParsedProfileCache>(m_file);
+        m_cache = std::make_unique<ParsedProfileCache>(m_file);
 }
 
-void ProfileWriting::takeApart() const
+void ProfileWritingJob::parse() const
 {
-    if (m_hold)
-        m_hold->takeApart();
+    if (m_cache)
+        m_cache->parse();
 }
 
-void ProfileWriting::write()
+void ProfileWritingJob::write()
 {
     m_isWritten = callService(m_file, m_change);
-    m_hold.reset();
+    m_cache.reset();
 }
 
 // What lies on disk need not be what the wide family remembers to have written.
-void ProfileWriting::copy()
+void ProfileWritingJob::copy()
 {
     m_isCopied = m_isWritten && QFile::copy(m_file, copiedFile());
 }
 
-void ProfileWriting::read()
+void ProfileWritingJob::read()
 {
     m_isReadBack = m_isCopied && reads(copiedFile(), m_change);
 }
 
-QString ProfileWriting::copiedFile() const
+QString ProfileWritingJob::copiedFile() const
 {
     return m_folder.filePath(QStringLiteral("read.ini"));
 }

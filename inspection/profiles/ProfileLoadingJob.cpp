@@ -1,4 +1,4 @@
-#include "inspection/profiles/ProfileLoading.h"
+#include "inspection/profiles/ProfileLoadingJob.h"
 
 #include "platform/profiles/NarrowLines.h"
 #include "platform/profiles/NarrowProfileFile.h"
@@ -17,11 +17,12 @@ QString textOf(const QString& path)
 
 } // namespace
 
-ProfileLoading::ProfileLoading(const QString& path) : m_document(QFileInfo(path).absoluteFilePath())
+ProfileLoadingJob::ProfileLoadingJob(const QString& path)
+    : m_document(QFileInfo(path).absoluteFilePath())
 {
 }
 
-bool ProfileLoading::step()
+bool ProfileLoadingJob::step()
 {
     switch (m_stage++) {
     case 0: readFile(); return true;
@@ -33,33 +34,35 @@ bool ProfileLoading::step()
     }
 }
 
-void ProfileLoading::readFile()
+void ProfileLoadingJob::readFile()
 {
     m_text = textOf(m_document.path());
     m_bytes = ProfileDocument::bytesOf(m_document.path());
 }
 
-void ProfileLoading::readNarrow()
+void ProfileLoadingJob::readNarrow()
 {
     m_narrow = NarrowLines(m_text).readings();
 }
 
-void ProfileLoading::readWide()
+void ProfileLoadingJob::readWide()
 {
     m_wide = WideLines(m_bytes).readings();
 }
 
-void ProfileLoading::joinLines()
+void ProfileLoadingJob::joinLines()
 {
     const QStringList texts = m_text.split(QLatin1Char('\n'));
     std::vector<ProfileDocument::Line>& lines = m_document.lines();
     lines.reserve(m_narrow.size());
-    for (std::size_t i = 0; i < m_narrow.size(); ++i)
-        lines.push_back({texts.at(static_cast<int>(i)), m_narrow[i],
+    for (std::size_t i = 0; i < m_narrow.size(); ++i) {
+        const int index = static_cast<int>(i);
+        lines.push_back({index + 1, texts.at(index), m_narrow[i],
                          i < m_wide.size() ? m_wide[i] : LineReading{}});
+    }
 }
 
-void ProfileLoading::collectNames()
+void ProfileLoadingJob::collectNames()
 {
     m_names = m_document.names();
 }

@@ -1,20 +1,22 @@
 #pragma once
 
+#include "inspection/Job.h"
 #include "inspection/profiles/ProfileDocument.h"
 
 #include <QByteArray>
 
-/// Reads a profile and takes it apart, in steps of a few milliseconds each.
-class ProfileLoading
+/// Reads a profile and finds out what either family makes of its lines.
+class ProfileLoadingJob : public Job
 {
 public:
     /// A missing file has no lines.
-    explicit ProfileLoading(const QString& path);
+    explicit ProfileLoadingJob(const QString& path);
 
-    /// False when nothing was left to be done.
-    bool step();
+    bool step() override;
+    /// True for each step on a large file.
+    bool isNextStepLong() const override { return m_document.isLarge(); }
 
-    /// Complete once nothing is left to be done, as is what follows.
+    /// The file with its lines; like everything below, complete when the job is done.
     ProfileDocument& document() { return m_document; }
     const ProfileDocument& document() const { return m_document; }
     /// See ProfileDocument::names.

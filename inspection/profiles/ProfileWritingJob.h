@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inspection/Job.h"
 #include "inspection/profiles/ProfileWriter.h"
 
 #include <QTemporaryDir>
@@ -8,18 +9,18 @@
 
 class ParsedProfileCache;
 
-/// Writes a value through the profile service and reads it back, in steps of a few milliseconds
-/// each but for the call that writes.
-class ProfileWriting
+/// Writes a value through the profile service and reads it back.
+class ProfileWritingJob : public Job
 {
 public:
-    ProfileWriting(const QString& file, const ProfileChange& change);
-    ~ProfileWriting();
+    ProfileWritingJob(const QString& file, const ProfileChange& change);
+    ~ProfileWritingJob() override;
 
     const ProfileChange& change() const { return m_change; }
 
-    /// False when nothing was left to be done.
-    bool step();
+    bool step() override;
+    /// True for each step on a file that was large before.
+    bool isNextStepLong() const override { return m_isLarge; }
 
     /// True once the service says that it has written.
     bool isWritten() const { return m_isWritten; }
@@ -29,7 +30,7 @@ public:
 private:
     bool isWide() const { return m_change.family == ProfileFamily::Wide; }
     void open();
-    void takeApart() const;
+    void parse() const;
     void write();
     void copy();
     void read();
@@ -37,8 +38,9 @@ private:
 
     QString m_file;
     ProfileChange m_change;
+    bool m_isLarge;
     QTemporaryDir m_folder;
-    std::unique_ptr<ParsedProfileCache> m_hold;
+    std::unique_ptr<ParsedProfileCache> m_cache;
     int m_stage = 0;
     bool m_isWritten = false;
     bool m_isCopied = false;

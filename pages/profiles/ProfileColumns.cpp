@@ -1,0 +1,158 @@
+#include "pages/profiles/ProfileColumns.h"
+
+#include "pages/profiles/ProfileText.h"
+#include "platform/profiles/LineStateText.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace {
+
+using Line = ProfileDocument::Line;
+
+bool isDull(const LineReading& reading)
+{
+    switch (reading.state) {
+    case LineState::Blank:
+    case LineState::Continuation:
+    case LineState::Unreachable:
+    case LineState::NotFound: return true;
+    default: return isLost(reading.state);
+    }
+}
+
+QVariant grey()
+{
+    return QGuiApplication::palette().placeholderText();
+}
+
+QString narrowText(const Line& line)
+{
+    return longText(line.narrow, ProfileFamily::Narrow);
+}
+
+QString wideText(const Line& line)
+{
+    return longText(line.wide, ProfileFamily::Wide);
+}
+
+// What one of the families drops stands out from what both of them drop, which recedes.
+QVariant lineLook(const Line& line, bool isDullText, int role)
+{
+    if (role == Qt::ForegroundRole && isDullText)
+        return grey();
+    if (role == Qt::ToolTipRole)
+        return ProfileColumns::tr("Narrow: %1\nWide: %2").arg(narrowText(line), wideText(line));
+    return {};
+}
+
+QVariant stateLook(const LineReading& reading, ProfileFamily family, int role)
+{
+    if (role == Qt::ForegroundRole && isDull(reading))
+        return grey();
+    return role == Qt::ToolTipRole ? longText(reading, family) : QVariant();
+}
+
+// What a cell shows; a placeholder stands for a text that cannot be seen.
+struct Shown
+{
+    QString text;
+    bool isPlaceholder = false;
+};
+
+Shown shownName(const QString& name)
+{
+    if (name.isEmpty())
+        return {ProfileColumns::tr("(no name)"), true};
+    return {shownText(name)};
+}
+
+Shown shownValue(const std::optional<QString>& value)
+{
+    if (!value)
+        return {ProfileColumns::tr("(not found)"), true};
+    if (value->isEmpty())
+        return {ProfileColumns::tr("(empty)"), true};
+    return {shownText(*value)};
+}
+
+QVariant look(const Shown& shown, bool isBold, int role)
+{
+    if (role == Qt::ForegroundRole && shown.isPlaceholder)
+        return grey();
+    if (role != Qt::FontRole || !isBold || shown.isPlaceholder)
+        return {};
+    QFont bold = QGuiApplication::font();
+    bold.setBold(true);
+    return bold;
+}
+
+RecordColumn<ProfileReading> nameColumn(const QString& title, QString ProfileReading::*name)
+{
+    return {title, [name](const ProfileReading& reading) { return shownName(reading.*name).text; },
+            [name](const ProfileReading& reading, int role) {
+                return look(shownName(reading.*name), false, role);
+            }};
+}
+
+QVariant differenceLook(const ProfileReading& reading, int role)
+{
+    switch (role) {
+    case Qt::TextAlignmentRole: return Qt::AlignCenter;
+    case Qt::ToolTipRole:
+        return reading.differs() ? ProfileColumns::tr("The families read different values.")
+                                 : ProfileColumns::tr("The families read the same value.");
+    default: return look({}, reading.differs(), role);
+    }
+}
+
+QVariant narrowLook(const ProfileReading& reading, int role)
+{
+    if (role == Qt::ToolTipRole && reading.narrow.isEmpty())
+        return ProfileColumns::tr("Empty: the narrow family answers this for missing values too.");
+    return look(shownValue(reading.narrow), reading.differs(), role);
+}
+
+} // namespace
+
+std::vector<RecordColumn<Line>> ProfileColumns::ofLines()
+{
+    return {{tr("No.", "number of a line"),
+             [](const Line& line) { return QString::number(line.number); },
+             [](const Line& line, int role) {
+                 return role == Qt::TextAlignmentRole ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                                                      : lineLook(line, true, role);
+             }},
+            {tr("Narrow"), [](const Line& line) { return shortText(line.narrow); },
+             [](const Line& line, int role) {
+                 return stateLook(line.narrow, ProfileFamily::Narrow, role);
+             }},
+            {tr("Wide"), [](const Line& line) { return shortText(line.wide); },
+             [](const Line& line, int role) {
+                 return stateLook(line.wide, ProfileFamily::Wide, role);
+             }},
+            {tr("Line (raw)"), [](const Line& line) { return shownText(line.text); },
+             [](const Line& line, int role) {
+                 return lineLook(line, isDull(line.narrow) && isDull(line.wide), role);
+             }}};
+}
+
+std::vector<RecordColumn<ProfileReading>> ProfileColumns::ofReadings()
+{
+    using Reading = ProfileReading;
+    return {nameColumn(tr("Section"), &Reading::section),
+            nameColumn(tr("Key"), &Reading::key),
+            {tr("Wide reading"),
+             [](const Reading& reading) { return shownValue(reading.wide).text; },
+             [](const Reading& reading, int role) {
+                 return look(shownValue(reading.wide), reading.differs(), role);
+             }},
+            {QString(),
+             [](const Reading& reading) {
+                 return QString(reading.differs() ? QChar(u'≠') : QLatin1Char('='));
+             },
+             &differenceLook},
+            {tr("Narrow reading"),
+             [](const Reading& reading) { return shownValue(reading.narrow).text; }, &narrowLook}};
+}
