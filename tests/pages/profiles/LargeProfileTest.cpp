@@ -70,9 +70,9 @@ protected:
     WindowProbe m_probe{"profiles"};
 };
 
-// Each of the parts may take as long as a turn may: reading the file, taking its lines apart for
-// either family, joining them, collecting the names, and taking the file apart for the wide calls.
-TEST_F(LargeProfile, IsTakenApartInManyTurns)
+// Each of the parts may take as long as a turn may: reading the file, parsing its lines for
+// either family, joining them, collecting the names, and parsing the file for the wide calls.
+TEST_F(LargeProfile, IsParsedInManyTurns)
 {
     start();
     EXPECT_EQ(readings().rowCount(), 0);
@@ -115,7 +115,7 @@ TEST_F(LargeProfile, IsTriedInManyTurnsBeforeLinesAreLost)
 }
 
 // The same size and the same stamp: only a file that is in memory already goes on as it was.
-TEST_F(LargeProfile, IsTakenApartOnceForAllWideReadings)
+TEST_F(LargeProfile, IsParsedOnceForAllWideReadings)
 {
     const QDateTime stamp = m_file.stamp();
     start();
@@ -156,7 +156,7 @@ TEST_F(LargeProfile, ChangedMeanwhileIsReadAnew)
     stop();
 }
 
-TEST_F(LargeProfile, CancelledBeforeItIsTakenApartLeavesTheFormerOneOpen)
+TEST_F(LargeProfile, CancelledBeforeItIsParsedLeavesTheFormerOneOpen)
 {
     ProfileFixture former;
     former.write("[S]\nk=v\n");

@@ -214,7 +214,7 @@ TEST_F(ProfilesPageTest, CancelKeepsWhatWasReadSoFar)
     m_file.write(large);
     m_probe.type("file", m_file.path());
     QTest::keyClick(&m_probe.control<QWidget>("file"), Qt::Key_Return);
-    // The first slice may do no more than take the file apart.
+    // The first slice may do no more than parse the file.
     ASSERT_TRUE(QTest::qWaitFor([this] { return model("readings").rowCount() > 0; }));
     ASSERT_TRUE(m_probe.page().isBusy());
     m_probe.page().cancelJob();
