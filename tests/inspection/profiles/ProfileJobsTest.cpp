@@ -1,0 +1,182 @@
+#include "inspection/profiles/ProfileDryRun.h"
+#include "inspection/profiles/ProfileReadingJob.h"
+#include "inspection/profiles/ProfileWritingJob.h"
+#include "tests/inspection/profiles/ProfileFixture.h"
+
+#include <QDir>
+
+namespace {
+
+constexpr int largest = 16 * 1024; // bytes; a file beyond that is large
+
+ProfileChange narrowChange(const char* section, const char* key, const char* value)
+{
+    return {ProfileFamily::Narrow, QLatin1String(section), QLatin1String(key),
+            QLatin1String(value)};
+}
+
+ProfileChange wideChange(const char* section, const char* key, const char* value)
+{
+    return {ProfileFamily::Wide, QLatin1String(section), QLatin1String(key), QLatin1String(value)};
+}
+
+// How many steps a job takes, or fewer where it is to stop before.
+int run(Job& job, int most = 1000)
+{
+    int steps = 0;
+    while (steps < most && job.step())
+        ++steps;
+    return steps;
+}
+
+class ProfileReadingJobTest : public testing::Test
+{
+protected:
+    ProfileReadingJob::Receiver receiver()
+    {
+        return {[this](ProfileDocument document) {
+                    m_found << QStringLiteral("document of %1 lines").arg(document.lines().size());
+                },
+                [this](const ProfileReading& reading) {
+                    m_found << reading.section + '.' + reading.key + ": " +
+                                   reading.wide.value_or("not found") + '|' + reading.narrow;
+                }};
+    }
+
+    ProfileFixture m_file;
+    QStringList m_found;
+};
+
+TEST_F(ProfileReadingJobTest, TellsOfTheDocumentAndThenOfEachNameInTheOrderOfTheFile)
+{
+    m_file.write("[Net]\nHost=one\nQuery=a=b\nHost=two\n[General]\nSpeed=1\n");
+    ProfileReadingJob job(m_file.path(), receiver());
+    run(job);
+    EXPECT_EQ(m_found, QStringList({"document of 6 lines", "Net.Query: a=b|", "Net.Host: two|two",
+                                    ".Speed: 1|", "General.Speed: not found|1"}));
+}
+
+TEST_F(ProfileReadingJobTest, AsksForNamesThatQSettingsKeepsButDoesNotFind)
+{
+    m_file.write("[]\nk=v\n");
+    ProfileReadingJob job(m_file.path(), receiver());
+    run(job);
+    EXPECT_EQ(m_found, QStringList({"document of 2 lines", ".k: not found|v"}));
+}
+
+TEST_F(ProfileReadingJobTest, HasNoNamesToAskForInAMissingFile)
+{
+    ProfileReadingJob job(m_file.path(), receiver());
+    run(job);
+    EXPECT_TRUE(job.isLoaded());
+    EXPECT_EQ(m_found, QStringList({"document of 0 lines"}));
+}
+
+TEST_F(ProfileReadingJobTest, CountsTheNamesOnceTheFileIsRead)
+{
+    m_file.write("[S]\na=1\nb=2\n");
+    ProfileReadingJob job(m_file.path(), receiver());
+    EXPECT_EQ(job.progress(), QString());
+    EXPECT_FALSE(job.isLoaded());
+    run(job);
+    EXPECT_EQ(job.progress(), QStringLiteral("2 values"));
+}
+
+TEST_F(ProfileReadingJobTest, ExpectsLongStepsUntilALargeFileIsInMemory)
+{
+    m_file.write("[S]\na=1\nb=2\n" + QByteArray(largest, '\n'));
+    ProfileReadingJob job(m_file.path(), receiver());
+    while (m_found.size() < 2) {
+        EXPECT_TRUE(job.isNextStepLong() || job.isLoaded());
+        ASSERT_TRUE(job.step());
+    }
+    EXPECT_FALSE(job.isNextStepLong());
+}
+
+TEST_F(ProfileReadingJobTest, ExpectsNoLongStepsOfASmallFile)
+{
+    m_file.write("[S]\na=1\n");
+    const ProfileReadingJob job(m_file.path(), receiver());
+    EXPECT_FALSE(job.isNextStepLong());
+}
+
+class ProfileWritingJobTest : public testing::Test
+{
+protected:
+    ProfileFixture m_file;
+};
+
+TEST_F(ProfileWritingJobTest, WritesAndReadsBackThroughEitherFamily)
+{
+    for (const ProfileChange& change : {narrowChange("S", "a", "1"), wideChange("S", "b", "2")}) {
+        ProfileWritingJob job(m_file.path(), change);
+        run(job);
+        EXPECT_TRUE(job.isWritten());
+        EXPECT_TRUE(job.isReadBack());
+    }
+    EXPECT_EQ(m_file.bytes(), "[S]\na=1\nb=2\n");
+}
+
+TEST_F(ProfileWritingJobTest, TellsOfAValueThatTheFamilyDoesNotReadBack)
+{
+    ProfileWritingJob job(m_file.path(), narrowChange("S", "a", "1=2"));
+    run(job);
+    EXPECT_TRUE(job.isWritten());
+    EXPECT_FALSE(job.isReadBack());
+}
+
+TEST_F(ProfileWritingJobTest, HasWrittenNothingInItsFirstSteps)
+{
+    m_file.write("[S]\na=1\n");
+    ProfileWritingJob job(m_file.path(), wideChange("S", "a", "2"));
+    run(job, 2);
+    EXPECT_FALSE(job.isWritten());
+    EXPECT_EQ(m_file.bytes(), "[S]\na=1\n");
+}
+
+class ProfileDryRunTest : public testing::Test
+{
+protected:
+    // Tries a narrow change on a file of these bytes, which stays as it is.
+    void tryOut(const QByteArray& bytes, const char* value = "1")
+    {
+        m_file.write(bytes);
+        m_dryRun = std::make_unique<ProfileDryRun>(m_file.path(), narrowChange("S", "a", value));
+        run(*m_dryRun);
+        EXPECT_EQ(m_file.bytes(), bytes);
+        EXPECT_EQ(QDir(m_file.folder()).entryList(QDir::Files), QStringList("profile.ini"));
+    }
+
+    ProfileFixture m_file;
+    std::unique_ptr<ProfileDryRun> m_dryRun;
+};
+
+TEST_F(ProfileDryRunTest, FindsAChangeHarmlessThatLosesNothing)
+{
+    tryOut("[S]\na=0\n");
+    EXPECT_TRUE(m_dryRun->isReadBack());
+    EXPECT_TRUE(m_dryRun->isHarmless());
+    EXPECT_EQ(m_dryRun->bytes(), "[S]\na=0\n");
+}
+
+TEST_F(ProfileDryRunTest, FindsTheLinesThatWouldBeLost)
+{
+    tryOut("[S]\na=0\n; why\n");
+    EXPECT_FALSE(m_dryRun->isHarmless());
+    EXPECT_EQ(m_dryRun->document().lostLines(ProfileFamily::Narrow), std::vector<int>({3}));
+}
+
+TEST_F(ProfileDryRunTest, FindsWhatElseWouldChange)
+{
+    tryOut("[S]\nb=0\na=0\n");
+    EXPECT_FALSE(m_dryRun->isHarmless());
+    EXPECT_EQ(m_dryRun->changes(), QStringLiteral("The order of sections and keys changes."));
+}
+
+TEST_F(ProfileDryRunTest, EndsWhereTheValueIsNotReadBack)
+{
+    tryOut("[S]\na=0\n", "1=2");
+    EXPECT_FALSE(m_dryRun->isReadBack());
+}
+
+} // namespace
