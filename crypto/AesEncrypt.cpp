@@ -1,4 +1,4 @@
-// The rounds are limited by chains of look-ups and sums: the sums are to stay in the order that
+// The rounds are limited by chains of look-ups and XORs: the XORs are to stay in the order that
 // they are written in, and the words in general registers.
 #if defined(__GNUC__) && !defined(__clang__)
 #pragma GCC optimize("no-tree-reassoc", "no-tree-slp-vectorize")
@@ -46,29 +46,30 @@ void processBlock(int blockSize, const Schedule& schedule, const char* in, char*
     });
 }
 
-Word substituteWord(Word word)
+/// SubBytes for each byte of a word of the key schedule.
+Word subWord(Word word)
 {
-    const auto& table = rijndael::substitution;
+    const auto& table = rijndael::sBox;
     return Word{table[byteOf<0>(word)]} << 24 | Word{table[byteOf<1>(word)]} << 16 |
            Word{table[byteOf<2>(word)]} << 8 | Word{table[byteOf<3>(word)]};
 }
 
-/// InvMixColumns.
-Word unmixed(Word word)
+/// InvMixColumns for one column.
+Word invMixColumn(Word word)
 {
-    const auto& tables = rijndael::inverseMix;
+    const auto& tables = rijndael::invMixColumnsTables;
     return tables[0][byteOf<0>(word)] ^ tables[1][byteOf<1>(word)] ^ tables[2][byteOf<2>(word)] ^
            tables[3][byteOf<3>(word)];
 }
 
-/// The next group of key words from the last one.
+/// The next group of words of the key schedule from the last one.
 template <int KeyWords>
 void nextKeyWords(Word (&words)[KeyWords], rijndael::Byte constant)
 {
     const Word last = words[KeyWords - 1];
-    words[0] ^= substituteWord(last << 8 | last >> 24) ^ Word { constant } << 24;
+    words[0] ^= subWord(last << 8 | last >> 24) ^ Word { constant } << 24;
     for (int i = 1; i < KeyWords; ++i)
-        words[i] ^= KeyWords == 8 && i == 4 ? substituteWord(words[i - 1]) : words[i - 1];
+        words[i] ^= KeyWords == 8 && i == 4 ? subWord(words[i - 1]) : words[i - 1];
 }
 
 bool overlap(const char* a, const char* b, unsigned long size)
@@ -135,7 +136,7 @@ void AesEncrypt::invertSchedule()
     std::copy_n(m_encryptionKeys[m_rounds], Columns, m_decryptionKeys[0]);
     for (int row = 1; row < m_rounds; ++row) {
         std::transform(m_encryptionKeys[m_rounds - row], m_encryptionKeys[m_rounds - row] + Columns,
-                       m_decryptionKeys[row], unmixed);
+                       m_decryptionKeys[row], invMixColumn);
     }
     std::copy_n(m_encryptionKeys[0], Columns, m_decryptionKeys[m_rounds]);
 }

@@ -48,7 +48,7 @@ public:
     /// `DecryptBlock` for 16-byte blocks.
     void DefDecryptBlock(const char* in, char* out);
 
-    /// Adds one block of `other` to `buffer`, bit by bit.
+    /// XORs one block of `other` into `buffer`.
     void Xor(char* buffer, const char* other);
 
     /// Encrypts `n` bytes from `in` to `out`; nothing where `n` is not a multiple of the block

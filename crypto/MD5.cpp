@@ -1,116 +1,11 @@
 #include "crypto/MD5.h"
 
 #include "crypto/md5/MD5Compression.h"
+#include "crypto/md5/MD5Ending.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
 #include <typeinfo>
 #include <utility>
-
-namespace {
-
-constexpr std::size_t wordsPerBlock = 16;
-constexpr std::size_t bytesPerBlock = 64;
-
-using Block = std::array<std::uint32_t, wordsPerBlock>;
-
-/// Intended: for a length of 57 to 63 modulo 64 the difference wraps around 2^32, so that there are
-/// about 2^23 blocks.
-std::uint32_t blockCount(std::uint64_t length)
-{
-    const std::uint64_t bits = 8 * length;
-    if (bits % 512 == 448)
-        return static_cast<std::uint32_t>((bits + 64 + 512) / 512);
-    const auto difference = static_cast<std::uint32_t>(448 - 8 * (length % bytesPerBlock));
-    return static_cast<std::uint32_t>((bits + 64 + difference) / 512);
-}
-
-/// Intended: a byte from 0x80 on counts as a negative number and sets all higher bits of its word.
-std::uint32_t signExtendBytes(std::uint32_t word)
-{
-    return word | (0U - ((word & 0x80U) << 1)) | (0U - ((word & 0x8000U) << 1)) |
-           (0U - ((word & 0x800000U) << 1));
-}
-
-Block loadBlock(const char* bytes)
-{
-    Block words;
-    std::memcpy(words.data(), bytes, bytesPerBlock);
-    std::transform(words.begin(), words.end(), words.begin(), signExtendBytes);
-    return words;
-}
-
-/// The text's last bytes, which do not fill a block, with the mark behind them.
-Block loadEnd(const char* bytes, std::size_t count)
-{
-    char end[bytesPerBlock] = {};
-    std::copy_n(bytes, count, end);
-    Block words = loadBlock(end);
-    words[count / 4] |= 0x80U << (8 * (count % 4));
-    return words;
-}
-
-/// Intended: only the low 32 bits of the length in bits are stored; the last word stays 0.
-std::uint32_t storedLength(std::size_t length)
-{
-    return static_cast<std::uint32_t>(8 * length);
-}
-
-bool hasHighBytes(const char* bytes)
-{
-    std::uint64_t quads[bytesPerBlock / sizeof(std::uint64_t)];
-    std::memcpy(quads, bytes, sizeof quads);
-    std::uint64_t all = 0;
-    for (const std::uint64_t quad : quads)
-        all |= quad;
-    return (all & 0x8080808080808080U) != 0;
-}
-
-void compressWords(md5::State& state, const std::uint32_t* words)
-{
-    md5::compress(state, reinterpret_cast<const unsigned char*>(words), 1);
-}
-
-/// How many blocks from here on can be taken as they lie; not more than fit the nearest cache.
-std::size_t plainBlocks(const char* bytes, std::size_t blocks)
-{
-    constexpr std::size_t limit = 64;
-    std::size_t count = 0;
-    while (count < std::min(blocks, limit) && !hasHighBytes(bytes + count * bytesPerBlock))
-        ++count;
-    return count;
-}
-
-/// The blocks that the text fills.
-void compressText(md5::State& state, const char* bytes, std::size_t blocks)
-{
-    while (blocks != 0) {
-        const std::size_t plain = plainBlocks(bytes, blocks);
-        md5::compress(state, reinterpret_cast<const unsigned char*>(bytes), plain);
-        bytes += plain * bytesPerBlock;
-        blocks -= plain;
-        if (blocks != 0) {
-            compressWords(state, loadBlock(bytes).data());
-            bytes += bytesPerBlock;
-            --blocks;
-        }
-    }
-}
-
-/// From the block of the text's end, which is number `whole`, to the last one.
-void compressPadding(md5::State& state, Block end, std::size_t whole, std::size_t blocks,
-                     std::uint32_t length)
-{
-    for (std::size_t i = whole + 1; i < blocks; ++i) {
-        compressWords(state, end.data());
-        end = {};
-    }
-    end[wordsPerBlock - 2] = length;
-    compressWords(state, end.data());
-}
-
-} // namespace
 
 // Intended: the state is not reset. Only a plain object does without the padded message: a derived
 // class may pad in another way.
@@ -125,39 +20,41 @@ std::string MD5::Encode(std::string text)
 
 void MD5::takeText(const std::string& text)
 {
-    const std::uint32_t blocks = blockCount(text.size());
-    m_wordCount = static_cast<std::uint32_t>(blocks * wordsPerBlock);
-    const std::size_t whole = text.size() / bytesPerBlock;
-    const char* end = text.data() + whole * bytesPerBlock;
-    compressText(m_state, text.data(), whole);
-    compressPadding(m_state, loadEnd(end, text.size() % bytesPerBlock), whole, blocks,
-                    storedLength(text.size()));
+    const std::size_t whole = text.size() / md5::bytesPerBlock;
+    m_wordCount = static_cast<std::uint32_t>(md5::blockCount(text.size()) * md5::wordsPerBlock);
+    md5::compressText(m_state, text.data(), whole);
+    md5::Ending ending(text.data() + whole * md5::bytesPerBlock, text.size());
+    ending.compress(m_state, ending.blocksLeft());
 }
 
 void MD5::takeWords(std::vector<std::uint32_t> words)
 {
     const std::size_t count = std::min<std::size_t>(m_wordCount, words.size());
-    for (std::size_t i = 0; i < count / wordsPerBlock; ++i)
-        IterateFunc(&words[i * wordsPerBlock], static_cast<int>(wordsPerBlock));
+    for (std::size_t i = 0; i < count / md5::wordsPerBlock; ++i)
+        IterateFunc(&words[i * md5::wordsPerBlock], static_cast<int>(md5::wordsPerBlock));
 }
 
 std::vector<std::uint32_t> MD5::Padding(std::string text)
 {
-    const std::uint32_t blocks = blockCount(text.size());
-    m_wordCount = static_cast<std::uint32_t>(blocks * wordsPerBlock);
-    std::vector<std::uint32_t> words(blocks * wordsPerBlock);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<signed char>(text[i]);
-        words[i / 4] |= static_cast<std::uint32_t>(byte) << (8 * (i % 4));
+    const std::uint32_t blocks = md5::blockCount(text.size());
+    m_wordCount = static_cast<std::uint32_t>(blocks * md5::wordsPerBlock);
+    std::vector<std::uint32_t> words(blocks * md5::wordsPerBlock);
+    const std::size_t whole = text.size() / md5::bytesPerBlock;
+    const char* bytes = text.data();
+    auto out = words.begin();
+    for (std::size_t i = 0; i < whole; ++i, bytes += md5::bytesPerBlock) {
+        const md5::Block block = md5::loadBlock(bytes);
+        out = std::copy(block.begin(), block.end(), out);
     }
-    words[text.size() / 4] |= 0x80U << (8 * (text.size() % 4));
-    words[words.size() - 2] = storedLength(text.size());
+    const md5::Block end = md5::loadEnd(bytes, text.size() % md5::bytesPerBlock);
+    std::copy(end.begin(), end.end(), out);
+    words[words.size() - 2] = md5::storedLength(text.size());
     return words;
 }
 
 void MD5::IterateFunc(unsigned int* block, int /*count*/)
 {
-    compressWords(m_state, block);
+    md5::compress(m_state, reinterpret_cast<const unsigned char*>(block), 1);
 }
 
 std::string MD5::Format(unsigned int value)

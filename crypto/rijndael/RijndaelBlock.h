@@ -110,43 +110,45 @@ template <std::size_t Columns>
 }
 
 template <std::size_t Columns, std::size_t... Column>
-[[gnu::always_inline]] inline State<Columns> add(const State<Columns>& a, const Word* b,
-                                                 std::index_sequence<Column...>)
+[[gnu::always_inline]] inline State<Columns> exclusiveOr(const State<Columns>& a, const Word* b,
+                                                         std::index_sequence<Column...>)
 {
     return {(a[Column] ^ b[Column])...};
 }
 
-/// The sum of two blocks, or of a block and a round key.
+/// Two blocks XORed, or a block and a round key: AddRoundKey.
 template <std::size_t Columns>
-[[gnu::always_inline]] inline State<Columns> add(const State<Columns>& a, const Word* b)
+[[gnu::always_inline]] inline State<Columns> exclusiveOr(const State<Columns>& a, const Word* b)
 {
-    return add(a, b, std::make_index_sequence<Columns>());
+    return exclusiveOr(a, b, std::make_index_sequence<Columns>());
 }
 
 template <std::size_t Columns>
-[[gnu::always_inline]] inline State<Columns> add(const State<Columns>& a, const State<Columns>& b)
+[[gnu::always_inline]] inline State<Columns> exclusiveOr(const State<Columns>& a,
+                                                         const State<Columns>& b)
 {
-    return add(a, b.data());
+    return exclusiveOr(a, b.data());
 }
 
-/// What one byte adds to the word in `Column`.
+/// What the byte in `Row` that ShiftRows moves into `Column` becomes by SubBytes and MixColumns: a
+/// word that is XORed into the column.
 template <class Direction, std::size_t Column, std::size_t Row, std::size_t Columns>
-[[gnu::always_inline]] inline Word product(const RowTables& tables, const State<Columns>& block)
+[[gnu::always_inline]] inline Word lookUp(const RowTables& tables, const State<Columns>& block)
 {
     constexpr std::size_t source = Direction::source(Columns, Column, Row);
     return tables[Row][Direction::template extract<Row>(block[source])];
 }
 
-/// One word of the state after ShiftRows and the look-ups, plus the round key. The second row's
-/// byte takes longest to extract, so its product comes in late.
+/// One column of the state after SubBytes, ShiftRows, MixColumns and AddRoundKey. The second row's
+/// byte takes longest to extract, so its word comes in late.
 template <class Direction, std::size_t Column, std::size_t Columns>
-[[gnu::always_inline]] inline Word mix(const RowTables& tables, const State<Columns>& block,
-                                       Word key)
+[[gnu::always_inline]] inline Word roundColumn(const RowTables& tables, const State<Columns>& block,
+                                               Word key)
 {
-    const Word early = key ^ product<Direction, Column, 3>(tables, block) ^
-                       product<Direction, Column, 0>(tables, block);
+    const Word early = key ^ lookUp<Direction, Column, 3>(tables, block) ^
+                       lookUp<Direction, Column, 0>(tables, block);
     const Word late =
-        product<Direction, Column, 2>(tables, block) ^ product<Direction, Column, 1>(tables, block);
+        lookUp<Direction, Column, 2>(tables, block) ^ lookUp<Direction, Column, 1>(tables, block);
     return early ^ late;
 }
 
@@ -155,7 +157,7 @@ template <class Direction, std::size_t Columns, std::size_t... Column>
                                                    const State<Columns>& block, const Word* key,
                                                    std::index_sequence<Column...>)
 {
-    return {mix<Direction, Column>(tables, block, key[Column])...};
+    return {roundColumn<Direction, Column>(tables, block, key[Column])...};
 }
 
 /// A round, by tables of the direction.
@@ -165,8 +167,8 @@ template <class Direction, std::size_t Columns>
     return round<Direction>(Direction::tables, block, key, std::make_index_sequence<Columns>());
 }
 
-/// The last round, which does not mix columns. Anything that is to be added to its result can be
-/// added to the key beforehand.
+/// The last round, which has no MixColumns. Anything that is to be XORed with its result can be
+/// XORed with the key beforehand.
 template <class Direction, std::size_t Columns>
 [[gnu::always_inline]] inline State<Columns> lastRound(const State<Columns>& block,
                                                        const State<Columns>& key)

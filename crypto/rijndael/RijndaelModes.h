@@ -7,11 +7,11 @@
 
 /// Whole buffers through the cipher, which must not overlap.
 ///
-/// The chain stays in registers from the first block to the last. Where a block's input is a sum
-/// with the output before it, the sum with everything else is ready by then, and goes into the last
-/// round's key. Modes whose blocks do not depend on each other take two 16-byte blocks at a time:
-/// one alone leaves the processor waiting for its look-ups. Larger blocks have enough columns to
-/// keep it busy.
+/// The chain stays in registers from the first block to the last. Where the output of a
+/// block is XORed into the input of the next, everything else is XORed beforehand, and goes into
+/// the last round's key. Modes whose blocks do not depend on each other take two 16-byte blocks at
+/// a time: one alone leaves the processor waiting for its look-ups. Larger blocks have enough
+/// columns to keep it busy.
 namespace rijndael {
 
 /// The round keys of one direction. The general block sizes leave their last state before the final
@@ -48,7 +48,7 @@ public:
     const Block& firstKey() const { return m_firstKey; }
     const Block& lastKey() const { return m_lastKey; }
 
-    /// The rounds between the first key and the last round.
+    /// The rounds between the first AddRoundKey and the last round.
     [[gnu::always_inline]] Block innerRounds(Block state) const
     {
         state = round<Direction>(state, m_schedule.keys[1]);
@@ -56,11 +56,11 @@ public:
             state = round<Direction>(state, m_schedule.keys[row]);
             state = round<Direction>(state, m_schedule.keys[row + 1]);
         }
-        keep(state);
+        storeScratch(state);
         return state;
     }
 
-    /// The same for two blocks at once, of the size that keeps no scratch.
+    /// The same for two blocks at once, of the size that leaves no scratch.
     [[gnu::always_inline]] void innerRounds(Block& first, Block& second) const
     {
         static_assert(columns == 4);
@@ -70,21 +70,22 @@ public:
         }
     }
 
-    /// One block, with `mask` added to the result.
+    /// One block, XORed with `mask`.
     [[gnu::noinline]] Block operator()(const Block& block, const Block& mask) const
     {
-        return lastRound<Direction>(innerRounds(add(block, m_firstKey)), add(mask, m_lastKey));
+        return lastRound<Direction>(innerRounds(exclusiveOr(block, m_firstKey)),
+                                    exclusiveOr(mask, m_lastKey));
     }
 
-    /// Two blocks, with a mask each.
+    /// Two blocks, XORed with a mask each.
     [[gnu::always_inline]] void pair(Block& first, Block& second, const Block& firstMask,
                                      const Block& secondMask) const
     {
-        first = add(first, m_firstKey);
-        second = add(second, m_firstKey);
+        first = exclusiveOr(first, m_firstKey);
+        second = exclusiveOr(second, m_firstKey);
         innerRounds(first, second);
-        first = lastRound<Direction>(first, add(firstMask, m_lastKey));
-        second = lastRound<Direction>(second, add(secondMask, m_lastKey));
+        first = lastRound<Direction>(first, exclusiveOr(firstMask, m_lastKey));
+        second = lastRound<Direction>(second, exclusiveOr(secondMask, m_lastKey));
     }
 
 private:
@@ -95,7 +96,7 @@ private:
         return key;
     }
 
-    [[gnu::always_inline]] void keep(const Block& state) const
+    [[gnu::always_inline]] void storeScratch(const Block& state) const
     {
         if constexpr (columns != 4) {
             std::copy_n(state.begin(), columns, m_schedule.scratchA);
@@ -109,7 +110,7 @@ private:
 };
 
 /// Takes the blocks in pairs where that pays: `next(in)` is called for each block in order and
-/// gives what goes through the cipher and what is added to its result.
+/// gives what goes through the cipher and what its result is XORed with.
 template <class C, class Next>
 [[gnu::always_inline]] inline void forEachBlock(const C& cipher, Buffers buffers, Next next)
 {
@@ -175,14 +176,15 @@ template <class C>
 void cbcEncrypt(const C& cipher, const Buffers& buffers, char* chain)
 {
     const char* in = buffers.in;
-    auto state = add(load<C::columns>(chain), add(load<C::columns>(in), cipher.firstKey()));
+    auto state =
+        exclusiveOr(load<C::columns>(chain), exclusiveOr(load<C::columns>(in), cipher.firstKey()));
     for (std::size_t i = 1; i <= buffers.blocks; ++i) {
         typename C::Block next{};
         if (i < buffers.blocks)
-            next = add(load<C::columns>(in + i * C::size), cipher.firstKey());
+            next = exclusiveOr(load<C::columns>(in + i * C::size), cipher.firstKey());
         state = lastRound<typename C::Direction>(cipher.innerRounds(state),
-                                                 add(next, cipher.lastKey()));
-        store(buffers.out + (i - 1) * C::size, add(state, next));
+                                                 exclusiveOr(next, cipher.lastKey()));
+        store(buffers.out + (i - 1) * C::size, exclusiveOr(state, next));
     }
     store(chain, state);
 }
@@ -190,14 +192,15 @@ void cbcEncrypt(const C& cipher, const Buffers& buffers, char* chain)
 template <class C>
 void cfbEncrypt(const C& cipher, const Buffers& buffers, char* chain)
 {
-    const auto bothKeys = add(cipher.firstKey(), cipher.lastKey());
-    auto state = add(load<C::columns>(chain), cipher.firstKey());
+    const auto bothKeys = exclusiveOr(cipher.firstKey(), cipher.lastKey());
+    auto state = exclusiveOr(load<C::columns>(chain), cipher.firstKey());
     for (std::size_t i = 0; i < buffers.blocks; ++i) {
         const auto input = load<C::columns>(buffers.in + i * C::size);
-        state = lastRound<typename C::Direction>(cipher.innerRounds(state), add(input, bothKeys));
-        store(buffers.out + i * C::size, add(state, cipher.firstKey()));
+        state = lastRound<typename C::Direction>(cipher.innerRounds(state),
+                                                 exclusiveOr(input, bothKeys));
+        store(buffers.out + i * C::size, exclusiveOr(state, cipher.firstKey()));
     }
-    store(chain, add(state, cipher.firstKey()));
+    store(chain, exclusiveOr(state, cipher.firstKey()));
 }
 
 } // namespace rijndael

@@ -41,7 +41,7 @@ constexpr Byte affine(Byte value)
 
 /// Walks the powers of the generator 3 and, beside them, those of its inverse 0xf6: at each step
 /// the one is the multiplicative inverse of the other.
-constexpr ByteTable makeSubstitution()
+constexpr ByteTable makeSBox()
 {
     ByteTable table{};
     table[0] = affine(0);
@@ -70,7 +70,7 @@ struct Column
 };
 
 inline constexpr Column mixColumn{2, 1, 1, 3};
-inline constexpr Column inverseMixColumn{14, 9, 13, 11};
+inline constexpr Column invMixColumn{14, 9, 13, 11};
 inline constexpr Column firstRow{1, 0, 0, 0};
 
 constexpr Word timesColumn(Byte value, const Column& column)
@@ -84,22 +84,22 @@ constexpr Word rotateRight(Word value, int bits)
     return bits == 0 ? value : value >> bits | value << (32 - bits);
 }
 
-/// The products of each byte (after `substitution`) with `column`, rotated for the state's `row`.
-constexpr WordTable makeProducts(const ByteTable& substitution, const Column& column, int row)
+/// The product of each element of `bytes` with `column`, rotated for the state's `row`.
+constexpr WordTable makeProducts(const ByteTable& bytes, const Column& column, int row)
 {
     WordTable table{};
     for (std::size_t i = 0; i < table.size(); ++i)
-        table[i] = rotateRight(timesColumn(substitution[i], column), 8 * row);
+        table[i] = rotateRight(timesColumn(bytes[i], column), 8 * row);
     return table;
 }
 
 using RowTables = std::array<WordTable, 4>;
 
-/// The products for each row of the state.
-constexpr RowTables makeRows(const ByteTable& substitution, const Column& column)
+/// The words for each row of the state.
+constexpr RowTables makeRows(const ByteTable& bytes, const Column& column)
 {
-    return {makeProducts(substitution, column, 0), makeProducts(substitution, column, 1),
-            makeProducts(substitution, column, 2), makeProducts(substitution, column, 3)};
+    return {makeProducts(bytes, column, 0), makeProducts(bytes, column, 1),
+            makeProducts(bytes, column, 2), makeProducts(bytes, column, 3)};
 }
 
 constexpr ByteTable makeIdentity()
@@ -122,21 +122,21 @@ constexpr std::array<Byte, 30> makeRoundConstants()
     return constants;
 }
 
-inline constexpr ByteTable substitution = makeSubstitution();
-inline constexpr ByteTable inverseSubstitution = invert(substitution);
+inline constexpr ByteTable sBox = makeSBox();
+inline constexpr ByteTable inverseSBox = invert(sBox);
 
 /// SubBytes and MixColumns in one look-up.
-inline constexpr RowTables encryption = makeRows(substitution, mixColumn);
+inline constexpr RowTables encryption = makeRows(sBox, mixColumn);
 
 /// Their inverses in one look-up.
-inline constexpr RowTables decryption = makeRows(inverseSubstitution, inverseMixColumn);
+inline constexpr RowTables decryption = makeRows(inverseSBox, invMixColumn);
 
-/// The substitutions alone for the last round, already in their rows.
-inline constexpr RowTables lastEncryption = makeRows(substitution, firstRow);
-inline constexpr RowTables lastDecryption = makeRows(inverseSubstitution, firstRow);
+/// SubBytes and its inverse alone for the last round, already in their rows.
+inline constexpr RowTables lastEncryption = makeRows(sBox, firstRow);
+inline constexpr RowTables lastDecryption = makeRows(inverseSBox, firstRow);
 
 /// InvMixColumns alone, for the decryption key schedule.
-inline constexpr RowTables inverseMix = makeRows(makeIdentity(), inverseMixColumn);
+inline constexpr RowTables invMixColumnsTables = makeRows(makeIdentity(), invMixColumn);
 
 inline constexpr auto roundConstants = makeRoundConstants();
 

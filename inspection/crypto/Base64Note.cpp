@@ -1,17 +1,22 @@
 #include "inspection/crypto/Base64Note.h"
 
-#include "inspection/crypto/DecryptionCheck.h"
-
-#include <QStringList>
+#include "crypto/base64/Base64Extent.h"
+#include "inspection/crypto/Sentences.h"
 
 QString Base64Note::of(const std::string& text)
 {
+    const base64::Extent extent = base64::extentOf(text);
     QStringList notes;
-    if (hasLoneBase64(text))
+    if (extent.hasLone)
         notes += tr("The last Base64 character stands alone and yields nothing.");
-    if (hasIgnoredBase64(text))
+    if (extent.hasIgnored)
         notes += tr("Only the first %L1 characters are URL-safe Base64; the library ignores what "
                     "follows.")
-                     .arg(base64Length(text));
-    return notes.join(QLatin1Char(' '));
+                     .arg(extent.length);
+    return joinSentences(notes);
+}
+
+QString Base64Note::nothingDecoded()
+{
+    return tr("This is no URL-safe Base64: the library decodes nothing of it.");
 }

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// Words for what `Base64Encoder::Decode` passes over without saying so.
+/// Words for what `Base64Encoder::Decode` ignores without saying so.
 class Base64Note
 {
     Q_DECLARE_TR_FUNCTIONS(Base64Note)
@@ -12,4 +12,7 @@ class Base64Note
 public:
     /// Empty when all of the text counts.
     static QString of(const std::string& text);
+
+    /// For a text of which nothing is decoded.
+    static QString nothingDecoded();
 };

@@ -1,128 +1,113 @@
 #include "inspection/crypto/DigestJob.h"
 
 #include "crypto/Encrypt.h"
-#include "crypto/MD5.h"
 
+#include <QBuffer>
+#include <QFileInfo>
 #include <QLocale>
 
 namespace {
 
 constexpr qint64 pieceSize = qint64{128} * 1024;
-constexpr std::size_t paddingBlocks = 2048; // as much work as a piece
+constexpr std::uint64_t paddingBlocks = 2048; // as much work as a piece
+
+std::unique_ptr<QIODevice> openText(const QByteArray& text)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(text);
+    buffer->open(QIODevice::ReadOnly);
+    return buffer;
+}
 
 } // namespace
 
-DigestJob::DigestJob(QByteArray text, const QByteArray& second)
-    : m_text(std::move(text)),
-      m_second(second),
-      m_total(m_text.size()),
-      m_rfcMd5(QCryptographicHash::Md5)
+DigestJob::DigestJob(const QByteArray& text, QByteArray second)
+    : DigestJob(openText(text), std::move(second))
 {
 }
 
-DigestJob::DigestJob(std::unique_ptr<QFile> openFile, const QByteArray& second)
-    : m_file(std::move(openFile)),
-      m_second(second),
-      m_total(m_file->size()),
-      m_rfcMd5(QCryptographicHash::Md5)
+DigestJob::DigestJob(std::unique_ptr<QIODevice> source, QByteArray second)
+    : m_source(std::move(source)), m_second(std::move(second)), m_total(m_source->size())
 {
+}
+
+// Only regular files: others may block, or never end.
+std::unique_ptr<DigestJob> DigestJob::ofFile(const QString& path, QByteArray second,
+                                             QString* problem)
+{
+    auto file = std::make_unique<QFile>(path);
+    problem->clear();
+    if (path.isEmpty())
+        *problem = tr("Enter the path of a file first.");
+    else if (!file->exists())
+        *problem = tr("There is no file %1.").arg(path);
+    else if (!QFileInfo(path).isFile())
+        *problem = tr("%1 is not a regular file.").arg(path);
+    else if (!file->open(QFile::ReadOnly))
+        *problem = tr("%1 cannot be read: %2").arg(path, file->errorString());
+    if (!problem->isEmpty())
+        return nullptr;
+    return std::make_unique<DigestJob>(std::move(file), std::move(second));
 }
 
 bool DigestJob::step()
 {
-    switch (m_stage) {
-    case Stage::Reading: return read();
-    case Stage::Padding:
-        if (m_md5.pad(paddingBlocks))
-            return true;
-        finish();
-        return false;
-    case Stage::Done: return false;
+    if (m_stage == Stage::Reading)
+        m_stage = read();
+    else if (m_stage == Stage::Padding)
+        m_stage = pad();
+    return m_stage != Stage::Done;
+}
+
+DigestJob::Stage DigestJob::read()
+{
+    QByteArray piece(static_cast<int>(pieceSize), Qt::Uninitialized);
+    const qint64 size = m_source->read(piece.data(), pieceSize);
+    if (size < 0) {
+        m_error = m_source->errorString();
+        return Stage::Done;
     }
-    return false;
-}
-
-QByteArray DigestJob::nextPiece()
-{
-    if (m_file)
-        return m_file->read(pieceSize);
-    return m_text.mid(static_cast<int>(m_sha256.length()), static_cast<int>(pieceSize));
-}
-
-bool DigestJob::read()
-{
-    const QByteArray piece = nextPiece();
-    if (m_file && m_file->error() != QFile::NoError) {
-        m_error = m_file->errorString();
-        m_stage = Stage::Done;
-        return false;
+    if (size == 0) {
+        m_md5.end();
+        return Stage::Padding;
     }
-    if (!piece.isEmpty()) {
-        take(piece);
-        return true;
-    }
-    m_md5.end();
-    m_stage = Stage::Padding;
-    return true;
+    m_fingerprint.add(piece.constData(), static_cast<std::size_t>(size));
+    m_md5.add(piece.constData(), static_cast<std::size_t>(size));
+    m_rfcMd5.addData(piece.constData(), static_cast<int>(size));
+    return Stage::Reading;
 }
 
-void DigestJob::take(const QByteArray& piece)
+DigestJob::Stage DigestJob::pad()
 {
-    if (m_digests.zeroByte < 0)
-        takeZero(piece);
-    const auto size = static_cast<std::size_t>(piece.size());
-    m_sha256.add(piece.constData(), size);
-    m_md5.add(piece.constData(), size);
-    m_rfcMd5.addData(piece);
-}
-
-// The fingerprint covers what stands before the first zero byte.
-void DigestJob::takeZero(const QByteArray& piece)
-{
-    const int zero = piece.indexOf('\0');
-    if (zero < 0)
-        return;
-    m_digests.zeroByte = static_cast<qint64>(m_sha256.length()) + zero;
-    Sha256Stream before = m_sha256;
-    before.add(piece.constData(), static_cast<std::size_t>(zero));
-    m_digests.fingerprint = QString::fromStdString(before.fingerprint());
+    if (m_md5.pad(paddingBlocks))
+        return Stage::Padding;
+    finish();
+    return Stage::Done;
 }
 
 void DigestJob::finish()
 {
-    m_stage = Stage::Done;
-    m_digests.length = static_cast<qint64>(m_sha256.length());
-    m_digests.sha256Hex = QString::fromStdString(m_sha256.hexDigest());
-    if (m_digests.zeroByte < 0 && m_digests.length > 0)
-        m_digests.fingerprint = QString::fromStdString(m_sha256.fingerprint());
+    const std::string fingerprint = m_fingerprint.fingerprint();
+    const std::string second = Encrypt::Sha256Encode(m_second.toStdString());
+    m_digests.length = static_cast<qint64>(m_md5.length());
+    m_digests.sha256Hex = QString::fromStdString(m_fingerprint.whole().hexDigest());
+    m_digests.fingerprint = QString::fromStdString(fingerprint);
+    if (const auto zeroByte = m_fingerprint.zeroByte())
+        m_digests.zeroByte = static_cast<qint64>(*zeroByte);
     m_digests.md5 = QString::fromStdString(m_md5.hexDigest());
     m_digests.rfcMd5 = QString::fromLatin1(m_rfcMd5.result().toHex());
-    m_digests.extendedByte = m_md5.hasExtendedByte();
+    m_digests.signExtended = m_md5.isSignExtended();
     m_digests.longPadding = m_md5.hasLongPadding();
-    m_digests.kd = kdEncode();
-}
-
-// As Encrypt::KdEncode, which wants the whole text at once: the two fingerprints character by
-// character in turn, the shorter one first, then the rest of the longer one.
-QString DigestJob::kdEncode() const
-{
-    QString shorter = m_digests.fingerprint;
-    QString longer = QString::fromStdString(Encrypt::Sha256Encode(m_second.toStdString()));
-    if (longer.size() < shorter.size())
-        shorter.swap(longer);
-    QString mixed;
-    for (int i = 0; i < shorter.size(); ++i)
-        mixed += QString(shorter.at(i)) + longer.at(i);
-    mixed += longer.midRef(shorter.size());
-    return QString::fromStdString(MD5().Encode(mixed.toStdString()));
+    m_digests.cutLength = m_md5.hasCutLength();
+    m_digests.kd = QString::fromStdString(mixFingerprints(fingerprint, second));
 }
 
 QString DigestJob::progress() const
 {
-    const QLocale locale;
     if (m_stage != Stage::Reading)
         return tr("MD5 padding: %L1 blocks left").arg(m_md5.paddingLeft());
+    const QLocale locale;
     return tr("%1 of %2")
-        .arg(locale.formattedDataSize(static_cast<qint64>(m_sha256.length())),
+        .arg(locale.formattedDataSize(static_cast<qint64>(m_md5.length())),
              locale.formattedDataSize(m_total));
 }

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "inspection/crypto/Md5Stream.h"
-#include "inspection/crypto/Sha256Stream.h"
+#include "crypto/Fingerprint.h"
+#include "crypto/md5/Md5Stream.h"
+#include "inspection/Job.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QFile>
+#include <QIODevice>
 
 #include <memory>
 
@@ -23,25 +24,31 @@ struct Digests
     qint64 length = 0;
     /// Where the first zero byte stands, -1 without one: the fingerprints end there.
     qint64 zeroByte = -1;
-    bool extendedByte = false;
+    /// What makes the MD5 digest another one than that of RFC 1321.
+    bool signExtended = false;
     bool longPadding = false;
+    bool cutLength = false;
 };
 
 /// Digests a text or a file of any size piece by piece.
-class DigestJob
+class DigestJob : public Job
 {
     Q_DECLARE_TR_FUNCTIONS(DigestJob)
 
 public:
-    explicit DigestJob(QByteArray text, const QByteArray& second);
-    explicit DigestJob(std::unique_ptr<QFile> openFile, const QByteArray& second);
+    /// `second` is the second text of `Encrypt::KdEncode`.
+    DigestJob(const QByteArray& text, QByteArray second);
+    /// Reads what is open to its end.
+    DigestJob(std::unique_ptr<QIODevice> source, QByteArray second);
 
-    /// One piece; false when everything is done or the file could not be read further.
-    bool step();
-    /// How far it has come, in words.
-    QString progress() const;
+    /// Null when the file cannot be digested; then `problem` says why, in words.
+    static std::unique_ptr<DigestJob> ofFile(const QString& path, QByteArray second,
+                                             QString* problem);
 
-    /// Empty, or why the file could not be read.
+    bool step() override;
+    QString progress() const override;
+
+    /// Empty, or why the file could not be read; the job is then done.
     QString error() const { return m_error; }
     /// Complete once `step` has returned false without an error.
     const Digests& digests() const { return m_digests; }
@@ -54,21 +61,17 @@ private:
         Done
     };
 
-    QByteArray nextPiece();
-    void take(const QByteArray& piece);
-    void takeZero(const QByteArray& piece);
-    bool read();
+    Stage read();
+    Stage pad();
     void finish();
-    QString kdEncode() const;
 
-    QByteArray m_text;
-    std::unique_ptr<QFile> m_file;
+    std::unique_ptr<QIODevice> m_source;
     QByteArray m_second;
     qint64 m_total;
     Stage m_stage = Stage::Reading;
-    Sha256Stream m_sha256;
+    FingerprintStream m_fingerprint;
     Md5Stream m_md5;
-    QCryptographicHash m_rfcMd5;
+    QCryptographicHash m_rfcMd5{QCryptographicHash::Md5};
     Digests m_digests;
     QString m_error;
 };

@@ -1,7 +1,12 @@
 #pragma once
 
-#include "window/Page.h"
+#include <QWidget>
 
+#include <optional>
+#include <string>
+
+class PageContext;
+class QPushButton;
 class TextPane;
 
 /// Base64 both ways, as `Base64Encoder` does it.
@@ -10,22 +15,18 @@ class Base64Panel : public QWidget
     Q_OBJECT
 
 public:
-    explicit Base64Panel(QWidget* parent = nullptr);
-
-signals:
-    void reported(Page::Report kind, const QString& text);
+    explicit Base64Panel(PageContext& context, QWidget* parent = nullptr);
 
 private:
-    QWidget* makeButtons();
-    void addButton(const QString& caption, const QString& tip, void (Base64Panel::*slot)());
+    QPushButton* makeButton(const QString& caption, const QString& tip,
+                            void (Base64Panel::*slot)());
     void encode();
     void decode();
     void makeUrlSafe();
-    /// The input; says why and returns false when there is none, or more bytes than `limit`.
-    bool take(std::string* text, std::size_t limit);
-    void showDecoded(const std::string& bytes, const QString& note);
+    /// The input; says why and gives nothing when there is none, or more bytes than `limit`.
+    std::optional<std::string> input(std::size_t limit);
 
+    PageContext& m_context;
     TextPane* m_input;
     TextPane* m_output;
-    QLayout* m_buttons = nullptr;
 };

@@ -11,16 +11,12 @@ CopyButton::CopyButton(const QString& what, std::function<QString()> text, QWidg
     glowing(this);
     setAccessibleName(tr("Copy: %1").arg(what));
     setToolTip(accessibleName());
-    connect(this, &QPushButton::clicked, this, &CopyButton::copy);
+    connect(this, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(m_text()); });
     refreshState();
 }
 
 void CopyButton::refreshState()
 {
     setEnabled(!m_text().isEmpty());
-}
-
-void CopyButton::copy() const
-{
-    QGuiApplication::clipboard()->setText(m_text());
 }

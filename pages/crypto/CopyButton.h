@@ -17,7 +17,5 @@ public:
     void refreshState();
 
 private:
-    void copy() const;
-
     std::function<QString()> m_text;
 };

@@ -1,6 +1,5 @@
 #include "pages/crypto/CryptoPage.h"
 
-#include "inspection/crypto/DigestJob.h"
 #include "pages/crypto/Base64Panel.h"
 #include "pages/crypto/CipherPanel.h"
 #include "pages/crypto/DigestPanel.h"
@@ -12,23 +11,13 @@
 CryptoPage::CryptoPage(QWidget* parent) : Page(parent), m_tabs(new QTabWidget)
 {
     m_tabs->setAccessibleName(tr("Kinds of work"));
-    addPanel<CipherPanel>(tr("Encr&yption"));
-    m_digests = addPanel<DigestPanel>(tr("Di&gests"));
-    addPanel<Base64Panel>(tr("&Base64"));
+    m_tabs->addTab(new CipherPanel(*this), tr("Encr&yption"));
+    m_tabs->addTab(new DigestPanel(*this), tr("Di&gests"));
+    m_tabs->addTab(new Base64Panel(*this), tr("&Base64"));
     arrangeTabs(*m_tabs);
     body()->addWidget(m_tabs, 1);
-    connect(m_digests, &DigestPanel::requested, this, &CryptoPage::digest);
     connect(m_tabs, &QTabWidget::currentChanged, this, &CryptoPage::followTab);
     followTab();
-}
-
-template <typename Panel>
-Panel* CryptoPage::addPanel(const QString& caption)
-{
-    auto* panel = new Panel;
-    connect(panel, &Panel::reported, this, &CryptoPage::report);
-    m_tabs->addTab(panel, caption);
-    return panel;
 }
 
 void CryptoPage::find()
@@ -39,10 +28,4 @@ void CryptoPage::find()
 void CryptoPage::followTab()
 {
     setFocusProxy(m_tabs->currentWidget());
-}
-
-void CryptoPage::digest(const std::shared_ptr<DigestJob>& job)
-{
-    startJob({tr("Digesting"), [job] { return job->step(); }, [job] { return job->progress(); },
-              [this, job](bool complete) { m_digests->showResult(*job, complete); }});
 }

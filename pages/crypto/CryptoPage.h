@@ -2,10 +2,6 @@
 
 #include "window/Page.h"
 
-#include <memory>
-
-class DigestJob;
-class DigestPanel;
 class QTabWidget;
 
 /// What the crypto toolkit gives: encryption and decryption, digests and fingerprints, Base64.
@@ -20,11 +16,7 @@ public:
     void find() override;
 
 private:
-    template <typename Panel>
-    Panel* addPanel(const QString& caption);
-    void digest(const std::shared_ptr<DigestJob>& job);
     void followTab();
 
     QTabWidget* m_tabs;
-    DigestPanel* m_digests;
 };

@@ -1,13 +1,10 @@
 #pragma once
 
-#include "window/Page.h"
+#include <QWidget>
 
-#include <memory>
-#include <vector>
-
-class CopyButton;
 class DigestJob;
 class DigestSource;
+class PageContext;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
@@ -20,38 +17,24 @@ class DigestPanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit DigestPanel(QWidget* parent = nullptr);
-
-    /// Shows what a job has found, or why it failed.
-    void showResult(const DigestJob& job, bool complete);
-
-signals:
-    void reported(Page::Report kind, const QString& text);
-    /// The work to be done, in slices; afterwards `showResult` is to be called.
-    void requested(const std::shared_ptr<DigestJob>& job);
+    explicit DigestPanel(PageContext& context, QWidget* parent = nullptr);
 
 private:
-    struct Field
-    {
-        QLineEdit* text;
-        CopyButton* copy;
-    };
-
-    QWidget* makeRequest();
+    QLayout* makeRequest();
     QWidget* makeResults();
-    Field addField(QGridLayout* grid, const QString& caption, const QString& tip);
-    void request();
-    void show(const Field& field, const QString& text);
-    void showTitle();
+    QLineEdit* addField(QGridLayout* grid, const QString& caption, const QString& tip);
+    void digest();
+    void showResult(const QString& name, const DigestJob& job, bool complete);
+    void showTitle(const QString& name);
     void showDigests(const Digests& digests);
 
+    PageContext& m_context;
     DigestSource* m_source;
-    QLineEdit* m_second = nullptr;
+    QLineEdit* m_second;
     QGroupBox* m_results = nullptr;
-    Field m_sha256{};
-    Field m_fingerprint{};
-    Field m_md5{};
-    Field m_kd{};
+    QLineEdit* m_sha256 = nullptr;
+    QLineEdit* m_fingerprint = nullptr;
+    QLineEdit* m_md5 = nullptr;
+    QLineEdit* m_kd = nullptr;
     QLabel* m_notes = nullptr;
-    QString m_requested;
 };

@@ -1,6 +1,7 @@
 #include "pages/crypto/DigestSource.h"
 
 #include "inspection/crypto/DigestJob.h"
+#include "pages/crypto/TextPane.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
 
@@ -8,7 +9,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -16,48 +16,39 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 
-DigestSource::DigestSource(QWidget* parent)
+DigestSource::DigestSource(PageContext& context, QWidget* parent)
     : QWidget(parent),
-      m_fromText(new QRadioButton(tr("Of a te&xt"))),
+      m_context(context),
       m_fromFile(new QRadioButton(tr("Of &a file"))),
-      m_stack(new QStackedWidget)
+      m_text(makeTextEdit(tr("Text"), tr("Type or paste a text, or drop a file here."))),
+      m_path(new QLineEdit)
 {
+    auto* fromText = new QRadioButton(tr("Of a te&xt"));
     auto* choice = new QHBoxLayout;
-    choice->addWidget(m_fromText);
+    choice->addWidget(fromText);
     choice->addWidget(m_fromFile);
     choice->addStretch();
+    auto* stack = new QStackedWidget;
+    m_text->setAcceptDrops(false);
+    m_text->setMinimumHeight(fontMetrics().lineSpacing() * 3);
+    stack->addWidget(m_text);
+    stack->addWidget(makeFile());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(choice);
-    layout->addWidget(m_stack, 1);
-    m_stack->addWidget(makeText());
-    m_stack->addWidget(makeFile());
-    connect(m_fromFile, &QRadioButton::toggled, this, [this](bool file) {
-        m_stack->setCurrentIndex(file ? 1 : 0);
+    layout->addWidget(stack, 1);
+    connect(m_fromFile, &QRadioButton::toggled, this, [this, stack](bool file) {
+        stack->setCurrentIndex(file ? 1 : 0);
         setFocusProxy(file ? static_cast<QWidget*>(m_path) : m_text);
     });
-    m_fromText->setChecked(true);
+    fromText->setChecked(true);
     setAcceptDrops(true);
     setFocusProxy(m_text);
-}
-
-QWidget* DigestSource::makeText()
-{
-    m_text = new QPlainTextEdit;
-    m_text->setAccessibleName(tr("Text"));
-    m_text->setPlaceholderText(tr("Type or paste a text, or drop a file here."));
-    m_text->setTabChangesFocus(true);
-    // Looking for words in one long line would take seconds.
-    m_text->setWordWrapMode(QTextOption::WrapAnywhere);
-    m_text->setAcceptDrops(false);
-    m_text->setMinimumHeight(fontMetrics().lineSpacing() * 3);
-    return m_text;
 }
 
 QWidget* DigestSource::makeFile()
 {
     auto* place = new QWidget;
-    m_path = new QLineEdit;
     m_path->setAccessibleName(tr("Path of the file"));
     m_path->setPlaceholderText(tr("Path of a file; drop one here or browse for it."));
     connect(m_path, &QLineEdit::returnPressed, this, &DigestSource::accepted);
@@ -102,29 +93,15 @@ QString DigestSource::description() const
     return m_fromFile->isChecked() ? QFileInfo(m_path->text()).fileName() : tr("the text");
 }
 
-std::unique_ptr<DigestJob> DigestSource::makeJob(const QByteArray& second, QString* problem)
+std::unique_ptr<DigestJob> DigestSource::makeJob(const QByteArray& second)
 {
-    if (m_fromFile->isChecked())
-        return makeFileJob(second, problem);
-    return std::make_unique<DigestJob>(textOf(*m_text).toUtf8(), second);
-}
-
-// Only regular files: others may block, or never end.
-std::unique_ptr<DigestJob> DigestSource::makeFileJob(const QByteArray& second, QString* problem)
-{
-    const QString path = m_path->text();
-    auto file = std::make_unique<QFile>(path);
-    if (path.isEmpty())
-        *problem = tr("Enter the path of a file first.");
-    else if (!file->exists())
-        *problem = tr("There is no file %1.").arg(path);
-    else if (!QFileInfo(path).isFile())
-        *problem = tr("%1 is not a regular file.").arg(path);
-    else if (!file->open(QFile::ReadOnly))
-        *problem = tr("%1 cannot be read: %2").arg(path, file->errorString());
-    if (!problem->isEmpty()) {
+    if (!m_fromFile->isChecked())
+        return std::make_unique<DigestJob>(textOf(*m_text).toUtf8(), second);
+    QString problem;
+    std::unique_ptr<DigestJob> job = DigestJob::ofFile(m_path->text(), second, &problem);
+    if (!job) {
         m_path->setFocus();
-        return nullptr;
+        m_context.report(PageContext::Report::Warning, problem);
     }
-    return std::make_unique<DigestJob>(std::move(file), second);
+    return job;
 }

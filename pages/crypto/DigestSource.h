@@ -5,10 +5,10 @@
 #include <memory>
 
 class DigestJob;
+class PageContext;
 class QLineEdit;
 class QPlainTextEdit;
 class QRadioButton;
-class QStackedWidget;
 
 /// Takes a text, or the path of a file, to digest.
 class DigestSource : public QWidget
@@ -16,12 +16,11 @@ class DigestSource : public QWidget
     Q_OBJECT
 
 public:
-    explicit DigestSource(QWidget* parent = nullptr);
+    explicit DigestSource(PageContext& context, QWidget* parent = nullptr);
 
-    void setFile(const QString& path);
-
-    /// Null when there is nothing to digest; then `problem` says why, in words.
-    std::unique_ptr<DigestJob> makeJob(const QByteArray& second, QString* problem);
+    /// Null when there is nothing to digest; then it has reported why. `second` is the second text
+    /// of `Encrypt::KdEncode`.
+    std::unique_ptr<DigestJob> makeJob(const QByteArray& second);
     /// What the next job digests, in words.
     QString description() const;
 
@@ -34,14 +33,12 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    QWidget* makeText();
     QWidget* makeFile();
+    void setFile(const QString& path);
     void browse();
-    std::unique_ptr<DigestJob> makeFileJob(const QByteArray& second, QString* problem);
 
-    QRadioButton* m_fromText;
+    PageContext& m_context;
     QRadioButton* m_fromFile;
-    QStackedWidget* m_stack;
-    QPlainTextEdit* m_text = nullptr;
-    QLineEdit* m_path = nullptr;
+    QPlainTextEdit* m_text;
+    QLineEdit* m_path;
 };

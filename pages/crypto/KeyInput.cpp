@@ -1,38 +1,52 @@
 #include "pages/crypto/KeyInput.h"
 
+#include "inspection/crypto/Sentences.h"
+#include "window/PageContext.h"
 #include "window/ShownText.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QVBoxLayout>
 
 namespace {
 
-constexpr int keySize = 16;
-
-bool isHexadecimal(const QString& text)
+/// A place for fields without margins of its own.
+QGridLayout* makeGrid()
 {
-    const QString digits = QStringLiteral("0123456789abcdefABCDEF");
-    for (const QChar character : text) {
-        if (!digits.contains(character))
-            return false;
-    }
-    return text.size() % 2 == 0;
+    auto* grid = new QGridLayout(new QWidget);
+    grid->setContentsMargins(0, 0, 0, 0);
+    return grid;
+}
+
+/// Puts a masked field with its caption into a row of the grid.
+void addSecret(const QString& caption, QLineEdit* field, QGridLayout* grid)
+{
+    field->setEchoMode(QLineEdit::Password);
+    field->setAccessibleName(withoutMnemonic(caption));
+    auto* label = new QLabel(caption);
+    label->setBuddy(field);
+    const int row = grid->rowCount();
+    grid->addWidget(label, row, 0);
+    grid->addWidget(field, row, 1);
 }
 
 } // namespace
 
-KeyInput::KeyInput(QWidget* parent)
+KeyInput::KeyInput(PageContext& context, QWidget* parent)
     : QWidget(parent),
-      m_usePassPhrase(new QRadioButton(tr("&Under a pass phrase, as DecryptionAES_Export does"))),
-      m_useKeys(new QRadioButton(tr("With key &and IV")))
+      m_context(context),
+      m_useKeys(new QRadioButton(tr("With key &and IV"))),
+      m_passPhrase(new QLineEdit),
+      m_key(new QLineEdit),
+      m_iv(new QLineEdit),
+      m_hexadecimal(new QCheckBox(tr("&Written in hexadecimal")))
 {
+    auto* usePassPhrase =
+        new QRadioButton(tr("&Under a pass phrase, as DecryptionAES_Export does"));
     auto* choice = new QHBoxLayout;
-    choice->addWidget(m_usePassPhrase);
+    choice->addWidget(usePassPhrase);
     choice->addWidget(m_useKeys);
     choice->addStretch();
     auto* layout = new QVBoxLayout(this);
@@ -43,123 +57,78 @@ KeyInput::KeyInput(QWidget* parent)
     QWidget* keysPlace = makeKeys();
     layout->addWidget(passPhrasePlace);
     layout->addWidget(keysPlace);
-    connect(m_useKeys, &QRadioButton::toggled, passPhrasePlace, &QWidget::setHidden);
-    connect(m_useKeys, &QRadioButton::toggled, keysPlace, &QWidget::setVisible);
-    connect(m_useKeys, &QRadioButton::toggled, this,
-            [this](bool keys) { setFocusProxy(keys ? m_key : m_passPhrase); });
+    connect(m_useKeys, &QRadioButton::toggled, this, [=](bool keys) {
+        passPhrasePlace->setHidden(keys);
+        keysPlace->setVisible(keys);
+        setFocusProxy(keys ? m_key : m_passPhrase);
+    });
     keysPlace->hide();
-    m_usePassPhrase->setChecked(true);
+    usePassPhrase->setChecked(true);
     setFocusProxy(m_passPhrase);
 }
 
 QWidget* KeyInput::makePassPhrase()
 {
-    auto* place = new QWidget;
-    auto* grid = new QGridLayout(place);
-    grid->setContentsMargins(0, 0, 0, 0);
-    m_passPhrase = addSecret(tr("Pass phra&se:"), grid);
-    return place;
+    QGridLayout* grid = makeGrid();
+    addSecret(tr("Pass phra&se:"), m_passPhrase, grid);
+    return grid->parentWidget();
 }
 
 QWidget* KeyInput::makeKeys()
 {
-    auto* place = new QWidget;
-    auto* grid = new QGridLayout(place);
-    grid->setContentsMargins(0, 0, 0, 0);
-    m_hexadecimal = new QCheckBox(tr("&Written in hexadecimal"));
-    m_key = addKey(tr("&Key:"), grid);
-    m_iv = addKey(tr("I&V:"), grid);
+    QGridLayout* grid = makeGrid();
+    addKey(tr("&Key:"), m_key, grid);
+    addKey(tr("I&V:"), m_iv, grid);
     grid->addWidget(m_hexadecimal, grid->rowCount(), 1, 1, 2);
-    return place;
+    return grid->parentWidget();
 }
 
-QLineEdit* KeyInput::addSecret(const QString& caption, QGridLayout* grid)
+void KeyInput::addKey(const QString& caption, QLineEdit* field, QGridLayout* grid)
 {
-    auto* field = new QLineEdit;
-    field->setEchoMode(QLineEdit::Password);
-    field->setAccessibleName(withoutMnemonic(caption));
-    auto* label = new QLabel(caption);
-    label->setBuddy(field);
-    const int row = grid->rowCount();
-    grid->addWidget(label, row, 0);
-    grid->addWidget(field, row, 1);
-    return field;
-}
-
-QLineEdit* KeyInput::addKey(const QString& caption, QGridLayout* grid)
-{
-    QLineEdit* field = addSecret(caption, grid);
-    auto* count = new QLabel;
+    addSecret(caption, field, grid);
+    auto* count = new QLabel(typed(field).count());
     grid->addWidget(count, grid->rowCount() - 1, 2);
-    const auto show = [this, field, count] { count->setText(countOf(field)); };
+    const auto show = [this, field, count] { count->setText(typed(field).count()); };
     connect(field, &QLineEdit::textChanged, count, show);
     connect(m_hexadecimal, &QCheckBox::toggled, count, show);
-    show();
-    return field;
 }
 
-QByteArray KeyInput::bytes(const QLineEdit* field) const
+TypedKey KeyInput::typed(const QLineEdit* field) const
 {
-    const QByteArray text = field->text().toUtf8();
-    return m_hexadecimal->isChecked() ? QByteArray::fromHex(text) : text;
+    const TypedKey::Kind kind = field == m_key ? TypedKey::Kind::Key : TypedKey::Kind::Iv;
+    return {kind, field->text(), m_hexadecimal->isChecked()};
 }
 
-QString KeyInput::countOf(const QLineEdit* field) const
+KeySource KeyInput::source() const
 {
-    const int count = bytes(field).size();
-    if (count > keySize)
-        return tr("%1 bytes: only the first %2 are used").arg(count).arg(keySize);
-    return tr("%1 of %2 bytes").arg(count).arg(keySize);
+    return m_useKeys->isChecked() ? KeySource::KeyAndIv : KeySource::PassPhrase;
 }
 
-bool KeyInput::usesPassPhrase() const
+std::optional<CipherKeys> KeyInput::refuse(QLineEdit* field, const QString& problem)
 {
-    return m_usePassPhrase->isChecked();
-}
-
-std::string KeyInput::passPhrase() const
-{
-    return m_passPhrase->text().toStdString();
-}
-
-QString KeyInput::problemOf(const QLineEdit* field) const
-{
-    if (m_hexadecimal->isChecked() && !isHexadecimal(field->text()))
-        return field == m_key ? tr("The key is not hexadecimal: pairs of 0-9 and a-f are needed.")
-                              : tr("The IV is not hexadecimal: pairs of 0-9 and a-f are needed.");
-    if (bytes(field).size() < keySize)
-        return field == m_key ? tr("The key is too short: the cipher takes %1 bytes.").arg(keySize)
-                              : tr("The IV is too short: the cipher takes %1 bytes.").arg(keySize);
+    m_context.report(PageContext::Report::Warning, problem);
+    field->setFocus();
     return {};
 }
 
-std::optional<CipherKeys> KeyInput::keys(QString* problem)
+std::optional<CipherKeys> KeyInput::keys()
 {
-    if (usesPassPhrase()) {
-        if (!m_passPhrase->text().isEmpty())
-            return keysFromPassPhrase(passPhrase());
-        *problem = tr("Enter the pass phrase first.");
-        m_passPhrase->setFocus();
-        return {};
+    if (source() == KeySource::PassPhrase) {
+        if (m_passPhrase->text().isEmpty())
+            return refuse(m_passPhrase, tr("Enter the pass phrase first."));
+        return keysFromPassPhrase(m_passPhrase->text().toStdString());
     }
     for (QLineEdit* field : {m_key, m_iv}) {
-        *problem = problemOf(field);
-        if (!problem->isEmpty()) {
-            field->setFocus();
-            return {};
-        }
+        const QString problem = typed(field).problem();
+        if (!problem.isEmpty())
+            return refuse(field, problem);
     }
-    return CipherKeys{bytes(m_key).toStdString(), bytes(m_iv).toStdString()};
+    return CipherKeys{typed(m_key).bytes().toStdString(), typed(m_iv).bytes().toStdString()};
 }
 
 QString KeyInput::note() const
 {
-    if (usesPassPhrase())
+    if (source() == KeySource::PassPhrase)
         return {};
-    QStringList notes;
-    if (bytes(m_key).size() > keySize)
-        notes += tr("Only the first %1 bytes of the key are used.").arg(keySize);
-    if (bytes(m_iv).size() > keySize)
-        notes += tr("Only the first %1 bytes of the IV are used.").arg(keySize);
-    return notes.join(QLatin1Char(' '));
+    return joinSentences({typed(m_key).note(), typed(m_iv).note()});
 }

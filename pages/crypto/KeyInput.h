@@ -1,11 +1,14 @@
 #pragma once
 
-#include "inspection/crypto/DecryptionCheck.h"
+#include "crypto/CipherKeys.h"
+#include "inspection/crypto/EncryptionNote.h"
+#include "inspection/crypto/TypedKey.h"
 
 #include <QWidget>
 
 #include <optional>
 
+class PageContext;
 class QCheckBox;
 class QGridLayout;
 class QLineEdit;
@@ -17,33 +20,31 @@ class KeyInput : public QWidget
     Q_OBJECT
 
 public:
-    explicit KeyInput(QWidget* parent = nullptr);
+    explicit KeyInput(PageContext& context, QWidget* parent = nullptr);
 
-    bool usesPassPhrase() const;
-    std::string passPhrase() const;
+    KeySource source() const;
 
-    /// Nothing when what was typed does not do; then `problem` says why, in words, and the field
-    /// in question has the focus.
-    std::optional<CipherKeys> keys(QString* problem);
+    /// Nothing when the keys are incomplete; then it has reported why, and the field in question
+    /// has the focus.
+    std::optional<CipherKeys> keys();
 
-    /// What of the key and the IV the cipher passes over, in words; empty when nothing.
+    /// What of the key and the IV the cipher does not use, in words; empty when nothing.
     QString note() const;
 
 private:
     QWidget* makePassPhrase();
     QWidget* makeKeys();
-    /// A masked field with its caption in a row of the grid.
-    QLineEdit* addSecret(const QString& caption, QGridLayout* grid);
-    /// The same with a count of its bytes behind.
-    QLineEdit* addKey(const QString& caption, QGridLayout* grid);
-    QByteArray bytes(const QLineEdit* field) const;
-    QString problemOf(const QLineEdit* field) const;
-    QString countOf(const QLineEdit* field) const;
+    /// A key with a count of its bytes behind.
+    void addKey(const QString& caption, QLineEdit* field, QGridLayout* grid);
+    /// What was typed into `m_key` or `m_iv`.
+    TypedKey typed(const QLineEdit* field) const;
+    /// Reports a problem of that field, gives it the focus, and returns no keys.
+    std::optional<CipherKeys> refuse(QLineEdit* field, const QString& problem);
 
-    QRadioButton* m_usePassPhrase;
+    PageContext& m_context;
     QRadioButton* m_useKeys;
-    QLineEdit* m_passPhrase = nullptr;
-    QLineEdit* m_key = nullptr;
-    QLineEdit* m_iv = nullptr;
-    QCheckBox* m_hexadecimal = nullptr;
+    QLineEdit* m_passPhrase;
+    QLineEdit* m_key;
+    QLineEdit* m_iv;
+    QCheckBox* m_hexadecimal;
 };

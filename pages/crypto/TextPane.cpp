@@ -9,30 +9,35 @@
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
+QPlainTextEdit* makeTextEdit(const QString& accessibleName, const QString& hint)
+{
+    auto* edit = new QPlainTextEdit;
+    edit->setAccessibleName(accessibleName);
+    edit->setPlaceholderText(hint);
+    edit->setTabChangesFocus(true);
+    // Looking for words in one long line would take seconds.
+    edit->setWordWrapMode(QTextOption::WrapAnywhere);
+    return edit;
+}
+
 TextPane::TextPane(const QString& caption, const QString& hint, Access access, QWidget* parent)
-    : QWidget(parent), m_edit(new QPlainTextEdit)
+    : QWidget(parent), m_edit(makeTextEdit(withoutMnemonic(caption), hint))
 {
     auto* label = new QLabel(caption);
     label->setBuddy(m_edit);
-    const QString plain = withoutMnemonic(caption);
-    m_edit->setAccessibleName(plain);
-    m_edit->setPlaceholderText(hint);
     m_edit->setReadOnly(access == Access::ReadOnly);
-    m_edit->setTabChangesFocus(true);
-    // Looking for words in one long line would take seconds.
-    m_edit->setWordWrapMode(QTextOption::WrapAnywhere);
     m_edit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_edit->setMinimumHeight(m_edit->fontMetrics().lineSpacing() * 4);
-    m_copy = new CopyButton(plain, [this] { return text(); });
-    connect(m_edit, &QPlainTextEdit::textChanged, m_copy, [this] { m_copy->refreshState(); });
+    auto* copy = new CopyButton(m_edit->accessibleName(), [this] { return text(); });
+    connect(m_edit, &QPlainTextEdit::textChanged, copy, &CopyButton::refreshState);
     auto* head = new QHBoxLayout;
     head->addWidget(label, 1);
-    head->addWidget(m_copy);
+    head->addWidget(copy);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(head);
     layout->addWidget(m_edit, 1);
-    setTabOrder(m_edit, m_copy);
+    setTabOrder(m_edit, copy);
 }
 
 QString TextPane::text() const

@@ -2,8 +2,10 @@
 
 #include <QWidget>
 
-class CopyButton;
 class QPlainTextEdit;
+
+/// A field for a text of several lines, which may be long; `hint` stands in it while it is empty.
+QPlainTextEdit* makeTextEdit(const QString& accessibleName, const QString& hint);
 
 /// A captioned field for a text of several lines, with a button that copies it.
 class TextPane : public QWidget
@@ -28,7 +30,6 @@ public:
 
 private:
     QPlainTextEdit* m_edit;
-    CopyButton* m_copy;
     QString m_set; ///< as given: the field itself keeps no carriage returns
     QString m_setAsShown;
 };

@@ -11,6 +11,10 @@
         <source>Only the first %L1 characters are URL-safe Base64; the library ignores what follows.</source>
         <translation>只有前 %L1 个字符是 URL 安全的 Base64，其后的内容被库忽略。</translation>
     </message>
+    <message>
+        <source>This is no URL-safe Base64: the library decodes nothing of it.</source>
+        <translation>这不是 URL 安全的 Base64：库解码不出任何内容。</translation>
+    </message>
 </context>
 <context>
     <name>Base64Panel</name>
@@ -59,16 +63,8 @@
         <translation>已编码 %L1 字节。</translation>
     </message>
     <message>
-        <source>This is no URL-safe Base64: the library decodes nothing of it.</source>
-        <translation>这不是 URL 安全的 Base64：库解码不出任何内容。</translation>
-    </message>
-    <message>
         <source>Bytes decoded: %L1.</source>
         <translation>已解码 %L1 字节。</translation>
-    </message>
-    <message>
-        <source>They are no text; shown in hexadecimal.</source>
-        <translation>内容不是文本，以十六进制显示。</translation>
     </message>
     <message>
         <source>Made URL-safe, without padding.</source>
@@ -77,10 +73,6 @@
     <message>
         <source>D&amp;ecode</source>
         <translation>解码(&amp;E)</translation>
-    </message>
-    <message>
-        <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
-        <translation>文本过长：共 %L1 字节，最多接受 %L2 字节。</translation>
     </message>
 </context>
 <context>
@@ -140,64 +132,8 @@
         <translation>已加密 %L1 字节。</translation>
     </message>
     <message>
-        <source>DecryptionAES_Export cannot give this text back: its result holds at most %L1 bytes.</source>
-        <translation>DecryptionAES_Export 无法还原此文本：其结果最多容纳 %L1 字节。</translation>
-    </message>
-    <message>
         <source>Enter the cipher text first.</source>
         <translation>请先输入密文。</translation>
-    </message>
-    <message>
-        <source>This is no URL-safe Base64: the library decodes nothing of it.</source>
-        <translation>这不是 URL 安全的 Base64：库解码不出任何内容。</translation>
-    </message>
-    <message>
-        <source>DecryptionAES_Export gives null: its result holds at most %L1 bytes. This is what Encrypt::DecryptionAES gives.</source>
-        <translation>DecryptionAES_Export 返回 null：其结果最多容纳 %L1 字节。此处显示的是 Encrypt::DecryptionAES 的结果。</translation>
-    </message>
-    <message>
-        <source>Wrong pass phrase, or damaged cipher text:</source>
-        <translation>密码短语错误，或密文已损坏：</translation>
-    </message>
-    <message>
-        <source>Wrong key or IV, or damaged cipher text:</source>
-        <translation>密钥或初始向量错误，或密文已损坏：</translation>
-    </message>
-    <message>
-        <source>the padding does not match, and the library gets an empty text.</source>
-        <translation>填充不匹配，库得到的是空文本。</translation>
-    </message>
-    <message>
-        <source>there is no padding, and the library gets these bytes as they are.</source>
-        <translation>没有填充，库原样得到这些字节。</translation>
-    </message>
-    <message>
-        <source>Damaged cipher text: %L1 bytes are not whole blocks of 16. The library gets them undecrypted.</source>
-        <translation>密文已损坏：%L1 字节不是 16 字节的整数倍。库得到的是未经解密的字节。</translation>
-    </message>
-    <message>
-        <source>the clear text is not valid UTF-8.</source>
-        <translation>明文不是有效的 UTF-8。</translation>
-    </message>
-    <message>
-        <source>Bytes decrypted: %L1.</source>
-        <translation>已解密 %L1 字节。</translation>
-    </message>
-    <message>
-        <source>They are no text; shown in hexadecimal.</source>
-        <translation>内容不是文本，以十六进制显示。</translation>
-    </message>
-    <message>
-        <source>The library encrypts everything from the first zero byte on (byte %L1) as zeros: it cannot be read back.</source>
-        <translation>库从第一个零字节（第 %L1 字节）起全部按零加密，无法还原。</translation>
-    </message>
-    <message>
-        <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
-        <translation>库的文本止于第一个零字节之前。略去 %L1 字节。</translation>
-    </message>
-    <message>
-        <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
-        <translation>文本过长：共 %L1 字节，最多接受 %L2 字节。</translation>
     </message>
 </context>
 <context>
@@ -224,10 +160,6 @@
     <message>
         <source>&amp;Base64</source>
         <translation>Base64(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Digesting</source>
-        <translation>正在计算摘要</translation>
     </message>
     <message>
         <source>Encr&amp;yption</source>
@@ -322,6 +254,52 @@
     </message>
 </context>
 <context>
+    <name>DecodedText</name>
+    <message>
+        <source>They are no text; shown in hexadecimal.</source>
+        <translation>内容不是文本，以十六进制显示。</translation>
+    </message>
+</context>
+<context>
+    <name>DecryptionNote</name>
+    <message>
+        <source>DecryptionAES_Export gives null: its result holds at most %L1 bytes. This is what Encrypt::DecryptionAES gives.</source>
+        <translation>DecryptionAES_Export 返回 null：其结果最多容纳 %L1 字节。此处显示的是 Encrypt::DecryptionAES 的结果。</translation>
+    </message>
+    <message>
+        <source>Wrong pass phrase, or damaged cipher text:</source>
+        <translation>密码短语错误，或密文已损坏：</translation>
+    </message>
+    <message>
+        <source>Wrong key or IV, or damaged cipher text:</source>
+        <translation>密钥或初始向量错误，或密文已损坏：</translation>
+    </message>
+    <message>
+        <source>the padding does not match, and the library gets an empty text.</source>
+        <translation>填充不匹配，库得到的是空文本。</translation>
+    </message>
+    <message>
+        <source>there is no padding, and the library gets these bytes as they are.</source>
+        <translation>没有填充，库原样得到这些字节。</translation>
+    </message>
+    <message>
+        <source>Damaged cipher text: %L1 bytes are not whole blocks of 16. The library gets them undecrypted.</source>
+        <translation>密文已损坏：%L1 字节不是 16 字节的整数倍。库得到的是未经解密的字节。</translation>
+    </message>
+    <message>
+        <source>the clear text is not valid UTF-8.</source>
+        <translation>明文不是有效的 UTF-8。</translation>
+    </message>
+    <message>
+        <source>Bytes decrypted: %L1.</source>
+        <translation>已解密 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
+        <translation>库的文本止于第一个零字节之前。略去 %L1 字节。</translation>
+    </message>
+</context>
+<context>
     <name>DigestJob</name>
     <message>
         <source>MD5 padding: %L1 blocks left</source>
@@ -331,9 +309,25 @@
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Enter the path of a file first.</source>
+        <translation>请先输入文件路径。</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>文件 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
 </context>
 <context>
-    <name>DigestPanel</name>
+    <name>DigestNotes</name>
     <message>
         <source>it holds bytes of 0x80 or above</source>
         <translation>含有 0x80 及以上的字节</translation>
@@ -363,6 +357,9 @@
         <source>SHA-256 and the fingerprint of an empty text are empty.</source>
         <translation>空文本的 SHA-256 和指纹均为空。</translation>
     </message>
+</context>
+<context>
+    <name>DigestPanel</name>
     <message>
         <source>Second text of KdEncode</source>
         <translation>KdEncode 的第二个文本</translation>
@@ -415,6 +412,10 @@
         <source>Bytes digested: %L1.</source>
         <translation>已计算 %L1 字节的摘要。</translation>
     </message>
+    <message>
+        <source>Digesting</source>
+        <translation>正在计算摘要</translation>
+    </message>
 </context>
 <context>
     <name>DigestSource</name>
@@ -454,22 +455,6 @@
         <source>the text</source>
         <translation>文本</translation>
     </message>
-    <message>
-        <source>Enter the path of a file first.</source>
-        <translation>请先输入文件路径。</translation>
-    </message>
-    <message>
-        <source>There is no file %1.</source>
-        <translation>文件 %1 不存在。</translation>
-    </message>
-    <message>
-        <source>%1 is not a regular file.</source>
-        <translation>%1 不是普通文件。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
 </context>
 <context>
     <name>DisplaysPage</name>
@@ -496,6 +481,17 @@
     <message>
         <source>%L1 of %L2 numbers</source>
         <translation>%L1 / %L2 个编号</translation>
+    </message>
+</context>
+<context>
+    <name>EncryptionNote</name>
+    <message>
+        <source>DecryptionAES_Export cannot give this text back: its result holds at most %L1 bytes.</source>
+        <translation>DecryptionAES_Export 无法还原此文本：其结果最多容纳 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>The library encrypts everything from the first zero byte on (byte %L1) as zeros: it cannot be read back.</source>
+        <translation>库从第一个零字节（第 %L1 字节）起全部按零加密，无法还原。</translation>
     </message>
 </context>
 <context>
@@ -1101,26 +1097,6 @@
         <translation>初始向量(&amp;V)：</translation>
     </message>
     <message>
-        <source>%1 of %2 bytes</source>
-        <translation>%1 / %2 字节</translation>
-    </message>
-    <message>
-        <source>The key is not hexadecimal: pairs of 0-9 and a-f are needed.</source>
-        <translation>密钥不是十六进制：需要成对的 0-9 和 a-f。</translation>
-    </message>
-    <message>
-        <source>The IV is not hexadecimal: pairs of 0-9 and a-f are needed.</source>
-        <translation>初始向量不是十六进制：需要成对的 0-9 和 a-f。</translation>
-    </message>
-    <message>
-        <source>The key is too short: the cipher takes %1 bytes.</source>
-        <translation>密钥过短：该密码算法需要 %1 字节。</translation>
-    </message>
-    <message>
-        <source>The IV is too short: the cipher takes %1 bytes.</source>
-        <translation>初始向量过短：该密码算法需要 %1 字节。</translation>
-    </message>
-    <message>
         <source>Enter the pass phrase first.</source>
         <translation>请先输入密码短语。</translation>
     </message>
@@ -1131,18 +1107,6 @@
     <message>
         <source>&amp;Key:</source>
         <translation>密钥(&amp;K)：</translation>
-    </message>
-    <message>
-        <source>%1 bytes: only the first %2 are used</source>
-        <translation>%1 字节：仅使用前 %2 字节</translation>
-    </message>
-    <message>
-        <source>Only the first %1 bytes of the key are used.</source>
-        <translation>密钥仅使用前 %1 字节。</translation>
-    </message>
-    <message>
-        <source>Only the first %1 bytes of the IV are used.</source>
-        <translation>初始向量仅使用前 %1 字节。</translation>
     </message>
 </context>
 <context>
@@ -2645,6 +2609,48 @@ Wide: %2</source>
     <message>
         <source>An odd number of hexadecimal digits</source>
         <translation>十六进制数字的个数为奇数</translation>
+    </message>
+</context>
+<context>
+    <name>TextLimits</name>
+    <message>
+        <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
+        <translation>文本过长：共 %L1 字节，最多接受 %L2 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>TypedKey</name>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 / %2 字节</translation>
+    </message>
+    <message>
+        <source>The key is not hexadecimal: pairs of 0-9 and a-f are needed.</source>
+        <translation>密钥不是十六进制：需要成对的 0-9 和 a-f。</translation>
+    </message>
+    <message>
+        <source>The IV is not hexadecimal: pairs of 0-9 and a-f are needed.</source>
+        <translation>初始向量不是十六进制：需要成对的 0-9 和 a-f。</translation>
+    </message>
+    <message>
+        <source>The key is too short: the cipher takes %1 bytes.</source>
+        <translation>密钥过短：该密码算法需要 %1 字节。</translation>
+    </message>
+    <message>
+        <source>The IV is too short: the cipher takes %1 bytes.</source>
+        <translation>初始向量过短：该密码算法需要 %1 字节。</translation>
+    </message>
+    <message>
+        <source>%1 bytes: only the first %2 are used</source>
+        <translation>%1 字节：仅使用前 %2 字节</translation>
+    </message>
+    <message>
+        <source>Only the first %1 bytes of the key are used.</source>
+        <translation>密钥仅使用前 %1 字节。</translation>
+    </message>
+    <message>
+        <source>Only the first %1 bytes of the IV are used.</source>
+        <translation>初始向量仅使用前 %1 字节。</translation>
     </message>
 </context>
 <context>

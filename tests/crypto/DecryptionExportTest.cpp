@@ -1,8 +1,8 @@
 #include "crypto/Encrypt.h"
 
 #include "tests/crypto/AllocationMonitor.h"
+#include "tests/crypto/BoundedCopyRecorder.h"
 #include "tests/crypto/CapturedOutput.h"
-#include "tests/crypto/RecordingHost.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace {
 class DecryptionExport : public testing::Test
 {
 protected:
-    void SetUp() override { g_recordingHost = {}; }
+    void SetUp() override { g_boundedCopies = {}; }
 
     /// The cipher text under a pass phrase, made by the façade.
     static std::string cipherFor(const std::string& passPhrase, const std::string& plain)
@@ -54,9 +54,9 @@ TEST_F(DecryptionExport, AlwaysAllocatesTheWholeArray)
 TEST_F(DecryptionExport, CopiesOnceWithTheSizeOfTheTextAndItsTerminator)
 {
     decrypt("pass phrase", cipherFor("pass phrase", "plain text"));
-    ASSERT_EQ(1U, g_recordingHost.copies.size());
-    EXPECT_EQ(11, g_recordingHost.copies[0].size);
-    EXPECT_EQ("plain text", g_recordingHost.copies[0].source);
+    ASSERT_EQ(1U, g_boundedCopies.copies.size());
+    EXPECT_EQ(11, g_boundedCopies.copies[0].size);
+    EXPECT_EQ("plain text", g_boundedCopies.copies[0].source);
 }
 
 TEST_F(DecryptionExport, AcceptsAnEmptyPassPhraseAsAZeroKey)
@@ -88,7 +88,7 @@ TEST_F(DecryptionExport, GivesNullForNullArguments)
     EXPECT_EQ(nullptr, DecryptionAES_Export("p", nullptr));
     EXPECT_EQ(nullptr, DecryptionAES_Export(nullptr, "QUJD"));
     EXPECT_EQ(nullptr, DecryptionAES_Export(nullptr, nullptr));
-    EXPECT_TRUE(g_recordingHost.copies.empty());
+    EXPECT_TRUE(g_boundedCopies.copies.empty());
 }
 
 TEST_F(DecryptionExport, GivesTheLongestTextThatFits)
@@ -97,30 +97,31 @@ TEST_F(DecryptionExport, GivesTheLongestTextThatFits)
     const auto result = decrypt("p", cipherFor("p", text));
     ASSERT_TRUE(result);
     EXPECT_EQ(text, result.get());
-    EXPECT_EQ(2048, g_recordingHost.copies.at(0).size);
+    EXPECT_EQ(2048, g_boundedCopies.copies.at(0).size);
 }
 
 TEST_F(DecryptionExport, RefusesTextsThatDoNotFit)
 {
     for (const std::size_t size : {2048U, 2049U, 100000U})
         EXPECT_EQ(nullptr, decrypt("p", cipherFor("p", std::string(size, 'x'))));
-    EXPECT_TRUE(g_recordingHost.copies.empty());
+    EXPECT_TRUE(g_boundedCopies.copies.empty());
 }
 
 TEST_F(DecryptionExport, LetsNoExceptionOut)
 {
-    for (const auto behaviour : {RecordingHost::ThrowsException, RecordingHost::ThrowsInt}) {
-        g_recordingHost.behaviour = behaviour;
+    for (const auto behaviour :
+         {BoundedCopyRecorder::ThrowsException, BoundedCopyRecorder::ThrowsInt}) {
+        g_boundedCopies.behaviour = behaviour;
         EXPECT_EQ(nullptr, decrypt("p", cipherFor("p", "text")));
     }
-    EXPECT_EQ(2U, g_recordingHost.copies.size());
+    EXPECT_EQ(2U, g_boundedCopies.copies.size());
 }
 
 TEST_F(DecryptionExport, ReleasesItsArrayWhenTheCopyThrows)
 {
     const std::string cipher = cipherFor("p", "text");
-    g_recordingHost.copies.reserve(1);
-    g_recordingHost.behaviour = RecordingHost::ThrowsInt;
+    g_boundedCopies.copies.reserve(1);
+    g_boundedCopies.behaviour = BoundedCopyRecorder::ThrowsInt;
     const AllocationMonitor monitor;
     decrypt("p", cipher);
     EXPECT_EQ(0, AllocationMonitor::balance());
@@ -133,7 +134,7 @@ TEST_F(DecryptionExport, GivesNullForEveryFailingAllocation)
     const std::string cipher = cipherFor(passPhrase, std::string(100, 'x'));
     std::size_t allowed = 0;
     for (bool failed = true; failed; ++allowed) {
-        g_recordingHost.copies.clear();
+        g_boundedCopies.copies.clear();
         char* result = nullptr;
         long balance = 0;
         {

@@ -5,6 +5,7 @@
 #include "crypto/Base64Encoder.h"
 #include "crypto/MD5.h"
 #include "crypto/Sha256.h"
+#include "crypto/md5/Md5Stream.h"
 #include "tests/crypto/Bytes.h"
 #include "tests/crypto/Digests.h"
 #include "tests/crypto/md5/Md5BlockPeer.h"
@@ -47,6 +48,18 @@ TEST(Sha256LargeText, CountsItsBitsIn64Bits)
     std::vector<unsigned char> digest;
     ASSERT_TRUE(Sha256().encrypt(message, &digest));
     EXPECT_EQ(peerDigest("SHA256", text), toHex(std::string(digest.begin(), digest.end())));
+}
+
+TEST(Md5StreamLargeText, TellsFromWhichLengthOnItIsCut)
+{
+    const std::string piece(std::size_t{1} << 20, 'a');
+    Md5Stream stream;
+    for (int i = 0; i < 511; ++i)
+        stream.add(piece.data(), piece.size());
+    stream.add(piece.data(), piece.size() - 1);
+    EXPECT_FALSE(stream.hasCutLength());
+    stream.add("a", 1);
+    EXPECT_TRUE(stream.hasCutLength());
 }
 
 constexpr unsigned long longCount = (1UL << 32) + 16;

@@ -93,7 +93,7 @@ protected:
     {
         std::string bytes;
         for (int shift = 24; shift >= 0; shift -= 8)
-            bytes += static_cast<char>(rijndael::substitution[word >> shift & 0xff]);
+            bytes += static_cast<char>(rijndael::sBox[word >> shift & 0xff]);
         return bigEndian(bytes);
     }
 

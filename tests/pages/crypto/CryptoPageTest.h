@@ -2,8 +2,8 @@
 
 #include "tests/pages/PageFixture.h"
 
+#include "crypto/CipherKeys.h"
 #include "crypto/Encrypt.h"
-#include "inspection/crypto/DecryptionCheck.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

@@ -1,7 +1,6 @@
-#include "tests/pages/PageFixture.h"
 #include "tests/pages/ShownToolTip.h"
+#include "tests/pages/crypto/CryptoPageTest.h"
 
-#include "crypto/Encrypt.h"
 #include "crypto/MD5.h"
 #include "crypto/Sha256.h"
 
@@ -10,19 +9,17 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMimeData>
-#include <QRadioButton>
-#include <QTabWidget>
 #include <QTemporaryDir>
 
 namespace {
 
-class DigestPanelTest : public PageTest
+class DigestPanelTest : public CryptoPageTest
 {
 protected:
     void SetUp() override
     {
-        open("crypto");
-        page()->findChild<QTabWidget*>()->setCurrentIndex(1);
+        CryptoPageTest::SetUp();
+        chooseTab(1);
     }
 
     void digestText(const QString& text, const QString& second = {})

@@ -1,18 +1,18 @@
-#include "tests/crypto/RecordingHost.h"
+#include "tests/crypto/BoundedCopyRecorder.h"
 
 #include "host/HostLibraries.h"
 
 #include <cstring>
 #include <stdexcept>
 
-RecordingHost g_recordingHost;
+BoundedCopyRecorder g_boundedCopies;
 
 int strcpy_s(char* destination, int size, const char* source)
 {
-    g_recordingHost.copies.push_back({size, source});
-    if (g_recordingHost.behaviour == RecordingHost::ThrowsException)
+    g_boundedCopies.copies.push_back({size, source});
+    if (g_boundedCopies.behaviour == BoundedCopyRecorder::ThrowsException)
         throw std::runtime_error("copy");
-    if (g_recordingHost.behaviour == RecordingHost::ThrowsInt)
+    if (g_boundedCopies.behaviour == BoundedCopyRecorder::ThrowsInt)
         throw 42;
     std::memcpy(destination, source, static_cast<std::size_t>(size));
     return 0;

@@ -4,7 +4,7 @@
 #include <vector>
 
 /// What the host library of this program was asked for: it supplies nothing but the bounded copy.
-struct RecordingHost
+struct BoundedCopyRecorder
 {
     struct Copy
     {
@@ -22,4 +22,4 @@ struct RecordingHost
     } behaviour = Works;
 };
 
-extern RecordingHost g_recordingHost;
+extern BoundedCopyRecorder g_boundedCopies;

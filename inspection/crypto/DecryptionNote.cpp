@@ -1,0 +1,57 @@
+#include "inspection/crypto/DecryptionNote.h"
+
+#include "inspection/crypto/Base64Note.h"
+#include "inspection/crypto/DecodedText.h"
+#include "inspection/crypto/Sentences.h"
+
+DecryptionNote::DecryptionNote(const Decryption& decryption, KeySource source)
+    : m_decryption(decryption), m_source(source), m_text(decryption.text())
+{
+}
+
+bool DecryptionNote::isFailure() const
+{
+    return m_decryption.reason() != DecryptionReason::Decrypted || !fault().isEmpty();
+}
+
+QString DecryptionNote::suspicion() const
+{
+    return m_source == KeySource::PassPhrase ? tr("Wrong pass phrase, or damaged cipher text:")
+                                             : tr("Wrong key or IV, or damaged cipher text:");
+}
+
+QString DecryptionNote::fault() const
+{
+    if (m_decryption.reason() == DecryptionReason::WrongPadding)
+        return tr("the padding does not match, and the library gets an empty text.");
+    if (m_decryption.reason() == DecryptionReason::NoPadding)
+        return tr("there is no padding, and the library gets these bytes as they are.");
+    return DecodedText::of(m_text).isText ? QString() : tr("the clear text is not valid UTF-8.");
+}
+
+QString DecryptionNote::outcome() const
+{
+    if (m_decryption.reason() == DecryptionReason::NothingDecoded)
+        return Base64Note::nothingDecoded();
+    if (m_decryption.reason() == DecryptionReason::NotWholeBlocks)
+        return tr("Damaged cipher text: %L1 bytes are not whole blocks of 16. The library gets "
+                  "them undecrypted.")
+            .arg(m_decryption.cipherSize);
+    if (isFailure())
+        return joinSentences({suspicion(), fault()});
+    return tr("Bytes decrypted: %L1.").arg(m_text.size());
+}
+
+QString DecryptionNote::remarks() const
+{
+    QStringList remarks;
+    if (m_source == KeySource::PassPhrase && m_text.size() > longestExportedText)
+        remarks += tr("DecryptionAES_Export gives null: its result holds at most %L1 bytes. This "
+                      "is what Encrypt::DecryptionAES gives.")
+                       .arg(longestExportedText);
+    remarks += DecodedText::of(m_text).note();
+    if (m_text.size() < m_decryption.bytes.size())
+        remarks += tr("The library ends the text before its first zero byte. Bytes left out: %L1.")
+                       .arg(m_decryption.bytes.size() - m_text.size());
+    return joinSentences(remarks);
+}
