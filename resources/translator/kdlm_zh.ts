@@ -499,7 +499,7 @@
     </message>
 </context>
 <context>
-    <name>FilesPage</name>
+    <name>FileSearchJob</name>
     <message>
         <source>Type a pattern first, such as /etc/*.conf.</source>
         <translation>请先输入搜索模式，例如 /etc/*.conf。</translation>
@@ -508,6 +508,21 @@
         <source>The service finds nothing for a pattern without a directory, whatever the working directory holds. Put one before it, such as ./%1.</source>
         <translation>模式中没有目录时，无论工作目录里有什么，服务都找不到任何内容。请在前面加上目录，例如 ./%1。</translation>
     </message>
+    <message>
+        <source>%L1 found</source>
+        <translation>已找到 %L1 项</translation>
+    </message>
+    <message>
+        <source>The folder cannot be opened: %1.</source>
+        <translation>无法打开该文件夹：%1。</translation>
+    </message>
+    <message>
+        <source>Names in the folder that are no text in the locale&apos;s encoding, and that the service leaves out: %L1.</source>
+        <translation>该文件夹中不符合区域设置编码、被服务略去的名称：%L1 个。</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
     <message>
         <source>Type a pattern, such as /etc/*.conf, and press Enter: here stands what findFirstFile and findNextFile report.</source>
         <translation>输入搜索模式（例如 /etc/*.conf）并按回车键，这里会列出 findFirstFile 和 findNextFile 报告的内容。</translation>
@@ -549,10 +564,6 @@
         <translation>正在搜索 %1</translation>
     </message>
     <message>
-        <source>%1 found</source>
-        <translation>已找到 %1 项</translation>
-    </message>
-    <message>
         <source>The service finds nothing for %1.</source>
         <translation>服务找不到与 %1 匹配的内容。</translation>
     </message>
@@ -561,20 +572,36 @@
         <translation>没有找到与 %1 匹配的内容。</translation>
     </message>
     <message>
-        <source>Stopped: %1 found so far.</source>
-        <translation>已停止：目前找到 %1 项。</translation>
+        <source>Stopped: %L1 found so far.</source>
+        <translation>已停止：目前找到 %L1 项。</translation>
     </message>
     <message>
-        <source>%1 found. Size and times are reported for the first one only, and only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName never are.</source>
-        <translation>找到 %1 项。只有第一项带有大小和时间，而且仅当它是文件时才有；dwReserved0、dwReserved1 和 cAlternateFileName 从不写入。</translation>
+        <source>%L1 found. Size and times are reported for the first one only, and only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName never are.</source>
+        <translation>找到 %L1 项。只有第一项带有大小和时间，而且仅当它是文件时才有；dwReserved0、dwReserved1 和 cAlternateFileName 从不写入。</translation>
     </message>
     <message>
-        <source>The folder cannot be opened: %1.</source>
-        <translation>无法打开该文件夹：%1。</translation>
+        <source>Name</source>
+        <translation>名称</translation>
     </message>
     <message>
-        <source>Names in the folder that are no text in the locale&apos;s encoding, and that the service leaves out: %1.</source>
-        <translation>该文件夹中不符合区域设置编码、被服务略去的名称：%1 个。</translation>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Last written</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Last accessed</source>
+        <translation>访问时间</translation>
     </message>
 </context>
 <context>
@@ -786,34 +813,10 @@
     </message>
 </context>
 <context>
-    <name>FoundEntriesModel</name>
+    <name>FoundEntryText</name>
     <message>
         <source>The service has not written this field: a caller finds in it what its record held before the call.</source>
         <translation>服务没有写入这个字段：调用者看到的是其记录在调用之前的内容。</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Attributes</source>
-        <translation>属性</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>大小</translation>
-    </message>
-    <message>
-        <source>Last written</source>
-        <translation>修改时间</translation>
-    </message>
-    <message>
-        <source>Created</source>
-        <translation>创建时间</translation>
-    </message>
-    <message>
-        <source>Last accessed</source>
-        <translation>访问时间</translation>
     </message>
 </context>
 <context>
