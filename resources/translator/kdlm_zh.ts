@@ -687,30 +687,29 @@
     </message>
 </context>
 <context>
-    <name>FontRecordsModel</name>
+    <name>FontPreview</name>
     <message>
         <source>(not installed on this system)</source>
         <translation>（本系统未安装）</translation>
     </message>
+</context>
+<context>
+    <name>FontRegistrationJob</name>
     <message>
-        <source>Family</source>
-        <translation>字体族</translation>
+        <source>%L1 families left</source>
+        <translation>还剩 %L1 个字体族</translation>
     </message>
     <message>
-        <source>Style</source>
-        <translation>样式</translation>
+        <source>All families were registered before.</source>
+        <translation>所有字体族此前均已注册。</translation>
     </message>
     <message>
-        <source>Character set</source>
-        <translation>字符集</translation>
+        <source>Registered: %L1 records of %L2 families.</source>
+        <translation>已注册 %L2 个字体族的 %L1 条记录。</translation>
     </message>
     <message>
-        <source>Script</source>
-        <translation>文字</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>预览</translation>
+        <source>Left out, because their names do not fit a record: %1.</source>
+        <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
     </message>
 </context>
 <context>
@@ -768,8 +767,8 @@
         <translation>服务没有报告此字体族和字符集的记录。名称须完全一致，包括大小写。</translation>
     </message>
     <message>
-        <source>%1 records</source>
-        <translation>%1 条记录</translation>
+        <source>%L1 records</source>
+        <translation>%L1 条记录</translation>
     </message>
     <message>
         <source>None</source>
@@ -780,24 +779,8 @@
         <translation>正在注册系统字体</translation>
     </message>
     <message>
-        <source>%1 families left</source>
-        <translation>还剩 %1 个字体族</translation>
-    </message>
-    <message>
-        <source>All families were registered before.</source>
-        <translation>所有字体族此前均已注册。</translation>
-    </message>
-    <message>
-        <source>Registered: %1 records of %2 families.</source>
-        <translation>已注册 %2 个字体族的 %1 条记录。</translation>
-    </message>
-    <message>
         <source>Stopped. %1</source>
         <translation>已停止。%1</translation>
-    </message>
-    <message>
-        <source>Left out, because their names do not fit a record: %1.</source>
-        <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
     </message>
     <message>
         <source>A registered face name</source>
@@ -810,6 +793,26 @@
     <message>
         <source>No font is registered. Host libraries register theirs when they start; the button below registers those of this system.</source>
         <translation>尚未注册任何字体。主机库会在启动时注册自己的字体；使用下方的按钮可以注册本系统的字体。</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>字体族</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>Character set</source>
+        <translation>字符集</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
     </message>
 </context>
 <context>
