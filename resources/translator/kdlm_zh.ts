@@ -1345,7 +1345,7 @@
     </message>
 </context>
 <context>
-    <name>LogModel</name>
+    <name>LogEntry</name>
     <message>
         <source>Debug</source>
         <translation>调试</translation>
@@ -1361,18 +1361,6 @@
     <message>
         <source>Error</source>
         <translation>错误</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>时间</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>级别</translation>
-    </message>
-    <message>
-        <source>Message</source>
-        <translation>消息</translation>
     </message>
 </context>
 <context>
@@ -1450,16 +1438,16 @@
         <translation>无法写入 %1：%2</translation>
     </message>
     <message>
-        <source>Saved to %2. Lines: %1.</source>
-        <translation>已保存到 %2，共 %1 行。</translation>
+        <source>Saved to %2. Lines: %L1.</source>
+        <translation>已保存到 %2，共 %L1 行。</translation>
     </message>
     <message>
         <source>File:</source>
         <translation>文件：</translation>
     </message>
     <message>
-        <source>Lines shown: %1 of %2</source>
-        <translation>显示 %1 行，共 %2 行</translation>
+        <source>Lines shown: %L1 of %L2</source>
+        <translation>显示 %L1 行，共 %L2 行</translation>
     </message>
     <message>
         <source>The log cannot be written to %1.</source>
@@ -1468,6 +1456,21 @@
     <message>
         <source>%1 was not written: this is the log itself.</source>
         <translation>未写入 %1：它就是日志本身。</translation>
+    </message>
+</context>
+<context>
+    <name>LogTable</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
     </message>
 </context>
 <context>
