@@ -69,13 +69,3 @@ void logInfo(const QString& text)
 {
     ApplicationLog::instance().write(Logger::info, text);
 }
-
-void logWarning(const QString& text)
-{
-    ApplicationLog::instance().write(Logger::warning, text);
-}
-
-void logError(const QString& text)
-{
-    ApplicationLog::instance().write(Logger::error, text);
-}

@@ -35,7 +35,5 @@ private:
     Logger m_logger;
 };
 
-/// Short forms of ApplicationLog::write.
+/// Writes one line of level `info` to the application's log.
 void logInfo(const QString& text);
-void logWarning(const QString& text);
-void logError(const QString& text);

@@ -33,7 +33,7 @@ std::string endBanner()
 std::string currTime()
 {
     const std::time_t now = std::time(nullptr);
-    // Not its re-entrant sister: only localtime notices that the time zone was changed.
+    // Of the two forms only localtime, which is not re-entrant, notices a changed time zone.
     const std::tm* local = std::localtime(&now);
     char buffer[64];
     const std::size_t length = std::strftime(buffer, sizeof buffer, "%Y-%m-%d %H:%M:%S", local);
@@ -90,7 +90,7 @@ void Logger::output(const std::string& text, log_level level)
     const std::string line = prefix(level) + currTime() + " : " + text + "\n";
     if (m_target != file && level >= m_level)
         std::cout << line;
-    // Lines below the threshold still go to the file. Intended.
+    // Intended: lines below the threshold still go to the file.
     if (m_target != console)
         m_file << line;
     m_file.flush();

@@ -1,10 +1,10 @@
 #include "inspection/files/DirectoryReadAhead.h"
 
+#include "platform/files/FileNameDecoder.h"
+
 #include <QFile>
-#include <QTextCodec>
 
 #include <cerrno>
-#include <cstring>
 
 namespace {
 
@@ -14,14 +14,6 @@ DIR* opened(const QString& pattern)
 {
     const int separator = pattern.lastIndexOf(QLatin1Char('/'));
     return opendir(QFile::encodeName(pattern.left(separator + 1)).constData());
-}
-
-bool isDecodable(const char* name)
-{
-    const QTextCodec& codec = *QTextCodec::codecForLocale();
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    codec.toUnicode(name, static_cast<int>(std::strlen(name)), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
 } // namespace
@@ -35,6 +27,8 @@ DirectoryReadAhead::DirectoryReadAhead(const QString& pattern)
 
 void DirectoryReadAhead::step()
 {
+    const FileNameDecoder decoder;
+    QString text;
     for (int i = 0; m_directory && i < batch; ++i) {
         const dirent* entry = readdir(m_directory.get());
         if (!entry) {
@@ -42,7 +36,7 @@ void DirectoryReadAhead::step()
             return;
         }
         ++m_entries;
-        if (!isDecodable(entry->d_name))
+        if (decoder.decode(entry->d_name, text) != FileNameDecoder::Result::Text)
             ++m_undecodableNames;
     }
 }

@@ -7,7 +7,7 @@
 
 /// Reads the directory of a search once in small steps and keeps nothing of it, so that the
 /// service, which lists it in one call, finds it in the system's cache: from a slow disk or over a
-/// network that call would hold the window up.
+/// network that call would take so long that the window stood still.
 class DirectoryReadAhead
 {
 public:

@@ -14,7 +14,7 @@ QString fromField(const wchar_t (&field)[size])
                                    static_cast<int>(std::find(field, field + size, L'\0') - field));
 }
 
-// Cut where it does not fit; always terminated.
+// Cuts the text where it does not fit; the field is terminated in any case.
 template <std::size_t size>
 void toField(wchar_t (&field)[size], const QString& text)
 {
@@ -27,7 +27,7 @@ CStdStr<wchar_t> wide(const QString& text)
     return text.toStdWString().c_str();
 }
 
-// The enumeration procedure; `vector` is what it appends to. 0 asks for the next record.
+// The enumeration procedure appends the record to `vector`; its result 0 asks for the next one.
 int append(const tagLOGFONTW* font, const tagTEXTMETRICW* /*metrics*/, unsigned int /*type*/,
            long vector)
 {

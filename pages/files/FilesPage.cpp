@@ -1,6 +1,8 @@
 #include "pages/files/FilesPage.h"
 
-#include "pages/files/FoundEntriesModel.h"
+#include "inspection/files/FileAttributes.h"
+#include "inspection/files/FileSearchJob.h"
+#include "inspection/files/FoundEntryText.h"
 #include "pages/files/PathPanel.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
@@ -8,11 +10,12 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
+#include <QPalette>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
@@ -20,26 +23,43 @@
 
 namespace {
 
-constexpr std::size_t batch = 64; // entries that a step asks for: about 1 ms
-constexpr int large = 5000;       // entries of a directory that the service takes long to list
+using Column = RecordColumn<FoundEntry>;
+using Text = std::function<QString(const FoundEntry& entry)>;
 
-QString joined(QStringList sentences)
+// A column of what the service writes for some entries only; its tool tip shows the record's
+// fields.
+Column detail(const QString& title, const Text& text, const Text& raw)
 {
-    sentences.removeAll(QString());
-    return sentences.join(QLatin1Char(' '));
+    return {title, text, [raw](const FoundEntry& entry, int role) -> QVariant {
+                if (role == Qt::ToolTipRole)
+                    return plainToolTip(raw(entry));
+                if (role == Qt::ForegroundRole && !entry.details)
+                    return QGuiApplication::palette().placeholderText();
+                return {};
+            }};
 }
 
-// What a pattern lacks, or an empty text.
-QString fault(const QString& pattern)
+Column time(const QString& title, FoundEntryText::Time field)
 {
-    if (pattern.isEmpty())
-        return FilesPage::tr("Type a pattern first, such as /etc/*.conf.");
-    if (!pattern.contains(QLatin1Char('/')))
-        return FilesPage::tr(
-                   "The service finds nothing for a pattern without a directory, whatever "
-                   "the working directory holds. Put one before it, such as ./%1.")
-            .arg(pattern);
-    return {};
+    return detail(
+        title, [field](const FoundEntry& entry) { return FoundEntryText::time(entry, field); },
+        [field](const FoundEntry& entry) { return FoundEntryText::rawTime(entry, field); });
+}
+
+std::vector<Column> columns()
+{
+    return {{FilesPage::tr("Name"), [](const FoundEntry& entry) { return entry.name; }},
+            {FilesPage::tr("Attributes"),
+             [](const FoundEntry& entry) { return attributesText(entry.attributes); }},
+            detail(FilesPage::tr("Size"), &FoundEntryText::size, &FoundEntryText::rawSize),
+            time(FilesPage::tr("Last written"), &FoundDetails::lastWrite),
+            time(FilesPage::tr("Created"), &FoundDetails::creation),
+            time(FilesPage::tr("Last accessed"), &FoundDetails::lastAccess)};
+}
+
+QString joined(const QString& sentence, const QString& remark)
+{
+    return remark.isEmpty() ? sentence : sentence + u' ' + remark;
 }
 
 } // namespace
@@ -47,7 +67,7 @@ QString fault(const QString& pattern)
 FilesPage::FilesPage(QWidget* parent)
     : Page(parent),
       m_pattern(new QLineEdit),
-      m_model(new FoundEntriesModel(this)),
+      m_entries(new RecordsModel<FoundEntry>(columns(), this)),
       m_table(makeTable()),
       m_paths(new PathPanel(*g_PlatformServices.directoryManager()))
 {
@@ -91,7 +111,7 @@ QTableView* FilesPage::makeTable()
     auto* table = new QTableView;
     table->setObjectName(QStringLiteral("entries"));
     table->setAccessibleName(tr("Found entries"));
-    table->setModel(m_model);
+    table->setModel(m_entries);
     arrangeTable(*table);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -133,80 +153,36 @@ void FilesPage::search()
 {
     if (isBusy())
         return;
-    const QString refused = fault(m_pattern->text());
+    const QString refused = FileSearchJob::fault(m_pattern->text());
     if (!refused.isEmpty()) {
         report(Report::Error, refused);
         return;
     }
     m_searched = m_pattern->text();
-    m_model->clear();
-    m_search = nullptr;
-    m_readAhead.emplace(m_searched);
-    startJob({tr("Searching %1").arg(m_searched), [this] { return step(); },
-              [this] { return tr("%1 found").arg(QLocale().toString(m_model->rowCount())); },
-              [this](bool complete) { finish(complete); }});
+    m_entries->setRecords({});
+    startJob<FileSearchJob>(
+        tr("Searching %1").arg(m_searched),
+        std::make_unique<FileSearchJob>(
+            m_searched,
+            [this](std::vector<FoundEntry> entries) { m_entries->append(std::move(entries)); }),
+        [this](const FileSearchJob& job, bool complete) { finish(job, complete); });
 }
 
-void FilesPage::readAhead()
+void FilesPage::finish(const FileSearchJob& job, bool complete)
 {
-    m_readAhead->step();
-    if (m_readAhead->isDone() && m_readAhead->entries() >= large)
-        endSlice();
-}
-
-bool FilesPage::step()
-{
-    if (!m_readAhead->isDone()) {
-        readAhead();
-        return true;
-    }
-    std::vector<FoundEntry> entries;
-    std::optional<FoundEntry> entry;
-    if (!m_search) {
-        m_search = std::make_unique<FileSearch>();
-        entry = m_search->first(m_searched);
-    } else {
-        entry = m_search->next();
-    }
-    for (; entry; entry = m_search->next()) {
-        entries.push_back(std::move(*entry));
-        if (entries.size() == batch)
-            break;
-    }
-    m_model->append(std::move(entries));
-    return entry.has_value();
-}
-
-void FilesPage::finish(bool complete)
-{
-    m_search = nullptr;
-    const int count = m_model->rowCount();
-    const QString number = QLocale().toString(count);
     if (!complete) {
-        report(Report::Warning, tr("Stopped: %1 found so far.").arg(number));
-    } else if (count == 0) {
+        report(Report::Warning, tr("Stopped: %L1 found so far.").arg(job.found()));
+    } else if (job.found() == 0) {
         m_hint->setText(tr("The service finds nothing for %1.").arg(m_searched));
-        report(Report::Warning, joined({tr("Nothing found for %1.").arg(m_searched), remark()}));
+        report(Report::Warning, joined(tr("Nothing found for %1.").arg(m_searched), job.remark()));
     } else {
         const QString found =
-            tr("%1 found. Size and times are reported for the first one only, and "
+            tr("%L1 found. Size and times are reported for the first one only, and "
                "only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName "
                "never are.")
-                .arg(number);
-        report(Report::Info, joined({found, remark()}));
+                .arg(job.found());
+        report(Report::Info, joined(found, job.remark()));
     }
-}
-
-// What the service does not tell, but the folder itself: raw.
-QString FilesPage::remark() const
-{
-    if (!m_readAhead->error().isEmpty())
-        return tr("The folder cannot be opened: %1.").arg(m_readAhead->error());
-    if (m_readAhead->undecodableNames() == 0)
-        return {};
-    return tr("Names in the folder that are no text in the locale's encoding, and that the service "
-              "leaves out: %1.")
-        .arg(QLocale().toString(m_readAhead->undecodableNames()));
 }
 
 void FilesPage::showCurrent()
@@ -215,7 +191,5 @@ void FilesPage::showCurrent()
     if (!current.isValid())
         return;
     const QString folder = m_searched.left(m_searched.lastIndexOf(QLatin1Char('/')) + 1);
-    m_paths->setPath(
-        folder +
-        current.siblingAtColumn(FoundEntriesModel::NameColumn).data(Qt::DisplayRole).toString());
+    m_paths->setPath(folder + m_entries->record(current.row()).name);
 }

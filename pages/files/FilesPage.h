@@ -1,14 +1,11 @@
 #pragma once
 
-#include "inspection/files/DirectoryReadAhead.h"
 #include "inspection/files/FileSearch.h"
 #include "window/Page.h"
-
-#include <memory>
-#include <optional>
+#include "window/RecordsModel.h"
 
 class EmptyHint;
-class FoundEntriesModel;
+class FileSearchJob;
 class PathPanel;
 class QLayout;
 class QLineEdit;
@@ -31,18 +28,13 @@ private:
     QTableView* makeTable();
     void browse();
     void search();
-    void readAhead();
-    bool step();
-    void finish(bool complete);
-    QString remark() const;
+    void finish(const FileSearchJob& job, bool complete);
     void showCurrent();
 
     QLineEdit* m_pattern;
-    FoundEntriesModel* m_model;
+    RecordsModel<FoundEntry>* m_entries;
     QTableView* m_table;
     EmptyHint* m_hint;
     PathPanel* m_paths;
-    std::optional<DirectoryReadAhead> m_readAhead; ///< of the last search, before which it is done
-    std::unique_ptr<FileSearch> m_search;
     QString m_searched; ///< the pattern of the rows in the table
 };

@@ -1,8 +1,8 @@
 #include "pages/fonts/FontsPage.h"
 
 #include "inspection/fonts/CharacterSets.h"
-#include "inspection/fonts/SystemFonts.h"
-#include "pages/fonts/FontRecordsModel.h"
+#include "inspection/fonts/FontPreview.h"
+#include "inspection/fonts/FontRegistrationJob.h"
 #include "window/AnswerField.h"
 #include "window/EmptyHint.h"
 #include "window/ViewLook.h"
@@ -10,20 +10,51 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
+#include <QPalette>
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
+
+namespace {
+
+QVariant previewLook(const FontPreview& preview, const RegisteredFont& font, int role)
+{
+    if (role == Qt::ToolTipRole)
+        return plainToolTip(font.fullName);
+    if (role == Qt::FontRole && preview.isInstalled(font))
+        return preview.font(font);
+    if (role == Qt::ForegroundRole && !preview.isInstalled(font))
+        return QGuiApplication::palette().placeholderText();
+    return {};
+}
+
+std::vector<RecordColumn<RegisteredFont>> columns(const std::shared_ptr<FontPreview>& preview)
+{
+    using Column = RecordColumn<RegisteredFont>;
+    using Font = const RegisteredFont&;
+    const auto sample = [preview](Font font) { return preview->sample(font); };
+    const auto look = [preview](Font font, int role) { return previewLook(*preview, font, role); };
+    return {Column{FontsPage::tr("Family"), [](Font font) { return font.face; }},
+            Column{FontsPage::tr("Style"), [](Font font) { return font.style; }},
+            Column{FontsPage::tr("Character set"),
+                   [](Font font) { return CharacterSets::title(font.charSet); }},
+            Column{FontsPage::tr("Script"), [](Font font) { return font.script; }},
+            Column{FontsPage::tr("Preview"), sample, look}};
+}
+
+} // namespace
 
 FontsPage::FontsPage(QWidget* parent)
     : Page(parent),
       m_family(new QLineEdit),
       m_charSet(new QComboBox),
-      m_model(new FontRecordsModel(this)),
+      m_preview(std::make_shared<FontPreview>()),
+      m_records(new RecordsModel<RegisteredFont>(columns(m_preview), this)),
       m_table(makeTable()),
       m_hint(new EmptyHint(m_table, QString())),
       m_localName(new QLineEdit),
@@ -36,8 +67,6 @@ FontsPage::FontsPage(QWidget* parent)
     setFocusProxy(m_family);
     showRecords();
 }
-
-FontsPage::~FontsPage() = default;
 
 QLayout* FontsPage::makeFilterRow()
 {
@@ -86,7 +115,7 @@ QTableView* FontsPage::makeTable()
     auto* table = new QTableView;
     table->setObjectName(QStringLiteral("records"));
     table->setAccessibleName(tr("Registered fonts"));
-    table->setModel(m_model);
+    table->setModel(m_records);
     arrangeTable(*table);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -94,12 +123,11 @@ QTableView* FontsPage::makeTable()
     fitColumns(*table,
                {QStringLiteral("Family"), QStringLiteral("Demi Oblique "),
                 CharacterSets::title(CHINESEBIG5_CHARSET), QStringLiteral("CHINESE_GB2312")});
-    new ColumnBalancer(table, FontRecordsModel::FaceColumn, QStringLiteral("WenQuanYi Micro"));
+    new ColumnBalancer(table, 0, QStringLiteral("WenQuanYi Micro"));
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
                 if (current.isValid())
-                    m_localName->setText(
-                        current.siblingAtColumn(FontRecordsModel::FaceColumn).data().toString());
+                    m_localName->setText(m_records->record(current.row()).face);
             });
     return table;
 }
@@ -149,8 +177,9 @@ void FontsPage::showRecords()
                  "the button below registers those of this system.")
             : tr("The service reports no record of this family and character set. Names "
                  "are compared exactly, upper and lower case included."));
-    m_model->setRecords(FontCatalogue::records(m_family->text(), charSet));
-    setStatus(tr("%1 records").arg(QLocale().toString(m_model->rowCount())));
+    *m_preview = {};
+    m_records->setRecords(FontCatalogue::records(m_family->text(), charSet));
+    setStatus(tr("%L1 records").arg(m_records->rowCount()));
 }
 
 void FontsPage::showGlobalName()
@@ -164,33 +193,17 @@ void FontsPage::registerSystemFonts()
 {
     if (isBusy())
         return;
-    m_systemFonts = std::make_unique<SystemFonts>();
-    startJob(
-        {tr("Registering the system's fonts"), [this] { return m_systemFonts->registerNext(); },
-         [this] {
-             return tr("%1 families left").arg(QLocale().toString(m_systemFonts->familiesLeft()));
-         },
-         [this](bool complete) { finish(complete); }});
+    startJob<FontRegistrationJob>(
+        tr("Registering the system's fonts"), std::make_unique<FontRegistrationJob>(),
+        [this](const FontRegistrationJob& job, bool complete) { finish(job, complete); });
 }
 
-void FontsPage::finish(bool complete)
+void FontsPage::finish(const FontRegistrationJob& job, bool complete)
 {
     refresh();
-    const QLocale locale;
-    QString text = m_systemFonts->families() == 0
-                       ? tr("All families were registered before.")
-                       : tr("Registered: %1 records of %2 families.")
-                             .arg(locale.toString(m_systemFonts->records()),
-                                  locale.toString(m_systemFonts->families()));
-    if (!complete)
-        text = tr("Stopped. %1").arg(text);
-    const QStringList tooLong = m_systemFonts->tooLong();
-    m_systemFonts = nullptr;
-    if (tooLong.isEmpty()) {
-        report(complete ? Report::Info : Report::Warning, text);
-        return;
-    }
-    report(Report::Warning, text + QLatin1Char(' ') +
-                                tr("Left out, because their names do not fit a record: %1.")
-                                    .arg(tooLong.join(QStringLiteral(", "))));
+    QString text = complete ? job.summary() : tr("Stopped. %1").arg(job.summary());
+    const bool isWhole = complete && job.tooLong().isEmpty();
+    if (!job.tooLong().isEmpty())
+        text += u' ' + job.omissions();
+    report(isWhole ? Report::Info : Report::Warning, text);
 }

@@ -1,17 +1,19 @@
 #pragma once
 
+#include "inspection/fonts/FontCatalogue.h"
 #include "window/Page.h"
+#include "window/RecordsModel.h"
 
 #include <memory>
 
 class AnswerField;
 class EmptyHint;
-class FontRecordsModel;
+class FontPreview;
+class FontRegistrationJob;
 class QComboBox;
 class QLayout;
 class QLineEdit;
 class QTableView;
-class SystemFonts;
 
 /// The font records that have been registered with the font service, and its mapping of names.
 class FontsPage : public Page
@@ -20,7 +22,6 @@ class FontsPage : public Page
 
 public:
     explicit FontsPage(QWidget* parent = nullptr);
-    ~FontsPage() override;
 
     /// Asks the service again.
     void refresh() override;
@@ -35,14 +36,14 @@ private:
     void showRecords();
     void showGlobalName();
     void registerSystemFonts();
-    void finish(bool complete);
+    void finish(const FontRegistrationJob& job, bool complete);
 
     QLineEdit* m_family;
     QComboBox* m_charSet;
-    FontRecordsModel* m_model;
+    std::shared_ptr<FontPreview> m_preview; ///< shared with the columns
+    RecordsModel<RegisteredFont>* m_records;
     QTableView* m_table;
     EmptyHint* m_hint;
     QLineEdit* m_localName;
     AnswerField* m_globalName;
-    std::unique_ptr<SystemFonts> m_systemFonts;
 };

@@ -1,6 +1,10 @@
 #include "pages/log/LogFilter.h"
 
-#include "pages/log/LogModel.h"
+LogFilter::LogFilter(LogTable& table, QObject* parent)
+    : QSortFilterProxyModel(parent), m_table(table)
+{
+    setSourceModel(&table);
+}
 
 void LogFilter::setLowest(LogEntry::Level level)
 {
@@ -14,12 +18,15 @@ void LogFilter::setText(const QString& text)
     invalidateFilter();
 }
 
-bool LogFilter::filterAcceptsRow(int row, const QModelIndex& parent) const
+const LogEntry& LogFilter::entry(int row) const
 {
-    const QModelIndex index = sourceModel()->index(row, 0, parent);
-    const int level = index.data(LogModel::LevelRole).toInt();
-    if (m_lowest != LogEntry::Level::Debug && level < static_cast<int>(m_lowest))
+    return m_table.record(mapToSource(index(row, 0)).row());
+}
+
+bool LogFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const
+{
+    const LogEntry& entry = m_table.record(row);
+    if (m_lowest != LogEntry::Level::Debug && entry.level < m_lowest)
         return false;
-    return m_text.isEmpty() ||
-           index.data(LogModel::LineRole).toString().contains(m_text, Qt::CaseInsensitive);
+    return m_text.isEmpty() || entry.line.contains(m_text, Qt::CaseInsensitive);
 }

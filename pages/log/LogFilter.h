@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/log/LogLines.h"
+#include "pages/log/LogTable.h"
 
 #include <QSortFilterProxyModel>
 
@@ -11,16 +11,21 @@ class LogFilter : public QSortFilterProxyModel
     Q_OBJECT
 
 public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
+    /// The table outlives the filter.
+    explicit LogFilter(LogTable& table, QObject* parent = nullptr);
 
     void setLowest(LogEntry::Level level);
     /// Case does not matter; the empty text lets everything pass.
     void setText(const QString& text);
 
+    /// The entry of a row that has passed.
+    const LogEntry& entry(int row) const;
+
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
 
 private:
+    LogTable& m_table;
     LogEntry::Level m_lowest = LogEntry::Level::Debug;
     QString m_text;
 };

@@ -1,8 +1,10 @@
 #include "pages/log/LogPage.h"
 
 #include "app/ApplicationLog.h"
+#include "inspection/log/LogReadingJob.h"
+#include "inspection/log/LogSavingJob.h"
 #include "pages/log/LogFilter.h"
-#include "pages/log/LogModel.h"
+#include "pages/log/LogTable.h"
 #include "pages/log/TailFollower.h"
 #include "window/EmptyHint.h"
 #include "window/PathLabel.h"
@@ -17,9 +19,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QTableView>
 
 namespace {
@@ -29,7 +29,7 @@ QString lostText()
     return LogPage::tr("The log cannot be written to %1.").arg(ApplicationLog::path());
 }
 
-// Writing it anew would cut it off from the lines that are still to come.
+// Writing the log itself anew would cut it off from the lines that are still to come.
 bool isLog(const QString& path)
 {
     const QString file = QFileInfo(path).canonicalFilePath();
@@ -40,14 +40,15 @@ bool isLog(const QString& path)
 
 LogPage::LogPage(QWidget* parent)
     : Page(parent),
-      m_model(new LogModel(ApplicationLog::path(), this)),
-      m_filter(new LogFilter(this)),
+      m_entries(new LogTable(this)),
+      m_reader(ApplicationLog::path(),
+               [this](LogPiece piece) { m_entries->add(std::move(piece)); }),
+      m_filter(new LogFilter(*m_entries, this)),
       m_table(new QTableView),
       m_level(new QComboBox),
       m_text(new QLineEdit),
       m_count(new QLabel)
 {
-    m_filter->setSourceModel(m_model);
     makeTable();
     body()->addLayout(makeControls());
     body()->addWidget(m_table, 1);
@@ -124,9 +125,8 @@ QLayout* LogPage::makeFooter()
 
 void LogPage::refresh()
 {
-    startJob({tr("Reading the log"), [this] { return m_model->readMore(); },
-              [this] { return QLocale().toString(m_model->rowCount()); },
-              [this](bool) { showCount(); }});
+    startJob<LogReadingJob>(tr("Reading the log"), std::make_unique<LogReadingJob>(m_reader),
+                            [this](LogReadingJob&, bool) { showCount(); });
 }
 
 void LogPage::find()
@@ -138,15 +138,13 @@ void LogPage::find()
 void LogPage::readNew()
 {
     if (!isBusy())
-        m_model->readMore();
+        m_reader.readMore();
 }
 
 void LogPage::showCount()
 {
-    const QLocale locale;
     m_count->setText(
-        tr("Lines shown: %1 of %2")
-            .arg(locale.toString(m_filter->rowCount()), locale.toString(m_model->rowCount())));
+        tr("Lines shown: %L1 of %L2").arg(m_filter->rowCount()).arg(m_entries->rowCount()));
 }
 
 void LogPage::askSave()
@@ -165,28 +163,23 @@ void LogPage::saveAs(const QString& path)
 {
     if (isLog(path))
         return report(Report::Error, tr("%1 was not written: this is the log itself.").arg(path));
-    const auto file = std::make_shared<QSaveFile>(path);
-    file->open(QIODevice::WriteOnly);
-    const auto row = std::make_shared<int>(0);
-    const int rows = m_filter->rowCount();
-    const auto step = [this, file, row, rows] {
-        if (!file->isOpen() || *row >= rows)
-            return false;
-        const QModelIndex index = m_filter->index((*row)++, 0);
-        file->write(index.data(LogModel::LineRole).toString().toUtf8() + '\n');
-        return true;
-    };
-    startJob({tr("Saving"), step, [row] { return QLocale().toString(*row); },
-              [this, file, row, path](bool complete) {
-                  if (!complete)
-                      report(Report::Warning, tr("Nothing was saved."));
-                  else if (file->isOpen() && file->commit())
-                      report(Report::Info,
-                             tr("Saved to %2. Lines: %1.").arg(QLocale().toString(*row), path));
-                  else
-                      report(Report::Error,
-                             tr("%1 could not be written: %2").arg(path, file->errorString()));
-              }});
+    startJob<LogSavingJob>(
+        tr("Saving"),
+        std::make_unique<LogSavingJob>(path, m_filter->rowCount(),
+                                       [this](int row) { return m_filter->entry(row).line; }),
+        [this, path](const LogSavingJob& job, bool complete) {
+            reportSaving(job, path, complete);
+        });
+}
+
+void LogPage::reportSaving(const LogSavingJob& job, const QString& file, bool complete)
+{
+    if (!complete)
+        report(Report::Warning, tr("Nothing was saved."));
+    else if (job.error().isEmpty())
+        report(Report::Info, tr("Saved to %2. Lines: %L1.").arg(job.written()).arg(file));
+    else
+        report(Report::Error, tr("%1 could not be written: %2").arg(file, job.error()));
 }
 
 void LogPage::copy()
@@ -194,6 +187,6 @@ void LogPage::copy()
     QStringList lines;
     const QModelIndexList rows = m_table->selectionModel()->selectedRows();
     for (const QModelIndex& index : rows)
-        lines.append(index.data(LogModel::LineRole).toString());
+        lines.append(m_filter->entry(index.row()).line);
     QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "inspection/log/LogReader.h"
 #include "window/Page.h"
 
 class LogFilter;
-class LogModel;
+class LogSavingJob;
+class LogTable;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -30,9 +32,11 @@ private:
     void readNew();
     void showCount();
     void askSave();
+    void reportSaving(const LogSavingJob& job, const QString& file, bool complete);
     void copy();
 
-    LogModel* m_model;
+    LogTable* m_entries;
+    LogReader m_reader;
     LogFilter* m_filter;
     QTableView* m_table;
     QComboBox* m_level;

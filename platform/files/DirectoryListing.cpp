@@ -1,19 +1,18 @@
 #include "platform/files/DirectoryListing.h"
 
+#include "platform/files/FileNameDecoder.h"
 #include "platform/files/NameOrder.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QTextCodec>
 #include <QVarLengthArray>
 
 #include <cstring>
 #include <dirent.h>
 #include <memory>
 #include <optional>
-#include <string_view>
 #include <sys/stat.h>
 #include <utility>
 
@@ -32,13 +31,6 @@ bool isOnFileSystem(const QString& directory)
     const int colon = directory.indexOf(u':');
     const int separator = directory.indexOf(u'/');
     return colon < 0 || (separator >= 0 && separator < colon);
-}
-
-// What QDir takes for text in other encodings differs from one to the next.
-bool isUtf8(const QTextCodec& codec)
-{
-    constexpr int mibOfUtf8 = 106;
-    return codec.mibEnum() == mibOfUtf8;
 }
 
 // A name filter, compiled as QDirIterator compiles it.
@@ -64,29 +56,7 @@ private:
     std::optional<QRegularExpression> m_expression; // none: everything matches
 };
 
-bool isAscii(std::string_view bytes)
-{
-    unsigned int all = 0;
-    for (const char byte : bytes)
-        all |= static_cast<unsigned char>(byte);
-    return all < 0x80;
-}
-
-// Returns whether `name` is text, and which.
-bool decode(const QTextCodec& codec, const char* name, QString& text)
-{
-    const std::string_view bytes(name);
-    const auto size = static_cast<int>(bytes.size());
-    if (isAscii(bytes)) { // the same in UTF-8, and decoded much faster
-        text = QString::fromLatin1(name, size);
-        return true;
-    }
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    text = codec.toUnicode(name, size, &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
-
-// An open directory of the file system, entry by entry.
+// Reads a directory of the file system entry by entry.
 class DirectoryReader
 {
 public:
@@ -149,8 +119,9 @@ QStringList DirectoryListing::names(const QString& filter) const
     const NameFilter nameFilter(filter);
     if (!nameFilter.isValid())
         return {};
-    const QTextCodec& codec = *QTextCodec::codecForLocale();
-    if (m_nativeDirectory.isEmpty() || !isUtf8(codec))
+    const FileNameDecoder decoder;
+    // What QDir takes for text in encodings other than UTF-8 differs from one to the next.
+    if (m_nativeDirectory.isEmpty() || !decoder.isUtf8())
         return QDir(m_directory).entryList({filter}, filtersOf(m_hidden), QDir::NoSort);
     const DirectoryReader reader(m_nativeDirectory);
     NameOrder found;
@@ -158,7 +129,8 @@ QStringList DirectoryListing::names(const QString& filter) const
     while (const dirent* entry = reader.next()) {
         if (m_hidden == WithoutHidden && entry->d_name[0] == '.')
             continue;
-        if (decode(codec, entry->d_name, name) && nameFilter.matches(name))
+        if (decoder.decode(entry->d_name, name) == FileNameDecoder::Result::Text &&
+            nameFilter.matches(name))
             found.add(std::move(name));
     }
     return found.take();

@@ -24,7 +24,7 @@ constexpr CharacterKinds characterKinds()
         kinds[static_cast<unsigned char>(c)] = Inner;
     for (const char c : "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-+&@#/%=~_|")
         kinds[static_cast<unsigned char>(c)] = Last;
-    kinds[0] = Foreign; // the literals' terminator
+    kinds[0] = Foreign; // the terminator of the literals above is no character of a URL
     return kinds;
 }
 

@@ -495,7 +495,7 @@
     </message>
 </context>
 <context>
-    <name>FilesPage</name>
+    <name>FileSearchJob</name>
     <message>
         <source>Type a pattern first, such as /etc/*.conf.</source>
         <translation>请先输入搜索模式，例如 /etc/*.conf。</translation>
@@ -504,6 +504,21 @@
         <source>The service finds nothing for a pattern without a directory, whatever the working directory holds. Put one before it, such as ./%1.</source>
         <translation>模式中没有目录时，无论工作目录里有什么，服务都找不到任何内容。请在前面加上目录，例如 ./%1。</translation>
     </message>
+    <message>
+        <source>%L1 found</source>
+        <translation>已找到 %L1 项</translation>
+    </message>
+    <message>
+        <source>The folder cannot be opened: %1.</source>
+        <translation>无法打开该文件夹：%1。</translation>
+    </message>
+    <message>
+        <source>Names in the folder that are no text in the locale&apos;s encoding, and that the service leaves out: %L1.</source>
+        <translation>该文件夹中不符合区域设置编码、被服务略去的名称：%L1 个。</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
     <message>
         <source>Type a pattern, such as /etc/*.conf, and press Enter: here stands what findFirstFile and findNextFile report.</source>
         <translation>输入搜索模式（例如 /etc/*.conf）并按回车键，这里会列出 findFirstFile 和 findNextFile 报告的内容。</translation>
@@ -545,10 +560,6 @@
         <translation>正在搜索 %1</translation>
     </message>
     <message>
-        <source>%1 found</source>
-        <translation>已找到 %1 项</translation>
-    </message>
-    <message>
         <source>The service finds nothing for %1.</source>
         <translation>服务找不到与 %1 匹配的内容。</translation>
     </message>
@@ -557,20 +568,36 @@
         <translation>没有找到与 %1 匹配的内容。</translation>
     </message>
     <message>
-        <source>Stopped: %1 found so far.</source>
-        <translation>已停止：目前找到 %1 项。</translation>
+        <source>Stopped: %L1 found so far.</source>
+        <translation>已停止：目前找到 %L1 项。</translation>
     </message>
     <message>
-        <source>%1 found. Size and times are reported for the first one only, and only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName never are.</source>
-        <translation>找到 %1 项。只有第一项带有大小和时间，而且仅当它是文件时才有；dwReserved0、dwReserved1 和 cAlternateFileName 从不写入。</translation>
+        <source>%L1 found. Size and times are reported for the first one only, and only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName never are.</source>
+        <translation>找到 %L1 项。只有第一项带有大小和时间，而且仅当它是文件时才有；dwReserved0、dwReserved1 和 cAlternateFileName 从不写入。</translation>
     </message>
     <message>
-        <source>The folder cannot be opened: %1.</source>
-        <translation>无法打开该文件夹：%1。</translation>
+        <source>Name</source>
+        <translation>名称</translation>
     </message>
     <message>
-        <source>Names in the folder that are no text in the locale&apos;s encoding, and that the service leaves out: %1.</source>
-        <translation>该文件夹中不符合区域设置编码、被服务略去的名称：%1 个。</translation>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Last written</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Last accessed</source>
+        <translation>访问时间</translation>
     </message>
 </context>
 <context>
@@ -656,30 +683,29 @@
     </message>
 </context>
 <context>
-    <name>FontRecordsModel</name>
+    <name>FontPreview</name>
     <message>
         <source>(not installed on this system)</source>
         <translation>（本系统未安装）</translation>
     </message>
+</context>
+<context>
+    <name>FontRegistrationJob</name>
     <message>
-        <source>Family</source>
-        <translation>字体族</translation>
+        <source>%L1 families left</source>
+        <translation>还剩 %L1 个字体族</translation>
     </message>
     <message>
-        <source>Style</source>
-        <translation>样式</translation>
+        <source>All families were registered before.</source>
+        <translation>所有字体族此前均已注册。</translation>
     </message>
     <message>
-        <source>Character set</source>
-        <translation>字符集</translation>
+        <source>Registered: %L1 records of %L2 families.</source>
+        <translation>已注册 %L2 个字体族的 %L1 条记录。</translation>
     </message>
     <message>
-        <source>Script</source>
-        <translation>文字</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>预览</translation>
+        <source>Left out, because their names do not fit a record: %1.</source>
+        <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
     </message>
 </context>
 <context>
@@ -737,10 +763,6 @@
         <translation>服务没有报告此字体族和字符集的记录。名称须完全一致，包括大小写。</translation>
     </message>
     <message>
-        <source>%1 records</source>
-        <translation>%1 条记录</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>无</translation>
     </message>
@@ -749,24 +771,8 @@
         <translation>正在注册系统字体</translation>
     </message>
     <message>
-        <source>%1 families left</source>
-        <translation>还剩 %1 个字体族</translation>
-    </message>
-    <message>
-        <source>All families were registered before.</source>
-        <translation>所有字体族此前均已注册。</translation>
-    </message>
-    <message>
-        <source>Registered: %1 records of %2 families.</source>
-        <translation>已注册 %2 个字体族的 %1 条记录。</translation>
-    </message>
-    <message>
         <source>Stopped. %1</source>
         <translation>已停止。%1</translation>
-    </message>
-    <message>
-        <source>Left out, because their names do not fit a record: %1.</source>
-        <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
     </message>
     <message>
         <source>A registered face name</source>
@@ -780,36 +786,36 @@
         <source>No font is registered. Host libraries register theirs when they start; the button below registers those of this system.</source>
         <translation>尚未注册任何字体。主机库会在启动时注册自己的字体；使用下方的按钮可以注册本系统的字体。</translation>
     </message>
+    <message>
+        <source>%L1 records</source>
+        <translation>%L1 条记录</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>字体族</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>Character set</source>
+        <translation>字符集</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
 </context>
 <context>
-    <name>FoundEntriesModel</name>
+    <name>FoundEntryText</name>
     <message>
         <source>The service has not written this field: a caller finds in it what its record held before the call.</source>
         <translation>服务没有写入这个字段：调用者看到的是其记录在调用之前的内容。</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Attributes</source>
-        <translation>属性</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>大小</translation>
-    </message>
-    <message>
-        <source>Last written</source>
-        <translation>修改时间</translation>
-    </message>
-    <message>
-        <source>Created</source>
-        <translation>创建时间</translation>
-    </message>
-    <message>
-        <source>Last accessed</source>
-        <translation>访问时间</translation>
     </message>
 </context>
 <context>
@@ -946,29 +952,6 @@
     </message>
 </context>
 <context>
-    <name>ImportDialog</name>
-    <message>
-        <source>As written in the file: %1. Altered: %2. Refused: %3.</source>
-        <translation>与文件一致：%1。有改动：%2。被拒绝：%3。</translation>
-    </message>
-    <message>
-        <source>Statements of the file</source>
-        <translation>文件中的语句</translation>
-    </message>
-    <message>
-        <source>Import %1</source>
-        <translation>导入 %1</translation>
-    </message>
-    <message>
-        <source>&amp;Only what is altered or refused</source>
-        <translation>仅显示有改动或被拒绝的语句(&amp;O)</translation>
-    </message>
-    <message>
-        <source>I&amp;mport</source>
-        <translation>导入(&amp;M)</translation>
-    </message>
-</context>
-<context>
     <name>ImportCheck</name>
     <message>
         <source>&quot;%1&quot; is not one of the root keys.</source>
@@ -1037,6 +1020,29 @@
     <message>
         <source>The separators in the name lead to a value of a sub-key.</source>
         <translation>名称中含有分隔符，所指的是子项中的值。</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>As written in the file: %1. Altered: %2. Refused: %3.</source>
+        <translation>与文件一致：%1。有改动：%2。被拒绝：%3。</translation>
+    </message>
+    <message>
+        <source>Statements of the file</source>
+        <translation>文件中的语句</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <translation>导入 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only what is altered or refused</source>
+        <translation>仅显示有改动或被拒绝的语句(&amp;O)</translation>
+    </message>
+    <message>
+        <source>I&amp;mport</source>
+        <translation>导入(&amp;M)</translation>
     </message>
 </context>
 <context>
@@ -1303,7 +1309,7 @@
     </message>
 </context>
 <context>
-    <name>LogModel</name>
+    <name>LogEntry</name>
     <message>
         <source>Debug</source>
         <translation>调试</translation>
@@ -1319,18 +1325,6 @@
     <message>
         <source>Error</source>
         <translation>错误</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>时间</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>级别</translation>
-    </message>
-    <message>
-        <source>Message</source>
-        <translation>消息</translation>
     </message>
 </context>
 <context>
@@ -1408,16 +1402,8 @@
         <translation>无法写入 %1：%2</translation>
     </message>
     <message>
-        <source>Saved to %2. Lines: %1.</source>
-        <translation>已保存到 %2，共 %1 行。</translation>
-    </message>
-    <message>
         <source>File:</source>
         <translation>文件：</translation>
-    </message>
-    <message>
-        <source>Lines shown: %1 of %2</source>
-        <translation>显示 %1 行，共 %2 行</translation>
     </message>
     <message>
         <source>The log cannot be written to %1.</source>
@@ -1426,6 +1412,29 @@
     <message>
         <source>%1 was not written: this is the log itself.</source>
         <translation>未写入 %1：它就是日志本身。</translation>
+    </message>
+    <message>
+        <source>Saved to %2. Lines: %L1.</source>
+        <translation>已保存到 %2，共 %L1 行。</translation>
+    </message>
+    <message>
+        <source>Lines shown: %L1 of %L2</source>
+        <translation>显示 %L1 行，共 %L2 行</translation>
+    </message>
+</context>
+<context>
+    <name>LogTable</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
     </message>
 </context>
 <context>
@@ -1582,17 +1591,6 @@
     <message>
         <source>The encoding becomes UTF-8.</source>
         <translation>编码将变为 UTF-8。</translation>
-    </message>
-</context>
-<context>
-    <name>RedirectedName</name>
-    <message>
-        <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
-        <translation>名称中含有“\”：主机库打开此项时，得到的是 %2 中的项“%1”。</translation>
-    </message>
-    <message>
-        <source>A name with a &quot;\&quot; in it: a host library that asks for this value gets the value &quot;%1&quot; in %2.</source>
-        <translation>名称中含有“\”：主机库读取此值时，得到的是 %2 中的值“%1”。</translation>
     </message>
 </context>
 <context>
@@ -2047,6 +2045,17 @@ Wide: %2</source>
     <message>
         <source>Stopped before the file was read.</source>
         <translation>已停止：文件尚未读取。</translation>
+    </message>
+</context>
+<context>
+    <name>RedirectedName</name>
+    <message>
+        <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
+        <translation>名称中含有“\”：主机库打开此项时，得到的是 %2 中的项“%1”。</translation>
+    </message>
+    <message>
+        <source>A name with a &quot;\&quot; in it: a host library that asks for this value gets the value &quot;%1&quot; in %2.</source>
+        <translation>名称中含有“\”：主机库读取此值时，得到的是 %2 中的值“%1”。</translation>
     </message>
 </context>
 <context>

@@ -127,7 +127,7 @@ TEST_F(FileDialogs, BrowseTakesTheChosenFileForItsDigests)
 TEST_F(FileDialogs, SaveAsWritesTheLinesShown)
 {
     logInfo("a line for the saved file");
-    logError("an error for the saved file");
+    ApplicationLog::instance().write(Logger::error, "an error for the saved file");
     const WindowProbe probe("log");
     probe.page().findChild<QComboBox*>()->setCurrentIndex(3); // errors only
     const FileDialogAnswer dialog(path("saved"));

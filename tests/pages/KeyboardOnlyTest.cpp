@@ -121,8 +121,8 @@ TEST_F(KeyboardOnly, APointOfTheDesktopIsChosen)
 TEST_F(KeyboardOnly, TheLogIsFilteredAndSaved)
 {
     logInfo("first of the keyboard");
-    logError("second of the keyboard");
-    logError("something else");
+    ApplicationLog::instance().write(Logger::error, "second of the keyboard");
+    ApplicationLog::instance().write(Logger::error, "something else");
     openActive("log");
     press({"alt+s", "End"}); // errors only
     press({"ctrl+f"});

@@ -56,19 +56,25 @@ std::unique_ptr<QWidget> find(const WindowProbe& probe)
     return nullptr;
 }
 
+class EndlessJob : public Job
+{
+public:
+    bool step() override
+    {
+        QTest::qSleep(1);
+        return true;
+    }
+    QString progress() const override
+    {
+        return QCoreApplication::translate("FontRegistrationJob", "%L1 families left").arg(1234567);
+    }
+};
+
 std::unique_ptr<QWidget> job(const WindowProbe& probe)
 {
-    probe.page().startJob({QCoreApplication::translate("FontsPage", "Registering the system's "
-                                                                    "fonts"),
-                           [] {
-                               QTest::qSleep(1);
-                               return true;
-                           },
-                           [] {
-                               return QCoreApplication::translate("FontsPage", "%1 families left")
-                                   .arg(QStringLiteral("1,234,567"));
-                           },
-                           {}});
+    probe.page().startJob<EndlessJob>(
+        QCoreApplication::translate("FontsPage", "Registering the system's fonts"),
+        std::make_unique<EndlessJob>(), [](EndlessJob&, bool) {});
     return nullptr;
 }
 
@@ -76,8 +82,9 @@ std::unique_ptr<QWidget> job(const WindowProbe& probe)
 std::unique_ptr<QWidget> report(const WindowProbe& probe)
 {
     const QString text = QCoreApplication::translate(
-        "FilesPage", "The service finds nothing for a pattern without a directory, whatever the "
-                     "working directory holds. Put one before it, such as ./%1.");
+        "FileSearchJob",
+        "The service finds nothing for a pattern without a directory, whatever the "
+        "working directory holds. Put one before it, such as ./%1.");
     probe.page().report(Page::Report::Error, text.arg(QStringLiteral("name")));
     return nullptr;
 }

@@ -1,6 +1,5 @@
-#include "inspection/fonts/CharacterSets.h"
 #include "inspection/fonts/FontCatalogue.h"
-#include "platform/PlatformServicesImp.h"
+#include "tests/inspection/fonts/FreshServices.h"
 #include "tests/pages/ShownToolTip.h"
 #include "tests/pages/WindowProbe.h"
 
@@ -14,19 +13,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <new>
 
 namespace {
-
-// Fonts are never taken out again: each test begins with a service that knows none.
-struct FreshServices
-{
-    FreshServices()
-    {
-        std::destroy_at(&g_PlatformServices);
-        new (&g_PlatformServices) PlatformServicesImp;
-    }
-};
 
 class FontsPageTest : public testing::Test
 {
@@ -169,9 +157,16 @@ TEST_F(FontsPageTest, RegistersTheFontsOfTheSystem)
     EXPECT_TRUE(status().startsWith(QStringLiteral("Registered:")));
 }
 
+class EndlessJob : public Job
+{
+public:
+    bool step() override { return true; }
+};
+
 TEST_F(FontsPageTest, IsNotReadAnewWhileAJobRuns)
 {
-    m_probe.page().startJob({QStringLiteral("Endless"), [] { return true; }, {}, {}});
+    m_probe.page().startJob<EndlessJob>("Endless", std::make_unique<EndlessJob>(),
+                                        [](EndlessJob&, bool) {});
     add("Global", "Local", GB2312_CHARSET);
     m_probe.page().entered();
     EXPECT_EQ(model().rowCount(), 0);
@@ -218,39 +213,6 @@ TEST_F(FontsPageTest, LooksUpTheChosenRow)
     m_probe.page().refresh();
     m_probe.control<QTableView>("records").selectRow(0);
     EXPECT_EQ(m_probe.text("globalName"), QStringLiteral("Global A"));
-}
-
-struct NameLength
-{
-    int length;
-    bool fits;
-};
-
-class FaceNameTest : public testing::TestWithParam<NameLength>
-{
-};
-
-TEST_P(FaceNameTest, FitsWithItsTerminator)
-{
-    EXPECT_EQ(FontCatalogue::fits(QString(GetParam().length, QLatin1Char('x'))), GetParam().fits);
-}
-
-INSTANTIATE_TEST_SUITE_P(Lengths, FaceNameTest,
-                         testing::Values(NameLength{0, true}, NameLength{31, true},
-                                         NameLength{32, false}));
-
-TEST(CharacterSetsTest, NameWhatIsKnown)
-{
-    EXPECT_EQ(CharacterSets::title(RUSSIAN_CHARSET), QStringLiteral("RUSSIAN_CHARSET (204)"));
-    EXPECT_EQ(CharacterSets::title(3), QStringLiteral("3"));
-}
-
-TEST(CharacterSetsTest, StandForWritingSystems)
-{
-    EXPECT_EQ(CharacterSets::fromWritingSystem(QFontDatabase::Latin), ANSI_CHARSET);
-    EXPECT_EQ(CharacterSets::fromWritingSystem(QFontDatabase::Korean), HANGUL_CHARSET);
-    EXPECT_EQ(CharacterSets::fromWritingSystem(QFontDatabase::Tamil), std::nullopt);
-    EXPECT_EQ(CharacterSets::fromWritingSystem(QFontDatabase::Any), std::nullopt);
 }
 
 } // namespace

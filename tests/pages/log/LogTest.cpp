@@ -1,8 +1,8 @@
 #include "app/ApplicationLog.h"
-#include "inspection/log/LogLines.h"
+#include "inspection/log/LogReader.h"
 #include "pages/log/LogFilter.h"
-#include "pages/log/LogModel.h"
 #include "pages/log/LogPage.h"
+#include "pages/log/LogTable.h"
 #include "tests/pages/ShownToolTip.h"
 #include "window/BusyOverlay.h"
 
@@ -23,48 +23,17 @@ namespace {
 
 using Level = LogEntry::Level;
 
-TEST(LogLines, TakesLinesApart)
-{
-    LogLines lines;
-    lines.add("2026-03-07 09:05:01 : === Start logging ===\n"
-              "[DEBUG] 2026-03-07 09:05:02 : a : b\n[INFO] 2026-03-07 09:05:03 : \n"
-              "[WARNING] 2026-03-07 09:05:04 : w\n[ERROR] 2026-03-07 09:05:05 : e\n"
-              "2026-03-07 09:05:06 : === End logging ===\r\n");
-    ASSERT_EQ(lines.entries().size(), 6U);
-    const Level levels[] = {Level::None,    Level::Debug, Level::Info,
-                            Level::Warning, Level::Error, Level::None};
-    for (std::size_t i = 0; i < 6; ++i)
-        EXPECT_EQ(lines.entries()[i].level, levels[i]);
-    EXPECT_EQ(lines.entries()[1].time.toStdString(), "2026-03-07 09:05:02");
-    EXPECT_EQ(lines.entries()[1].text.toStdString(), "a : b");
-    EXPECT_EQ(lines.entries()[2].text.toStdString(), "");
-    EXPECT_EQ(lines.entries()[5].text.toStdString(), "=== End logging ===");
-}
+constexpr int levelColumn = 1;
+constexpr int textColumn = 2;
 
-TEST(LogLines, PutsFurtherLinesToTheirEntry)
-{
-    LogLines lines;
-    lines.add("stray\n[INFO] 2026-03-07 09:05:03 : one\ntwo\n[INFO] no time\n");
-    ASSERT_EQ(lines.entries().size(), 2U);
-    EXPECT_EQ(lines.entries()[0].text.toStdString(), "stray");
-    EXPECT_EQ(lines.entries()[1].text.toStdString(), "one\ntwo\n[INFO] no time");
-}
-
-TEST(LogLines, WaitsForTheEndOfALine)
-{
-    LogLines lines;
-    lines.add("[INFO] 2026-03-07 09:0");
-    EXPECT_TRUE(lines.entries().empty());
-    lines.add("5:03 : \xE6\xB8");
-    lines.add("\xAF\n");
-    ASSERT_EQ(lines.entries().size(), 1U);
-    EXPECT_EQ(lines.entries()[0].text, QString(QChar(0x6E2F)));
-}
-
-class LogModelTest : public testing::Test
+class LogTableTest : public testing::Test
 {
 protected:
-    LogModelTest() : m_path(m_folder.filePath("x.log")), m_model(m_path) {}
+    LogTableTest()
+        : m_path(m_folder.filePath("x.log")),
+          m_reader(m_path, [this](LogPiece piece) { m_model.add(std::move(piece)); })
+    {
+    }
 
     void write(const QByteArray& lines, QIODevice::OpenMode mode = QIODevice::Append)
     {
@@ -72,46 +41,47 @@ protected:
         ASSERT_TRUE(file.open(mode));
         file.write(lines);
         file.close();
-        while (m_model.readMore()) {
+        while (m_reader.readMore()) {
         }
     }
 
     QTemporaryDir m_folder;
     QString m_path;
-    LogModel m_model;
+    LogTable m_model;
+    LogReader m_reader;
 };
 
 const QByteArray info = "[INFO] 2026-03-07 09:05:03 : text\n";
 const QByteArray error = "[ERROR] 2026-03-07 09:05:03 : fault\n";
 
-TEST_F(LogModelTest, GrowsWithTheFile)
+TEST_F(LogTableTest, GrowsWithTheFile)
 {
-    EXPECT_FALSE(m_model.readMore());
+    EXPECT_FALSE(m_reader.readMore());
     write(info);
     EXPECT_EQ(m_model.rowCount(), 1);
     write(error + info);
     EXPECT_EQ(m_model.rowCount(), 3);
-    EXPECT_EQ(m_model.index(1, LogModel::Text).data().toString().toStdString(), "fault");
-    EXPECT_EQ(m_model.index(1, LogModel::Level).data().toString().toStdString(), "Error");
+    EXPECT_EQ(m_model.index(1, textColumn).data().toString().toStdString(), "fault");
+    EXPECT_EQ(m_model.index(1, levelColumn).data().toString().toStdString(), "Error");
 }
 
-TEST_F(LogModelTest, ShowsMarkupInItsToolTipAsItStands)
+TEST_F(LogTableTest, ShowsMarkupInItsToolTipAsItStands)
 {
     write("[INFO] 2026-03-07 09:05:03 : <b>bold</b>\n");
-    const QModelIndex index = m_model.index(0, LogModel::Text);
+    const QModelIndex index = m_model.index(0, textColumn);
     EXPECT_EQ(shownToolTip(index.data(Qt::ToolTipRole).toString()).toStdString(), "<b>bold</b>");
 }
 
-TEST_F(LogModelTest, StartsAnewWithAFileThatBecameShorter)
+TEST_F(LogTableTest, StartsAnewWithAFileThatBecameShorter)
 {
     write(info + info + error);
     write(error, QIODevice::WriteOnly);
     EXPECT_EQ(m_model.rowCount(), 1);
-    EXPECT_EQ(m_model.index(0, LogModel::Text).data().toString().toStdString(), "fault");
+    EXPECT_EQ(m_model.index(0, textColumn).data().toString().toStdString(), "fault");
 }
 
 // A view lays out all it is given, and a tool tip too.
-TEST_F(LogModelTest, ShowsTheBeginningOfALongEntry)
+TEST_F(LogTableTest, ShowsTheBeginningOfALongEntry)
 {
     const QByteArray prefix = "[INFO] 2026-03-07 09:05:03 : ";
     const struct
@@ -129,26 +99,24 @@ TEST_F(LogModelTest, ShowsTheBeginningOfALongEntry)
     for (const auto& row : rows) {
         write(prefix + row.text + '\n', QIODevice::WriteOnly);
         ASSERT_EQ(m_model.rowCount(), 1);
-        const QModelIndex index = m_model.index(0, LogModel::Text);
+        const QModelIndex index = m_model.index(0, textColumn);
         const bool cut = row.text.size() > 1000;
         const QString shown = index.data().toString();
         EXPECT_EQ(shown.size(), row.shown);
         EXPECT_EQ(shown.endsWith(QChar(0x2026)), cut);
         EXPECT_EQ(QString(shown).replace(QChar(0x21B5), '\n'), index.data(Qt::ToolTipRole));
-        EXPECT_TRUE(index.data(LogModel::LineRole).toString() == prefix + row.text);
-        LogFilter filter;
-        filter.setSourceModel(&m_model);
+        EXPECT_TRUE(m_model.record(0).line == prefix + row.text);
+        LogFilter filter(m_model);
         filter.setText("needle");
         EXPECT_EQ(filter.rowCount(), row.text.endsWith("needle") ? 1 : 0);
     }
 }
 
-TEST_F(LogModelTest, FiltersByLevelAndText)
+TEST_F(LogTableTest, FiltersByLevelAndText)
 {
     write("2026-03-07 09:05:01 : === Start logging ===\n[DEBUG] 2026-03-07 09:05:03 : d\n" + info +
           "[WARNING] 2026-03-07 09:05:03 : w\n" + error);
-    LogFilter filter;
-    filter.setSourceModel(&m_model);
+    LogFilter filter(m_model);
     const struct
     {
         Level level;
@@ -179,7 +147,7 @@ protected:
     QString lastLine()
     {
         const QAbstractItemModel* model = table().model();
-        return model->index(model->rowCount() - 1, LogModel::Text).data().toString();
+        return model->index(model->rowCount() - 1, textColumn).data().toString();
     }
 
     QTemporaryDir m_folder;
@@ -189,7 +157,7 @@ protected:
 TEST_F(LogPageTest, ShowsANewLineAtOnce)
 {
     const int before = table().model()->rowCount();
-    logWarning("something new");
+    ApplicationLog::instance().write(Logger::warning, "something new");
     EXPECT_EQ(table().model()->rowCount(), before + 1);
     EXPECT_EQ(lastLine().toStdString(), "something new");
 }
@@ -222,7 +190,7 @@ TEST_F(LogPageTest, FollowsNewLinesOnlyFromTheEnd)
 TEST_F(LogPageTest, FiltersByTheChosenLevel)
 {
     logInfo("harmless");
-    logError("serious");
+    ApplicationLog::instance().write(Logger::error, "serious");
     m_page.findChild<QComboBox*>()->setCurrentIndex(3);
     EXPECT_EQ(lastLine().toStdString(), "serious");
     logInfo("harmless too");
@@ -242,7 +210,7 @@ TEST_F(LogPageTest, FindFiltersByText)
 
 TEST_F(LogPageTest, SavesTheLinesInView)
 {
-    logError("to be saved");
+    ApplicationLog::instance().write(Logger::error, "to be saved");
     m_page.findChild<QLineEdit*>()->setText("to be saved");
     const QString path = m_folder.filePath("saved.log");
     m_page.saveAs(path);
@@ -316,15 +284,6 @@ TEST_F(LogPageTest, SaysThatAFileCannotBeWritten)
     m_page.saveAs(m_folder.filePath("missing/saved.log"));
     EXPECT_TRUE(m_page.statusText().contains("could not be written"))
         << m_page.statusText().toStdString();
-}
-
-TEST(ApplicationLog, LiesBelowTheStateFolder)
-{
-    const QString state = QString::fromLocal8Bit(qgetenv("XDG_STATE_HOME"));
-    EXPECT_TRUE(ApplicationLog::path().startsWith(state + "/"));
-    qputenv("XDG_STATE_HOME", "relative");
-    EXPECT_TRUE(ApplicationLog::path().contains("/.local/state/"));
-    qputenv("XDG_STATE_HOME", state.toLocal8Bit());
 }
 
 } // namespace

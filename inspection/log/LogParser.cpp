@@ -1,4 +1,4 @@
-#include "inspection/log/LogLines.h"
+#include "inspection/log/LogParser.h"
 
 namespace {
 
@@ -29,8 +29,8 @@ bool isTime(const QByteArray& text)
     return true;
 }
 
-// False for a line that no logger has begun.
-bool parse(const QByteArray& line, LogEntry& entry)
+// Returns false for a line that no logger has begun.
+bool parseLine(const QByteArray& line, LogEntry& entry)
 {
     QByteArray rest = line;
     for (const Prefix& prefix : prefixes) {
@@ -48,38 +48,34 @@ bool parse(const QByteArray& line, LogEntry& entry)
 
 } // namespace
 
-void LogLines::add(const QByteArray& bytes)
+LogPiece LogParser::parse(const QByteArray& bytes)
 {
+    LogPiece piece;
     m_rest += bytes;
     int start = 0;
     for (int end = m_rest.indexOf('\n'); end >= 0; end = m_rest.indexOf('\n', start)) {
-        addLine(m_rest.mid(start, end - start));
+        addLine(m_rest.mid(start, end - start), piece);
         start = end + 1;
     }
     m_rest.remove(0, start);
-}
-
-void LogLines::clear()
-{
-    m_rest.clear();
-    m_entries.clear();
+    return piece;
 }
 
 // The line that ends a run has a carriage return before its line end.
-void LogLines::addLine(const QByteArray& line)
+void LogParser::addLine(const QByteArray& line, LogPiece& piece)
 {
-    QByteArray text = line;
-    if (text.endsWith('\r'))
-        text.chop(1);
+    const QByteArray text = line.endsWith('\r') ? line.chopped(1) : line;
     LogEntry entry;
-    const bool begins = parse(text, entry);
+    const bool begins = parseLine(text, entry);
     entry.line = QString::fromUtf8(text);
-    if (begins || m_entries.empty()) {
+    if (begins || !m_hasEntry) {
         if (!begins)
             entry.text = entry.line;
-        m_entries.push_back(entry);
-        return;
+        piece.entries.push_back(entry);
+        m_hasEntry = true;
+    } else if (piece.entries.empty()) {
+        piece.continuation += u'\n' + entry.line;
+    } else {
+        piece.entries.back().append(u'\n' + entry.line);
     }
-    m_entries.back().text += QLatin1Char('\n') + entry.line;
-    m_entries.back().line += QLatin1Char('\n') + entry.line;
 }

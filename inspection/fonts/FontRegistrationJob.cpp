@@ -1,4 +1,4 @@
-#include "inspection/fonts/SystemFonts.h"
+#include "inspection/fonts/FontRegistrationJob.h"
 
 #include "inspection/fonts/CharacterSets.h"
 
@@ -12,7 +12,7 @@ struct Weight
     int windows;
 };
 
-// Where the weights of a font database, 0 to 99, meet those of records.
+// Each row is one weight, as a font database counts it (0 to 99) and as a record does.
 constexpr Weight weights[] = {
     {QFont::Thin, 100},   {QFont::ExtraLight, 200}, {QFont::Light, 300},
     {QFont::Normal, 400}, {QFont::Medium, 500},     {QFont::DemiBold, 600},
@@ -31,9 +31,9 @@ int windowsWeight(int weight)
 
 } // namespace
 
-SystemFonts::SystemFonts() : m_families(m_database.families()) {}
+FontRegistrationJob::FontRegistrationJob() : m_families(m_database.families()) {}
 
-bool SystemFonts::registerNext()
+bool FontRegistrationJob::step()
 {
     if (m_families.isEmpty())
         return false;
@@ -45,8 +45,30 @@ bool SystemFonts::registerNext()
     return !m_families.isEmpty();
 }
 
+QString FontRegistrationJob::progress() const
+{
+    return tr("%L1 families left").arg(m_families.size());
+}
+
+QString FontRegistrationJob::summary() const
+{
+    if (m_registeredFamilies == 0)
+        return tr("All families were registered before.");
+    return tr("Registered: %L1 records of %L2 families.")
+        .arg(m_registeredRecords)
+        .arg(m_registeredFamilies);
+}
+
+QString FontRegistrationJob::omissions() const
+{
+    if (m_tooLong.isEmpty())
+        return {};
+    return tr("Left out, because their names do not fit a record: %1.")
+        .arg(m_tooLong.join(QStringLiteral(", ")));
+}
+
 // The system tells one name only: it is the global and the local one.
-void SystemFonts::registerFamily(const QString& family)
+void FontRegistrationJob::registerFamily(const QString& family)
 {
     const std::vector<BYTE> sets = charSets(family);
     const QStringList styles = m_database.styles(family);
@@ -65,7 +87,7 @@ void SystemFonts::registerFamily(const QString& family)
     ++m_registeredFamilies;
 }
 
-std::vector<BYTE> SystemFonts::charSets(const QString& family) const
+std::vector<BYTE> FontRegistrationJob::charSets(const QString& family) const
 {
     std::vector<BYTE> sets;
     const auto systems = m_database.writingSystems(family);

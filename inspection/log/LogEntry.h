@@ -2,14 +2,15 @@
 
 #include "app/Logger.h"
 
-#include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
-
-#include <vector>
 
 /// One entry of a log file.
 struct LogEntry
 {
+    Q_DECLARE_TR_FUNCTIONS(LogEntry)
+
+public:
     /// The lines that mark the start and the end of a run have none.
     enum class Level
     {
@@ -24,22 +25,15 @@ struct LogEntry
     QString time; ///< as written; empty for a line that does not come from a logger
     QString text; ///< with its line ends
     QString line; ///< the entry as it stands in the file, without the line end that closes it
-};
 
-/// Takes a log file apart, piece by piece as it grows. A line that does not begin as the logger
-/// begins one belongs to the entry before it.
-class LogLines
-{
-public:
-    /// Takes the next bytes of the file; a line counts once its end has come.
-    void add(const QByteArray& bytes);
+    /// Appends further lines, each with a line feed in front of it.
+    void append(const QString& lines);
 
-    const std::vector<LogEntry>& entries() const { return m_entries; }
-    void clear();
-
-private:
-    void addLine(const QByteArray& line);
-
-    QByteArray m_rest;
-    std::vector<LogEntry> m_entries;
+    /// The level in words; empty where there is none.
+    QString levelName() const;
+    /// What there is room for of the text: 1,000 characters at most. A text of some megabytes would
+    /// stall whoever lays it out.
+    QString beginning() const;
+    /// The same with a sign in place of each line end.
+    QString beginningInOneLine() const;
 };

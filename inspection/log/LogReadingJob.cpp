@@ -1,0 +1,8 @@
+#include "inspection/log/LogReadingJob.h"
+
+#include <QLocale>
+
+QString LogReadingJob::progress() const
+{
+    return QLocale().toString(m_reader.entries());
+}

@@ -1,0 +1,44 @@
+#include "pages/log/LogTable.h"
+
+#include "window/GlyphIcon.h"
+
+#include <utility>
+
+namespace {
+
+QVariant textLook(const LogEntry& entry, int role)
+{
+    return role == Qt::ToolTipRole ? plainToolTip(entry.beginning()) : QVariant();
+}
+
+QVariant levelLook(const LogEntry& entry, int role)
+{
+    if (role != Qt::DecorationRole)
+        return textLook(entry, role);
+    switch (entry.level) {
+    case LogEntry::Level::Warning: return glyphIcon(Glyph::Warning);
+    case LogEntry::Level::Error: return glyphIcon(Glyph::Error);
+    default: return {};
+    }
+}
+
+} // namespace
+
+LogTable::LogTable(QObject* parent) : RecordsModel(columns(), parent) {}
+
+std::vector<LogTable::Column> LogTable::columns()
+{
+    return {{tr("Time"), [](const LogEntry& entry) { return entry.time; }, textLook},
+            {tr("Level"), [](const LogEntry& entry) { return entry.levelName(); }, levelLook},
+            {tr("Message"), [](const LogEntry& entry) { return entry.beginningInOneLine(); },
+             textLook}};
+}
+
+void LogTable::add(LogPiece piece)
+{
+    if (piece.startsAnew)
+        setRecords({});
+    if (!piece.continuation.isEmpty())
+        update(rowCount() - 1, [&piece](LogEntry& last) { last.append(piece.continuation); });
+    append(std::move(piece.entries));
+}
