@@ -25,9 +25,6 @@ class PageTextsTest : public testing::TestWithParam<Row>
 protected:
     void SetUp() override
     {
-        QFont font = QApplication::font();
-        font.setPointSize(9);
-        QApplication::setFont(font);
         if (qstrcmp(GetParam().language, "zh") == 0) {
             initResources();
             ASSERT_TRUE(m_translator.load(":/translator/kdlm_zh.qm"));
@@ -50,6 +47,7 @@ protected:
 
     void expectTextsFit();
 
+    SmallFont m_font;
     QTranslator m_translator;
     std::unique_ptr<MainWindow> m_window;
 };

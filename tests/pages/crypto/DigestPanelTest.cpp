@@ -16,7 +16,7 @@
 
 namespace {
 
-class DigestPanelTest : public PageTest
+class DigestPanelTest : public PageFixture
 {
 protected:
     void SetUp() override
