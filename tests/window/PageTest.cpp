@@ -376,7 +376,7 @@ INSTANTIATE_TEST_SUITE_P(GlyphIcon, EveryGlyph,
 TEST(GlyphIcon, FollowsThePalette)
 {
     const QPalette before = QApplication::palette();
-    const QIcon icon = glyphIcon(Glyph::Log);
+    const QIcon icon = glyphIcon(Glyph::Text);
     const QImage light = icon.pixmap(24, 24).toImage();
     QPalette dark = before;
     dark.setColor(QPalette::WindowText, Qt::white);
