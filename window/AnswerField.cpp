@@ -30,7 +30,7 @@ void AnswerField::changeEvent(QEvent* event)
         takeColors();
 }
 
-// As a label looks: what can be typed into stands out by its own colour.
+// The field looks like a label: only what can be typed into has a ground of another colour.
 void AnswerField::takeColors()
 {
     QPalette colors = palette();

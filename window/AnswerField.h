@@ -8,7 +8,7 @@ class AnswerField : public QLineEdit
     Q_OBJECT
 
 public:
-    /// `name` is the accessible name, and the object name is for finding the field.
+    /// `name` is the accessible name. Tests find the field by its object name.
     AnswerField(const QString& name, const QString& objectName, QWidget* parent = nullptr);
 
     /// Shows `text` from its beginning, and as the tool tip. The same text changes nothing.

@@ -98,7 +98,8 @@ void BusyOverlay::takePicture()
         setPicture(m_content->grab());
 }
 
-// Whatever lies below an opaque widget is left alone by the repaints of those above.
+// With a picture the overlay is opaque, so that Qt does not paint the page below it at each step of
+// the wheel.
 void BusyOverlay::setPicture(const QPixmap& picture)
 {
     m_picture = picture;

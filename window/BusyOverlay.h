@@ -13,8 +13,9 @@ class QPushButton;
 /// and a button (Escape) that cancels.
 ///
 /// It shows a picture of the page, so that the page is not painted again at every step of the
-/// wheel. With the progress the picture is taken anew twice a second, so that what the page fills
-/// in meanwhile is seen. A page that changes its size or its looks shows through until then.
+/// wheel. While progress is told, a new picture is taken twice a second, so that what the page
+/// fills in meanwhile is seen. When the page changes its size or its looks, the picture is dropped,
+/// and the page itself shows through until the next one.
 class BusyOverlay : public QWidget
 {
     Q_OBJECT
@@ -25,6 +26,7 @@ public:
 
     /// Shows itself over the page and takes the keyboard focus.
     void cover(const QString& title);
+    /// Shows how far the job has come, below the title.
     void setProgress(const QString& text);
     /// Hides itself.
     void uncover();
@@ -32,6 +34,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    /// The user has pressed Cancel or Escape. The overlay stays until `uncover`.
     void cancelRequested();
 
 protected:

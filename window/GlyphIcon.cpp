@@ -26,12 +26,12 @@ GlyphColors colors(QIcon::Mode mode)
 class GlyphEngine : public QIconEngine
 {
 public:
-    explicit GlyphEngine(Glyph glyph) : m_glyph(glyph) {}
+    explicit GlyphEngine(GlyphDrawing drawing) : m_drawing(drawing) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
                QIcon::State /*state*/) override
     {
-        paintGlyph(*painter, rect, m_glyph, colors(mode));
+        paintGlyph(*painter, rect, m_drawing, colors(mode));
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
@@ -53,24 +53,29 @@ public:
     QIconEngine* clone() const override { return new GlyphEngine(*this); }
 
 private:
-    // The colours are part of it: they change with the palette.
+    // The colours are part of the key, because they change with the palette.
     QString cacheKey(const QSize& size, QIcon::Mode mode) const
     {
         const GlyphColors in = colors(mode);
         return QStringLiteral("quayside-glyph-%1-%2x%3-%4-%5")
-            .arg(static_cast<int>(m_glyph))
+            .arg(reinterpret_cast<quintptr>(m_drawing))
             .arg(size.width())
             .arg(size.height())
             .arg(in.line.rgba(), 0, 16)
             .arg(in.accent.rgba(), 0, 16);
     }
 
-    Glyph m_glyph;
+    GlyphDrawing m_drawing;
 };
 
 } // namespace
 
+QIcon glyphIcon(GlyphDrawing drawing)
+{
+    return QIcon(new GlyphEngine(drawing));
+}
+
 QIcon glyphIcon(Glyph glyph)
 {
-    return QIcon(new GlyphEngine(glyph));
+    return glyphIcon(glyphDrawing(glyph));
 }

@@ -1,18 +1,12 @@
 #pragma once
 
+#include "window/GlyphCanvas.h"
+
 #include <QIcon>
 
-/// The window's own drawings.
+/// The signs that pages share. The glyph of a page itself stands beside the page.
 enum class Glyph
 {
-    Registry,
-    Profiles,
-    Files,
-    Fonts,
-    Displays,
-    Input,
-    Crypto,
-    Log,
     Key,
     Text,
     Number,
@@ -23,4 +17,5 @@ enum class Glyph
 
 /// An icon that is painted at every size and in the application palette of the moment, so that it
 /// is crisp on any screen and follows a change between light and dark.
+QIcon glyphIcon(GlyphDrawing drawing);
 QIcon glyphIcon(Glyph glyph);

@@ -2,17 +2,13 @@
 
 #include "window/GlyphIcon.h"
 
-#include <QColor>
-
 class QPainter;
 class QRect;
 
-struct GlyphColors
-{
-    QColor line;
-    /// Fills and details.
-    QColor accent;
-};
+/// What draws a sign that pages share.
+GlyphDrawing glyphDrawing(Glyph glyph);
 
-/// Paints a glyph as large as fits into the middle of `rect`.
-void paintGlyph(QPainter& painter, const QRect& rect, Glyph glyph, const GlyphColors& colors);
+/// Paints a glyph as large as fits into the middle of `rect`, and leaves the painter's state as it
+/// was.
+void paintGlyph(QPainter& painter, const QRect& rect, GlyphDrawing drawing,
+                const GlyphColors& colors);

@@ -10,7 +10,7 @@ class PageRail;
 class PageStack;
 
 /// The application's window: a rail of buttons, the pages, and a status line. Construct it after
-/// the translators are installed. It holds nothing that takes time: pages are made on their first
+/// the translators are installed. That takes little time, because a page is made on its first
 /// visit.
 class MainWindow : public QWidget
 {
@@ -19,8 +19,8 @@ class MainWindow : public QWidget
 public:
     explicit MainWindow(QWidget* parent = nullptr);
 
-    /// Opens on the page of this name ("registry", "profiles", ...), without sliding. An unknown
-    /// name changes nothing. Call it before the window is shown.
+    /// Opens on the page of this name, without sliding. Each page has one, such as "registry"; an
+    /// unknown name changes nothing. Call it before the window is shown.
     void showPage(const QString& name);
 
     /// The page in view; null until it has been made.

@@ -13,14 +13,18 @@ class QVBoxLayout;
 /// A page of the main window.
 ///
 /// How to add one:
-///  1. Derive from Page in a folder of its own, `app/pages/<name>/`, and list the sources in
-///     `app/pages/CMakeLists.txt`.
-///  2. Put its class into the table in `app/pages/PageCatalogue.cpp`: `&made<YourPage>`. That is
-///     all that the window needs; it makes the page on the first visit, as a child of its place in
-///     the stack.
+///  1. Derive from Page in a folder of its own, `pages/<name>/`, beside a function that draws the
+///     page's glyph.
+///  2. Add a row to the table of `pages/PageCatalogue.cpp`: the page's name, its title with a
+///  letter
+///     for Alt that no other title has, its glyph and its class. That is all that the window needs:
+///     the rail, the shortcuts, the option "/page", the pictures and the tests of all pages follow
+///     the catalogue. The window makes the page on the first visit, as a child of its place in the
+///     stack.
 ///  3. In the constructor build the widgets into `body()`, set a focus proxy (`setFocusProxy`) to
 ///     the control that gets the keyboard when the page is opened, give every control an accessible
 ///     name, and install `g_buttonMonitor` on every push button (`glowing` does it).
+///  4. Translate its title and its texts in `resources/translator/`.
 ///
 /// What a page keeps to:
 ///  - Everything that it shows comes through `g_PlatformServices`, so that it shows what a host
@@ -28,7 +32,7 @@ class QVBoxLayout;
 ///  - Nothing takes longer than 30 ms at a time. What may, is a job: see PageContext.
 ///  - F5 calls `refresh`, Ctrl+F calls `find`, both only while no job runs. F2 and Delete belong to
 ///    the page's own actions (QAction, Qt::WidgetWithChildrenShortcut, added to the view).
-///  - The letters R P F O D I C L after Alt choose pages; do not use them as mnemonics.
+///  - The mnemonics of the catalogue's titles choose pages: its own controls use other letters.
 ///  - Sizes come from the font (QFontMetrics, style metrics), colours from the palette, and every
 ///    text through tr(). A page must fit 640 x 520 pixels with a 9 point font.
 ///  - What happened, and what was refused and why, is told with `report`.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/GlyphIcon.h"
+#include "window/GlyphCanvas.h"
 
 #include <QString>
 
@@ -14,9 +14,9 @@ struct PageEntry
 {
     /// The value of the option "/page".
     QString name;
-    /// Translated, with its mnemonic.
+    /// Translated. The letter that chooses the page together with Alt is its mnemonic.
     QString title;
-    Glyph glyph;
+    GlyphDrawing glyph;
     /// Makes the page; `parent` owns it.
     Page* (*create)(QWidget* parent);
 };

@@ -29,16 +29,17 @@ public:
 
     /// Runs a job. The page is covered with `title` ("Searching"), the job's progress and a Cancel
     /// button, unless the job ends within its first slice. One job at a time: a further one is
-    /// dropped. `finished` is called once at the end, when the page is usable again, with
-    /// `complete` false after Cancel; it is not called when the page is destroyed before.
-    template <typename J>
-    void startJob(const QString& title, std::unique_ptr<J> job,
-                  std::function<void(J& job, bool complete)> finished)
+    /// dropped. `finished(J& job, bool complete)` is called once at the end, when the page is
+    /// usable again, with `complete` false after Cancel; the job is destroyed behind it. When the
+    /// page is destroyed before the end, it is not called.
+    template <typename J, typename Finished>
+    void startJob(const QString& title, std::unique_ptr<J> job, Finished finished)
     {
         J& reference = *job;
-        run(title, std::move(job), [&reference, finished = std::move(finished)](bool complete) {
-            finished(reference, complete);
-        });
+        run(title, std::move(job),
+            [&reference, finished = std::move(finished)](bool complete) mutable {
+                finished(reference, complete);
+            });
     }
 
 protected:

@@ -1,6 +1,7 @@
 #include "window/PageRail.h"
 
 #include "widgets/ButtonMonitor.h"
+#include "window/GlyphIcon.h"
 #include "window/RailButton.h"
 #include "window/ShownText.h"
 

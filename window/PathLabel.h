@@ -17,7 +17,7 @@ public:
 
     explicit PathLabel(const QString& path, Form form = WholePath, QWidget* parent = nullptr);
 
-    /// What the line holds.
+    /// What the line shows where it is wide enough.
     QString text() const { return m_text; }
     /// What an assistive tool reads out before the path.
     void setCaption(const QString& caption);

@@ -7,13 +7,14 @@
 
 namespace {
 
-constexpr int longest = 48; // characters: of the widest, as many as fit 640 pixels at 9 points
+// In characters: so many of the widest fit 640 pixels in a font of 9 points.
+constexpr int longestWord = 48;
 constexpr int shownOfStart = 30;
-constexpr int shownOfEnd = longest - shownOfStart - 1;
+constexpr int shownOfEnd = longestWord - shownOfStart - 1;
 
 QString shortened(const QString& word)
 {
-    if (word.size() <= longest)
+    if (word.size() <= longestWord)
         return word;
     return word.left(shownOfStart) + QChar(u'\u2026') + word.right(shownOfEnd);
 }
@@ -44,7 +45,7 @@ QString withoutMnemonic(const QString& caption)
 
 QString withoutLongWords(const QString& text)
 {
-    if (text.size() <= longest)
+    if (text.size() <= longestWord)
         return text;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
     QString result;

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-// A pane has a colour of its own, which on a dark page looks like an island.
+// In document mode tabs have no pane: its colour looks like an island on a dark page.
 void arrangeTabs(QTabWidget& tabs)
 {
     tabs.setDocumentMode(true);
@@ -55,7 +55,7 @@ void fitColumnsToContents(QTableView& table)
 ColumnBalancer::ColumnBalancer(QTableView* table, int column, const QString& sample)
     : QObject(table), m_table(table), m_column(column), m_least(sampleWidth(*table, sample))
 {
-    // The least that the last column is stretched from.
+    // The last column takes what is left, but never less than this.
     table->setColumnWidth(table->model()->columnCount() - 1, table->fontMetrics().height() * 4);
     table->viewport()->installEventFilter(this);
     connect(table->horizontalHeader(), &QHeaderView::sectionResized, this, &ColumnBalancer::follow);

@@ -3,6 +3,7 @@
 #include "inspection/registry/RedirectedName.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
+#include "pages/registry/RegistryGlyph.h"
 #include "window/GlyphIcon.h"
 
 #include <QFont>
@@ -41,11 +42,11 @@ struct RegistryTreeModel::Node
     {
         return parent && std::binary_search(parent->created.cbegin(), parent->created.cend(), name);
     }
-    Glyph glyph() const
+    QIcon icon() const
     {
         if (!parent)
-            return Glyph::Registry;
-        return isOpenedElsewhere(path()) ? Glyph::Warning : Glyph::Key;
+            return glyphIcon(&drawRegistryGlyph);
+        return glyphIcon(isOpenedElsewhere(path()) ? Glyph::Warning : Glyph::Key);
     }
     void insert(int at, const QString& childName)
     {
@@ -182,7 +183,7 @@ QVariant RegistryTreeModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole: return item.parent ? item.name : tr("All root keys");
-    case Qt::DecorationRole: return glyphIcon(item.glyph());
+    case Qt::DecorationRole: return item.icon();
     case Qt::ToolTipRole: return toolTip(item);
     case Qt::FontRole: {
         QFont font;

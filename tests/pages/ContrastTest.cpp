@@ -1,3 +1,4 @@
+#include "tests/pages/PageNames.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"
 #include "tools/pictures/Look.h"
@@ -60,7 +61,7 @@ QString shownText(const QWidget& widget)
     return button ? button->text() : QString();
 }
 
-class Contrast : public testing::TestWithParam<std::tuple<const char*, const char*>>
+class Contrast : public testing::TestWithParam<std::tuple<std::string, const char*>>
 {
 protected:
     Contrast()
@@ -123,12 +124,10 @@ TEST_P(Contrast, LetsEveryTextBeRead)
 }
 
 INSTANTIATE_TEST_SUITE_P(Pages, Contrast,
-                         testing::Combine(testing::Values("registry", "profiles", "files", "fonts",
-                                                          "displays", "input", "crypto", "log"),
+                         testing::Combine(testing::ValuesIn(pageNames()),
                                           testing::Values("light", "dark")),
                          [](const auto& row) {
-                             return std::string(std::get<0>(row.param)) + "_" +
-                                    std::get<1>(row.param);
+                             return std::get<0>(row.param) + "_" + std::get<1>(row.param);
                          });
 
 } // namespace

@@ -49,7 +49,7 @@ QStringList moveTo(const QPoint& point)
 }
 
 // A real pointer carries a file from a window of its own into the application's.
-class DragAndDrop : public PageTest
+class DragAndDrop : public PageFixture
 {
 protected:
     void openActive(const QString& name)

@@ -13,7 +13,7 @@
 namespace {
 
 // The main task of a page, done with real keys and nothing else.
-class KeyboardOnly : public PageTest
+class KeyboardOnly : public PageFixture
 {
 protected:
     void openActive(const QString& name)

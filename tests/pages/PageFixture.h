@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/pages/SmallFont.h"
 #include "window/MainWindow.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
@@ -13,7 +14,7 @@
 #include <gtest/gtest.h>
 
 /// Drives a page of the real window. Controls are found by what an assistive tool reads out.
-class PageTest : public testing::Test
+class PageFixture : public testing::Test
 {
 protected:
     void open(const QString& name)
@@ -62,17 +63,6 @@ protected:
     {
         ASSERT_TRUE(QTest::qWaitFor([this] { return !page()->isBusy(); }, 300000));
     }
-
-    /// The size that pages are laid out for; the offscreen platform's own is larger.
-    struct SmallFont
-    {
-        SmallFont()
-        {
-            QFont font = QApplication::font();
-            font.setPointSize(9);
-            QApplication::setFont(font);
-        }
-    };
 
     SmallFont m_font;
     MainWindow m_window;

@@ -1,3 +1,4 @@
+#include "tests/pages/PageNames.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"
 
@@ -7,7 +8,7 @@
 
 namespace {
 
-class PageLayoutTest : public testing::TestWithParam<const char*>
+class PageLayoutTest : public testing::TestWithParam<std::string>
 {
     SmallFont m_font;
 };
@@ -38,9 +39,7 @@ TEST_P(PageLayoutTest, LetsTheKeyboardReachEveryControl)
     EXPECT_EQ(probe.unreachable().join(QLatin1String(" | ")).toStdString(), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, PageLayoutTest,
-                         testing::Values("registry", "profiles", "files", "fonts", "displays",
-                                         "input", "crypto", "log"),
-                         [](const auto& page) { return std::string(page.param); });
+INSTANTIATE_TEST_SUITE_P(Pages, PageLayoutTest, testing::ValuesIn(pageNames()),
+                         [](const auto& page) { return page.param; });
 
 } // namespace

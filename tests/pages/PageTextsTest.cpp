@@ -1,4 +1,6 @@
 #include "tests/pages/PageFixture.h"
+#include "tests/pages/PageNames.h"
+#include "tests/pages/WindowProbe.h"
 
 #include <QLabel>
 #include <QTabWidget>
@@ -16,25 +18,32 @@ namespace {
 
 struct Row
 {
-    const char* page;
-    const char* language;
+    std::string page;
+    std::string language;
 };
+
+std::vector<Row> rows()
+{
+    std::vector<Row> all;
+    for (const std::string& page : pageNames()) {
+        all.push_back({page, "en"});
+        all.push_back({page, "zh"});
+    }
+    return all;
+}
 
 class PageTextsTest : public testing::TestWithParam<Row>
 {
 protected:
     void SetUp() override
     {
-        QFont font = QApplication::font();
-        font.setPointSize(9);
-        QApplication::setFont(font);
-        if (qstrcmp(GetParam().language, "zh") == 0) {
+        if (GetParam().language == "zh") {
             initResources();
             ASSERT_TRUE(m_translator.load(":/translator/kdlm_zh.qm"));
             QApplication::installTranslator(&m_translator);
         }
         m_window = std::make_unique<MainWindow>();
-        m_window->showPage(GetParam().page);
+        m_window->showPage(QString::fromStdString(GetParam().page));
         m_window->resize(800, 600);
         m_window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
@@ -50,6 +59,7 @@ protected:
 
     void expectTextsFit();
 
+    SmallFont m_font;
     QTranslator m_translator;
     std::unique_ptr<MainWindow> m_window;
 };
@@ -129,12 +139,14 @@ TEST(PageTexts, NullIsNotTranslated)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, PageTextsTest,
-                         testing::Values(Row{"displays", "en"}, Row{"displays", "zh"},
-                                         Row{"input", "en"}, Row{"input", "zh"},
-                                         Row{"crypto", "en"}, Row{"crypto", "zh"}),
-                         [](const auto& row) {
-                             return std::string(row.param.page) + "_" + row.param.language;
-                         });
+// The captions of a page are read out without mnemonic and colon.
+TEST(PageTexts, NameTheFieldsOfAProfileInChinese)
+{
+    const WindowProbe probe("profiles", WindowProbe::Language::Chinese);
+    EXPECT_EQ(probe.control<QLineEdit>("section").accessibleName(), QStringLiteral("节"));
+}
+
+INSTANTIATE_TEST_SUITE_P(, PageTextsTest, testing::ValuesIn(rows()),
+                         [](const auto& row) { return row.param.page + "_" + row.param.language; });
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "pages/registry/FindPane.h"
 #include "tests/inspection/registry/RegistryTest.h"
+#include "tests/window/EndlessJob.h"
 #include "window/MainWindow.h"
 #include "window/Page.h"
 
@@ -28,13 +29,8 @@ protected:
     bool findIsOpen() { return m_window.currentPage()->findChild<FindPane*>()->isVisible(); }
     void startEndlessJob()
     {
-        m_window.currentPage()->startJob({"Endless",
-                                          [] {
-                                              QTest::qSleep(1);
-                                              return true;
-                                          },
-                                          {},
-                                          {}});
+        m_window.currentPage()->startJob("Endless", std::make_unique<EndlessJob>(),
+                                         [](EndlessJob&, bool) {});
         ASSERT_TRUE(m_window.currentPage()->isBusy());
     }
     void pressF5() { QTest::keyClick(&m_window, Qt::Key_F5); }

@@ -1,3 +1,5 @@
+#include "tests/pages/SmallFont.h"
+
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/MainWindow.h"
@@ -42,10 +44,6 @@ class TextsOfAPage : public testing::TestWithParam<Row>
 protected:
     TextsOfAPage()
     {
-        // The font that the pages are laid out for.
-        QFont font = QApplication::font();
-        font.setPointSize(9);
-        QApplication::setFont(font);
         setPlatformServices(&g_PlatformServices);
         initResources();
         if (qstrcmp(GetParam().language, "zh") != 0)
@@ -63,6 +61,7 @@ protected:
                (label.wordWrap() || label.width() >= label.sizeHint().width());
     }
 
+    SmallFont m_font;
     QTranslator m_translator;
 };
 

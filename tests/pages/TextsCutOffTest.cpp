@@ -1,7 +1,9 @@
 #include "tests/inspection/profiles/ProfileFixture.h"
 #include "tests/pages/CutTexts.h"
+#include "tests/pages/PageNames.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/window/EndlessJob.h"
 
 #include "inspection/profiles/NarrowRewriting.h"
 #include "inspection/profiles/ProfileLoadingJob.h"
@@ -28,8 +30,8 @@ using Language = WindowProbe::Language;
 /// Something that the window shows: its page, then what is done with it, which may bring a dialog.
 struct Scene
 {
-    const char* name;
-    const char* page;
+    std::string name;
+    std::string page;
     std::unique_ptr<QWidget> (*show)(const WindowProbe& probe);
 };
 
@@ -43,38 +45,19 @@ std::unique_ptr<QWidget> nothing(const WindowProbe& /*probe*/)
     return nullptr;
 }
 
-template <int Tab>
-std::unique_ptr<QWidget> tab(const WindowProbe& probe)
-{
-    probe.page().findChild<QTabWidget*>()->setCurrentIndex(Tab);
-    return nullptr;
-}
-
 std::unique_ptr<QWidget> find(const WindowProbe& probe)
 {
     probe.page().find();
     return nullptr;
 }
 
-class EndlessJob : public Job
-{
-public:
-    bool step() override
-    {
-        QTest::qSleep(1);
-        return true;
-    }
-    QString progress() const override
-    {
-        return QCoreApplication::translate("FontRegistrationJob", "%L1 families left").arg(1234567);
-    }
-};
-
 std::unique_ptr<QWidget> job(const WindowProbe& probe)
 {
-    probe.page().startJob<EndlessJob>(
+    probe.page().startJob(
         QCoreApplication::translate("FontsPage", "Registering the system's fonts"),
-        std::make_unique<EndlessJob>(), [](EndlessJob&, bool) {});
+        std::make_unique<EndlessJob>(
+            QCoreApplication::translate("FontRegistrationJob", "%L1 families left").arg(1234567)),
+        [](EndlessJob&, bool) {});
     return nullptr;
 }
 
@@ -137,28 +120,8 @@ std::unique_ptr<QWidget> lostLines(const WindowProbe& probe)
     return std::make_unique<LostLinesDialog>(loading.document(), Family, changes, &probe.page());
 }
 
-const Scene scenes[] = {
-    {"Registry", "registry", nothing},
-    {"Profiles", "profiles", nothing},
-    {"Files", "files", nothing},
-    {"Fonts", "fonts", nothing},
-    {"Displays", "displays", nothing},
-    {"Input", "input", nothing},
-    {"Log", "log", nothing},
-    {"Cipher", "crypto", tab<0>},
-    {"Digests", "crypto", tab<1>},
-    {"Base64", "crypto", tab<2>},
-    {"Find", "registry", find},
-    {"JobOnRegistry", "registry", job},
-    {"JobOnLog", "log", job},
-    {"ReportOnRegistry", "registry", report},
-    {"ReportOnProfiles", "profiles", report},
-    {"ReportOnFiles", "files", report},
-    {"ReportOnFonts", "fonts", report},
-    {"ReportOnDisplays", "displays", report},
-    {"ReportOnInput", "input", reportOnInput},
-    {"ReportOnCrypto", "crypto", report},
-    {"ReportOnLog", "log", report},
+// What single pages show besides.
+const Scene dialogs[] = {
     {"StringDialog", "registry", value<REG_SZ>},
     {"NumberDialog", "registry", value<REG_DWORD>},
     {"LargeNumberDialog", "registry", value<REG_QWORD>},
@@ -168,6 +131,18 @@ const Scene scenes[] = {
     {"LostLinesNarrow", "profiles", lostLines<ProfileFamily::Narrow>},
     {"LostLinesWide", "profiles", lostLines<ProfileFamily::Wide>},
 };
+
+std::vector<Scene> scenes()
+{
+    std::vector<Scene> all(std::begin(dialogs), std::end(dialogs));
+    for (const std::string& page : pageNames()) {
+        all.push_back({"Page_" + page, page, nothing});
+        all.push_back({"Find_" + page, page, find});
+        all.push_back({"Job_" + page, page, job});
+        all.push_back({"Report_" + page, page, page == "input" ? reportOnInput : report});
+    }
+    return all;
+}
 
 class TextsOfAScene : public testing::TestWithParam<std::tuple<Scene, Language>>
 {
@@ -182,19 +157,24 @@ TEST_P(TextsOfAScene, AreNotCutOffInASmallWindow)
     QWidget* root = dialog ? dialog.get() : probe.page().window();
     root->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(root));
-    // What has just got its text is laid out at the next turns of the event loop.
-    EXPECT_TRUE(QTest::qWaitFor([root] { return cutTexts(*root).isEmpty(); }, 1000))
-        << cutTexts(*root).join(QLatin1String(" | ")).toStdString();
+    auto* tabs = root->findChild<QTabWidget*>();
+    for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+        if (tabs)
+            tabs->setCurrentIndex(tab);
+        // What has just got its text is laid out at the next turns of the event loop.
+        EXPECT_TRUE(QTest::qWaitFor([root] { return cutTexts(*root).isEmpty(); }, 1000))
+            << cutTexts(*root).join(QLatin1String(" | ")).toStdString();
+    }
     EXPECT_LE(root->width(), 800);
     EXPECT_LE(root->height(), 600);
     probe.page().cancelJob();
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenes, TextsOfAScene,
-                         testing::Combine(testing::ValuesIn(scenes),
+                         testing::Combine(testing::ValuesIn(scenes()),
                                           testing::Values(Language::English, Language::Chinese)),
                          [](const auto& row) {
-                             return std::string(std::get<0>(row.param).name) +
+                             return std::get<0>(row.param).name +
                                     (std::get<1>(row.param) == Language::English ? "English"
                                                                                  : "Chinese");
                          });

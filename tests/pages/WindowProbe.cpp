@@ -52,9 +52,10 @@ QString shownText(const QWidget& widget)
 
 } // namespace
 
-WindowProbe::WindowProbe(const char* page, Language language) : m_translator(installed(language))
+WindowProbe::WindowProbe(const std::string& page, Language language)
+    : m_translator(installed(language))
 {
-    m_window.showPage(QLatin1String(page));
+    m_window.showPage(QString::fromStdString(page));
     m_window.resize(800, 600);
     m_window.show();
     QApplication::setActiveWindow(&m_window);

@@ -6,6 +6,7 @@
 #include <QTranslator>
 
 #include <memory>
+#include <string>
 
 /// The real window, opened on one page as large as the smallest supported screen.
 class WindowProbe
@@ -17,7 +18,7 @@ public:
         Chinese
     };
 
-    explicit WindowProbe(const char* page, Language language = Language::English);
+    explicit WindowProbe(const std::string& page, Language language = Language::English);
     ~WindowProbe();
 
     WindowProbe(const WindowProbe&) = delete;

@@ -3,18 +3,14 @@
 #include "app/ApplicationLog.h"
 #include "widgets/QProgressIndicator.h"
 #include "window/BusyOverlay.h"
-#include "window/EmptyHint.h"
-#include "window/GlyphIcon.h"
 
 #include <QAccessible>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
 #include <QPushButton>
-#include <QStringListModel>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <private/qguiapplication_p.h>
@@ -45,6 +41,30 @@ public:
     }
 };
 
+// A job of so many steps of one millisecond. It counts what it has done, and how many such jobs
+// there are.
+class CountingJob : public Job
+{
+public:
+    CountingJob(int steps, int& done, int& alive) : m_steps(steps), m_done(done), m_alive(alive)
+    {
+        ++m_alive;
+    }
+    ~CountingJob() override { --m_alive; }
+
+    bool step() override
+    {
+        QTest::qSleep(1);
+        return ++m_done < m_steps;
+    }
+    QString progress() const override { return QString::number(m_done); }
+
+private:
+    int m_steps;
+    int& m_done;
+    int& m_alive;
+};
+
 class PageTest : public testing::Test
 {
 protected:
@@ -58,24 +78,25 @@ protected:
 
     BusyOverlay& overlay() { return *m_page.findChild<BusyOverlay*>(); }
 
-    // A job of so many steps of one millisecond.
     void start(int steps)
     {
-        const auto step = [this, steps] {
-            QTest::qSleep(1);
-            return ++m_done < steps;
-        };
-        m_page.startJob({"Counting", step, [this] { return QString::number(m_done); },
-                         [this](bool complete) { m_end = complete ? "complete" : "cancelled"; }});
+        m_page.startJob("Counting", std::make_unique<CountingJob>(steps, m_done, m_alive),
+                        [this](CountingJob&, bool complete) {
+                            ++m_ends;
+                            m_end = complete ? "complete" : "cancelled";
+                        });
     }
     bool ends()
     {
         return QTest::qWaitFor([this] { return !m_end.isEmpty(); });
     }
 
-    OnePage m_page;
+    // Before the page, which drops its job at the end.
     int m_done = 0;
+    int m_alive = 0;
+    int m_ends = 0;
     QString m_end;
+    OnePage m_page;
 };
 
 TEST_F(PageTest, AShortJobEndsAtOnceWithoutCoveringThePage)
@@ -133,17 +154,66 @@ TEST_F(PageTest, EscapeCancelsAJob)
 TEST_F(PageTest, OneJobRunsAtATime)
 {
     start(60);
-    bool ran = false;
-    m_page.startJob({"Second", [&ran] { return ran = true; }, {}, {}});
-    EXPECT_FALSE(ran);
+    int second = 0;
+    bool ended = false;
+    m_page.startJob("Second", std::make_unique<CountingJob>(1, second, m_alive),
+                    [&ended](CountingJob&, bool) { ended = true; });
+    EXPECT_EQ(second, 0);
+    EXPECT_EQ(m_alive, 1) << "the second is kept";
     ASSERT_TRUE(ends());
-    EXPECT_FALSE(ran);
+    EXPECT_EQ(second, 0);
+    EXPECT_FALSE(ended);
+}
+
+TEST_F(PageTest, TheEndOfAJobIsToldOnceAndByTheJobItself)
+{
+    int steps = 0;
+    int tellings = 0;
+    auto job = std::make_unique<CountingJob>(60, steps, m_alive);
+    const CountingJob* started = job.get();
+    m_page.startJob("Counting", std::move(job), [&](CountingJob& ended, bool complete) {
+        ++tellings;
+        EXPECT_EQ(&ended, started);
+        EXPECT_EQ(ended.progress(), "60");
+        EXPECT_TRUE(complete);
+        EXPECT_EQ(m_alive, 1);
+        EXPECT_FALSE(m_page.isBusy());
+        EXPECT_TRUE(m_page.field->isEnabled());
+    });
+    ASSERT_TRUE(QTest::qWaitFor([&tellings] { return tellings > 0; }));
+    m_page.cancelJob();
+    QTest::qWait(20);
+    EXPECT_EQ(tellings, 1);
+}
+
+TEST_F(PageTest, AJobIsDestroyedAfterItsEnd)
+{
+    start(3);
+    EXPECT_EQ(m_alive, 0);
+    start(60);
+    EXPECT_EQ(m_alive, 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }));
+    EXPECT_EQ(m_alive, 0);
+}
+
+TEST_F(PageTest, ACancelledJobIsToldOnceAndDestroyed)
+{
+    start(1000000);
+    m_page.cancelJob();
+    EXPECT_EQ(m_alive, 0);
+    m_page.cancelJob();
+    QTest::qWait(20);
+    EXPECT_EQ(m_ends, 1);
+    EXPECT_EQ(m_end.toStdString(), "cancelled");
 }
 
 TEST_F(PageTest, TheEndOfAJobMayStartTheNextOne)
 {
-    m_page.startJob({"First", [] { return false; }, {}, [this](bool) { start(3); }});
+    int first = 0;
+    m_page.startJob("First", std::make_unique<CountingJob>(1, first, m_alive),
+                    [this](CountingJob&, bool) { start(3); });
     EXPECT_EQ(m_done, 3);
+    EXPECT_EQ(m_end.toStdString(), "complete");
 }
 
 TEST_F(PageTest, AJobLeavesTheEventLoopItsTurns)
@@ -243,15 +313,11 @@ TEST_F(PageTest, DestroyingThePageDropsItsJob)
     bool ended = false;
     {
         OnePage page;
-        page.startJob({"Endless",
-                       [] {
-                           QTest::qSleep(1);
-                           return true;
-                       },
-                       {},
-                       [&ended](bool) { ended = true; }});
+        page.startJob("Endless", std::make_unique<CountingJob>(1000000, m_done, m_alive),
+                      [&ended](CountingJob&, bool) { ended = true; });
         EXPECT_TRUE(page.isBusy());
     }
+    EXPECT_EQ(m_alive, 0);
     QTest::qWait(30);
     EXPECT_FALSE(ended);
 }
@@ -331,60 +397,6 @@ TEST_F(PageTest, TheIconOfAReportFollowsThePalette)
     QApplication::setPalette(before);
     QTest::qWait(10);
     EXPECT_EQ(icon(), light);
-}
-
-TEST(EmptyHint, StandsInAViewForAsLongAsItIsEmpty)
-{
-    QStringListModel model;
-    QListView view;
-    view.setModel(&model);
-    view.resize(200, 200);
-    view.show();
-    new EmptyHint(&view, "Nothing here yet.");
-    auto* label = view.viewport()->findChild<QLabel*>();
-    EXPECT_TRUE(label->isVisible());
-    model.setStringList({"a"});
-    EXPECT_FALSE(label->isVisible());
-    model.removeRows(0, 1);
-    EXPECT_TRUE(label->isVisible());
-    EXPECT_TRUE(view.viewport()->rect().contains(label->geometry()));
-}
-
-class EveryGlyph : public testing::TestWithParam<int>
-{
-};
-
-TEST_P(EveryGlyph, IsPaintedCrisplyAtEverySize)
-{
-    const QIcon icon = glyphIcon(static_cast<Glyph>(GetParam()));
-    for (const int side : {16, 24, 48, 72}) {
-        const QImage image = icon.pixmap(side, side).toImage();
-        EXPECT_EQ(image.size(), QSize(side, side));
-        int painted = 0;
-        for (int y = 0; y < side; ++y) {
-            for (int x = 0; x < side; ++x)
-                painted += image.pixelColor(x, y).alpha() > 0 ? 1 : 0;
-        }
-        EXPECT_GT(painted, side * side / 20);
-        EXPECT_LT(painted, side * side);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(GlyphIcon, EveryGlyph,
-                         testing::Range(0, static_cast<int>(Glyph::Error) + 1));
-
-TEST(GlyphIcon, FollowsThePalette)
-{
-    const QPalette before = QApplication::palette();
-    const QIcon icon = glyphIcon(Glyph::Log);
-    const QImage light = icon.pixmap(24, 24).toImage();
-    QPalette dark = before;
-    dark.setColor(QPalette::WindowText, Qt::white);
-    dark.setColor(QPalette::Highlight, Qt::yellow);
-    QApplication::setPalette(dark);
-    EXPECT_NE(icon.pixmap(24, 24).toImage(), light);
-    QApplication::setPalette(before);
-    EXPECT_EQ(icon.pixmap(24, 24).toImage(), light);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "pages/registry/RegistryPage.h"
 #include "tools/pictures/DemoHome.h"
+#include "window/PageCatalogue.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -10,6 +11,8 @@
 #include <QTableView>
 #include <QTest>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace {
 
@@ -80,14 +83,36 @@ void arrangeLog(PageDriver& driver)
     driver.settle();
 }
 
+struct Scene
+{
+    const char* page; ///< its name in the catalogue
+    void (*arrange)(PageDriver& driver);
+};
+
+constexpr Scene scenes[] = {
+    {"registry", &arrangeRegistry}, {"profiles", &arrangeProfiles}, {"files", &arrangeFiles},
+    {"fonts", &arrangeFonts},       {"displays", &arrangeDisplays}, {"input", &arrangeInput},
+    {"crypto", &arrangeCrypto},     {"log", &arrangeLog},
+};
+
 } // namespace
 
-const std::vector<Scene>& scenes()
+void checkScenes()
 {
-    static const std::vector<Scene> all = {
-        {"registry", &arrangeRegistry}, {"profiles", &arrangeProfiles}, {"files", &arrangeFiles},
-        {"fonts", &arrangeFonts},       {"displays", &arrangeDisplays}, {"input", &arrangeInput},
-        {"crypto", &arrangeCrypto},     {"log", &arrangeLog},
-    };
-    return all;
+    const std::vector<PageEntry> pages = pageCatalogue();
+    for (const Scene& scene : scenes) {
+        const bool known = std::any_of(pages.begin(), pages.end(), [&scene](const PageEntry& page) {
+            return page.name == QLatin1String(scene.page);
+        });
+        if (!known)
+            qFatal("a scene for %s, which is no page", scene.page);
+    }
+}
+
+void arrangeScene(const QString& page, PageDriver& driver)
+{
+    for (const Scene& scene : scenes) {
+        if (page == QLatin1String(scene.page))
+            scene.arrange(driver);
+    }
 }

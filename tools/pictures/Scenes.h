@@ -2,13 +2,9 @@
 
 #include "tools/pictures/PageDriver.h"
 
-#include <vector>
+/// Ends the program where a scene is meant for a page that the catalogue does not have.
+void checkScenes();
 
-/// A page and what is done on it for its picture.
-struct Scene
-{
-    const char* page;
-    void (*arrange)(PageDriver& driver);
-};
-
-const std::vector<Scene>& scenes();
+/// Does on the page in view what its picture is to show. A page without a scene of its own stays as
+/// it has opened.
+void arrangeScene(const QString& page, PageDriver& driver);

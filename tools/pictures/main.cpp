@@ -8,6 +8,7 @@
 #include "tools/pictures/DemoHome.h"
 #include "tools/pictures/Look.h"
 #include "tools/pictures/Scenes.h"
+#include "window/PageCatalogue.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -31,14 +32,25 @@ QSize sizeOf(const QString& text)
     return {sides.value(0).toInt(), sides.value(1).toInt()};
 }
 
-bool save(const Scene& scene, const QSize& size, const QString& path)
+bool save(const QString& page, const QSize& size, const QString& path)
 {
-    PageDriver driver(QLatin1String(scene.page), size);
-    scene.arrange(driver);
+    PageDriver driver(page, size);
+    arrangeScene(page, driver);
     if (driver.picture().save(path))
         return true;
     std::cerr << path.toStdString() << " cannot be written\n";
     return false;
+}
+
+bool saveAll(const QStringList& arguments)
+{
+    const QSize size = sizeOf(arguments.value(4, QStringLiteral("1280x800")));
+    bool saved = true;
+    for (const PageEntry& page : pageCatalogue())
+        saved &= save(page.name, size,
+                      QStringLiteral("%1/%2-%3-%4.png")
+                          .arg(arguments[1], page.name, arguments[2], arguments[3]));
+    return saved;
 }
 
 } // namespace
@@ -67,11 +79,6 @@ int main(int argc, char** argv)
     chooseLanguage(chinese, appTranslator, qtTranslator);
     DemoHome::fillStore();
     QCursor::setPos(2000, 1300); // where nothing of the window glows under it
-    bool saved = true;
-    for (const Scene& scene : scenes())
-        saved &=
-            save(scene, sizeOf(arguments.value(4, QStringLiteral("1280x800"))),
-                 QStringLiteral("%1/%2-%3-%4.png")
-                     .arg(arguments[1], QLatin1String(scene.page), arguments[2], arguments[3]));
-    return saved ? 0 : 1;
+    checkScenes();
+    return saveAll(arguments) ? 0 : 1;
 }

@@ -18,7 +18,7 @@ inline std::string encrypted(const std::string& phrase, const std::string& plain
 }
 
 /// Drives the crypto page of the real window.
-class CryptoPageTest : public PageTest
+class CryptoPageTest : public PageFixture
 {
 protected:
     void SetUp() override { open("crypto"); }

@@ -20,7 +20,7 @@ IPlatformResourceManager* service()
     return g_PlatformServices.resourceManager();
 }
 
-class DisplaysPageTest : public PageTest
+class DisplaysPageTest : public PageFixture
 {
 protected:
     void SetUp() override { open("displays"); }

@@ -10,7 +10,7 @@
 
 namespace {
 
-class InputPageTest : public PageTest
+class InputPageTest : public PageFixture
 {
 protected:
     void SetUp() override { open("input"); }

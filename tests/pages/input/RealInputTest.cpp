@@ -6,7 +6,7 @@
 
 namespace {
 
-class RealInputTest : public PageTest
+class RealInputTest : public PageFixture
 {
 protected:
     void openActive(const QString& name)

@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QStandardItemModel>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -77,6 +79,46 @@ TEST(TableLook, FitsColumnsToTheirSamples)
     EXPECT_GT(table.columnWidth(0), table.fontMetrics().horizontalAdvance(sample));
     EXPECT_LT(table.columnWidth(1), table.columnWidth(0));
     EXPECT_EQ(table.columnWidth(2), untouched);
+}
+
+TEST(TableLook, FitsColumnsToWhatTheyHold)
+{
+    QStandardItemModel model(1, 3);
+    QTableView table;
+    table.setModel(&model);
+    const QString text = QString(40, QLatin1Char('w'));
+    model.setItem(0, 0, new QStandardItem(text));
+    const int last = table.columnWidth(2);
+    fitColumnsToContents(table);
+    EXPECT_GT(table.columnWidth(0), table.fontMetrics().horizontalAdvance(text));
+    EXPECT_LT(table.columnWidth(1), table.columnWidth(0));
+    EXPECT_LE(table.columnWidth(2), last);
+}
+
+TEST(TableLook, SelectsWholeRowsAndLetsTabOut)
+{
+    QStandardItemModel model(2, 2);
+    QTableView table;
+    table.setModel(&model);
+    arrangeTable(table);
+    table.setCurrentIndex(model.index(1, 0));
+    EXPECT_EQ(table.selectionModel()->selectedIndexes().size(), 2);
+    EXPECT_FALSE(table.tabKeyNavigation());
+    EXPECT_FALSE(table.wordWrap());
+    EXPECT_TRUE(table.horizontalHeader()->stretchLastSection());
+}
+
+TEST(TabLook, AlignsThePagesWithWhatStandsAroundTheTabs)
+{
+    QTabWidget tabs;
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(9, 8, 7, 6);
+    tabs.addTab(page, "One");
+    tabs.addTab(new QWidget, "Without a layout");
+    arrangeTabs(tabs);
+    EXPECT_TRUE(tabs.documentMode());
+    EXPECT_EQ(layout->contentsMargins(), QMargins(0, 8, 0, 0));
 }
 
 } // namespace
