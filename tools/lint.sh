@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# lint.sh BUILD: formatting, clang-tidy, clazy, headers that compile alone, scripts and translations.
-# BUILD holds compile_commands.json. The last line is "N passed, N failed", a check a pass.
+# lint.sh BUILD: formatting, scripts, floors, sizes, headers that compile alone, translations,
+# clang-tidy and clazy. BUILD holds compile_commands.json. The last line is "N passed, N failed", a
+# check a pass.
 set -uo pipefail
 build=$1
 passed=0
@@ -66,8 +67,14 @@ translations() {
     if grep -E 'type="(unfinished|obsolete|vanished)"' "$copy"; then return 1; fi
 }
 
+# sizes: the figures are shown in any case.
+exec 3>&1
+sizes() { tools/sizes.py >&3; }
+
 check "clang-format" clang-format --dry-run -Werror "${sources[@]}" "${headers[@]}"
 check "shellcheck" shellcheck "${scripts[@]}"
+check "floors" tools/floors.py
+check "sizes" sizes
 check "headers compile alone" headers_alone
 check "translations" translations
 check "clang-tidy" tidy
