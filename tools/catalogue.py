@@ -32,7 +32,7 @@ def entries(catalogue, *types):
             if translation.get("type") in types:
                 text = "".join(translation.itertext()).strip()
                 yield f"  {context.findtext('name')}: {message.findtext('source')}" + (
-                    f"\n    was: {text}" if text else "")
+                    f"\n    {text}" if text else "")
 
 
 def show(title, lines):
