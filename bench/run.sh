@@ -1,13 +1,26 @@
 #!/usr/bin/env bash
-# run.sh BUILD [NAME]: runs the benchmark programs of a build, or the one called NAME.
+# run.sh --names [NAME...]: prints the names of the benchmark programs, or checks the given ones and
+# prints them; where one does not exist, tells which do and ends with 2.
+# run.sh BUILD NAME...: runs benchmark programs of a build.
 set -euo pipefail
+
+# checked NAME...: the names if they are benchmarks; all benchmarks when none is given.
+checked() {
+    local all name
+    all=$(sed -n 's/^add_executable(\([a-z]*_bench\).*/\1/p' "$(dirname "${BASH_SOURCE[0]}")/CMakeLists.txt")
+    for name; do
+        grep -qxF -e "$name" <<<"$all" && continue
+        printf "No benchmark '%s'. There are:\n%s\n" "$name" "$all" >&2
+        return 2
+    done
+    if [ "$#" -gt 0 ]; then printf '%s\n' "$@"; else printf '%s\n' "$all"; fi
+}
+
+if [ "$1" = --names ]; then
+    shift
+    checked "$@"
+    exit
+fi
 build=$1
-name=${2:-}
-found=0
-for program in "$build"/bench/*_bench; do
-    [ -x "$program" ] || continue
-    [ -z "$name" ] || [ "$(basename "$program")" = "$name" ] || continue
-    found=1
-    "$program"
-done
-[ "$found" -eq 1 ] || { echo "run.sh: no benchmark ${name:-programs}" >&2; exit 2; }
+shift
+for name; do "$build/bench/$name"; done

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# lint.sh BUILD: formatting, clang-tidy, clazy, headers that compile alone, scripts and translations.
-# BUILD holds compile_commands.json. The last line is "N passed, N failed", a check a pass.
+# lint.sh BUILD: formatting, scripts, floors, sizes, headers that compile alone, translations,
+# clang-tidy and clazy. BUILD holds compile_commands.json. The last line is "N passed, N failed", a
+# check a pass.
 set -uo pipefail
 build=$1
 passed=0
@@ -57,19 +58,17 @@ headers_alone() {
             "exec g++ -std=c++17 -fPIC -fsyntax-only -Wall -Wextra -I. $flags -x c++ \"\$1\"" compile
 }
 
-# Every text of the window has its Chinese translation, and none is left over.
-translations() {
-    local copy
-    copy=$(mktemp --suffix=.ts)
-    cp resources/translator/kdlm_zh.ts "$copy"
-    "$(command -v lupdate || echo /usr/lib/qt5/bin/lupdate)" -silent -locations none -I . app inspection pages platform regfile widgets window -ts "$copy"
-    if grep -E 'type="(unfinished|obsolete|vanished)"' "$copy"; then return 1; fi
-}
+# sizes: the figures are shown in any case.
+exec 3>&1
+sizes() { tools/sizes.py >&3; }
 
 check "clang-format" clang-format --dry-run -Werror "${sources[@]}" "${headers[@]}"
 check "shellcheck" shellcheck "${scripts[@]}"
+check "floors" tools/floors.py
+check "sizes" sizes
 check "headers compile alone" headers_alone
-check "translations" translations
+# Every text of the window has its Chinese translation, and none is left over.
+check "translations" tools/catalogue.py --check
 check "clang-tidy" tidy
 check "clazy" clazy
 echo "$passed passed, $failed failed"
