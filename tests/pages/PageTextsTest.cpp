@@ -130,8 +130,9 @@ TEST(PageTexts, NullIsNotTranslated)
         {"CursorPanel", "null: none is set"},
         {"CursorPanel", "SetCursor with null changes nothing."},
         {"PointPanel", "The monitor that holds the point, else null."},
-        {"CipherPanel", "DecryptionAES_Export gives null: its result holds at most %L1 bytes. This "
-                        "is what Encrypt::DecryptionAES gives."},
+        {"DecryptionNote",
+         "DecryptionAES_Export gives null: its result holds at most %L1 bytes. This "
+         "is what Encrypt::DecryptionAES gives."},
     };
     for (const auto& [context, text] : rows) {
         const QString translation = translator.translate(context, text);
