@@ -12,13 +12,27 @@
 template <typename Record>
 struct RecordColumn
 {
+    using Text = std::function<QString(const Record& record)>;
+    using Look = std::function<QVariant(const Record& record, int role)>;
+
+    // Not an aggregate with default values: GCC 12 cannot compile that with `look` left out.
+    RecordColumn(QString columnTitle, Text cellText, Look cellLook = {}, QString headerTip = {})
+        : title(std::move(columnTitle)),
+          text(std::move(cellText)),
+          look(std::move(cellLook)),
+          tip(std::move(headerTip))
+    {
+    }
+
     /// The header, translated.
     QString title;
     /// What a cell shows; its tool tip too, unless `look` has another one.
-    std::function<QString(const Record& record)> text;
+    Text text;
     /// What a cell has for any other role: a colour, a font, a decoration, a tool tip. An invalid
     /// answer stands for nothing of its own. May be empty.
-    std::function<QVariant(const Record& record, int role)> look = {};
+    Look look;
+    /// The tool tip of the header. May be empty.
+    QString tip;
 };
 
 /// A table of records, one a row, that is described by its columns: the one model of all flat lists
@@ -90,9 +104,12 @@ public:
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
-        if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        if (orientation != Qt::Horizontal)
             return {};
-        return m_columns[static_cast<std::size_t>(section)].title;
+        const Column& column = m_columns[static_cast<std::size_t>(section)];
+        if (role == Qt::ToolTipRole && !column.tip.isEmpty())
+            return plainToolTip(column.tip);
+        return role == Qt::DisplayRole ? column.title : QVariant();
     }
 
 private:
