@@ -1,6 +1,7 @@
 #include "platform/PlatformResourceManagerImp.h"
 
 #include "host/HostLibraries.h"
+#include "platform/graphics/GraphicsObjectTable.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
@@ -73,19 +74,39 @@ RECT toRect(const QRect& rect)
     return {rect.left(), rect.top(), rect.right(), rect.bottom()};
 }
 
+// Asks the table directly: only GetCursorBits honours an override of fromHandle.
+const QImage* image(const GraphicsObjectTable& objects, void* handle)
+{
+    return static_cast<const QImage*>(objects.find(handle, IPlatformResourceManager::ObjImage));
+}
+
 } // namespace
 
-PlatformResourceManagerImp::PlatformResourceManagerImp() = default;
+PlatformResourceManagerImp::PlatformResourceManagerImp()
+    : m_objects(std::make_unique<GraphicsObjectTable>())
+{
+}
+
 PlatformResourceManagerImp::~PlatformResourceManagerImp() = default;
 
 void* PlatformResourceManagerImp::addObject(ObjType type, void* object)
 {
-    return m_objects.insert(type, object);
+    return m_objects->insert(type, object);
 }
 
 void PlatformResourceManagerImp::removeObject(void* handle)
 {
-    m_objects.remove(handle);
+    m_objects->remove(handle);
+}
+
+std::vector<GraphicsObject> PlatformResourceManagerImp::objects() const
+{
+    std::vector<GraphicsObject> list;
+    m_objects->forEach([&list](void* handle, void* object) {
+        const auto type = reinterpret_cast<std::intptr_t>(handle) >> 16;
+        list.push_back({handle, static_cast<ObjType>(type), object});
+    });
+    return list;
 }
 
 int PlatformResourceManagerImp::loadString(HINSTANCE module, unsigned int id, wchar_t* buffer,
@@ -133,7 +154,7 @@ void* PlatformResourceManagerImp::createBrush(unsigned int color)
 
 void* PlatformResourceManagerImp::fromHandle(void* handle, IPlatformResourceManager::ObjType type)
 {
-    return m_objects.find(handle, type);
+    return m_objects->find(handle, type);
 }
 
 int PlatformResourceManagerImp::deleteObject(void* handle)
@@ -153,7 +174,7 @@ int PlatformResourceManagerImp::GetSystemMetrics(int index)
 
 int PlatformResourceManagerImp::GetBitmap(BITMAP* bitmap, void* handle)
 {
-    const QImage* source = image(handle);
+    const QImage* source = image(*m_objects, handle);
     if (!bitmap || !source)
         return 0;
     bitmap->bmType = source->format(); // Intended: not the 0 of Windows
@@ -170,7 +191,7 @@ int PlatformResourceManagerImp::GetBitmap(BITMAP* bitmap, void* handle)
 
 int PlatformResourceManagerImp::GetBitmapBits(unsigned int count, void* buffer, void* handle)
 {
-    const QImage* source = image(handle);
+    const QImage* source = image(*m_objects, handle);
     if (!buffer || count == 0 || !source || !source->constBits() || source->sizeInBytes() != count)
         return 0;
     return copyPixels(*source, buffer);
@@ -215,10 +236,4 @@ int PlatformResourceManagerImp::GetMonitorInfoW(HMONITOR monitor, tagMONITORINFO
     info->rcWork = toRect(screen->availableGeometry());
     info->dwFlags = screen == QGuiApplication::primaryScreen() ? MONITORINFOF_PRIMARY : 0;
     return 1;
-}
-
-// Asks the table directly: only GetCursorBits honours an override of fromHandle.
-const QImage* PlatformResourceManagerImp::image(void* handle) const
-{
-    return static_cast<const QImage*>(m_objects.find(handle, ObjImage));
 }

@@ -1,11 +1,22 @@
 #pragma once
 
 #include "platform/IPlatformServices.h"
-#include "platform/graphics/GraphicsObjectTable.h"
 
-#include <map>
+#include <memory>
+#include <vector>
 
-class QImage;
+class GraphicsObjectTable;
+
+/// An entry of the resource manager's table.
+struct GraphicsObject
+{
+    /// The type in the upper half and the number in the lower one, as a signed 32-bit number.
+    void* handle;
+    IPlatformResourceManager::ObjType type;
+    /// The address of an image or a cursor image; a brush's colour itself. Still the table's or, of
+    /// a cursor image, its maker's.
+    void* object;
+};
 
 /// Implements `IPlatformResourceManager` on a table of objects, the host libraries' modules and
 /// Qt's screens.
@@ -27,6 +38,10 @@ public:
     /// Takes a handle out; an image is destroyed with it. Unknown handles are ignored.
     void removeObject(void* handle);
 
+    /// All entries, those with null included, in the order of their handles. Those of a type whose
+    /// upper bit is set come last: their handles are negative, and no operation accepts them.
+    std::vector<GraphicsObject> objects() const;
+
     int loadString(HINSTANCE module, unsigned int id, wchar_t* buffer, int size) override;
     void* loadImage(HINSTANCE module, const wchar_t* name, unsigned int type, int width, int height,
                     unsigned int flags) override;
@@ -44,8 +59,5 @@ public:
     int GetMonitorInfoW(HMONITOR monitor, tagMONITORINFO* info) override;
 
 private:
-    const QImage* image(void* handle) const;
-
-    GraphicsObjectTable m_objects;
-    std::map<int, const wchar_t*> m_strings; // part of the state; no operation fills it
+    std::unique_ptr<GraphicsObjectTable> m_objects;
 };

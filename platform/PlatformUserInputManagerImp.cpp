@@ -1,40 +1,17 @@
 #include "platform/PlatformUserInputManagerImp.h"
 
+#include "platform/input/VirtualKeys.h"
+
 #include <QApplication>
 #include <QWidget>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
-constexpr int KeyDown = -0x8000;
-constexpr int FirstVirtualKey = 1;
-constexpr int LastVirtualKey = 254;
-
-struct KeyRow
-{
-    int virtualKey;
-    int qtCode;
-};
-
-// Intended: Qt does not tell the left modifier keys from the right ones, so neither do we.
-constexpr std::array<KeyRow, 14> KnownKeys{{
-    {VK_SHIFT, Qt::ShiftModifier},
-    {VK_LSHIFT, Qt::ShiftModifier},
-    {VK_RSHIFT, Qt::ShiftModifier},
-    {VK_CONTROL, Qt::ControlModifier},
-    {VK_LCONTROL, Qt::ControlModifier},
-    {VK_RCONTROL, Qt::ControlModifier},
-    {VK_MENU, Qt::AltModifier},
-    {VK_LMENU, Qt::AltModifier},
-    {VK_RMENU, Qt::AltModifier},
-    {VK_LBUTTON, Qt::LeftButton},
-    {VK_RBUTTON, Qt::RightButton},
-    {VK_MBUTTON, Qt::MiddleButton},
-    {VK_RETURN, Qt::Key_Return},
-    {VK_SPACE, Qt::Key_Space},
-}};
+constexpr int keyDown = -0x8000;
+constexpr int firstVirtualKey = 1;
+constexpr int lastVirtualKey = 254;
 
 template <typename Matches>
 HWND firstTopLevelWidget(Matches matches)
@@ -74,7 +51,7 @@ int PlatformUserInputManagerImp::getAsyncKeyState(int virtualKey)
 
 int PlatformUserInputManagerImp::getKeyState(int virtualKey)
 {
-    return isKeyPressed(virtualKey) ? KeyDown : 0;
+    return isKeyPressed(virtualKey) ? keyDown : 0;
 }
 
 void PlatformUserInputManagerImp::setKeyPressed(int qtKey, bool pressed)
@@ -93,7 +70,7 @@ HWND PlatformUserInputManagerImp::FindWindowW(const wchar_t* className, const wc
 
 bool PlatformUserInputManagerImp::isKeyPressed(int virtualKey)
 {
-    if (virtualKey < FirstVirtualKey || virtualKey > LastVirtualKey)
+    if (virtualKey < firstVirtualKey || virtualKey > lastVirtualKey)
         return false;
     const auto row = m_keyMap.find(virtualKey);
     return row != m_keyMap.end() && isQtCodePressed(row->second);
@@ -102,8 +79,8 @@ bool PlatformUserInputManagerImp::isKeyPressed(int virtualKey)
 void PlatformUserInputManagerImp::initKeyMap()
 {
     m_keyMap.clear();
-    for (const KeyRow& row : KnownKeys)
-        m_keyMap.emplace(row.virtualKey, row.qtCode);
+    for (const VirtualKey& key : knownKeys)
+        m_keyMap.emplace(key.code, key.qtCode);
 }
 
 // By the exact code, not by its bits: Space has the code of a mouse button, and Return's contains

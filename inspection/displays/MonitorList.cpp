@@ -51,6 +51,36 @@ QString monitorName(const std::vector<Monitor>& list, HMONITOR handle)
         .arg(std::distance(list.begin(), found) + 1);
 }
 
+QStringList monitorCaptions(const std::vector<Monitor>& list, const Monitor& monitor)
+{
+    const QString name = monitorName(list, monitor.handle);
+    const QString size =
+        QStringLiteral("%1 \u00d7 %2").arg(monitor.full.width()).arg(monitor.full.height());
+    const QString caption = name + QLatin1Char('\n') + size;
+    QStringList captions = {caption, name, name.section(QLatin1Char(' '), -1)};
+    if (monitor.isPrimary())
+        captions.prepend(caption + QLatin1Char('\n') +
+                         QCoreApplication::translate("MonitorList", "Primary"));
+    return captions;
+}
+
+QString edgesText(const QRect& rect)
+{
+    return QStringLiteral("%1, %2, %3, %4")
+        .arg(rect.left())
+        .arg(rect.top())
+        .arg(rect.right())
+        .arg(rect.bottom());
+}
+
+QString flagsText(const Monitor& monitor)
+{
+    const QString form = monitor.isPrimary()
+                             ? QCoreApplication::translate("MonitorList", "%1 (primary)")
+                             : QStringLiteral("%1");
+    return form.arg(monitor.flags);
+}
+
 QString handleText(const void* handle)
 {
     return QStringLiteral("0x%1").arg(reinterpret_cast<quintptr>(handle), 0, 16);

@@ -3,7 +3,7 @@
 #include "platform/WindowsTypes.h"
 
 #include <QRect>
-#include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -26,6 +26,16 @@ std::vector<Monitor> monitors();
 
 /// "Monitor 1" for the first one of `list`; "null" for null; the address for one that is not there.
 QString monitorName(const std::vector<Monitor>& list, HMONITOR handle);
+
+/// Captions for one of `list`, from the longest, with the size and whether it is the primary one,
+/// to the shortest, its number alone.
+QStringList monitorCaptions(const std::vector<Monitor>& list, const Monitor& monitor);
+
+/// Left, top, right and bottom as in the record: right and bottom are the last pixel inside.
+QString edgesText(const QRect& rect);
+
+/// "1 (primary)".
+QString flagsText(const Monitor& monitor);
 
 /// As an address, such as "0x55d0c0".
 QString handleText(const void* handle);

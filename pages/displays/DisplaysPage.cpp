@@ -1,15 +1,15 @@
 #include "pages/displays/DisplaysPage.h"
 
+#include "inspection/displays/MonitorQuery.h"
+#include "inspection/input/PointerPosition.h"
 #include "pages/displays/HandlePanel.h"
 #include "pages/displays/MetricsPanel.h"
 #include "pages/displays/MonitorMap.h"
 #include "pages/displays/MonitorTable.h"
 #include "pages/displays/PointPanel.h"
-#include "platform/PlatformServicesImp.h"
 #include "window/ViewLook.h"
 
 #include <QHBoxLayout>
-#include <QLocale>
 #include <QTabWidget>
 
 namespace {
@@ -25,7 +25,7 @@ DisplaysPage::DisplaysPage(QWidget* parent)
       m_tabs(new QTabWidget),
       m_table(new MonitorTable),
       m_metrics(new MetricsPanel),
-      m_handles(new HandlePanel)
+      m_handles(new HandlePanel(*this))
 {
     makeMap();
     makeTabs();
@@ -54,8 +54,6 @@ void DisplaysPage::makeTabs()
     m_tabs->addTab(m_handles, tr("&Graphics handles"));
     arrangeTabs(*m_tabs);
     body()->addWidget(m_tabs, 2);
-    connect(m_handles, &HandlePanel::reported, this, &DisplaysPage::report);
-    connect(m_handles, &HandlePanel::scanRequested, this, &DisplaysPage::scan);
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
         if (m_tabs->currentWidget() == m_handles)
             m_handles->refresh();
@@ -86,17 +84,14 @@ void DisplaysPage::showMonitors()
 void DisplaysPage::showPoint()
 {
     m_map->setPoint(m_point->point());
-    m_map->setAnswer(m_point->nearest());
+    m_map->setAnswer(monitorAt(m_point->point(), MONITOR_DEFAULTTONEAREST));
 }
 
 // Monitors come and go, and panels change the work area: looked at now and then, not only on F5.
 void DisplaysPage::followPointer()
 {
-    POINT pointer{};
-    if (g_PlatformServices.cursorManager()->GetCursorPos(&pointer) != 0) {
-        m_map->setPointer({pointer.x, pointer.y});
-        m_point->setPointer({pointer.x, pointer.y});
-    }
+    m_map->setPointer(pointerPosition());
+    m_point->setPointer(pointerPosition());
     if (!(monitors() == m_monitors))
         refresh();
 }
@@ -112,11 +107,4 @@ void DisplaysPage::hideEvent(QHideEvent* event)
 {
     m_timer.stop();
     Page::hideEvent(event);
-}
-
-void DisplaysPage::scan(const std::shared_ptr<HandleScan>& scan)
-{
-    startJob({tr("Looking for handles"), [scan] { return scan->step(); },
-              [scan] { return tr("%L1 of %L2 numbers").arg(scan->asked()).arg(HandleScan::total); },
-              [this, scan](bool complete) { m_handles->showResult(*scan, complete); }});
 }

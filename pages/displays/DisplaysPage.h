@@ -5,10 +5,7 @@
 
 #include <QTimer>
 
-#include <memory>
-
 class HandlePanel;
-class HandleScan;
 class MetricsPanel;
 class MonitorMap;
 class MonitorTable;
@@ -36,7 +33,6 @@ private:
     void showMonitors();
     void showPoint();
     void followPointer();
-    void scan(const std::shared_ptr<HandleScan>& scan);
 
     MonitorMap* m_map;
     PointPanel* m_point;

@@ -1,7 +1,9 @@
 #include "pages/displays/HandlePanel.h"
 
+#include "inspection/displays/MonitorList.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
+#include "window/Page.h"
 #include "window/ShownText.h"
 #include "window/ViewLook.h"
 
@@ -14,6 +16,8 @@
 #include <QSpinBox>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int largestSide = 4096;
@@ -24,30 +28,33 @@ IPlatformResourceManager* service()
     return g_PlatformServices.resourceManager();
 }
 
-void* pointer(int handle)
+QString handleName(const GraphicsObject& handle)
 {
-    return reinterpret_cast<void*>(static_cast<std::intptr_t>(handle));
+    return handleText(handle.handle);
+}
+
+std::vector<RecordColumn<GraphicsObject>> columns()
+{
+    return {{HandlePanel::tr("Handle"), &handleName},
+            {HandlePanel::tr("Type"), &typeText},
+            {HandlePanel::tr("Object"), &objectText}};
 }
 
 } // namespace
 
-HandlePanel::HandlePanel(QWidget* parent)
-    : QWidget(parent), m_model(new HandleModel(this)), m_view(new QTableView)
+HandlePanel::HandlePanel(PageContext& page, QWidget* parent)
+    : QWidget(parent), m_page(page), m_model(columns()), m_view(new QTableView)
 {
     makeTable();
-    auto* note = new QLabel(tr("A brush of colour 0 is not listed: the service answers for it as "
-                               "for a free number."));
-    note->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_view, 1);
-    layout->addWidget(note);
-    layout->addWidget(makeTools());
+    layout->addLayout(makeTools());
     setFocusProxy(m_view);
 }
 
 void HandlePanel::makeTable()
 {
-    m_view->setModel(m_model);
+    m_view->setModel(&m_model);
     m_view->setAccessibleName(tr("Graphics handles"));
     arrangeTable(*m_view);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -62,11 +69,9 @@ void HandlePanel::makeTable()
                      "and createBrush; below you can do the same."));
 }
 
-QWidget* HandlePanel::makeTools()
+QLayout* HandlePanel::makeTools()
 {
-    auto* place = new QWidget;
-    auto* row = new QHBoxLayout(place);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = new QHBoxLayout;
     m_width = addSize(row, tr("Width"));
     row->addWidget(new QLabel(QStringLiteral("\u00d7")));
     m_height = addSize(row, tr("Height"));
@@ -80,7 +85,7 @@ QWidget* HandlePanel::makeTools()
     addButton(row, tr("New &brush"), &HandlePanel::createBrush);
     row->addStretch();
     addButton(row, tr("Dele&te..."), &HandlePanel::remove);
-    return place;
+    return row;
 }
 
 QSpinBox* HandlePanel::addSize(QHBoxLayout* row, const QString& caption)
@@ -104,21 +109,13 @@ void HandlePanel::addButton(QHBoxLayout* row, const QString& caption, void (Hand
 
 void HandlePanel::refresh()
 {
-    emit scanRequested(std::make_shared<HandleScan>());
-}
-
-void HandlePanel::showResult(const HandleScan& scan, bool complete)
-{
-    m_model->setHandles(scan.found());
+    m_model.setRecords(graphicsHandles());
     fitColumnsToContents(*m_view);
-    const int row = m_model->rowOf(m_selected);
-    if (row >= 0)
-        m_view->selectRow(row);
-    if (!complete)
-        emit reported(Page::Report::Warning,
-                      tr("Cancelled after %L1 of %L2 numbers; the list is not complete.")
-                          .arg(scan.asked())
-                          .arg(HandleScan::total));
+    const auto& handles = m_model.records();
+    const auto made = std::find_if(handles.begin(), handles.end(),
+                                   [this](const auto& handle) { return handle.handle == m_made; });
+    if (made != handles.end())
+        m_view->selectRow(static_cast<int>(made - handles.begin()));
 }
 
 void HandlePanel::createImage()
@@ -133,18 +130,18 @@ void HandlePanel::createBrush()
     if (isNumber)
         return showNew(service()->createBrush(color));
     m_color->setFocus();
-    emit reported(Page::Report::Warning,
+    m_page.report(PageContext::Report::Warning,
                   tr("The colour must be a hexadecimal number of up to 8 digits, such as "
                      "0x0000FF."));
 }
 
 void HandlePanel::showNew(void* handle)
 {
-    m_selected = static_cast<int>(reinterpret_cast<std::intptr_t>(handle));
+    m_made = handle;
     if (handle)
-        emit reported(Page::Report::Info, tr("Made handle 0x%1.").arg(m_selected, 0, 16));
+        m_page.report(PageContext::Report::Info, tr("Made handle %1.").arg(handleText(handle)));
     else
-        emit reported(Page::Report::Error,
+        m_page.report(PageContext::Report::Error,
                       tr("The service made no handle: all 65,535 numbers are taken."));
     refresh();
 }
@@ -166,14 +163,14 @@ void HandlePanel::remove()
 {
     const QModelIndex current = m_view->currentIndex();
     if (!current.isValid()) {
-        emit reported(Page::Report::Warning, tr("Choose a handle first."));
+        m_page.report(PageContext::Report::Warning, tr("Choose a handle first."));
         return;
     }
-    const int handle = m_model->handleAt(current.row());
-    const QString name = QStringLiteral("0x%1").arg(handle, 0, 16);
+    const GraphicsObject chosen = m_model.record(current.row());
+    const QString name = handleName(chosen);
     if (!confirmDeletion(name))
         return;
-    service()->deleteObject(pointer(handle));
-    emit reported(Page::Report::Info, tr("Deleted handle %1.").arg(name));
+    service()->deleteObject(chosen.handle);
+    m_page.report(PageContext::Report::Info, tr("Deleted handle %1.").arg(name));
     refresh();
 }

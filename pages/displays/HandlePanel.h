@@ -1,9 +1,10 @@
 #pragma once
 
-#include "pages/displays/HandleModel.h"
-#include "window/Page.h"
+#include "inspection/displays/GraphicsHandles.h"
+#include "window/PageContext.h"
+#include "window/RecordsModel.h"
 
-#include <memory>
+#include <QWidget>
 
 class QHBoxLayout;
 class QLineEdit;
@@ -16,21 +17,14 @@ class HandlePanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit HandlePanel(QWidget* parent = nullptr);
+    explicit HandlePanel(PageContext& page, QWidget* parent = nullptr);
 
-    /// Asks for a scan.
+    /// Lists them anew and chooses the one that was made last.
     void refresh();
-    /// Shows what a scan has found, as far as it came.
-    void showResult(const HandleScan& scan, bool complete);
-
-signals:
-    void reported(Page::Report kind, const QString& text);
-    /// The work to be done, in slices; afterwards `showResult` is to be called.
-    void scanRequested(const std::shared_ptr<HandleScan>& scan);
 
 private:
     void makeTable();
-    QWidget* makeTools();
+    QLayout* makeTools();
     QSpinBox* addSize(QHBoxLayout* row, const QString& caption);
     void addButton(QHBoxLayout* row, const QString& caption, void (HandlePanel::*slot)());
     void createImage();
@@ -39,10 +33,11 @@ private:
     bool confirmDeletion(const QString& name);
     void showNew(void* handle);
 
-    HandleModel* m_model;
+    PageContext& m_page;
+    RecordsModel<GraphicsObject> m_model;
     QTableView* m_view;
     QSpinBox* m_width = nullptr;
     QSpinBox* m_height = nullptr;
     QLineEdit* m_color = nullptr;
-    int m_selected = 0;
+    void* m_made = nullptr; ///< the one that was made last
 };

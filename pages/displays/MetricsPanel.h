@@ -1,10 +1,13 @@
 #pragma once
 
+#include "inspection/displays/SystemMetrics.h"
+#include "window/RecordsModel.h"
+
 #include <QWidget>
 
 class AnswerField;
 class QSpinBox;
-class QTableWidget;
+class QTableView;
 
 /// System metrics as GetSystemMetrics answers them.
 class MetricsPanel : public QWidget
@@ -18,11 +21,11 @@ public:
     void refresh();
 
 private:
-    QWidget* makeQuery();
+    QLayout* makeQuery();
     void ask();
-    void fillRow(int row);
 
-    QTableWidget* m_table;
+    RecordsModel<SystemMetric> m_model;
+    QTableView* m_view;
     QSpinBox* m_index = nullptr;
     AnswerField* m_value = nullptr;
 };

@@ -1,5 +1,7 @@
 #include "pages/displays/MonitorMap.h"
 
+#include "inspection/input/PointerPosition.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -73,7 +75,7 @@ void MonitorMap::setPointer(const QPoint& pointer)
 void MonitorMap::setPoint(const QPoint& point)
 {
     m_point = point;
-    setAccessibleDescription(QStringLiteral("%1, %2").arg(point.x()).arg(point.y()));
+    setAccessibleDescription(pointText(point));
     update();
 }
 
@@ -195,7 +197,7 @@ void MonitorMap::paintCaption(QPainter& painter, const Monitor& monitor) const
     painter.setPen(palette().color(QPalette::Text));
     const double gap = fontMetrics().height() / 2.0;
     const QRectF room = mapped(monitor.work).adjusted(gap, gap, -gap, -gap);
-    const QStringList list = captions(monitor);
+    const QStringList list = monitorCaptions(m_monitors, monitor);
     for (const QString& caption : list) {
         if (room.contains(painter.boundingRect(room, captionAlignment, caption))) {
             painter.drawText(room, captionAlignment, caption);
@@ -203,19 +205,6 @@ void MonitorMap::paintCaption(QPainter& painter, const Monitor& monitor) const
         }
     }
     painter.drawText(mapped(monitor.work), Qt::AlignCenter, list.last());
-}
-
-// From the longest to the shortest.
-QStringList MonitorMap::captions(const Monitor& monitor) const
-{
-    const QString name = monitorName(m_monitors, monitor.handle);
-    QString caption =
-        name + QLatin1Char('\n') +
-        QStringLiteral("%1 \u00d7 %2").arg(monitor.full.width()).arg(monitor.full.height());
-    QStringList list = {caption, name, name.section(QLatin1Char(' '), -1)};
-    if (monitor.isPrimary())
-        list.prepend(caption + QLatin1Char('\n') + tr("Primary"));
-    return list;
 }
 
 void MonitorMap::paintPointer(QPainter& painter) const

@@ -46,7 +46,6 @@ private:
     QRectF mapped(const QRect& rect) const;
     void paintMonitor(QPainter& painter, const Monitor& monitor) const;
     void paintCaption(QPainter& painter, const Monitor& monitor) const;
-    QStringList captions(const Monitor& monitor) const;
     void paintPointer(QPainter& painter) const;
     void paintPoint(QPainter& painter) const;
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "inspection/displays/MonitorList.h"
+#include "window/RecordsModel.h"
 
-#include <QTableWidget>
+#include <QTableView>
 
 /// What GetMonitorInfoW says about each monitor.
-class MonitorTable : public QTableWidget
+class MonitorTable : public QTableView
 {
     Q_OBJECT
 
@@ -13,4 +14,9 @@ public:
     explicit MonitorTable(QWidget* parent = nullptr);
 
     void setMonitors(const std::vector<Monitor>& monitors);
+
+private:
+    std::vector<RecordColumn<Monitor>> columns() const;
+
+    RecordsModel<Monitor> m_model;
 };

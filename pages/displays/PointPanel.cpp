@@ -1,6 +1,7 @@
 #include "pages/displays/PointPanel.h"
 
-#include "platform/PlatformServicesImp.h"
+#include "inspection/displays/MonitorQuery.h"
+#include "inspection/input/PointerPosition.h"
 #include "window/AnswerField.h"
 #include "window/ShownText.h"
 
@@ -26,16 +27,8 @@ PointPanel::PointPanel(QWidget* parent)
     auto* heading = new QLabel(QStringLiteral("MonitorFromPoint:"));
     heading->setContentsMargins(0, fontMetrics().height() / 2, 0, 0);
     form->addRow(heading);
-    m_answers[MONITOR_DEFAULTTONULL] = addAnswer(
-        QStringLiteral("DEFAULTTONULL"), tr("The monitor that holds the point, else null."), form);
-    m_answers[MONITOR_DEFAULTTOPRIMARY] =
-        addAnswer(QStringLiteral("DEFAULTTOPRIMARY"),
-                  tr("The monitor that holds the point, else the primary one."), form);
-    m_answers[MONITOR_DEFAULTTONEAREST] =
-        addAnswer(QStringLiteral("DEFAULTTONEAREST"),
-                  tr("The monitor that holds the point, else the one with the nearest edge line; "
-                     "edge lines go on beyond the corners."),
-                  form);
+    for (const MonitorFlag& flag : monitorFlags)
+        m_answers[flag.value] = addAnswer(flag, form);
 }
 
 QSpinBox* PointPanel::addCoordinate(const QString& caption, QFormLayout* form)
@@ -48,12 +41,13 @@ QSpinBox* PointPanel::addCoordinate(const QString& caption, QFormLayout* form)
     return spin;
 }
 
-AnswerField* PointPanel::addAnswer(const QString& flag, const QString& tip, QFormLayout* form)
+AnswerField* PointPanel::addAnswer(const MonitorFlag& flag, QFormLayout* form)
 {
-    auto* answer = new AnswerField(flag, flag);
-    answer->setAccessibleDescription(tip);
-    auto* caption = new QLabel(flag);
-    caption->setToolTip(tip);
+    const QString name = QString::fromLatin1(flag.name);
+    auto* answer = new AnswerField(name, name);
+    answer->setAccessibleDescription(flag.ruleText());
+    auto* caption = new QLabel(name);
+    caption->setToolTip(flag.ruleText());
     form->addRow(caption, answer);
     return answer;
 }
@@ -88,17 +82,12 @@ void PointPanel::setMonitors(const std::vector<Monitor>& monitors)
 
 void PointPanel::setPointer(const QPoint& pointer)
 {
-    m_pointer->setAnswer(QStringLiteral("%1, %2").arg(pointer.x()).arg(pointer.y()));
+    m_pointer->setAnswer(pointText(pointer));
 }
 
 void PointPanel::ask()
 {
-    for (unsigned int flags = 0; flags < m_answers.size(); ++flags) {
-        const HMONITOR answer = g_PlatformServices.resourceManager()->MonitorFromPoint(
-            {point().x(), point().y()}, flags);
-        m_answers[flags]->setAnswer(monitorName(m_monitors, answer));
-        if (flags == MONITOR_DEFAULTTONEAREST)
-            m_nearest = answer;
-    }
+    for (const MonitorFlag& flag : monitorFlags)
+        m_answers[flag.value]->setAnswer(monitorName(m_monitors, monitorAt(point(), flag.value)));
     emit asked();
 }

@@ -9,6 +9,7 @@
 class AnswerField;
 class QFormLayout;
 class QSpinBox;
+struct MonitorFlag;
 
 /// A point of the virtual desktop and what MonitorFromPoint answers for it, for each of its flags.
 class PointPanel : public QWidget
@@ -25,8 +26,6 @@ public:
     /// Asks anew.
     void setMonitors(const std::vector<Monitor>& monitors);
     void setPointer(const QPoint& pointer);
-    /// What MONITOR_DEFAULTTONEAREST gives.
-    HMONITOR nearest() const { return m_nearest; }
 
 signals:
     /// The point, or what was answered for it, has changed.
@@ -34,7 +33,7 @@ signals:
 
 private:
     QSpinBox* addCoordinate(const QString& caption, QFormLayout* form);
-    AnswerField* addAnswer(const QString& flag, const QString& tip, QFormLayout* form);
+    AnswerField* addAnswer(const MonitorFlag& flag, QFormLayout* form);
     void ask();
 
     std::vector<Monitor> m_monitors;
@@ -42,5 +41,4 @@ private:
     QSpinBox* m_y;
     AnswerField* m_pointer;
     std::array<AnswerField*, 3> m_answers{};
-    HMONITOR m_nearest = nullptr;
 };

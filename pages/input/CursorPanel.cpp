@@ -1,66 +1,23 @@
 #include "pages/input/CursorPanel.h"
 
+#include "inspection/input/CursorShapes.h"
+#include "inspection/input/PointerPosition.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/AnswerField.h"
+#include "window/Page.h"
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QGuiApplication>
 #include <QPushButton>
 
-#include <algorithm>
-
-namespace {
-
-struct Shape
-{
-    Qt::CursorShape shape;
-    const char* name;
-};
-
-constexpr Shape shapes[] = {
-    {Qt::ArrowCursor, QT_TRANSLATE_NOOP("CursorPanel", "Arrow")},
-    {Qt::WaitCursor, QT_TRANSLATE_NOOP("CursorPanel", "Wait")},
-    {Qt::BusyCursor, QT_TRANSLATE_NOOP("CursorPanel", "Busy")},
-    {Qt::CrossCursor, QT_TRANSLATE_NOOP("CursorPanel", "Cross")},
-    {Qt::IBeamCursor, QT_TRANSLATE_NOOP("CursorPanel", "Text")},
-    {Qt::PointingHandCursor, QT_TRANSLATE_NOOP("CursorPanel", "Hand")},
-    {Qt::SizeAllCursor, QT_TRANSLATE_NOOP("CursorPanel", "Move")},
-    {Qt::ForbiddenCursor, QT_TRANSLATE_NOOP("CursorPanel", "Forbidden")},
-};
-
-IPlatformCursorManager* service()
-{
-    return g_PlatformServices.cursorManager();
-}
-
-QString text(const POINT& point)
-{
-    return QStringLiteral("%1, %2").arg(point.x).arg(point.y);
-}
-
-QString shapeName(Qt::CursorShape shape)
-{
-    const auto* found = std::find_if(std::begin(shapes), std::end(shapes),
-                                     [shape](const Shape& entry) { return entry.shape == shape; });
-    return found == std::end(shapes) ? CursorPanel::tr("shape %1").arg(shape)
-                                     : CursorPanel::tr(found->name);
-}
-
-} // namespace
-
-CursorPanel::CursorPanel(QWidget* parent) : QGroupBox(tr("Pointer and cursor"), parent)
+CursorPanel::CursorPanel(PageContext& page, QWidget* parent)
+    : QGroupBox(tr("Pointer and cursor"), parent), m_page(page)
 {
     auto* form = new QFormLayout(this);
     m_screen = addValue(form, tr("GetCursorPos (screen):"), QStringLiteral("screen"));
     m_window = addValue(form, tr("ScreenToClient (window):"), QStringLiteral("window"));
     m_cursor = addValue(form, tr("GetCursor (override):"), QStringLiteral("cursor"));
     form->addRow(makeTools());
-}
-
-CursorPanel::~CursorPanel()
-{
-    popLevels();
 }
 
 AnswerField* CursorPanel::addValue(QFormLayout* form, const QString& caption,
@@ -71,12 +28,13 @@ AnswerField* CursorPanel::addValue(QFormLayout* form, const QString& caption,
     return value;
 }
 
-QWidget* CursorPanel::makeTools()
+QLayout* CursorPanel::makeTools()
 {
-    auto* place = new QWidget;
     m_shapes = new QComboBox;
     m_shapes->setAccessibleName(tr("Shape of the cursor"));
-    addShapes();
+    for (const Qt::CursorShape shape : CursorShapes::offered)
+        m_shapes->addItem(CursorShapes::name(shape), static_cast<int>(shape));
+    m_shapes->addItem(QStringLiteral("null"));
     auto* set = glowing(new QPushButton(tr("S&etCursor")));
     set->setToolTip(tr("Each SetCursor adds a level to the stack of cursors, and the service never "
                        "takes one away."));
@@ -84,62 +42,41 @@ QWidget* CursorPanel::makeTools()
     m_takeBack = glowing(new QPushButton(tr("Ta&ke back")));
     m_takeBack->setToolTip(tr("Takes away the levels added here, past the service, which cannot."));
     connect(m_takeBack, &QPushButton::clicked, this, &CursorPanel::takeBack);
-    auto* row = new QHBoxLayout(place);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = new QHBoxLayout;
     row->addWidget(m_shapes);
     row->addWidget(set);
     row->addWidget(m_takeBack);
     row->addStretch();
-    return place;
-}
-
-void CursorPanel::addShapes()
-{
-    for (const Shape& shape : shapes)
-        m_shapes->addItem(tr(shape.name), static_cast<int>(shape.shape));
-    m_shapes->addItem(QStringLiteral("null"));
+    return row;
 }
 
 void CursorPanel::setCursorShape()
 {
-    if (!m_shapes->currentData().isValid()) {
-        service()->SetCursor(nullptr);
-        emit reported(Page::Report::Info, tr("SetCursor with null changes nothing."));
+    const QVariant shape = m_shapes->currentData();
+    if (!shape.isValid()) {
+        g_PlatformServices.cursorManager()->SetCursor(nullptr);
+        m_page.report(PageContext::Report::Info, tr("SetCursor with null changes nothing."));
         return;
     }
-    QCursor cursor(static_cast<Qt::CursorShape>(m_shapes->currentData().toInt()));
-    service()->SetCursor(&cursor);
-    ++m_levels;
+    m_levels.add(static_cast<Qt::CursorShape>(shape.toInt()));
     refresh();
-    emit reported(Page::Report::Info, tr("Levels added from here: %1.").arg(m_levels));
-}
-
-// The service has no call for it.
-void CursorPanel::popLevels()
-{
-    for (; m_levels > 0; --m_levels)
-        QGuiApplication::restoreOverrideCursor();
+    m_page.report(PageContext::Report::Info,
+                  tr("Levels added from here: %1.").arg(m_levels.count()));
 }
 
 void CursorPanel::takeBack()
 {
-    popLevels();
+    m_levels.takeBack();
     refresh();
-}
-
-void CursorPanel::showPosition()
-{
-    POINT point{};
-    service()->GetCursorPos(&point);
-    m_screen->setAnswer(text(point));
-    service()->ScreenToClient(window(), &point);
-    m_window->setAnswer(text(point));
 }
 
 void CursorPanel::refresh()
 {
-    showPosition();
-    const auto* cursor = static_cast<const QCursor*>(service()->GetCursor());
-    m_cursor->setAnswer(cursor ? shapeName(cursor->shape()) : tr("null: none is set"));
-    m_takeBack->setEnabled(m_levels > 0);
+    const QPoint position = pointerPosition();
+    m_screen->setAnswer(pointText(position));
+    POINT point{position.x(), position.y()};
+    g_PlatformServices.cursorManager()->ScreenToClient(window(), &point);
+    m_window->setAnswer(pointText({point.x, point.y}));
+    m_cursor->setAnswer(CursorShapes::current());
+    m_takeBack->setEnabled(m_levels.count() > 0);
 }

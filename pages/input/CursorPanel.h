@@ -1,12 +1,14 @@
 #pragma once
 
-#include "window/Page.h"
+#include "inspection/input/CursorLevels.h"
+#include "window/PageContext.h"
 
 #include <QGroupBox>
 
 class AnswerField;
 class QComboBox;
 class QFormLayout;
+class QPushButton;
 
 /// The pointer's position and the override cursor.
 class CursorPanel : public QGroupBox
@@ -14,29 +16,22 @@ class CursorPanel : public QGroupBox
     Q_OBJECT
 
 public:
-    explicit CursorPanel(QWidget* parent = nullptr);
-    /// Takes back the levels that were added here.
-    ~CursorPanel() override;
+    explicit CursorPanel(PageContext& page, QWidget* parent = nullptr);
 
     /// Asks for all of it.
     void refresh();
 
-signals:
-    void reported(Page::Report kind, const QString& text);
-
 private:
     AnswerField* addValue(QFormLayout* form, const QString& caption, const QString& objectName);
-    QWidget* makeTools();
-    void addShapes();
+    QLayout* makeTools();
     void setCursorShape();
-    void popLevels();
     void takeBack();
-    void showPosition();
 
+    PageContext& m_page;
     AnswerField* m_screen;
     AnswerField* m_window;
     AnswerField* m_cursor;
     QComboBox* m_shapes = nullptr;
     QPushButton* m_takeBack = nullptr;
-    int m_levels = 0;
+    CursorLevels m_levels;
 };

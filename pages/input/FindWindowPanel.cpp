@@ -1,6 +1,7 @@
 #include "pages/input/FindWindowPanel.h"
 
-#include "platform/PlatformServicesImp.h"
+#include "inspection/input/WindowSearch.h"
+#include "window/Page.h"
 #include "window/ShownText.h"
 
 #include <QFormLayout>
@@ -21,8 +22,8 @@ QString description(HWND handle)
 
 } // namespace
 
-FindWindowPanel::FindWindowPanel(QWidget* parent)
-    : QGroupBox(QStringLiteral("FindWindowW"), parent), m_result(new QLabel)
+FindWindowPanel::FindWindowPanel(PageContext& page, QWidget* parent)
+    : QGroupBox(QStringLiteral("FindWindowW"), parent), m_page(page), m_result(new QLabel)
 {
     auto* form = new QFormLayout(this);
     m_className = addField(tr("Class na&me:"), form);
@@ -60,16 +61,7 @@ void FindWindowPanel::focusFirst()
 
 void FindWindowPanel::find()
 {
-    const std::wstring className = m_className->text().toStdWString();
-    const std::wstring windowName = m_windowName->text().toStdWString();
-    const HWND found = g_PlatformServices.userInputManager()->FindWindowW(
-        className.empty() ? nullptr : className.c_str(),
-        windowName.empty() ? nullptr : windowName.c_str());
+    const HWND found = findWindow(m_className->text(), m_windowName->text());
     m_result->setText(found ? description(found) : tr("null: no window was found"));
-    if (found)
-        emit reported(Page::Report::Info, tr("A window was found."));
-    else
-        emit reported(Page::Report::Info,
-                      tr("No window was found. Names must match exactly, upper and lower case "
-                         "included."));
+    m_page.report(PageContext::Report::Info, searchRemark(found));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/Page.h"
+#include "window/PageContext.h"
 
 #include <QGroupBox>
 
@@ -14,18 +14,16 @@ class FindWindowPanel : public QGroupBox
     Q_OBJECT
 
 public:
-    explicit FindWindowPanel(QWidget* parent = nullptr);
+    explicit FindWindowPanel(PageContext& page, QWidget* parent = nullptr);
 
     /// Puts the keyboard into the first field.
     void focusFirst();
-
-signals:
-    void reported(Page::Report kind, const QString& text);
 
 private:
     QLineEdit* addField(const QString& caption, QFormLayout* form);
     void find();
 
+    PageContext& m_page;
     QLineEdit* m_className;
     QLineEdit* m_windowName;
     QLabel* m_result;

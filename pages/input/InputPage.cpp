@@ -13,7 +13,10 @@ constexpr int liveMilliseconds = 50;
 } // namespace
 
 InputPage::InputPage(QWidget* parent)
-    : Page(parent), m_keys(new KeyPanel), m_cursor(new CursorPanel), m_find(new FindWindowPanel)
+    : Page(parent),
+      m_keys(new KeyPanel),
+      m_cursor(new CursorPanel(*this)),
+      m_find(new FindWindowPanel(*this))
 {
     body()->addWidget(m_keys);
     auto* row = new QHBoxLayout;
@@ -21,8 +24,6 @@ InputPage::InputPage(QWidget* parent)
     row->addWidget(m_find, 1);
     body()->addLayout(row);
     body()->addStretch(1);
-    connect(m_cursor, &CursorPanel::reported, this, &InputPage::report);
-    connect(m_find, &FindWindowPanel::reported, this, &InputPage::report);
     connect(&m_timer, &QTimer::timeout, this, &InputPage::refresh);
     setFocusProxy(m_keys);
 }

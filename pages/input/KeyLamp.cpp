@@ -1,6 +1,6 @@
 #include "pages/input/KeyLamp.h"
 
-#include "platform/PlatformServicesImp.h"
+#include "inspection/input/KeyStates.h"
 
 #include <QPainter>
 
@@ -8,7 +8,7 @@ KeyLamp::KeyLamp(const VirtualKey& key, QWidget* parent)
     : QWidget(parent),
       m_code(key.code),
       m_name(QString::fromLatin1(key.name)),
-      m_known(isKnownKey(key.code))
+      m_known(key.qtCode != 0)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     describe();
@@ -17,13 +17,13 @@ KeyLamp::KeyLamp(const VirtualKey& key, QWidget* parent)
 void KeyLamp::describe()
 {
     setAccessibleName(m_name);
-    setAccessibleDescription(m_lit ? tr("down") : tr("up"));
+    setAccessibleDescription(KeyStates::name(m_lit));
     setToolTip(QStringLiteral("%1 (0x%2)").arg(m_name).arg(m_code, 2, 16, QLatin1Char('0')));
 }
 
 void KeyLamp::refresh()
 {
-    const bool lit = g_PlatformServices.userInputManager()->getKeyState(m_code) < 0;
+    const bool lit = KeyStates::isDown(m_code);
     if (lit == m_lit)
         return;
     m_lit = lit;

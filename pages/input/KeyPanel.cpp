@@ -1,5 +1,6 @@
 #include "pages/input/KeyPanel.h"
 
+#include "inspection/input/KeyStates.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/AnswerField.h"
 
@@ -31,12 +32,12 @@ KeyPanel::KeyPanel(QWidget* parent) : QGroupBox(tr("Key states"), parent)
         paragraph(tr("Known to the service, as of the last event from keyboard or "
                      "mouse. Left and right cannot be told apart, and no toggle state "
                      "is told:")));
-    addLamps(knownKeys(), knownRows, layout);
-    layout->addWidget(makeReports());
+    addLamps({knownKeys.begin(), knownKeys.end()}, knownRows, layout);
+    layout->addLayout(makeReports());
     layout->addWidget(paragraph(tr("Unknown to the service, as every other code: these always read "
                                    "as up.")));
-    addLamps(unknownKeys(), unknownRows, layout);
-    layout->addWidget(makeQuery());
+    addLamps({KeyStates::unknownKeys.begin(), KeyStates::unknownKeys.end()}, unknownRows, layout);
+    layout->addLayout(makeQuery());
     setFocusProxy(m_code);
     refresh();
 }
@@ -62,16 +63,14 @@ void KeyPanel::addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayo
 }
 
 // Qt does not tell their state; host libraries report it from their own key events.
-QWidget* KeyPanel::makeReports()
+QLayout* KeyPanel::makeReports()
 {
-    auto* place = new QWidget;
-    auto* row = new QHBoxLayout(place);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = new QHBoxLayout;
     row->addWidget(new QLabel(tr("Report with setKeyPressed:")));
     addReport(row, tr("Re&turn down"), Qt::Key_Return);
     addReport(row, tr("&Space down"), Qt::Key_Space);
     row->addStretch();
-    return place;
+    return row;
 }
 
 void KeyPanel::addReport(QLayout* row, const QString& caption, int qtKey)
@@ -85,9 +84,8 @@ void KeyPanel::addReport(QLayout* row, const QString& caption, int qtKey)
     m_reports.push_back(box);
 }
 
-QWidget* KeyPanel::makeQuery()
+QLayout* KeyPanel::makeQuery()
 {
-    auto* place = new QWidget;
     m_code = new QSpinBox;
     m_code->setRange(0, lastCode);
     m_code->setDisplayIntegerBase(16);
@@ -97,13 +95,12 @@ QWidget* KeyPanel::makeQuery()
     m_state = new AnswerField(tr("State"), QStringLiteral("state"));
     auto* label = new QLabel(tr("An&y code:"));
     label->setBuddy(m_code);
-    auto* row = new QHBoxLayout(place);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = new QHBoxLayout;
     row->addWidget(label);
     row->addWidget(m_code);
     row->addWidget(m_state, 1);
     connect(m_code, QOverload<int>::of(&QSpinBox::valueChanged), this, &KeyPanel::ask);
-    return place;
+    return row;
 }
 
 void KeyPanel::refresh()
@@ -115,8 +112,5 @@ void KeyPanel::refresh()
 
 void KeyPanel::ask()
 {
-    const int code = m_code->value();
-    const int state = g_PlatformServices.userInputManager()->getKeyState(code);
-    const QString what = state < 0 ? tr("down") : isKnownKey(code) ? tr("up") : tr("always up");
-    m_state->setAnswer(tr("getKeyState answers %1: %2").arg(state).arg(what));
+    m_state->setAnswer(KeyStates::answer(m_code->value()));
 }

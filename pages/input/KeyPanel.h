@@ -26,9 +26,9 @@ public:
 private:
     /// Column by column.
     void addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayout* layout);
-    QWidget* makeReports();
+    QLayout* makeReports();
     void addReport(QLayout* row, const QString& caption, int qtKey);
-    QWidget* makeQuery();
+    QLayout* makeQuery();
     void ask();
 
     std::vector<KeyLamp*> m_lamps;

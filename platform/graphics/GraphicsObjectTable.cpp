@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::uint16_t ImageType = 0;
+constexpr std::uint16_t imageType = 0;
 
 // The handle's value, or 0 (no handle at all) where it lies outside 1..0x7FFFFFFF.
 unsigned int value(void* handle)
@@ -37,7 +37,7 @@ void destroyImage(void* object)
 
 GraphicsObjectTable::~GraphicsObjectTable()
 {
-    const auto images = m_ranges.find(ImageType);
+    const auto images = m_ranges.find(imageType);
     if (images == m_ranges.end())
         return;
     for (const std::optional<void*>& object : images->second.objects())
@@ -50,9 +50,7 @@ void* GraphicsObjectTable::insert(int type, void* object)
     const unsigned int number = m_ranges[rangeType].insert(object);
     if (number == 0)
         return nullptr;
-    const auto handle =
-        static_cast<std::int32_t>((static_cast<unsigned int>(rangeType) << 16) | number);
-    return reinterpret_cast<void*>(static_cast<std::intptr_t>(handle));
+    return handleOf(rangeType, number);
 }
 
 void GraphicsObjectTable::remove(void* handle)
@@ -61,7 +59,7 @@ void GraphicsObjectTable::remove(void* handle)
     if (range == m_ranges.end())
         return;
     const std::optional<void*> object = range->second.take(numberOf(value(handle)));
-    if (range->first == ImageType)
+    if (range->first == imageType)
         destroyImage(object.value_or(nullptr));
 }
 
@@ -71,4 +69,10 @@ void* GraphicsObjectTable::find(void* handle, int type) const
     if (range == m_ranges.end() || range->first != type)
         return nullptr;
     return range->second.find(numberOf(value(handle))).value_or(nullptr);
+}
+
+void* GraphicsObjectTable::handleOf(std::uint16_t type, unsigned int number)
+{
+    const auto handle = static_cast<std::int32_t>((static_cast<unsigned int>(type) << 16) | number);
+    return reinterpret_cast<void*>(static_cast<std::intptr_t>(handle));
 }

@@ -32,6 +32,24 @@ public:
     /// The object under `handle`; null when the handle is unknown or not of `type`.
     void* find(void* handle, int type) const;
 
+    /// Calls `visit(handle, object)` for every entry, also for those that hold null: type by type
+    /// in the order of the handles, those with negative handles last. `visit` must not alter the
+    /// table.
+    template <typename Visit>
+    void forEach(Visit visit) const
+    {
+        for (const auto& [type, range] : m_ranges) {
+            unsigned int number = 0;
+            for (const std::optional<void*>& object : range.objects()) {
+                ++number;
+                if (object)
+                    visit(handleOf(type, number), *object);
+            }
+        }
+    }
+
 private:
+    static void* handleOf(std::uint16_t type, unsigned int number);
+
     std::map<std::uint16_t, HandleRange> m_ranges;
 };

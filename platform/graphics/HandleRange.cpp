@@ -8,7 +8,7 @@ unsigned int HandleRange::insert(void* object)
         m_objects[number - 1] = object;
         return number;
     }
-    if (m_objects.size() == LastNumber)
+    if (m_objects.size() == lastNumber)
         return 0;
     m_objects.emplace_back(object);
     return static_cast<unsigned int>(m_objects.size());

@@ -11,7 +11,7 @@
 class HandleRange
 {
 public:
-    static constexpr unsigned int LastNumber = 0xFFFF;
+    static constexpr unsigned int lastNumber = 0xFFFF;
 
     /// Enters `object`, which may be null. Returns its number, or 0 when all numbers are taken.
     unsigned int insert(void* object);

@@ -169,6 +169,53 @@
 <context>
     <name>CursorPanel</name>
     <message>
+        <source>Pointer and cursor</source>
+        <translation>指针与光标</translation>
+    </message>
+    <message>
+        <source>Each SetCursor adds a level to the stack of cursors, and the service never takes one away.</source>
+        <translation>每次 SetCursor 都会在光标栈上增加一层，而服务从不移除任何一层。</translation>
+    </message>
+    <message>
+        <source>Shape of the cursor</source>
+        <translation>光标形状</translation>
+    </message>
+    <message>
+        <source>S&amp;etCursor</source>
+        <translation>SetCursor(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ke back</source>
+        <translation>撤回(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Takes away the levels added here, past the service, which cannot.</source>
+        <translation>绕过服务移除在此处增加的各层；服务本身做不到。</translation>
+    </message>
+    <message>
+        <source>SetCursor with null changes nothing.</source>
+        <translation>以 null 调用 SetCursor 不会有任何变化。</translation>
+    </message>
+    <message>
+        <source>Levels added from here: %1.</source>
+        <translation>在此处增加的层数：%1。</translation>
+    </message>
+    <message>
+        <source>GetCursorPos (screen):</source>
+        <translation>GetCursorPos（屏幕坐标）：</translation>
+    </message>
+    <message>
+        <source>ScreenToClient (window):</source>
+        <translation>ScreenToClient（窗口坐标）：</translation>
+    </message>
+    <message>
+        <source>GetCursor (override):</source>
+        <translation>GetCursor（覆盖光标）：</translation>
+    </message>
+</context>
+<context>
+    <name>CursorShapes</name>
+    <message>
         <source>Arrow</source>
         <translation>箭头</translation>
     </message>
@@ -205,52 +252,8 @@
         <translation>形状 %1</translation>
     </message>
     <message>
-        <source>Pointer and cursor</source>
-        <translation>指针与光标</translation>
-    </message>
-    <message>
-        <source>Each SetCursor adds a level to the stack of cursors, and the service never takes one away.</source>
-        <translation>每次 SetCursor 都会在光标栈上增加一层，而服务从不移除任何一层。</translation>
-    </message>
-    <message>
-        <source>Shape of the cursor</source>
-        <translation>光标形状</translation>
-    </message>
-    <message>
-        <source>S&amp;etCursor</source>
-        <translation>SetCursor(&amp;E)</translation>
-    </message>
-    <message>
-        <source>Ta&amp;ke back</source>
-        <translation>撤回(&amp;K)</translation>
-    </message>
-    <message>
-        <source>Takes away the levels added here, past the service, which cannot.</source>
-        <translation>绕过服务移除在此处增加的各层；服务本身做不到。</translation>
-    </message>
-    <message>
-        <source>SetCursor with null changes nothing.</source>
-        <translation>以 null 调用 SetCursor 不会有任何变化。</translation>
-    </message>
-    <message>
-        <source>Levels added from here: %1.</source>
-        <translation>在此处增加的层数：%1。</translation>
-    </message>
-    <message>
         <source>null: none is set</source>
         <translation>null：未设置</translation>
-    </message>
-    <message>
-        <source>GetCursorPos (screen):</source>
-        <translation>GetCursorPos（屏幕坐标）：</translation>
-    </message>
-    <message>
-        <source>ScreenToClient (window):</source>
-        <translation>ScreenToClient（窗口坐标）：</translation>
-    </message>
-    <message>
-        <source>GetCursor (override):</source>
-        <translation>GetCursor（覆盖光标）：</translation>
     </message>
 </context>
 <context>
@@ -474,14 +477,6 @@
         <source>&amp;Graphics handles</source>
         <translation>图形句柄(&amp;G)</translation>
     </message>
-    <message>
-        <source>Looking for handles</source>
-        <translation>正在查找句柄</translation>
-    </message>
-    <message>
-        <source>%L1 of %L2 numbers</source>
-        <translation>%L1 / %L2 个编号</translation>
-    </message>
 </context>
 <context>
     <name>EncryptionNote</name>
@@ -673,14 +668,6 @@
         <source>null: no window was found</source>
         <translation>null：未找到窗口</translation>
     </message>
-    <message>
-        <source>A window was found.</source>
-        <translation>已找到窗口。</translation>
-    </message>
-    <message>
-        <source>No window was found. Names must match exactly, upper and lower case included.</source>
-        <translation>未找到窗口。名称必须完全一致，区分大小写。</translation>
-    </message>
 </context>
 <context>
     <name>FontPreview</name>
@@ -819,19 +806,7 @@
     </message>
 </context>
 <context>
-    <name>HandleModel</name>
-    <message>
-        <source>Handle</source>
-        <translation>句柄</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>Object</source>
-        <translation>对象</translation>
-    </message>
+    <name>GraphicsHandles</name>
     <message>
         <source>image</source>
         <translation>图像</translation>
@@ -843,6 +818,10 @@
     <message>
         <source>brush</source>
         <translation>画刷</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>其他</translation>
     </message>
     <message>
         <source>colour 0x%1</source>
@@ -859,10 +838,6 @@
 </context>
 <context>
     <name>HandlePanel</name>
-    <message>
-        <source>A brush of colour 0 is not listed: the service answers for it as for a free number.</source>
-        <translation>颜色为 0 的画刷不会列出：服务对它的回答与空闲编号相同。</translation>
-    </message>
     <message>
         <source>Graphics handles</source>
         <translation>图形句柄</translation>
@@ -900,16 +875,8 @@
         <translation>删除(&amp;T)...</translation>
     </message>
     <message>
-        <source>Cancelled after %L1 of %L2 numbers; the list is not complete.</source>
-        <translation>已取消，仅查看了 %L2 个编号中的 %L1 个；列表不完整。</translation>
-    </message>
-    <message>
         <source>The colour must be a hexadecimal number of up to 8 digits, such as 0x0000FF.</source>
         <translation>颜色必须是不超过 8 位的十六进制数，例如 0x0000FF。</translation>
-    </message>
-    <message>
-        <source>Made handle 0x%1.</source>
-        <translation>已创建句柄 0x%1。</translation>
     </message>
     <message>
         <source>The service made no handle: all 65,535 numbers are taken.</source>
@@ -926,6 +893,22 @@
     <message>
         <source>Deleted handle %1.</source>
         <translation>已删除句柄 %1。</translation>
+    </message>
+    <message>
+        <source>Handle</source>
+        <translation>句柄</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>Made handle %1.</source>
+        <translation>已创建句柄 %1。</translation>
     </message>
 </context>
 <context>
@@ -1116,17 +1099,6 @@
     </message>
 </context>
 <context>
-    <name>KeyLamp</name>
-    <message>
-        <source>down</source>
-        <translation>按下</translation>
-    </message>
-    <message>
-        <source>up</source>
-        <translation>弹起</translation>
-    </message>
-</context>
-<context>
     <name>KeyPanel</name>
     <message>
         <source>Key states</source>
@@ -1161,6 +1133,13 @@
         <translation>任意代码(&amp;Y)：</translation>
     </message>
     <message>
+        <source>Known to the service, as of the last event from keyboard or mouse. Left and right cannot be told apart, and no toggle state is told:</source>
+        <translation>服务能识别的键，状态以最近一次键盘或鼠标事件为准。左右键无法区分，也不提供切换状态：</translation>
+    </message>
+</context>
+<context>
+    <name>KeyStates</name>
+    <message>
         <source>down</source>
         <translation>按下</translation>
     </message>
@@ -1175,10 +1154,6 @@
     <message>
         <source>getKeyState answers %1: %2</source>
         <translation>getKeyState 返回 %1：%2</translation>
-    </message>
-    <message>
-        <source>Known to the service, as of the last event from keyboard or mouse. Left and right cannot be told apart, and no toggle state is told:</source>
-        <translation>服务能识别的键，状态以最近一次键盘或鼠标事件为准。左右键无法区分，也不提供切换状态：</translation>
     </message>
 </context>
 <context>
@@ -1502,10 +1477,6 @@
         <translation>任意索引(&amp;A)：</translation>
     </message>
     <message>
-        <source>0 (not provided)</source>
-        <translation>0（未提供）</translation>
-    </message>
-    <message>
         <source>GetSystemMetrics answers %1</source>
         <translation>GetSystemMetrics 返回 %1</translation>
     </message>
@@ -1515,6 +1486,14 @@
     <message>
         <source>Monitor %1</source>
         <translation>显示器 %1</translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation>主显示器</translation>
+    </message>
+    <message>
+        <source>%1 (primary)</source>
+        <translation>%1（主）</translation>
     </message>
 </context>
 <context>
@@ -1527,9 +1506,20 @@
         <source>Click to choose a point, or move it with the arrow keys: 20 pixels, with Ctrl 200, with Shift 1. Home takes the pointer&apos;s position.</source>
         <translation>单击以选择一点，或用方向键移动：每次 20 像素，按住 Ctrl 为 200，按住 Shift 为 1。Home 键取指针位置。</translation>
     </message>
+</context>
+<context>
+    <name>MonitorQuery</name>
     <message>
-        <source>Primary</source>
-        <translation>主显示器</translation>
+        <source>The monitor that holds the point, else null.</source>
+        <translation>包含该点的显示器，否则为 null。</translation>
+    </message>
+    <message>
+        <source>The monitor that holds the point, else the primary one.</source>
+        <translation>包含该点的显示器，否则为主显示器。</translation>
+    </message>
+    <message>
+        <source>The monitor that holds the point, else the one with the nearest edge line; edge lines go on beyond the corners.</source>
+        <translation>包含该点的显示器，否则为边线最近的显示器；边线延伸到角之外。</translation>
     </message>
 </context>
 <context>
@@ -1549,10 +1539,6 @@
     <message>
         <source>Monitors</source>
         <translation>显示器</translation>
-    </message>
-    <message>
-        <source>%1 (primary)</source>
-        <translation>%1（主）</translation>
     </message>
 </context>
 <context>
@@ -1726,18 +1712,6 @@
     <message>
         <source>Point &amp;Y:</source>
         <translation>点 Y(&amp;Y)：</translation>
-    </message>
-    <message>
-        <source>The monitor that holds the point, else null.</source>
-        <translation>包含该点的显示器，否则为 null。</translation>
-    </message>
-    <message>
-        <source>The monitor that holds the point, else the primary one.</source>
-        <translation>包含该点的显示器，否则为主显示器。</translation>
-    </message>
-    <message>
-        <source>The monitor that holds the point, else the one with the nearest edge line; edge lines go on beyond the corners.</source>
-        <translation>包含该点的显示器，否则为边线最近的显示器；边线延伸到角之外。</translation>
     </message>
 </context>
 <context>
@@ -2621,6 +2595,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>SystemMetrics</name>
+    <message>
+        <source>0 (not provided)</source>
+        <translation>0（未提供）</translation>
+    </message>
+</context>
+<context>
     <name>TextLimits</name>
     <message>
         <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
@@ -2742,6 +2723,17 @@ Wide: %2</source>
     <message>
         <source>&quot;\&quot; and &quot;/&quot; separate keys. Create one key at a time.</source>
         <translation>“\”和“/”用于分隔项。请逐级创建。</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>A window was found.</source>
+        <translation>已找到窗口。</translation>
+    </message>
+    <message>
+        <source>No window was found. Names must match exactly, upper and lower case included.</source>
+        <translation>未找到窗口。名称必须完全一致，区分大小写。</translation>
     </message>
 </context>
 </TS>

@@ -11,13 +11,17 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTableWidget>
 
 namespace {
 
 IPlatformResourceManager* service()
 {
     return g_PlatformServices.resourceManager();
+}
+
+QString cell(const QTableView& table, int row, int column)
+{
+    return table.model()->index(row, column).data().toString();
 }
 
 class DisplaysPageTest : public PageFixture
@@ -43,8 +47,8 @@ TEST_F(DisplaysPageTest, ListsTheMonitorAsTheServiceDescribesIt)
 {
     MONITORINFO info{};
     ASSERT_EQ(service()->GetMonitorInfoW(QGuiApplication::primaryScreen(), &info), 1);
-    const auto* table = control<QTableWidget>("Monitors");
-    ASSERT_EQ(table->rowCount(), 1);
+    const auto* table = control<QTableView>("Monitors");
+    ASSERT_EQ(table->model()->rowCount(), 1);
     const auto edges = [](const RECT& rect) {
         return QStringLiteral("%1, %2, %3, %4")
             .arg(rect.left)
@@ -52,10 +56,21 @@ TEST_F(DisplaysPageTest, ListsTheMonitorAsTheServiceDescribesIt)
             .arg(rect.right)
             .arg(rect.bottom);
     };
-    EXPECT_EQ(table->item(0, 1)->text(), edges(info.rcMonitor));
-    EXPECT_EQ(table->item(0, 2)->text(), edges(info.rcWork));
-    EXPECT_EQ(table->item(0, 3)->text(), "1 (primary)");
-    EXPECT_EQ(table->item(0, 4)->text(), handleText(QGuiApplication::primaryScreen()));
+    EXPECT_EQ(cell(*table, 0, 1), edges(info.rcMonitor));
+    EXPECT_EQ(cell(*table, 0, 2), edges(info.rcWork));
+    EXPECT_EQ(cell(*table, 0, 3), "1 (primary)");
+    EXPECT_EQ(cell(*table, 0, 4), handleText(QGuiApplication::primaryScreen()));
+}
+
+TEST_F(DisplaysPageTest, TheHeadersOfTheEdgesSayWhatTheyAre)
+{
+    const QAbstractItemModel* model = control<QTableView>("Monitors")->model();
+    const auto tip = [model](int column) {
+        return model->headerData(column, Qt::Horizontal, Qt::ToolTipRole).toString();
+    };
+    EXPECT_TRUE(tip(1).startsWith("Left, top, right, bottom."));
+    EXPECT_EQ(tip(2), tip(1));
+    EXPECT_EQ(tip(0), QString());
 }
 
 TEST_F(DisplaysPageTest, AClickAsksForThePointUnderIt)
@@ -112,14 +127,12 @@ TEST_F(DisplaysPageTest, FollowsThePointer)
 TEST_F(DisplaysPageTest, ShowsTheMetricsThatAreAnsweredAndThoseThatAreNot)
 {
     chooseTab(1);
-    const auto* table = control<QTableWidget>("System metrics");
-    EXPECT_EQ(table->item(0, 1)->text(), "SM_CXFULLSCREEN");
-    EXPECT_EQ(table->item(0, 2)->text(),
-              QString::number(service()->GetSystemMetrics(SM_CXFULLSCREEN)));
-    EXPECT_EQ(table->item(1, 2)->text(),
-              QString::number(service()->GetSystemMetrics(SM_CYFULLSCREEN)));
-    for (int row = 2; row < table->rowCount(); ++row)
-        EXPECT_EQ(table->item(row, 2)->text(), "0 (not provided)");
+    const auto* table = control<QTableView>("System metrics");
+    EXPECT_EQ(cell(*table, 0, 1), "SM_CXFULLSCREEN");
+    EXPECT_EQ(cell(*table, 0, 2), QString::number(service()->GetSystemMetrics(SM_CXFULLSCREEN)));
+    EXPECT_EQ(cell(*table, 1, 2), QString::number(service()->GetSystemMetrics(SM_CYFULLSCREEN)));
+    for (int row = 2; row < table->model()->rowCount(); ++row)
+        EXPECT_EQ(cell(*table, row, 2), "0 (not provided)");
     control<QSpinBox>("Index of a metric")->setValue(SM_CYFULLSCREEN);
     EXPECT_EQ(answer("Value"), "GetSystemMetrics answers " +
                                    std::to_string(service()->GetSystemMetrics(SM_CYFULLSCREEN)));
@@ -196,11 +209,22 @@ TEST_F(HandlePanelTest, SaysHowToGetAHandleWhenThereIsNone)
     EXPECT_FALSE(hint->isVisible());
 }
 
-TEST_F(HandlePanelTest, DoesNotListABrushOfColourZero)
+TEST_F(HandlePanelTest, ListsABrushOfColourZero)
 {
     made(service()->createBrush(0));
     refresh();
-    EXPECT_EQ(rows(), QStringList());
+    EXPECT_EQ(rows(), QStringList("0x40001 | 4 (brush) | colour 0x00000000"));
+    for (const QLabel* label : page()->findChildren<QLabel*>())
+        EXPECT_FALSE(label->text().contains("colour 0")) << label->text().toStdString();
+}
+
+TEST_F(HandlePanelTest, ChoosesTheHandleThatWasMadeLast)
+{
+    made(service()->createImage(0, 1, 1));
+    press("New &brush");
+    made(reinterpret_cast<void*>(0x40001));
+    EXPECT_EQ(status(), "Made handle 0x40001.");
+    EXPECT_EQ(control<QTableView>("Graphics handles")->currentIndex().row(), 1);
 }
 
 TEST_F(HandlePanelTest, FindsTheLastNumberOfAType)
@@ -314,22 +338,13 @@ TEST(MonitorMapTest, StandsWithoutAnyMonitor)
     EXPECT_FALSE(map.grab().isNull());
 }
 
-TEST(MonitorListTest, NamesAMonitorByItsPlace)
-{
-    int handles[3];
-    const std::vector<Monitor> list = {{&handles[0], {}, {}, 0}, {&handles[1], {}, {}, 1}};
-    EXPECT_EQ(monitorName(list, &handles[1]), "Monitor 2");
-    EXPECT_EQ(monitorName(list, nullptr), "null");
-    EXPECT_EQ(monitorName(list, &handles[2]), handleText(&handles[2]));
-}
-
 TEST_F(DisplaysPageTest, FollowsMonitorsThatComeAndGo)
 {
-    const auto* table = control<QTableWidget>("Monitors");
+    const auto* table = control<QTableView>("Monitors");
     const QRect first = QGuiApplication::primaryScreen()->geometry();
     {
         const VirtualScreen second(QRect(first.right() + 101, 0, 640, 480));
-        ASSERT_TRUE(QTest::qWaitFor([table] { return table->rowCount() == 2; }));
+        ASSERT_TRUE(QTest::qWaitFor([table] { return table->model()->rowCount() == 2; }));
         control<QSpinBox>("Point X:")->setValue(first.right() + 200);
         control<QSpinBox>("Point Y:")->setValue(100);
         for (const char* flag : {"DEFAULTTONULL", "DEFAULTTOPRIMARY", "DEFAULTTONEAREST"})
@@ -339,7 +354,7 @@ TEST_F(DisplaysPageTest, FollowsMonitorsThatComeAndGo)
         EXPECT_EQ(answer("DEFAULTTOPRIMARY"), "Monitor 1");
         EXPECT_EQ(answer("DEFAULTTONEAREST"), "Monitor 2");
     }
-    EXPECT_TRUE(QTest::qWaitFor([table] { return table->rowCount() == 1; }));
+    EXPECT_TRUE(QTest::qWaitFor([table] { return table->model()->rowCount() == 1; }));
 }
 
 } // namespace

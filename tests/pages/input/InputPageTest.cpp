@@ -47,7 +47,7 @@ TEST_F(InputPageTest, HasALampForEveryKeyThatTheServiceKnows)
         EXPECT_TRUE(isKnownKey(code)) << code;
         EXPECT_EQ(std::count(lamps.begin(), lamps.end(), code), 1) << code;
     }
-    EXPECT_EQ(knownKeys().size(), 14U);
+    EXPECT_EQ(knownKeys.size(), 14U);
 }
 
 TEST_F(InputPageTest, LampsFollowWhatTheHostLibraryReports)

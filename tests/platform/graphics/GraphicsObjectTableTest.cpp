@@ -15,6 +15,8 @@
 
 namespace {
 
+using Entries = std::vector<std::pair<std::int64_t, void*>>;
+
 // The table as an ordered map that is searched from the first number on, in 32-bit arithmetic.
 class SearchedTable
 {
@@ -49,6 +51,15 @@ public:
     // Enters without searching, to get a nearly full table quickly.
     void enter(std::intptr_t handle, void* object) { m_objects.emplace(handle, object); }
 
+    // All entries; negative handles come last.
+    Entries entries() const
+    {
+        const auto first = m_objects.lower_bound(0);
+        Entries list(first, m_objects.end());
+        list.insert(list.end(), m_objects.begin(), first);
+        return list;
+    }
+
 private:
     std::map<std::int64_t, void*> m_objects;
 };
@@ -74,6 +85,15 @@ protected:
     void compare(std::intptr_t handle, int type) const
     {
         ASSERT_EQ(searched.find(handle, type), table.find(toHandle(handle), type)) << handle;
+    }
+
+    void compareAll() const
+    {
+        Entries entries;
+        table.forEach([&entries](void* handle, void* object) {
+            entries.emplace_back(number(handle), object);
+        });
+        ASSERT_EQ(searched.entries(), entries);
     }
 
     std::size_t pick(std::size_t count) { return random() % count; }
@@ -102,6 +122,8 @@ TEST_F(GraphicsObjectTables, GiveTheNumbersThatASearchWouldFind)
         }
         if (!handles.empty())
             compare(handles[pick(handles.size())], types[pick(types.size())]);
+        if (round % 1000 == 0)
+            compareAll();
         ASSERT_FALSE(HasFatalFailure());
     }
 }
@@ -117,6 +139,7 @@ TEST_F(GraphicsObjectTables, GiveTheNumbersThatASearchWouldFindWhenNearlyFull)
             remove(0x20001 + static_cast<std::intptr_t>(pick(0xFFFF)));
         insert(2);
         insert(2);
+        compareAll();
         ASSERT_FALSE(HasFatalFailure());
     }
 }

@@ -7,6 +7,8 @@
 
 #include <limits>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -152,6 +154,39 @@ TEST_F(ResourceHandles, OfNullObjectsCanBeRemoved)
     EXPECT_EQ(nullptr, manager.fromHandle(handle, ObjType::ObjImage));
     manager.removeObject(handle);
     EXPECT_EQ(1, number(manager.createImage(0, 1, 1)));
+}
+
+// In the form of "handle type object", to be compared in one go.
+std::vector<std::string> listed(const PlatformResourceManagerImp& manager)
+{
+    std::vector<std::string> rows;
+    for (const GraphicsObject& entry : manager.objects())
+        rows.push_back(std::to_string(number(entry.handle)) + ' ' + std::to_string(entry.type) +
+                       ' ' + std::to_string(number(entry.object)));
+    return rows;
+}
+
+TEST_F(ResourceHandles, AreListedWithTypeAndObject)
+{
+    EXPECT_EQ(std::vector<std::string>(), listed(manager));
+    manager.createBrush(0);
+    manager.createBrush(0x80000000);
+    manager.addObject(ObjType::ObjCursor, toHandle(77));
+    manager.addObject(static_cast<ObjType>(-1), toHandle(5));
+    manager.addObject(static_cast<ObjType>(0x7FFF), nullptr);
+    const std::vector<std::string> rows = {"131073 2 77", "262145 4 0", "262146 4 2147483648",
+                                           "2147418113 32767 0", "-65535 -1 5"};
+    EXPECT_EQ(rows, listed(manager));
+}
+
+TEST_F(ResourceHandles, AreNoLongerListedOnceRemoved)
+{
+    void* first = manager.createBrush(1);
+    manager.createBrush(2);
+    manager.deleteObject(first);
+    EXPECT_EQ(std::vector<std::string>{"262146 4 2"}, listed(manager));
+    manager.createBrush(3);
+    EXPECT_EQ((std::vector<std::string>{"262145 4 3", "262146 4 2"}), listed(manager));
 }
 
 TEST(ResourceManager, DestroysTheRemainingImagesAtItsEnd)
