@@ -13,29 +13,29 @@ ImportCheck::ImportCheck(const RegFileEntry& entry) : m_entry(entry)
     if (entry.action == Action::Malformed)
         refuse(entry.problem);
     else
-        judgeKey();
+        checkKey();
     if (entry.action == Action::SetValue || entry.action == Action::DeleteValue)
-        judgeName();
+        checkName();
     if (entry.action == Action::SetValue)
-        judgeData();
+        checkData();
 }
 
 void ImportCheck::refuse(const QString& why)
 {
-    m_verdict = RegistryImport::Verdict::Refused;
+    m_outcome = Outcome::Refused;
     m_remarks = QStringList(why);
 }
 
 // Once refused, only the reason for that is told.
 void ImportCheck::remark(const QString& what)
 {
-    if (what.isEmpty() || m_verdict == RegistryImport::Verdict::Refused)
+    if (what.isEmpty() || m_outcome == Outcome::Refused)
         return;
-    m_verdict = RegistryImport::Verdict::Altered;
+    m_outcome = Outcome::Altered;
     m_remarks.append(what);
 }
 
-void ImportCheck::judgeKey()
+void ImportCheck::checkKey()
 {
     const QString root = m_entry.key.section(QLatin1Char('\\'), 0, 0);
     if (!root.startsWith(QLatin1String("HKEY_"), Qt::CaseInsensitive) ||
@@ -44,11 +44,11 @@ void ImportCheck::judgeKey()
     if (m_entry.key.contains(QLatin1Char('/')))
         remark(tr("\"/\" in a key's name separates keys like \"\\\"."));
     if (m_entry.action == Action::DeleteKey)
-        judgeKeyDeletion();
+        checkKeyDeletion();
 }
 
 // The service deletes a value of the same name along with a key.
-void ImportCheck::judgeKeyDeletion()
+void ImportCheck::checkKeyDeletion()
 {
     if (m_path.isEmpty())
         return refuse(tr("A root key cannot be deleted."));
@@ -60,7 +60,7 @@ void ImportCheck::judgeKeyDeletion()
 }
 
 // And a key of the same name along with a value.
-void ImportCheck::judgeValueDeletion(const QString& name)
+void ImportCheck::checkValueDeletion(const QString& name)
 {
     if (m_path.isEmpty())
         return remark(tr("Deletes the key \"%1\" below the root with everything in it.")
@@ -70,7 +70,7 @@ void ImportCheck::judgeValueDeletion(const QString& name)
         remark(tr("The key %1 goes with it, with everything in it.").arg(RegistryPath::shown(key)));
 }
 
-void ImportCheck::judgeName()
+void ImportCheck::checkName()
 {
     if (m_entry.name.isEmpty())
         return refuse(tr("The default value, which has no name, cannot be stored."));
@@ -82,12 +82,12 @@ void ImportCheck::judgeName()
         remark(deletes ? tr("The separators in the name lead to a value of a sub-key.")
                        : tr("The separators in the name put the value into a sub-key."));
     if (deletes)
-        judgeValueDeletion(name);
+        checkValueDeletion(name);
     else if (m_path.isEmpty())
         remark(tr("Directly under a root, it is kept in a key of its own name."));
 }
 
-void ImportCheck::judgeData()
+void ImportCheck::checkData()
 {
     switch (m_entry.type) {
     case REG_SZ: return;
@@ -96,13 +96,13 @@ void ImportCheck::judgeData()
             refuse(tr("Binary data without a byte cannot be stored."));
         return;
     case REG_DWORD:
-    case REG_NONE: return judgeNumber(4);
-    case REG_QWORD: return judgeNumber(8);
+    case REG_NONE: return checkNumber(4);
+    case REG_QWORD: return checkNumber(8);
     default: refuse(tr("%1 cannot be stored.").arg(RegistryFormat::typeName(m_entry.type)));
     }
 }
 
-void ImportCheck::judgeNumber(int size)
+void ImportCheck::checkNumber(int size)
 {
     if (m_entry.data.isEmpty())
         return refuse(tr("A number without a byte cannot be stored."));

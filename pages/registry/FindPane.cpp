@@ -83,7 +83,7 @@ void FindPane::request()
         emit searchRequested(m_text->text(), m_inNames->isChecked(), m_inData->isChecked());
 }
 
-void FindPane::setHits(const std::vector<RegistrySearch::Hit>& hits)
+void FindPane::setHits(const std::vector<RegistrySearchJob::Hit>& hits)
 {
     m_model->setHits(hits);
     m_hint->setText(tr("Nothing was found."));

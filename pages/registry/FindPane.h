@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/registry/RegistrySearch.h"
+#include "inspection/registry/RegistrySearchJob.h"
 
 #include <QWidget>
 
@@ -20,7 +20,7 @@ public:
 
     /// Shows itself and takes the keyboard, with the text selected.
     void open();
-    void setHits(const std::vector<RegistrySearch::Hit>& hits);
+    void setHits(const std::vector<RegistrySearchJob::Hit>& hits);
 
 signals:
     /// The text is not empty, and one of the places is chosen.

@@ -3,7 +3,7 @@
 #include "inspection/registry/RegistryPath.h"
 #include "window/ShownText.h"
 
-void HitModel::setHits(const std::vector<RegistrySearch::Hit>& hits)
+void HitModel::setHits(const std::vector<RegistrySearchJob::Hit>& hits)
 {
     beginResetModel();
     m_hits = hits;
@@ -32,7 +32,7 @@ QVariant HitModel::data(const QModelIndex& index, int role) const
     }
 }
 
-QString HitModel::text(const RegistrySearch::Hit& found, int column)
+QString HitModel::text(const RegistrySearchJob::Hit& found, int column)
 {
     switch (column) {
     case Key: return RegistryPath::shown(found.path);

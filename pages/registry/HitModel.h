@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/registry/RegistrySearch.h"
+#include "inspection/registry/RegistrySearchJob.h"
 
 #include <QAbstractTableModel>
 
@@ -20,8 +20,11 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    void setHits(const std::vector<RegistrySearch::Hit>& hits);
-    const RegistrySearch::Hit& hit(int row) const { return m_hits[static_cast<std::size_t>(row)]; }
+    void setHits(const std::vector<RegistrySearchJob::Hit>& hits);
+    const RegistrySearchJob::Hit& hit(int row) const
+    {
+        return m_hits[static_cast<std::size_t>(row)];
+    }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -29,7 +32,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    static QString text(const RegistrySearch::Hit& found, int column);
+    static QString text(const RegistrySearchJob::Hit& found, int column);
 
-    std::vector<RegistrySearch::Hit> m_hits;
+    std::vector<RegistrySearchJob::Hit> m_hits;
 };

@@ -13,13 +13,13 @@
 
 namespace {
 
-QString summary(const RegistryImport& import)
+QString summary(const ImportPlan& plan)
 {
-    using Verdict = RegistryImport::Verdict;
+    using Outcome = ImportPlan::Outcome;
     return ImportDialog::tr("As written in the file: %1. Altered: %2. Refused: %3.")
-        .arg(import.count(Verdict::Done))
-        .arg(import.count(Verdict::Altered))
-        .arg(import.count(Verdict::Refused));
+        .arg(plan.count(Outcome::Done))
+        .arg(plan.count(Outcome::Altered))
+        .arg(plan.count(Outcome::Refused));
 }
 
 QTableView* makeTable(ImportModel* model)
@@ -38,23 +38,22 @@ QTableView* makeTable(ImportModel* model)
 
 } // namespace
 
-ImportDialog::ImportDialog(const QString& file, const RegistryImport& import, QWidget* parent)
+ImportDialog::ImportDialog(const QString& file, const ImportPlan& plan, QWidget* parent)
     : QDialog(parent)
 {
     setWindowTitle(tr("Import %1").arg(file));
-    auto* model = new ImportModel(import, this);
+    auto* model = new ImportModel(plan, this);
     auto* only = new QCheckBox(tr("&Only what is altered or refused"));
     connect(only, &QCheckBox::toggled, model, &ImportModel::setOnlyRemarkable);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     QPushButton* ok = glowing(buttons->addButton(tr("I&mport"), QDialogButtonBox::AcceptRole));
     glowing(buttons->button(QDialogButtonBox::Cancel));
-    const std::size_t refused =
-        static_cast<std::size_t>(import.count(RegistryImport::Verdict::Refused));
-    ok->setEnabled(refused < import.items().size());
+    const auto refused = static_cast<std::size_t>(plan.count(ImportPlan::Outcome::Refused));
+    ok->setEnabled(refused < plan.statements().size());
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(summary(import)));
+    layout->addWidget(new QLabel(summary(plan)));
     layout->addWidget(makeTable(model), 1);
     layout->addWidget(only);
     layout->addWidget(buttons);

@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-class RegistryImport;
+class ImportPlan;
 
 /// Shows, before anything is written, what an import will do and what it will refuse.
 class ImportDialog : public QDialog
@@ -10,6 +10,6 @@ class ImportDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// `import` outlives the dialog.
-    ImportDialog(const QString& file, const RegistryImport& import, QWidget* parent);
+    /// `plan` outlives the dialog.
+    ImportDialog(const QString& file, const ImportPlan& plan, QWidget* parent);
 };

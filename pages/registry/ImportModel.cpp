@@ -8,17 +8,17 @@
 
 namespace {
 
-using Verdict = RegistryImport::Verdict;
+using Outcome = ImportPlan::Outcome;
 using Action = RegFileEntry::Action;
 
-QString resultText(const RegistryImport::Item& item)
+QString resultText(const ImportPlan::Statement& statement)
 {
-    switch (item.verdict) {
-    case Verdict::Refused: return ImportModel::tr("Refused: %1").arg(item.remark);
-    case Verdict::Altered: return item.remark;
-    case Verdict::Done: break;
+    switch (statement.outcome) {
+    case Outcome::Refused: return ImportModel::tr("Refused: %1").arg(statement.remark);
+    case Outcome::Altered: return statement.remark;
+    case Outcome::Done: break;
     }
-    switch (item.entry.action) {
+    switch (statement.entry.action) {
     case Action::CreateKey: return ImportModel::tr("Creates the key");
     case Action::SetValue: return ImportModel::tr("Sets the value");
     default: return ImportModel::tr("Deletes the value");
@@ -37,8 +37,8 @@ QString dataText(const RegFileEntry& entry)
 
 } // namespace
 
-ImportModel::ImportModel(const RegistryImport& import, QObject* parent)
-    : QAbstractTableModel(parent), m_import(import)
+ImportModel::ImportModel(const ImportPlan& plan, QObject* parent)
+    : QAbstractTableModel(parent), m_plan(plan)
 {
     setOnlyRemarkable(false);
 }
@@ -47,8 +47,8 @@ void ImportModel::setOnlyRemarkable(bool only)
 {
     beginResetModel();
     m_rows.clear();
-    for (std::size_t i = 0; i < m_import.items().size(); ++i) {
-        if (!only || m_import.items()[i].verdict != Verdict::Done)
+    for (std::size_t i = 0; i < m_plan.statements().size(); ++i) {
+        if (!only || m_plan.statements()[i].outcome != Outcome::Done)
             m_rows.push_back(i);
     }
     endResetModel();
@@ -68,24 +68,25 @@ QVariant ImportModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid())
         return {};
-    const auto& item = m_import.items()[m_rows[static_cast<std::size_t>(index.row())]];
+    const auto& statement = m_plan.statements()[m_rows[static_cast<std::size_t>(index.row())]];
     if (role == Qt::DisplayRole)
-        return text(item, index.column());
+        return text(statement, index.column());
     if (role == Qt::ToolTipRole)
-        return plainToolTip(text(item, index.column()).toString());
-    if (role != Qt::DecorationRole || index.column() != Result || item.verdict == Verdict::Done)
+        return plainToolTip(text(statement, index.column()).toString());
+    if (role != Qt::DecorationRole || index.column() != Result ||
+        statement.outcome == Outcome::Done)
         return {};
-    return glyphIcon(item.verdict == Verdict::Refused ? Glyph::Error : Glyph::Warning);
+    return glyphIcon(statement.outcome == Outcome::Refused ? Glyph::Error : Glyph::Warning);
 }
 
-QVariant ImportModel::text(const RegistryImport::Item& item, int column) const
+QVariant ImportModel::text(const ImportPlan::Statement& statement, int column) const
 {
     switch (column) {
-    case Result: return resultText(item);
-    case Key: return item.entry.key;
-    case Name: return item.entry.name;
-    case Data: return dataText(item.entry);
-    case Line: return item.entry.line;
+    case Result: return resultText(statement);
+    case Key: return statement.entry.key;
+    case Name: return statement.entry.name;
+    case Data: return dataText(statement.entry);
+    case Line: return statement.entry.line;
     default: return {};
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/registry/RegistryImport.h"
+#include "inspection/registry/ImportPlan.h"
 
 #include <QAbstractTableModel>
 
@@ -20,8 +20,8 @@ public:
         ColumnCount
     };
 
-    /// `import` outlives the model and no longer changes.
-    explicit ImportModel(const RegistryImport& import, QObject* parent = nullptr);
+    /// `plan` outlives the model and no longer changes.
+    explicit ImportModel(const ImportPlan& plan, QObject* parent = nullptr);
 
     /// Shows what is altered or refused, or everything.
     void setOnlyRemarkable(bool only);
@@ -32,8 +32,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    QVariant text(const RegistryImport::Item& item, int column) const;
+    QVariant text(const ImportPlan::Statement& statement, int column) const;
 
-    const RegistryImport& m_import;
+    const ImportPlan& m_plan;
     std::vector<std::size_t> m_rows;
 };

@@ -1,12 +1,12 @@
 #include "pages/registry/RegistryEditor.h"
 
 #include "inspection/registry/RedirectedName.h"
+#include "inspection/registry/RegistryCountJob.h"
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/RegistryRemoval.h"
-#include "inspection/registry/RegistryWalk.h"
-#include "inspection/registry/StoreSaveBlocker.h"
+#include "inspection/registry/RegistryRemovalJob.h"
+#include "inspection/registry/ValueRemovalJob.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/NameDialog.h"
 #include "pages/registry/ValueDialog.h"
@@ -273,23 +273,17 @@ void RegistryEditor::removeValues(const QString& path, const Values& values)
 
 void RegistryEditor::removeAll(const QString& path, const Values& values)
 {
-    const auto hold = std::make_shared<StoreSaveBlocker>();
-    const auto next = std::make_shared<std::size_t>(0);
-    const auto step = [path, values, next, hold] {
-        if (*next >= values.size())
-            return false;
-        const Value& value = values[(*next)++];
-        RegistryKey(keyOf(path, value)).removeValue(value.name);
-        return true;
+    std::vector<ValueRemovalJob::Value> places;
+    for (const Value& value : values)
+        places.push_back({keyOf(path, value), value.name});
+    const auto finished = [this, path, values](const ValueRemovalJob& job, bool complete) {
+        emit changed(path, QString());
+        reportChange(*m_page, complete ? Page::Report::Info : Page::Report::Warning,
+                     tr("Deleted from %1: %2.")
+                         .arg(RegistryPath::shown(path), deletedText(values, job.removed())));
     };
-    m_page->startJob({tr("Deleting"), step, [next] { return counted(static_cast<qint64>(*next)); },
-                      [this, path, values, next](bool complete) {
-                          emit changed(path, QString());
-                          reportChange(
-                              *m_page, complete ? Page::Report::Info : Page::Report::Warning,
-                              tr("Deleted from %1: %2.")
-                                  .arg(RegistryPath::shown(path), deletedText(values, *next)));
-                      }});
+    m_page->startJob<ValueRemovalJob>(
+        tr("Deleting"), std::make_unique<ValueRemovalJob>(std::move(places)), finished);
 }
 
 void RegistryEditor::removeKey(const QString& path)
@@ -300,21 +294,14 @@ void RegistryEditor::removeKey(const QString& path)
     }
     if (isRefused(path))
         return;
-    const auto walk = std::make_shared<RegistryWalk>(path);
-    const auto keys = std::make_shared<QStringList>();
-    const auto step = [walk, keys] {
-        const RegistryWalk::Step what = walk->next();
-        if (what == RegistryWalk::Step::Key)
-            keys->append(walk->path());
-        return what != RegistryWalk::Step::End;
+    const auto finished = [this, path](const RegistryCountJob& job, bool complete) {
+        if (complete)
+            confirmKey(path, job.keys(), job.values());
+        else
+            m_page->setStatus(tr("Cancelled: nothing was deleted."));
     };
-    m_page->startJob({tr("Counting what goes"), step, [walk] { return counted(walk->values()); },
-                      [this, path, walk, keys](bool complete) {
-                          if (complete)
-                              confirmKey(path, *keys, walk->values());
-                          else
-                              m_page->setStatus(tr("Cancelled: nothing was deleted."));
-                      }});
+    m_page->startJob<RegistryCountJob>(tr("Counting what goes"),
+                                       std::make_unique<RegistryCountJob>(path), finished);
 }
 
 void RegistryEditor::confirmKey(const QString& path, const QStringList& keys, int values)
@@ -328,16 +315,14 @@ void RegistryEditor::confirmKey(const QString& path, const QStringList& keys, in
 
 void RegistryEditor::removeKeys(const QString& path, const QStringList& keys)
 {
-    const auto hold = std::make_shared<StoreSaveBlocker>();
-    const auto removal = std::make_shared<RegistryRemoval>(keys);
-    m_page->startJob({tr("Deleting"), [removal, hold] { return removal->step(); },
-                      [removal] { return counted(removal->values()); },
-                      [this, path, removal](bool complete) {
-                          emit changed(RegistryPath::parent(path), QString());
-                          const bool whole = complete && removal->succeeded();
-                          const QString text = whole ? tr("Deleted the key %1.")
-                                                     : tr("Deleted a part of the key %1.");
-                          reportChange(*m_page, whole ? Page::Report::Info : Page::Report::Warning,
-                                       text.arg(RegistryPath::shown(path)));
-                      }});
+    const auto finished = [this, path](const RegistryRemovalJob& job, bool complete) {
+        emit changed(RegistryPath::parent(path), QString());
+        const bool whole = complete && job.succeeded();
+        const QString text =
+            whole ? tr("Deleted the key %1.") : tr("Deleted a part of the key %1.");
+        reportChange(*m_page, whole ? Page::Report::Info : Page::Report::Warning,
+                     text.arg(RegistryPath::shown(path)));
+    };
+    m_page->startJob<RegistryRemovalJob>(tr("Deleting"), std::make_unique<RegistryRemovalJob>(keys),
+                                         finished);
 }

@@ -469,24 +469,19 @@ void RegistryPage::importFile()
 
 void RegistryPage::search(const QString& text, bool inNames, bool inData)
 {
-    const auto search = std::make_shared<RegistrySearch>(text, QString(), inNames, inData);
-    const auto finished = [this, search](bool complete) {
-        m_find->setHits(search->hits());
-        const QString found = QLocale().toString(static_cast<qint64>(search->hits().size()));
+    const auto finished = [this](const RegistrySearchJob& search, bool complete) {
+        m_find->setHits(search.hits());
+        const QString found = QLocale().toString(static_cast<qint64>(search.hits().size()));
         if (!complete)
             setStatus(tr("The search was cancelled. Found so far: %1.").arg(found));
-        else if (search->isFull())
+        else if (search.isFull())
             setStatus(tr("Showing the first %1 places; there may be more.").arg(found));
         else
             setStatus(tr("Found: %1.").arg(found));
     };
-    startJob({tr("Searching"), [search] { return search->step(); },
-              [search] {
-                  return tr("Values: %1. Found: %2.")
-                      .arg(QLocale().toString(search->walk().values()))
-                      .arg(search->hits().size());
-              },
-              finished});
+    startJob<RegistrySearchJob>(
+        tr("Searching"), std::make_unique<RegistrySearchJob>(text, QString(), inNames, inData),
+        finished);
 }
 
 void RegistryPage::afterChange(const QString& changedPath, const QString& name)

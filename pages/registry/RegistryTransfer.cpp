@@ -1,9 +1,9 @@
 #include "pages/registry/RegistryTransfer.h"
 
-#include "inspection/registry/RegistryExport.h"
-#include "inspection/registry/RegistryImport.h"
+#include "inspection/registry/RegistryApplyJob.h"
+#include "inspection/registry/RegistryExportJob.h"
+#include "inspection/registry/RegistryImportJob.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/StoreSaveBlocker.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/ImportDialog.h"
 #include "window/Page.h"
@@ -66,23 +66,22 @@ void RegistryTransfer::askExport(const QString& path)
 void RegistryTransfer::exportKey(const QString& path, const QString& file,
                                  RegFileWriter::Encoding encoding)
 {
-    const auto task = std::make_shared<RegistryExport>(path, file, encoding);
-    const auto finished = [this, task, file](bool complete) {
+    const auto finished = [this, file](RegistryExportJob& job, bool complete) {
         if (!complete)
             m_page->report(Page::Report::Warning, tr("The export was cancelled."));
-        else if (!task->commit())
+        else if (!job.commit())
             m_page->report(Page::Report::Error,
-                           tr("%1 could not be written: %2").arg(file, task->error()));
-        else if (task->leftOut() > 0)
+                           tr("%1 could not be written: %2").arg(file, job.error()));
+        else if (job.leftOut() > 0)
             m_page->report(Page::Report::Warning,
                            tr("Exported to %2. Values: %1. Left out: %3, each named in a comment.")
-                               .arg(counted(task->values()), file, counted(task->leftOut())));
+                               .arg(counted(job.values()), file, counted(job.leftOut())));
         else
             m_page->report(Page::Report::Info,
-                           tr("Exported to %2. Values: %1.").arg(counted(task->values()), file));
+                           tr("Exported to %2. Values: %1.").arg(counted(job.values()), file));
     };
-    m_page->startJob({tr("Exporting"), [task] { return task->step(); },
-                      [task] { return counted(task->values()); }, finished});
+    m_page->startJob<RegistryExportJob>(
+        tr("Exporting"), std::make_unique<RegistryExportJob>(path, file, encoding), finished);
 }
 
 void RegistryTransfer::askImport()
@@ -107,44 +106,41 @@ void RegistryTransfer::importFile(const QString& file)
                        tr("%1 could not be read: %2").arg(file, input->errorString()));
         return;
     }
-    const auto import = std::make_shared<RegistryImport>(std::move(input));
-    m_page->startJob({tr("Reading the file"), [import] { return import->read(); },
-                      [import] { return counted(static_cast<qint64>(import->items().size())); },
-                      [this, file, import](bool complete) {
-                          if (!import->error().isEmpty())
-                              m_page->report(
-                                  Page::Report::Error,
-                                  tr("%1 was not imported: %2").arg(file, import->error()));
-                          else if (complete)
-                              preview(file, import);
-                          else
-                              m_page->setStatus(tr("Cancelled: nothing was imported."));
-                      }});
+    const auto finished = [this, file](const RegistryImportJob& job, bool complete) {
+        if (!job.error().isEmpty())
+            m_page->report(Page::Report::Error,
+                           tr("%1 was not imported: %2").arg(file, job.error()));
+        else if (complete)
+            preview(file, job.plan());
+        else
+            m_page->setStatus(tr("Cancelled: nothing was imported."));
+    };
+    m_page->startJob<RegistryImportJob>(
+        tr("Reading the file"), std::make_unique<RegistryImportJob>(std::move(input)), finished);
 }
 
-void RegistryTransfer::preview(const QString& file, const std::shared_ptr<RegistryImport>& import)
+void RegistryTransfer::preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
 {
-    auto* dialog = new ImportDialog(QFileInfo(file).fileName(), *import, m_page);
+    auto* dialog = new ImportDialog(QFileInfo(file).fileName(), *plan, m_page);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    // The dialog reads the import for as long as it lives: so does the connection.
-    connect(dialog, &QDialog::accepted, this, [this, file, import] { apply(file, import); });
+    // The dialog reads the plan for as long as it lives, and the connection keeps it for that long.
+    connect(dialog, &QDialog::accepted, this, [this, file, plan] { apply(file, plan); });
     dialog->open();
 }
 
-void RegistryTransfer::apply(const QString& file, const std::shared_ptr<RegistryImport>& import)
+void RegistryTransfer::apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
 {
-    const auto hold = std::make_shared<StoreSaveBlocker>();
-    const auto finished = [this, file, import](bool complete) {
+    const auto finished = [this, file, plan](const RegistryApplyJob& job, bool complete) {
         emit changed();
-        const int refused = import->count(RegistryImport::Verdict::Refused) + import->failed();
+        const int refused = plan->count(ImportPlan::Outcome::Refused) + job.failed();
         const bool good = complete && refused == 0;
         const QString text = complete
                                  ? tr("Imported %1. Statements carried out: %2. Refused: %3.")
                                  : tr("The import of %1 was cancelled. Statements carried out: %2. "
                                       "Refused: %3.");
         reportChange(*m_page, good ? Page::Report::Info : Page::Report::Warning,
-                     text.arg(file, counted(import->applied()), counted(refused)));
+                     text.arg(file, counted(job.applied()), counted(refused)));
     };
-    m_page->startJob({tr("Importing"), [import, hold] { return import->apply(); },
-                      [import] { return counted(import->applied()); }, finished});
+    m_page->startJob<RegistryApplyJob>(tr("Importing"), std::make_unique<RegistryApplyJob>(plan),
+                                       finished);
 }

@@ -6,8 +6,8 @@
 
 #include <memory>
 
+class ImportPlan;
 class Page;
-class RegistryImport;
 
 /// Export and import of registry files from the registry page.
 class RegistryTransfer : public QObject
@@ -30,8 +30,8 @@ signals:
     void changed();
 
 private:
-    void preview(const QString& file, const std::shared_ptr<RegistryImport>& import);
-    void apply(const QString& file, const std::shared_ptr<RegistryImport>& import);
+    void preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
+    void apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
 
     Page* m_page;
 };

@@ -2249,7 +2249,7 @@ Wide: %2</source>
     </message>
 </context>
 <context>
-    <name>RegistryExport</name>
+    <name>RegistryExportJob</name>
     <message>
         <source>it is listed under the root, but cannot be asked for there</source>
         <translation>它列在根下，但无法按名称读取</translation>
@@ -2406,10 +2406,6 @@ Wide: %2</source>
         <translation>正在查找</translation>
     </message>
     <message>
-        <source>Values: %1. Found: %2.</source>
-        <translation>值：%1 个。找到：%2 处。</translation>
-    </message>
-    <message>
         <source>&amp;String (REG_SZ)...</source>
         <translation>字符串 (REG_SZ)(&amp;S)...</translation>
     </message>
@@ -2436,6 +2432,13 @@ Wide: %2</source>
     <message>
         <source>%1 of the selected values in %2 are no longer there.</source>
         <translation>%2 中所选的值有 %1 个已不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistrySearchJob</name>
+    <message>
+        <source>Values: %1. Found: %2.</source>
+        <translation>值：%1 个。找到：%2 处。</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,8 @@
 #include "host/HostLibraries.h"
+#include "inspection/registry/RegistryImportJob.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/RegistrySearch.h"
+#include "inspection/registry/RegistrySearchJob.h"
 #include "pages/registry/HitModel.h"
 #include "pages/registry/ImportModel.h"
 #include "pages/registry/RegistryTreeModel.h"
@@ -267,11 +268,11 @@ TEST_F(RegistryModels, ShowMarkupInToolTipsAsItStands)
     HitModel hits;
     hits.setHits({{"A", "v", markup}});
     EXPECT_EQ(tip(hits, HitModel::Data), escaped);
-    RegistryImport import(
+    RegistryImportJob import(
         "Windows Registry Editor Version 5.00\n[HKEY_USERS\\A]\n\"<b>bold</b>\"=-\n");
-    while (import.read()) {
+    while (import.step()) {
     }
-    ImportModel statements(import);
+    ImportModel statements(*import.plan());
     statements.setOnlyRemarkable(false);
     EXPECT_EQ(statements.index(1, ImportModel::Name).data(Qt::ToolTipRole).toString().toStdString(),
               escaped);
@@ -285,7 +286,7 @@ TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
     store("Other/none", "5$red");
     store("Other/broken", "blue");
     const auto found = [](bool names, bool data) {
-        RegistrySearch search("BLUE", "", names, data);
+        RegistrySearchJob search("BLUE", "", names, data);
         while (search.step()) {
         }
         QStringList hits;
@@ -308,7 +309,7 @@ TEST_F(RegistryModels, SearchAllBytesOfBinaryData)
     } rows[] = {{"ab cd", true}, {"ABCD", true},  {"d0abc", true}, {"0 ab", true},
                 {"bcd0", true},  {"cd0a", false}, {"bc", true},    {"cd00", false}};
     for (const auto& row : rows) {
-        RegistrySearch search(row.text, "", false, true);
+        RegistrySearchJob search(row.text, "", false, true);
         while (search.step()) {
         }
         EXPECT_EQ(!search.hits().empty(), row.found) << row.text;
@@ -318,7 +319,7 @@ TEST_F(RegistryModels, SearchAllBytesOfBinaryData)
 TEST_F(RegistryModels, SearchTheDataOfWhatTheRootLists)
 {
     store("loose", "5$blue");
-    RegistrySearch search("BLUE", "", false, true);
+    RegistrySearchJob search("BLUE", "", false, true);
     while (search.step()) {
     }
     ASSERT_EQ(search.hits().size(), 1U);
@@ -330,11 +331,11 @@ TEST_F(RegistryModels, EndASearchThatFindsTooMuch)
 {
     for (int i = 0; i < 1100; ++i)
         store(QString("k/v%1").arg(i), "1$1");
-    RegistrySearch search("v", "", true, false);
+    RegistrySearchJob search("v", "", true, false);
     while (search.step()) {
     }
     EXPECT_TRUE(search.isFull());
-    EXPECT_EQ(search.hits().size(), RegistrySearch::mostHits);
+    EXPECT_EQ(search.hits().size(), RegistrySearchJob::mostHits);
 }
 
 TEST(RegistryPath, ReadsWhatItShows)

@@ -1,10 +1,12 @@
-#include "inspection/registry/RegistryRemoval.h"
+#include "inspection/registry/RegistryRemovalJob.h"
 
 #include "inspection/registry/RegistryListing.h"
 
-RegistryRemoval::RegistryRemoval(const QStringList& keys) : m_keys(keys) {}
+#include <QLocale>
 
-bool RegistryRemoval::step()
+RegistryRemovalJob::RegistryRemovalJob(const QStringList& keys) : m_keys(keys) {}
+
+bool RegistryRemovalJob::step()
 {
     if (m_keys.isEmpty())
         return false;
@@ -23,7 +25,12 @@ bool RegistryRemoval::step()
     return true;
 }
 
-void RegistryRemoval::openLast()
+QString RegistryRemovalJob::progress() const
+{
+    return QLocale().toString(m_removed);
+}
+
+void RegistryRemovalJob::openLast()
 {
     m_key = std::make_unique<RegistryKey>(m_keys.last());
     m_values = registryValueNames(m_keys.last());

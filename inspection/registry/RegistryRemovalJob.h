@@ -1,21 +1,24 @@
 #pragma once
 
+#include "inspection/Job.h"
 #include "inspection/registry/RegistryKey.h"
+#include "inspection/registry/StoreSaveBlocker.h"
 
 #include <QStringList>
 
 #include <memory>
 
-/// Deletes keys value by value, the lowest first, so that many can be deleted in slices. Cancelled
-/// half-way it leaves what it has not reached.
-class RegistryRemoval
+/// Deletes keys value by value, the lowest first. Cancelled half-way it leaves what it has not
+/// reached. The store saves itself when the job is destroyed, not before.
+class RegistryRemovalJob : public Job
 {
 public:
     /// A key and all keys below it, each before those below, as RegistryWalk visits them.
-    explicit RegistryRemoval(const QStringList& keys);
+    explicit RegistryRemovalJob(const QStringList& keys);
 
-    /// False at the end.
-    bool step();
+    bool step() override;
+    /// The number of values deleted.
+    QString progress() const override;
 
     int values() const { return m_removed; }
     /// False where the service has refused to delete a key.
@@ -24,6 +27,7 @@ public:
 private:
     void openLast();
 
+    StoreSaveBlocker m_blocker;
     QStringList m_keys;
     QStringList m_values; ///< of the last key
     std::unique_ptr<RegistryKey> m_key;

@@ -1,10 +1,13 @@
-#include "inspection/registry/RegistrySearch.h"
+#include "inspection/registry/RegistrySearchJob.h"
 
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 
-RegistrySearch::RegistrySearch(const QString& text, const QString& path, bool inNames, bool inData)
+#include <QLocale>
+
+RegistrySearchJob::RegistrySearchJob(const QString& text, const QString& path, bool inNames,
+                                     bool inData)
     : m_text(text),
       m_digits(text.toLower().toLatin1()),
       m_inNames(inNames),
@@ -13,7 +16,7 @@ RegistrySearch::RegistrySearch(const QString& text, const QString& path, bool in
 {
 }
 
-bool RegistrySearch::step()
+bool RegistrySearchJob::step()
 {
     if (isFull())
         return false;
@@ -25,13 +28,21 @@ bool RegistrySearch::step()
     return false;
 }
 
-void RegistrySearch::lookAtKey()
+QString RegistrySearchJob::progress() const
+{
+    const QLocale locale;
+    return tr("Values: %1. Found: %2.")
+        .arg(locale.toString(m_walk.values()),
+             locale.toString(static_cast<qulonglong>(m_hits.size())));
+}
+
+void RegistrySearchJob::lookAtKey()
 {
     if (m_inNames && matches(RegistryPath::name(m_walk.path())))
         m_hits.push_back({m_walk.path(), {}, {}});
 }
 
-bool RegistrySearch::matches(const RegistryReading& reading) const
+bool RegistrySearchJob::matches(const RegistryReading& reading) const
 {
     switch (reading.type) {
     case REG_SZ: return matches(registryText(reading.data));
@@ -41,7 +52,7 @@ bool RegistrySearch::matches(const RegistryReading& reading) const
 }
 
 // Without blanks, digits that begin in the middle of a byte are no match.
-bool RegistrySearch::matchesBytes(const QByteArray& data) const
+bool RegistrySearchJob::matchesBytes(const QByteArray& data) const
 {
     if (data.toHex(' ').contains(m_digits))
         return true;
@@ -52,7 +63,7 @@ bool RegistrySearch::matchesBytes(const QByteArray& data) const
     return at >= 0;
 }
 
-void RegistrySearch::lookAtValue()
+void RegistrySearchJob::lookAtValue()
 {
     const RegistryReading reading = m_walk.path().isEmpty()
                                         ? readAtRegistryRoot(m_walk.key(), m_walk.name())

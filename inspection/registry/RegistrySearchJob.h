@@ -1,14 +1,19 @@
 #pragma once
 
+#include "inspection/Job.h"
 #include "inspection/registry/RegistryWalk.h"
+
+#include <QCoreApplication>
 
 #include <vector>
 
 /// Looks for a text, ignoring case, in the names of keys and values and in the data of values, from
 /// one key downwards. Texts and bytes are searched whole, numbers as they are shown; hexadecimal
-/// digits of bytes are found with and without blanks. Step by step, for a sliced job.
-class RegistrySearch
+/// digits of bytes are found with and without blanks.
+class RegistrySearchJob : public Job
 {
+    Q_DECLARE_TR_FUNCTIONS(RegistrySearchJob)
+
 public:
     struct Hit
     {
@@ -20,10 +25,11 @@ public:
     /// The search ends by itself after so many hits.
     static constexpr std::size_t mostHits = 1000;
 
-    RegistrySearch(const QString& text, const QString& path, bool inNames, bool inData);
+    RegistrySearchJob(const QString& text, const QString& path, bool inNames, bool inData);
 
-    /// False at the end.
-    bool step();
+    bool step() override;
+    /// How many values have been looked at and how many places found.
+    QString progress() const override;
 
     const std::vector<Hit>& hits() const { return m_hits; }
     /// True when there may be more than were listed.

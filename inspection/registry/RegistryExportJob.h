@@ -1,27 +1,29 @@
 #pragma once
 
+#include "inspection/Job.h"
 #include "inspection/registry/RegistryWalk.h"
 #include "regfile/RegFileWriter.h"
 
 #include <QCoreApplication>
 #include <QSaveFile>
 
-/// Writes a key with everything below it into a registry file, step by step, for a sliced job. What
-/// a host library cannot read is left out and told in a comment, and so are names that the format
-/// cannot hold.
-class RegistryExport
+/// Writes a key with everything below it into a registry file. What a host library cannot read is
+/// left out and told in a comment, and so are names that the format cannot hold.
+class RegistryExportJob : public Job
 {
-    Q_DECLARE_TR_FUNCTIONS(RegistryExport)
+    Q_DECLARE_TR_FUNCTIONS(RegistryExportJob)
 
 public:
     /// Nothing is left at `file` unless `commit` succeeds; an older file stays as it was until
     /// then.
-    RegistryExport(const QString& path, const QString& file, RegFileWriter::Encoding encoding);
+    RegistryExportJob(const QString& path, const QString& file, RegFileWriter::Encoding encoding);
 
     /// Why it could not be written, in words; empty while all is well.
     QString error() const;
-    /// False at the end, and after an error.
-    bool step();
+    /// Writes one key or value; false at the end, and after an error.
+    bool step() override;
+    /// The number of values written.
+    QString progress() const override;
     /// Puts the file in place.
     bool commit();
 

@@ -1,10 +1,11 @@
-#include "inspection/registry/RegistryExport.h"
+#include "inspection/registry/RegistryExportJob.h"
 
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoredText.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 
 namespace {
@@ -20,18 +21,18 @@ QString keyProblem(const QString& path)
     static const QRegularExpression comment(QStringLiteral("\\]\\s*;"),
                                             QRegularExpression::UseUnicodePropertiesOption);
     if (hasLineEnd(path))
-        return RegistryExport::tr("the format knows no line ends in names of keys");
+        return RegistryExportJob::tr("the format knows no line ends in names of keys");
     if (path.contains(QLatin1Char('\\')))
-        return RegistryExport::tr("a \"\\\" in it separates keys");
+        return RegistryExportJob::tr("a \"\\\" in it separates keys");
     if (path.contains(comment))
-        return RegistryExport::tr("a part of its name would be taken for a comment");
+        return RegistryExportJob::tr("a part of its name would be taken for a comment");
     return {};
 }
 
 } // namespace
 
-RegistryExport::RegistryExport(const QString& path, const QString& file,
-                               RegFileWriter::Encoding encoding)
+RegistryExportJob::RegistryExportJob(const QString& path, const QString& file,
+                                     RegFileWriter::Encoding encoding)
     : m_file(file),
       m_open(m_file.open(QIODevice::WriteOnly)),
       m_writer(m_file, encoding),
@@ -39,12 +40,12 @@ RegistryExport::RegistryExport(const QString& path, const QString& file,
 {
 }
 
-QString RegistryExport::error() const
+QString RegistryExportJob::error() const
 {
     return m_open && m_writer.isGood() ? QString() : m_file.errorString();
 }
 
-bool RegistryExport::step()
+bool RegistryExportJob::step()
 {
     if (!m_open || !m_writer.isGood())
         return false;
@@ -56,13 +57,18 @@ bool RegistryExport::step()
     return false;
 }
 
-bool RegistryExport::commit()
+QString RegistryExportJob::progress() const
+{
+    return QLocale().toString(m_values);
+}
+
+bool RegistryExportJob::commit()
 {
     return m_open && m_writer.isGood() && m_file.commit();
 }
 
 // Its values are left out with it: without its line they would go into another key.
-void RegistryExport::writeKey()
+void RegistryExportJob::writeKey()
 {
     const QString path = m_walk.path();
     const QString problem = keyProblem(path);
@@ -73,7 +79,7 @@ void RegistryExport::writeKey()
         leaveOut(RegistryPath::shown(path), problem);
 }
 
-void RegistryExport::writeValue()
+void RegistryExportJob::writeValue()
 {
     if (!m_underKey)
         return;
@@ -90,7 +96,7 @@ void RegistryExport::writeValue()
         write(name, reading);
 }
 
-void RegistryExport::write(const QString& name, const RegistryReading& reading)
+void RegistryExportJob::write(const QString& name, const RegistryReading& reading)
 {
     ++m_values;
     if (reading.type == REG_SZ)
@@ -101,7 +107,7 @@ void RegistryExport::write(const QString& name, const RegistryReading& reading)
         m_writer.bytes(name, reading.type, reading.data);
 }
 
-void RegistryExport::leaveOut(const QString& name, const QString& why)
+void RegistryExportJob::leaveOut(const QString& name, const QString& why)
 {
     ++m_leftOut;
     m_writer.comment(tr("left out: \"%1\": %2").arg(name, why));
