@@ -77,7 +77,7 @@ QStringList registryValueNames(const QString& path)
 {
     if (!g_globalSettings)
         return {};
-    const GroupScope group(openedPath(path));
+    const GroupScope group(redirectedPath(path));
     return g_globalSettings->childKeys();
 }
 

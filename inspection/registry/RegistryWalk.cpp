@@ -35,7 +35,7 @@ void RegistryWalk::enter()
     for (const QString& name : qAsConst(below))
         m_pending.append(RegistryPath::join(m_path, name));
     m_names.clear();
-    if (isOpenedElsewhere(m_path))
+    if (isRedirected(m_path))
         return;
     std::set_difference(listing.values.cbegin(), listing.values.cend(), listing.marks.cbegin(),
                         listing.marks.cend(), std::back_inserter(m_names));

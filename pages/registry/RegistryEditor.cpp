@@ -118,18 +118,18 @@ void RegistryEditor::ask(const QString& question, const QString& detail,
 // Where a host library finds another key, a change would be made in that one.
 bool RegistryEditor::isRefused(const QString& path)
 {
-    if (isOpenedElsewhere(path))
-        reportRefusal(keyOpenedElsewhere(path));
-    return isOpenedElsewhere(path);
+    if (isRedirected(path))
+        reportRefusal(redirectedKeyText(path));
+    return isRedirected(path);
 }
 
 bool RegistryEditor::isRefused(const QString& path, const Value& value)
 {
     if (isRefused(path))
         return true;
-    if (isOpenedElsewhere(value.name))
-        reportRefusal(valueOpenedElsewhere(RegistryPath::join(path, value.name)));
-    return isOpenedElsewhere(value.name);
+    if (isRedirected(value.name))
+        reportRefusal(redirectedValueText(RegistryPath::join(path, value.name)));
+    return isRedirected(value.name);
 }
 
 void RegistryEditor::reportRefusal(const QString& why)

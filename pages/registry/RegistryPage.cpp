@@ -241,8 +241,8 @@ void RegistryPage::showKey(const QModelIndex& current)
                              "file.")
                         : tr("This key holds no values. Choose a key below it, or create a value "
                              "with New."));
-    if (isOpenedElsewhere(path()))
-        return setStatus(keyOpenedElsewhere(path()));
+    if (isRedirected(path()))
+        return setStatus(redirectedKeyText(path()));
     const QLocale locale;
     setStatus(tr("Values: %1. Sub-keys: %2.")
                   .arg(locale.toString(m_values->rowCount()),
@@ -456,8 +456,8 @@ void RegistryPage::copyValue()
 
 void RegistryPage::exportKey()
 {
-    if (isOpenedElsewhere(path()))
-        report(Report::Error, keyOpenedElsewhere(path()));
+    if (isRedirected(path()))
+        report(Report::Error, redirectedKeyText(path()));
     else if (isKeyThere())
         m_transfer->askExport(path());
 }

@@ -45,7 +45,7 @@ struct RegistryTreeModel::Node
     {
         if (!parent)
             return Glyph::Registry;
-        return isOpenedElsewhere(path()) ? Glyph::Warning : Glyph::Key;
+        return isRedirected(path()) ? Glyph::Warning : Glyph::Key;
     }
     void insert(int at, const QString& childName)
     {
@@ -201,7 +201,7 @@ QString RegistryTreeModel::toolTip(const Node& item)
     if (item.isCreated())
         return tr("Created and still empty: it can be opened, but is not listed yet");
     const QString path = item.path();
-    return isOpenedElsewhere(path) ? keyOpenedElsewhere(path) : RegistryPath::shown(path);
+    return isRedirected(path) ? redirectedKeyText(path) : RegistryPath::shown(path);
 }
 
 QString RegistryTreeModel::path(const QModelIndex& index) const

@@ -31,7 +31,7 @@ QString placeRemark(RegistryValueModel::Place place, const QString& name)
 // The service makes a key of the name as it is, and separates in the value's own name alone.
 QString keptUnderRoot(const QString& name)
 {
-    return RegistryPath::join(name, openedPath(name));
+    return RegistryPath::join(name, redirectedPath(name));
 }
 
 } // namespace
@@ -78,7 +78,7 @@ void RegistryValueModel::listRoot(const RegistryIndex& names)
 QString RegistryValueModel::entryPath(const Row& row) const
 {
     return row.place == Place::UnderRoot ? keptUnderRoot(row.name)
-                                         : RegistryPath::join(openedPath(m_path), row.name);
+                                         : RegistryPath::join(redirectedPath(m_path), row.name);
 }
 
 RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
@@ -92,8 +92,8 @@ RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
     value.remark = value.reading.readable ? stored.warning() : stored.whyUnreadable();
     if (!value.reading.readable && !hasRegistryEntry(entryPath(row)))
         value.remark = tr("No longer there");
-    else if (row.place == Place::InKey && isOpenedElsewhere(row.name))
-        value.remark = valueOpenedElsewhere(entryPath(row));
+    else if (row.place == Place::InKey && isRedirected(row.name))
+        value.remark = redirectedValueText(entryPath(row));
     else if (value.remark.isEmpty())
         value.remark = placeRemark(row.place, row.name);
     return value;
