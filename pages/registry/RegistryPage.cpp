@@ -1,6 +1,6 @@
 #include "pages/registry/RegistryPage.h"
 
-#include "host/HostLibraries.h"
+#include "inspection/registry/RawStore.h"
 #include "inspection/registry/RedirectedName.h"
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
@@ -87,7 +87,7 @@ RegistryPage::RegistryPage(QWidget* parent)
     setFocusProxy(m_tree);
     connectParts();
     m_tree->setCurrentIndex(m_keys->rootItem());
-    if (!g_globalSettings)
+    if (!RawStore::exists())
         reportStore();
 }
 
@@ -263,7 +263,7 @@ void RegistryPage::reportStore()
     const QString fault = storeFault();
     if (!fault.isEmpty())
         report(Report::Warning, fault);
-    else if (!g_globalSettings)
+    else if (!RawStore::exists())
         report(Report::Error, tr("The host library has set up no settings store: every call to the "
                                  "registry fails."));
 }
