@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AddressBar</name>
+    <message>
+        <source>&amp;Go to:</source>
+        <translation>转到(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>Path of the key</source>
+        <translation>项的路径</translation>
+    </message>
+    <message>
+        <source>%1 begins with none of the four root keys.</source>
+        <translation>%1 不以四个根项之一开头。</translation>
+    </message>
+    <message>
+        <source>There is no key %1.</source>
+        <translation>没有项 %1。</translation>
+    </message>
+</context>
+<context>
     <name>Base64Note</name>
     <message>
         <source>The last Base64 character stands alone and yields nothing.</source>
@@ -99,6 +118,10 @@
     <message>
         <source>%1 %2</source>
         <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was changed.</source>
+        <translation>%1未作任何更改。</translation>
     </message>
 </context>
 <context>
@@ -619,6 +642,34 @@
         <source>Find no&amp;w</source>
         <translation>立即查找(&amp;W)</translation>
     </message>
+    <message>
+        <source>Key</source>
+        <translation>项</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>The search was cancelled. Found so far: %1.</source>
+        <translation>查找已取消。目前找到：%1 处。</translation>
+    </message>
+    <message>
+        <source>Showing the first %1 places; there may be more.</source>
+        <translation>显示前 %1 处结果，可能还有更多。</translation>
+    </message>
+    <message>
+        <source>Found: %1.</source>
+        <translation>找到 %1 处。</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>正在查找</translation>
+    </message>
 </context>
 <context>
     <name>FindWindowPanel</name>
@@ -927,49 +978,11 @@
     </message>
 </context>
 <context>
-    <name>HitModel</name>
-    <message>
-        <source>Key</source>
-        <translation>项</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Data</source>
-        <translation>数据</translation>
-    </message>
-</context>
-<context>
     <name>HostInformation</name>
     <message>
         <source>English</source>
         <comment>name of the interface&apos;s language</comment>
         <translation>简体中文</translation>
-    </message>
-</context>
-<context>
-    <name>ImportDialog</name>
-    <message>
-        <source>As written in the file: %1. Altered: %2. Refused: %3.</source>
-        <translation>与文件一致：%1。有改动：%2。被拒绝：%3。</translation>
-    </message>
-    <message>
-        <source>Statements of the file</source>
-        <translation>文件中的语句</translation>
-    </message>
-    <message>
-        <source>Import %1</source>
-        <translation>导入 %1</translation>
-    </message>
-    <message>
-        <source>&amp;Only what is altered or refused</source>
-        <translation>仅显示有改动或被拒绝的语句(&amp;O)</translation>
-    </message>
-    <message>
-        <source>I&amp;mport</source>
-        <translation>导入(&amp;M)</translation>
     </message>
 </context>
 <context>
@@ -1044,22 +1057,22 @@
     </message>
 </context>
 <context>
-    <name>ImportModel</name>
+    <name>ImportDialog</name>
     <message>
-        <source>Refused: %1</source>
-        <translation>拒绝：%1</translation>
+        <source>Statements of the file</source>
+        <translation>文件中的语句</translation>
     </message>
     <message>
-        <source>Creates the key</source>
-        <translation>创建该项</translation>
+        <source>Import %1</source>
+        <translation>导入 %1</translation>
     </message>
     <message>
-        <source>Sets the value</source>
-        <translation>设置该值</translation>
+        <source>&amp;Only what is altered or refused</source>
+        <translation>仅显示有改动或被拒绝的语句(&amp;O)</translation>
     </message>
     <message>
-        <source>Deletes the value</source>
-        <translation>删除该值</translation>
+        <source>I&amp;mport</source>
+        <translation>导入(&amp;M)</translation>
     </message>
     <message>
         <source>What happens</source>
@@ -1080,6 +1093,29 @@
     <message>
         <source>Line</source>
         <translation>行</translation>
+    </message>
+</context>
+<context>
+    <name>ImportText</name>
+    <message>
+        <source>Creates the key</source>
+        <translation>创建该项</translation>
+    </message>
+    <message>
+        <source>Sets the value</source>
+        <translation>设置该值</translation>
+    </message>
+    <message>
+        <source>Deletes the value</source>
+        <translation>删除该值</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation>拒绝：%1</translation>
+    </message>
+    <message>
+        <source>As written in the file: %1. Altered: %2. Refused: %3.</source>
+        <translation>与文件一致：%1。有改动：%2。被拒绝：%3。</translation>
     </message>
 </context>
 <context>
@@ -1212,6 +1248,13 @@
     </message>
 </context>
 <context>
+    <name>KeyTree</name>
+    <message>
+        <source>Keys</source>
+        <translation>项</translation>
+    </message>
+</context>
+<context>
     <name>LineStateText</name>
     <message>
         <source>blank</source>
@@ -1336,6 +1379,25 @@
     <message>
         <source>A backslash in it begins an escape.</source>
         <translation>其中的反斜杠开始一个转义序列。</translation>
+    </message>
+</context>
+<context>
+    <name>ListedValue</name>
+    <message>
+        <source>No longer there</source>
+        <translation>已不存在</translation>
+    </message>
+    <message>
+        <source>Set directly under a root: kept in the key &quot;%1&quot;</source>
+        <translation>直接在根下设置：保存在项“%1”中</translation>
+    </message>
+    <message>
+        <source>Only listed: asking for it by name looks into the key &quot;%1&quot;</source>
+        <translation>仅可列出：按名称读取时会到项“%1”中查找</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>无法读取</translation>
     </message>
 </context>
 <context>
@@ -1618,17 +1680,6 @@
     <message>
         <source>The encoding becomes UTF-8.</source>
         <translation>编码将变为 UTF-8。</translation>
-    </message>
-</context>
-<context>
-    <name>RedirectedName</name>
-    <message>
-        <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
-        <translation>名称中含有“\”：主机库打开此项时，得到的是 %2 中的项“%1”。</translation>
-    </message>
-    <message>
-        <source>A name with a &quot;\&quot; in it: a host library that asks for this value gets the value &quot;%1&quot; in %2.</source>
-        <translation>名称中含有“\”：主机库读取此值时，得到的是 %2 中的值“%1”。</translation>
     </message>
 </context>
 <context>
@@ -2083,6 +2134,17 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RedirectedName</name>
+    <message>
+        <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
+        <translation>名称中含有“\”：主机库打开此项时，得到的是 %2 中的项“%1”。</translation>
+    </message>
+    <message>
+        <source>A name with a &quot;\&quot; in it: a host library that asks for this value gets the value &quot;%1&quot; in %2.</source>
+        <translation>名称中含有“\”：主机库读取此值时，得到的是 %2 中的值“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>RegFileReader</name>
     <message>
         <source>The file is neither UTF-16 with a byte order mark nor UTF-8.</source>
@@ -2134,15 +2196,106 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RegistryActions</name>
+    <message>
+        <source>&quot;%1&quot; in %2 is no longer there.</source>
+        <translation>%2 中的“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>%1 of the selected values in %2 are no longer there.</source>
+        <translation>%2 中所选的值有 %1 个已不存在。</translation>
+    </message>
+    <message>
+        <source>Delete key</source>
+        <translation>删除项</translation>
+    </message>
+    <message>
+        <source>Copy path</source>
+        <translation>复制路径</translation>
+    </message>
+    <message>
+        <source>Export key...</source>
+        <translation>导出项...</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>导入...</translation>
+    </message>
+    <message>
+        <source>Edit value</source>
+        <translation>编辑值</translation>
+    </message>
+    <message>
+        <source>Delete value</source>
+        <translation>删除值</translation>
+    </message>
+    <message>
+        <source>Copy data</source>
+        <translation>复制数据</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>&amp;Key...</source>
+        <translation>项(&amp;K)...</translation>
+    </message>
+    <message>
+        <source>&amp;String (REG_SZ)...</source>
+        <translation>字符串 (REG_SZ)(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Number (REG_DWORD)...</source>
+        <translation>数值 (REG_DWORD)(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>&amp;Large number (REG_QWORD)...</source>
+        <translation>大数值 (REG_QWORD)(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>&amp;Binary (REG_BINARY)...</source>
+        <translation>二进制 (REG_BINARY)(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y path</source>
+        <translation>复制路径(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新建(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Dele&amp;te</source>
+        <translation>删除(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Search...</source>
+        <translation>查找(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>编辑(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>I&amp;mport...</source>
+        <translation>导入(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>导出(&amp;X)...</translation>
+    </message>
+    <message>
+        <source>Copied %1.</source>
+        <translation>已复制 %1。</translation>
+    </message>
+    <message>
+        <source>%1 is no longer there.</source>
+        <translation>%1 已不存在。</translation>
+    </message>
+</context>
+<context>
     <name>RegistryEditor</name>
-    <message>
-        <source>Keys of the same name go with everything in them:</source>
-        <translation>同名的项及其全部内容也会一并删除：</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>删除</translation>
-    </message>
     <message>
         <source>%1 is there already.</source>
         <translation>%1 已存在。</translation>
@@ -2174,70 +2327,6 @@ Wide: %2</source>
     <message>
         <source>Set &quot;%1&quot; in %2, but a host library reads %3.</source>
         <translation>已设置 %2 中的“%1”，但主机库读到的是 %3。</translation>
-    </message>
-    <message>
-        <source>nothing</source>
-        <translation>空</translation>
-    </message>
-    <message>
-        <source>Deleting</source>
-        <translation>正在删除</translation>
-    </message>
-    <message>
-        <source>The root itself cannot be deleted.</source>
-        <translation>不能删除根本身。</translation>
-    </message>
-    <message>
-        <source>Counting what goes</source>
-        <translation>正在统计将删除的内容</translation>
-    </message>
-    <message>
-        <source>Delete the key %1?</source>
-        <translation>要删除项 %1 吗？</translation>
-    </message>
-    <message>
-        <source>Keys below it that go with it: %1. Values: %2.</source>
-        <translation>将一并删除的下级项：%1 个；值：%2 个。</translation>
-    </message>
-    <message>
-        <source>Deleted the key %1.</source>
-        <translation>已删除项 %1。</translation>
-    </message>
-    <message>
-        <source>Deleted a part of the key %1.</source>
-        <translation>已删除项 %1 的一部分。</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>以及另外 %1 个</translation>
-    </message>
-    <message>
-        <source>%1 values</source>
-        <translation>%1 个值</translation>
-    </message>
-    <message>
-        <source>Deleted from %1: %2.</source>
-        <translation>已从 %1 删除 %2。</translation>
-    </message>
-    <message>
-        <source>Delete this value of %1?</source>
-        <translation>要删除 %1 中的这个值吗？</translation>
-    </message>
-    <message>
-        <source>Delete these values of %1?</source>
-        <translation>要删除 %1 中的这些值吗？</translation>
-    </message>
-    <message>
-        <source>The value &quot;%1&quot; of %2 goes with it.</source>
-        <translation>%2 的值“%1”也会一并删除。</translation>
-    </message>
-    <message>
-        <source>Cancelled: nothing was deleted.</source>
-        <translation>已取消：未删除任何内容。</translation>
-    </message>
-    <message>
-        <source>%1 Nothing was changed.</source>
-        <translation>%1未作任何更改。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has more than %2 KiB of data: too much to edit here.</source>
@@ -2278,98 +2367,6 @@ Wide: %2</source>
 <context>
     <name>RegistryPage</name>
     <message>
-        <source>Keys</source>
-        <translation>项</translation>
-    </message>
-    <message>
-        <source>Values</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>Edit value</source>
-        <translation>编辑值</translation>
-    </message>
-    <message>
-        <source>Delete value</source>
-        <translation>删除值</translation>
-    </message>
-    <message>
-        <source>Delete key</source>
-        <translation>删除项</translation>
-    </message>
-    <message>
-        <source>Copy path</source>
-        <translation>复制路径</translation>
-    </message>
-    <message>
-        <source>Copy data</source>
-        <translation>复制数据</translation>
-    </message>
-    <message>
-        <source>Export key...</source>
-        <translation>导出项...</translation>
-    </message>
-    <message>
-        <source>Import...</source>
-        <translation>导入...</translation>
-    </message>
-    <message>
-        <source>New</source>
-        <translation>新建</translation>
-    </message>
-    <message>
-        <source>&amp;Key...</source>
-        <translation>项(&amp;K)...</translation>
-    </message>
-    <message>
-        <source>&amp;Number (REG_DWORD)...</source>
-        <translation>数值 (REG_DWORD)(&amp;N)...</translation>
-    </message>
-    <message>
-        <source>&amp;Large number (REG_QWORD)...</source>
-        <translation>大数值 (REG_QWORD)(&amp;L)...</translation>
-    </message>
-    <message>
-        <source>&amp;Binary (REG_BINARY)...</source>
-        <translation>二进制 (REG_BINARY)(&amp;B)...</translation>
-    </message>
-    <message>
-        <source>&amp;Go to:</source>
-        <translation>转到(&amp;G)：</translation>
-    </message>
-    <message>
-        <source>Path of the key</source>
-        <translation>项的路径</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y path</source>
-        <translation>复制路径(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>&amp;New</source>
-        <translation>新建(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Dele&amp;te</source>
-        <translation>删除(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Edit...</source>
-        <translation>编辑(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>I&amp;mport...</source>
-        <translation>导入(&amp;M)...</translation>
-    </message>
-    <message>
-        <source>E&amp;xport...</source>
-        <translation>导出(&amp;X)...</translation>
-    </message>
-    <message>
-        <source>The registry is empty. Create a key with New, or import a registry file.</source>
-        <translation>注册表为空。请用“新建”创建项，或导入注册表文件。</translation>
-    </message>
-    <message>
         <source>Values: %1. Sub-keys: %2.</source>
         <translation>值：%1 个。子项：%2 个。</translation>
     </message>
@@ -2378,60 +2375,59 @@ Wide: %2</source>
         <translation>主机库尚未建立设置存储：所有注册表调用都会失败。</translation>
     </message>
     <message>
-        <source>%1 begins with none of the four root keys.</source>
-        <translation>%1 不以四个根项之一开头。</translation>
-    </message>
-    <message>
-        <source>There is no key %1.</source>
-        <translation>没有项 %1。</translation>
-    </message>
-    <message>
-        <source>Copied %1.</source>
-        <translation>已复制 %1。</translation>
-    </message>
-    <message>
-        <source>The search was cancelled. Found so far: %1.</source>
-        <translation>查找已取消。目前找到：%1 处。</translation>
-    </message>
-    <message>
-        <source>Showing the first %1 places; there may be more.</source>
-        <translation>显示前 %1 处结果，可能还有更多。</translation>
-    </message>
-    <message>
-        <source>Found: %1.</source>
-        <translation>找到 %1 处。</translation>
-    </message>
-    <message>
-        <source>Searching</source>
-        <translation>正在查找</translation>
-    </message>
-    <message>
-        <source>&amp;String (REG_SZ)...</source>
-        <translation>字符串 (REG_SZ)(&amp;S)...</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
+</context>
+<context>
+    <name>RegistryRemover</name>
     <message>
-        <source>This key holds no values. Choose a key below it, or create a value with New.</source>
-        <translation>此项中没有值。请选择其下的项，或用“新建”创建值。</translation>
+        <source>%1 values</source>
+        <translation>%1 个值</translation>
     </message>
     <message>
-        <source>&amp;Search...</source>
-        <translation>查找(&amp;S)...</translation>
+        <source>Delete</source>
+        <translation>删除</translation>
     </message>
     <message>
-        <source>%1 is no longer there.</source>
-        <translation>%1 已不存在。</translation>
+        <source>Delete this value of %1?</source>
+        <translation>要删除 %1 中的这个值吗？</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; in %2 is no longer there.</source>
-        <translation>%2 中的“%1”已不存在。</translation>
+        <source>Delete these values of %1?</source>
+        <translation>要删除 %1 中的这些值吗？</translation>
     </message>
     <message>
-        <source>%1 of the selected values in %2 are no longer there.</source>
-        <translation>%2 中所选的值有 %1 个已不存在。</translation>
+        <source>Deleting</source>
+        <translation>正在删除</translation>
+    </message>
+    <message>
+        <source>Deleted from %1: %2.</source>
+        <translation>已从 %1 删除 %2。</translation>
+    </message>
+    <message>
+        <source>The root itself cannot be deleted.</source>
+        <translation>不能删除根本身。</translation>
+    </message>
+    <message>
+        <source>Counting what goes</source>
+        <translation>正在统计将删除的内容</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>已取消：未删除任何内容。</translation>
+    </message>
+    <message>
+        <source>Delete the key %1?</source>
+        <translation>要删除项 %1 吗？</translation>
+    </message>
+    <message>
+        <source>Deleted the key %1.</source>
+        <translation>已删除项 %1。</translation>
+    </message>
+    <message>
+        <source>Deleted a part of the key %1.</source>
+        <translation>已删除项 %1 的一部分。</translation>
     </message>
 </context>
 <context>
@@ -2542,18 +2538,6 @@ Wide: %2</source>
 <context>
     <name>RegistryValueModel</name>
     <message>
-        <source>Set directly under a root: kept in the key &quot;%1&quot;</source>
-        <translation>直接在根下设置：保存在项“%1”中</translation>
-    </message>
-    <message>
-        <source>Only listed: asking for it by name looks into the key &quot;%1&quot;</source>
-        <translation>仅可列出：按名称读取时会到项“%1”中查找</translation>
-    </message>
-    <message>
-        <source>unreadable</source>
-        <translation>无法读取</translation>
-    </message>
-    <message>
         <source>Raw: the text in the store, which no host library sees</source>
         <translation>原始内容：存储中的文本，主机库看不到</translation>
     </message>
@@ -2573,9 +2557,31 @@ Wide: %2</source>
         <source>Stored text (raw)</source>
         <translation>存储文本（原始）</translation>
     </message>
+</context>
+<context>
+    <name>RemovalText</name>
     <message>
-        <source>No longer there</source>
-        <translation>已不存在</translation>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 个</translation>
+    </message>
+    <message>
+        <source>Keys of the same name go with everything in them:</source>
+        <translation>同名的项及其全部内容也会一并删除：</translation>
+    </message>
+    <message>
+        <source>Keys below it that go with it: %1. Values: %2.</source>
+        <translation>将一并删除的下级项：%1 个；值：%2 个。</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; of %2 goes with it.</source>
+        <translation>%2 的值“%1”也会一并删除。</translation>
+    </message>
+</context>
+<context>
+    <name>SetValueCheck</name>
+    <message>
+        <source>nothing</source>
+        <translation>空</translation>
     </message>
 </context>
 <context>
@@ -2727,6 +2733,21 @@ Wide: %2</source>
     <message>
         <source>&quot;\&quot; and &quot;/&quot; separate keys. Create one key at a time.</source>
         <translation>“\”和“/”用于分隔项。请逐级创建。</translation>
+    </message>
+</context>
+<context>
+    <name>ValueTable</name>
+    <message>
+        <source>Values</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>The registry is empty. Create a key with New, or import a registry file.</source>
+        <translation>注册表为空。请用“新建”创建项，或导入注册表文件。</translation>
+    </message>
+    <message>
+        <source>This key holds no values. Choose a key below it, or create a value with New.</source>
+        <translation>此项中没有值。请选择其下的项，或用“新建”创建值。</translation>
     </message>
 </context>
 </TS>

@@ -115,8 +115,7 @@ std::unique_ptr<QWidget> import(const WindowProbe& probe)
                                     "\"multi\"=hex(7):00,00\r\n");
     while (import.step())
         ;
-    return std::make_unique<ImportDialog>(QStringLiteral("file.reg"), *import.plan(),
-                                          &probe.page());
+    return std::make_unique<ImportDialog>(QStringLiteral("file.reg"), import.plan(), &probe.page());
 }
 
 template <ProfileFamily Family>

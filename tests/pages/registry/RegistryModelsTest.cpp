@@ -3,15 +3,19 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/RegistrySearchJob.h"
-#include "pages/registry/HitModel.h"
-#include "pages/registry/ImportModel.h"
+#include "pages/registry/FindPane.h"
+#include "pages/registry/ImportDialog.h"
 #include "pages/registry/RegistryTreeModel.h"
 #include "pages/registry/RegistryValueModel.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/inspection/registry/RegistryTest.h"
+#include "window/Page.h"
 
 #include <QAbstractItemModelTester>
+#include <QLineEdit>
 #include <QSettings>
+#include <QTableView>
+#include <QTest>
 
 namespace {
 
@@ -202,8 +206,8 @@ TEST_F(RegistryModels, ShowAValueUnderARootWhereItIsAskedFor)
     ASSERT_EQ(m_values.rowCount(), 1);
     EXPECT_EQ(cell(0, Model::Name).toStdString(), "X");
     EXPECT_EQ(cell(0, Model::Data).toStdString(), "kept below");
-    EXPECT_EQ(m_values.value(0).place, Model::Place::UnderRoot);
-    EXPECT_TRUE(m_values.value(0).remark.contains("kept in the key \"X\""));
+    EXPECT_EQ(m_values.record(0).place(), ListedValue::Place::UnderRoot);
+    EXPECT_TRUE(m_values.record(0).remark().contains("kept in the key \"X\""));
 }
 
 TEST_F(RegistryModels, ShowAnEntryOfTheRootAsListedOnly)
@@ -211,10 +215,10 @@ TEST_F(RegistryModels, ShowAnEntryOfTheRootAsListedOnly)
     store("loose", "1$7");
     m_values.setPath("", *RegistryIndex::read());
     ASSERT_EQ(m_values.rowCount(), 1);
-    EXPECT_EQ(m_values.value(0).place, Model::Place::ListedAtRoot);
+    EXPECT_EQ(m_values.record(0).place(), ListedValue::Place::ListedAtRoot);
     EXPECT_EQ(cell(0, Model::Type).toStdString(), "REG_DWORD");
     EXPECT_EQ(cell(0, Model::Data).toStdString(), "7 (0x00000007)");
-    EXPECT_TRUE(m_values.value(0).remark.contains("Only listed"));
+    EXPECT_TRUE(m_values.record(0).remark().contains("Only listed"));
 }
 
 TEST_F(RegistryModels, TellNameAndPlaceWithoutReading)
@@ -224,11 +228,10 @@ TEST_F(RegistryModels, TellNameAndPlaceWithoutReading)
     m_tree.refresh();
     m_values.setPath("", m_tree.names());
     ASSERT_EQ(m_values.rowCount(), 2);
-    EXPECT_EQ(m_values.nameAndPlace(0).name.toStdString(), "X");
-    EXPECT_EQ(m_values.nameAndPlace(0).place, Model::Place::UnderRoot);
-    EXPECT_EQ(m_values.nameAndPlace(1).name.toStdString(), "loose");
-    EXPECT_EQ(m_values.nameAndPlace(1).place, Model::Place::ListedAtRoot);
-    EXPECT_TRUE(m_values.nameAndPlace(0).raw.isEmpty());
+    EXPECT_EQ(m_values.record(0).name().toStdString(), "X");
+    EXPECT_EQ(m_values.record(0).place(), ListedValue::Place::UnderRoot);
+    EXPECT_EQ(m_values.record(1).name().toStdString(), "loose");
+    EXPECT_EQ(m_values.record(1).place(), ListedValue::Place::ListedAtRoot);
     store("X/X", "5$new"); // what was read before would still be shown
     EXPECT_EQ(cell(0, Model::Data).toStdString(), "new");
 }
@@ -265,17 +268,18 @@ TEST_F(RegistryModels, ShowMarkupInToolTipsAsItStands)
     };
     EXPECT_EQ(tip(m_values, Model::Data), escaped);
     EXPECT_EQ(tip(m_values, Model::Name), "v");
-    HitModel hits;
-    hits.setHits({{"A", "v", markup}});
-    EXPECT_EQ(tip(hits, HitModel::Data), escaped);
+    Page page;
+    FindPane pane(page);
+    pane.findChild<QLineEdit*>()->setText("bold");
+    QTest::keyClick(pane.findChild<QLineEdit*>(), Qt::Key_Return);
+    EXPECT_EQ(tip(*pane.findChild<QTableView*>()->model(), 2), escaped);
     RegistryImportJob import(
         "Windows Registry Editor Version 5.00\n[HKEY_USERS\\A]\n\"<b>bold</b>\"=-\n");
     while (import.step()) {
     }
-    ImportModel statements(*import.plan());
-    statements.setOnlyRemarkable(false);
-    EXPECT_EQ(statements.index(1, ImportModel::Name).data(Qt::ToolTipRole).toString().toStdString(),
-              escaped);
+    const ImportDialog dialog("in.reg", import.plan(), nullptr);
+    const QModelIndex name = dialog.findChild<QTableView*>()->model()->index(1, 2);
+    EXPECT_EQ(name.data(Qt::ToolTipRole).toString().toStdString(), escaped);
 }
 
 TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)

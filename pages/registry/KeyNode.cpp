@@ -1,0 +1,43 @@
+#include "pages/registry/KeyNode.h"
+
+#include "inspection/registry/RegistryPath.h"
+
+#include <algorithm>
+
+QString KeyNode::path() const
+{
+    return m_parent ? RegistryPath::join(m_parent->path(), m_name) : QString();
+}
+
+bool KeyNode::isCreated() const
+{
+    return m_parent &&
+           std::binary_search(m_parent->created.cbegin(), m_parent->created.cend(), m_name);
+}
+
+bool KeyNode::hasChild(int row, const QString& name) const
+{
+    return row < count() && child(row).name() == name;
+}
+
+void KeyNode::insert(int first, int last, const QStringList& all)
+{
+    std::vector<std::unique_ptr<KeyNode>> added;
+    for (int row = first; row <= last; ++row)
+        added.push_back(std::make_unique<KeyNode>(this, all.at(row)));
+    m_children.insert(m_children.begin() + first, std::make_move_iterator(added.begin()),
+                      std::make_move_iterator(added.end()));
+    numberFrom(first);
+}
+
+void KeyNode::remove(int first, int last)
+{
+    m_children.erase(m_children.begin() + first, m_children.begin() + last + 1);
+    numberFrom(first);
+}
+
+void KeyNode::numberFrom(int first)
+{
+    for (int row = first; row < count(); ++row)
+        child(row).m_row = row;
+}
