@@ -28,6 +28,7 @@ std::vector<ListedValue> ListedValue::ofKey(const QString& path, const RegistryI
     const auto key = std::make_shared<Key>(path);
     std::vector<ListedValue> values;
     const QStringList listed = registryValueNames(path);
+    values.reserve(static_cast<std::size_t>(listed.size()));
     for (const QString& name : listed)
         values.push_back(ListedValue(key, name, Place::InKey));
     return values;

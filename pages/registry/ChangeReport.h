@@ -8,6 +8,6 @@ void reportChange(PageContext& page, PageContext::Report kind, const QString& te
 /// Reports `why` as the reason for which nothing was changed, unless it is empty; true when it did.
 bool isRefused(PageContext& page, const QString& why);
 
-/// The same for a key in place of which a host library finds another: a change would be made in
-/// that one.
+/// Reports that nothing was changed, and returns true, where a host library finds another key for
+/// this path: a change would be made in that one.
 bool isKeyRefused(PageContext& page, const QString& path);

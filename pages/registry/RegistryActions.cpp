@@ -35,7 +35,7 @@ QPushButton* buttonFor(QAction* action, const QString& text)
     return button;
 }
 
-// Of the first of so many values.
+// What is reported when values have gone meanwhile; `name` is that of the first.
 QString goneText(const QString& name, std::size_t count, const QString& path)
 {
     const QString key = RegistryPath::shown(path);

@@ -13,7 +13,7 @@ namespace {
 using Place = ListedValue::Place;
 using Report = PageContext::Report;
 
-// The edit field takes longer to lay out more than this than a window may stand still.
+// Laying out more than this in the edit field takes longer than a window may stand still.
 constexpr int mostEditedKiB = 64;
 
 // An entry that no host library can read takes a name too: writing would replace it.
@@ -112,7 +112,7 @@ QString RegistryEditor::whyNotEdited(const ListedValue& value) const
     return {};
 }
 
-// What is unreadable is replaced: an empty text is offered.
+// A value that cannot be read can be replaced: the dialog offers an empty text.
 void RegistryEditor::openEditor(const QString& path, const ListedValue& value)
 {
     const unsigned int type = value.isReadable() ? value.reading().type : REG_SZ;

@@ -100,7 +100,7 @@ void RegistryPage::refresh()
     m_table->choose(name);
 }
 
-// A job that runs ends with a refresh where it has changed anything.
+// While a job runs nothing is read: a job that changes anything ends with a refresh.
 void RegistryPage::entered()
 {
     if (isBusy())

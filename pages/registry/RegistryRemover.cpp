@@ -65,14 +65,14 @@ void RegistryRemover::removeValues(const QString& path, const std::vector<Listed
 void RegistryRemover::removeAll(const QString& path, const Values& values)
 {
     const QString first = values.front().name;
-    m_page.startJob<ValueRemovalJob>(
-        tr("Deleting"), std::make_unique<ValueRemovalJob>(values),
-        [this, path, first](ValueRemovalJob& job, bool complete) {
-            emit changed(path);
-            reportChange(m_page, complete ? Report::Info : Report::Warning,
-                         tr("Deleted from %1: %2.")
-                             .arg(RegistryPath::shown(path), deletedText(first, job.removed())));
-        });
+    const auto finished = [this, path, first](const ValueRemovalJob& job, bool complete) {
+        emit changed(path);
+        reportChange(m_page, complete ? Report::Info : Report::Warning,
+                     tr("Deleted from %1: %2.")
+                         .arg(RegistryPath::shown(path), deletedText(first, job.removed())));
+    };
+    m_page.startJob<ValueRemovalJob>(tr("Deleting"), std::make_unique<ValueRemovalJob>(values),
+                                     finished);
 }
 
 void RegistryRemover::removeKey(const QString& path)
@@ -81,14 +81,14 @@ void RegistryRemover::removeKey(const QString& path)
         return m_page.report(Report::Error, tr("The root itself cannot be deleted."));
     if (isKeyRefused(m_page, path))
         return;
-    m_page.startJob<RegistryCountJob>(
-        tr("Counting what goes"), std::make_unique<RegistryCountJob>(path),
-        [this, path](RegistryCountJob& job, bool complete) {
-            if (complete)
-                confirmKey(path, job);
-            else
-                m_page.setStatus(tr("Cancelled: nothing was deleted."));
-        });
+    const auto finished = [this, path](const RegistryCountJob& job, bool complete) {
+        if (complete)
+            confirmKey(path, job);
+        else
+            m_page.setStatus(tr("Cancelled: nothing was deleted."));
+    };
+    m_page.startJob<RegistryCountJob>(tr("Counting what goes"),
+                                      std::make_unique<RegistryCountJob>(path), finished);
 }
 
 void RegistryRemover::confirmKey(const QString& path, const RegistryCountJob& count)
@@ -100,14 +100,14 @@ void RegistryRemover::confirmKey(const QString& path, const RegistryCountJob& co
 
 void RegistryRemover::removeKeys(const QString& path, const QStringList& keys)
 {
-    m_page.startJob<RegistryRemovalJob>(
-        tr("Deleting"), std::make_unique<RegistryRemovalJob>(keys),
-        [this, path](RegistryRemovalJob& job, bool complete) {
-            emit changed(RegistryPath::parent(path));
-            const bool whole = complete && job.succeeded();
-            const QString text =
-                whole ? tr("Deleted the key %1.") : tr("Deleted a part of the key %1.");
-            reportChange(m_page, whole ? Report::Info : Report::Warning,
-                         text.arg(RegistryPath::shown(path)));
-        });
+    const auto finished = [this, path](const RegistryRemovalJob& job, bool complete) {
+        emit changed(RegistryPath::parent(path));
+        const bool whole = complete && job.succeeded();
+        const QString text =
+            whole ? tr("Deleted the key %1.") : tr("Deleted a part of the key %1.");
+        reportChange(m_page, whole ? Report::Info : Report::Warning,
+                     text.arg(RegistryPath::shown(path)));
+    };
+    m_page.startJob<RegistryRemovalJob>(tr("Deleting"), std::make_unique<RegistryRemovalJob>(keys),
+                                        finished);
 }

@@ -17,7 +17,7 @@ namespace {
 using Encoding = RegFileWriter::Encoding;
 using Report = PageContext::Report;
 
-// Far above any registry file; all of its statements are kept in memory.
+// No registry file is nearly this large. All of its statements are kept in memory.
 constexpr qint64 largestFile = qint64{32} * 1024 * 1024;
 
 // Why the file cannot be imported, or an empty text. It is to be asked before the file is opened,

@@ -1,9 +1,8 @@
 #include "pages/registry/RegistryTreeModel.h"
 
+#include "inspection/registry/KeyNode.h"
 #include "inspection/registry/RedirectedName.h"
-#include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "pages/registry/KeyNode.h"
 #include "window/GlyphIcon.h"
 
 #include <QFont>
@@ -18,16 +17,6 @@ constexpr int batch = 2000;
 bool contains(const QStringList& sorted, const QString& name)
 {
     return std::binary_search(sorted.cbegin(), sorted.cend(), name);
-}
-
-// How many of the first names are to be shown. Where all keys have been shown so far, all are shown
-// now; otherwise those behind the last one wait for their batch.
-int wantedCount(const KeyNode& node, const QStringList& names)
-{
-    if (node.count() == 0 || node.count() >= node.names.size())
-        return names.size();
-    const QString& last = node.child(node.count() - 1).name();
-    return static_cast<int>(std::upper_bound(names.cbegin(), names.cend(), last) - names.cbegin());
 }
 
 Glyph glyphOf(const KeyNode& node)
@@ -113,14 +102,7 @@ int RegistryTreeModel::columnCount(const QModelIndex& /*parent*/) const
 
 bool RegistryTreeModel::hasChildren(const QModelIndex& parent) const
 {
-    if (!parent.isValid())
-        return true;
-    const KeyNode& item = node(parent);
-    if (item.isListed)
-        return !item.names.isEmpty();
-    if (!item.isParent)
-        item.isParent = hasSubKeys(*m_names, item.path());
-    return *item.isParent;
+    return !parent.isValid() || node(parent).hasKeys(*m_names);
 }
 
 bool RegistryTreeModel::canFetchMore(const QModelIndex& parent) const
@@ -128,7 +110,7 @@ bool RegistryTreeModel::canFetchMore(const QModelIndex& parent) const
     if (!parent.isValid() || m_isInserting)
         return false;
     const KeyNode& item = node(parent);
-    return !item.isListed || item.count() < item.names.size();
+    return !item.isListed() || item.count() < item.names().size();
 }
 
 void RegistryTreeModel::fetchMore(const QModelIndex& parent)
@@ -165,7 +147,7 @@ int RegistryTreeModel::subKeyCount(const QModelIndex& index) const
     if (!index.isValid())
         return 0;
     list(node(index));
-    return node(index).names.size();
+    return node(index).names().size();
 }
 
 QModelIndex RegistryTreeModel::find(const QString& path)
@@ -184,33 +166,29 @@ QModelIndex RegistryTreeModel::find(const QString& path)
 KeyNode* RegistryTreeModel::child(KeyNode& parent, const QString& name)
 {
     list(parent);
-    const auto found = std::lower_bound(parent.names.cbegin(), parent.names.cend(), name);
-    if (found == parent.names.cend() || *found != name)
+    const auto found = std::lower_bound(parent.names().cbegin(), parent.names().cend(), name);
+    if (found == parent.names().cend() || *found != name)
         return nullptr;
-    const int row = static_cast<int>(found - parent.names.cbegin());
+    const int row = static_cast<int>(found - parent.names().cbegin());
     show(parent, row + 1);
     return &parent.child(row);
 }
 
 void RegistryTreeModel::list(KeyNode& node) const
 {
-    if (node.isListed)
-        return;
-    const RegistryListing listing = listRegistryKey(*m_names, node.path());
-    node.names = listing.allKeys();
-    node.created = listing.createdKeys;
-    node.isListed = true;
+    if (!node.isListed())
+        node.setListing(listRegistryKey(*m_names, node.path()));
 }
 
 void RegistryTreeModel::show(KeyNode& node, int count)
 {
     const int first = node.count();
-    const int last = qMin(count, node.names.size()) - 1;
+    const int last = qMin(count, node.names().size()) - 1;
     if (last >= first)
-        insert(node, first, last, node.names);
+        insert(node, first, last, node.names());
 }
 
-// Views may ask for more while they are told of these.
+// A view may ask for more rows while it is told of new ones: it gets them afterwards.
 void RegistryTreeModel::insert(KeyNode& node, int first, int last, const QStringList& names)
 {
     m_isInserting = true;
@@ -224,27 +202,26 @@ void RegistryTreeModel::refresh()
 {
     m_names = RegistryIndex::read();
     update(*m_root);
-    // Marks of created keys, and the arrows of keys that have gained or lost their sub-keys.
+    // The views paint the marks of created keys anew, and the arrows of keys that have gained or
+    // lost their sub-keys.
     emit layoutAboutToBeChanged();
     emit layoutChanged();
 }
 
 void RegistryTreeModel::update(KeyNode& node)
 {
-    node.isParent.reset();
-    if (!node.isListed)
-        return;
+    if (!node.isListed())
+        return node.forgetKeys();
     const RegistryListing listing = listRegistryKey(*m_names, node.path());
     const QStringList names = listing.allKeys();
     removeVanished(node, names);
     insertNew(node, names);
-    node.names = names;
-    node.created = listing.createdKeys;
+    node.setListing(listing);
     for (int row = 0; row < node.count(); ++row)
         update(node.child(row));
 }
 
-// Neighbours are removed in one go: the views are told of each removal.
+// Children next to each other are removed in one go, because the views are told of each removal.
 void RegistryTreeModel::removeVanished(KeyNode& node, const QStringList& names)
 {
     const auto isThere = [&](int row) { return contains(names, node.child(row).name()); };
@@ -261,10 +238,10 @@ void RegistryTreeModel::removeVanished(KeyNode& node, const QStringList& names)
     }
 }
 
-// Every child that is left has its name among the names.
+// To be called when the name of every child is among the names.
 void RegistryTreeModel::insertNew(KeyNode& node, const QStringList& names)
 {
-    const int wanted = wantedCount(node, names);
+    const int wanted = node.wantedCount(names);
     for (int row = 0; row < wanted; ++row) {
         const int first = row;
         while (row < wanted && !node.hasChild(first, names.at(row)))

@@ -20,7 +20,7 @@ namespace {
 
 constexpr unsigned int types[] = {REG_SZ, REG_DWORD, REG_QWORD, REG_BINARY};
 
-// Line ends that do not survive being edited: the field knows but one kind.
+// True where the text has line ends that editing changes: the field knows line feeds alone.
 bool hasOtherLineEnds(const QString& text)
 {
     return text.contains(QLatin1Char('\r')) || text.contains(QChar::LineSeparator) ||
@@ -120,7 +120,7 @@ QString ValueDialog::warning(const ValueInput& input) const
     return losesLineEnds ? tr("Line ends become LF.") : input.warning();
 }
 
-// A name that is fixed is the store's, whatever it holds.
+// A fixed name comes from the store, which has it already: it is not checked.
 void ValueDialog::check()
 {
     const ValueInput input(type(), textOf(*m_data));
