@@ -3,6 +3,7 @@
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryKey.h"
 #include "platform/WindowsTypes.h"
+#include "platform/registry/TypeName.h"
 #include "window/GlyphIcon.h"
 #include "window/ShownText.h"
 
@@ -29,9 +30,9 @@ QString dataText(const RegFileEntry& entry)
 {
     if (entry.action != Action::SetValue)
         return QString();
-    const QByteArray data = entry.type == REG_SZ ? registryTextData(entry.text) : entry.data;
+    const QByteArray data = ImportCheck::dataToSet(entry);
     const int terminator = entry.type == REG_SZ ? static_cast<int>(sizeof(wchar_t)) : 0;
-    return RegistryFormat::typeName(entry.type) + QLatin1Char(' ') +
+    return registryTypeName(entry.type) + QLatin1Char(' ') +
            RegistryFormat::data(entry.type, data.left(data.size() - terminator));
 }
 

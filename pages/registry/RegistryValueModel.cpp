@@ -1,11 +1,12 @@
 #include "pages/registry/RegistryValueModel.h"
 
+#include "inspection/registry/ReadingRemark.h"
 #include "inspection/registry/RedirectedName.h"
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/StoredText.h"
 #include "pages/registry/ValueGlyph.h"
+#include "platform/registry/TypeName.h"
 #include "window/ShownText.h"
 
 #include <QFont>
@@ -88,8 +89,7 @@ RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
     value.raw = rawRegistryText(entry);
     value.reading = row.place == Place::ListedAtRoot ? readAtRegistryRoot(*m_key, row.name)
                                                      : m_key->read(row.name);
-    const StoredText stored(entry);
-    value.remark = value.reading.readable ? stored.warning() : stored.whyUnreadable();
+    value.remark = readingRemark(value.reading, entry);
     if (!value.reading.readable && !hasRegistryEntry(entryPath(row)))
         value.remark = tr("No longer there");
     else if (row.place == Place::InKey && isRedirected(row.name))
@@ -163,7 +163,7 @@ QVariant RegistryValueModel::text(const Value& value, int column) const
     const bool readable = value.reading.readable;
     switch (column) {
     case Name: return value.name;
-    case Type: return readable ? RegistryFormat::typeName(value.reading.type) : tr("unreadable");
+    case Type: return readable ? registryTypeName(value.reading.type) : tr("unreadable");
     case Data:
         return readable ? RegistryFormat::data(value.reading.type, value.reading.data)
                         : value.remark;
