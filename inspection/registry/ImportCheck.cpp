@@ -1,10 +1,9 @@
 #include "inspection/registry/ImportCheck.h"
 
-#include "inspection/registry/RegistryFormat.h"
+#include "inspection/registry/RegistryKey.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/ValueInput.h"
-#include "platform/WindowsTypes.h"
+#include "platform/registry/ValueChange.h"
 
 using Action = RegFileEntry::Action;
 
@@ -20,13 +19,18 @@ ImportCheck::ImportCheck(const RegFileEntry& entry) : m_entry(entry)
         checkData();
 }
 
+QByteArray ImportCheck::dataToSet(const RegFileEntry& entry)
+{
+    return entry.type == REG_SZ ? registryTextData(entry.text) : entry.data;
+}
+
 void ImportCheck::refuse(const QString& why)
 {
     m_outcome = Outcome::Refused;
     m_remarks = QStringList(why);
 }
 
-// Once refused, only the reason for that is told.
+// Of a statement that is refused nothing but the reason is told.
 void ImportCheck::remark(const QString& what)
 {
     if (what.isEmpty() || m_outcome == Outcome::Refused)
@@ -47,7 +51,7 @@ void ImportCheck::checkKey()
         checkKeyDeletion();
 }
 
-// The service deletes a value of the same name along with a key.
+// The service deletes a value of the same name along with the key.
 void ImportCheck::checkKeyDeletion()
 {
     if (m_path.isEmpty())
@@ -59,7 +63,7 @@ void ImportCheck::checkKeyDeletion()
                         RegistryPath::shown(RegistryPath::parent(m_path))));
 }
 
-// And a key of the same name along with a value.
+// The service deletes a key of the same name along with the value.
 void ImportCheck::checkValueDeletion(const QString& name)
 {
     if (m_path.isEmpty())
@@ -89,28 +93,10 @@ void ImportCheck::checkName()
 
 void ImportCheck::checkData()
 {
-    switch (m_entry.type) {
-    case REG_SZ: return;
-    case REG_BINARY:
-        if (m_entry.data.isEmpty())
-            refuse(tr("Binary data without a byte cannot be stored."));
-        return;
-    case REG_DWORD:
-    case REG_NONE: return checkNumber(4);
-    case REG_QWORD: return checkNumber(8);
-    default: refuse(tr("%1 cannot be stored.").arg(RegistryFormat::typeName(m_entry.type)));
-    }
-}
-
-void ImportCheck::checkNumber(int size)
-{
-    if (m_entry.data.isEmpty())
-        return refuse(tr("A number without a byte cannot be stored."));
-    if (m_entry.type == REG_NONE)
-        remark(tr("REG_NONE becomes REG_DWORD."));
-    if (m_entry.data.size() != size)
-        return remark(
-            tr("The number does not have %1 bytes: its first byte alone is kept.").arg(size));
-    remark(ValueInput::numberWarning(m_entry.type == REG_QWORD ? REG_QWORD : REG_DWORD,
-                                     RegistryFormat::number(m_entry.data)));
+    const ValueChange change(m_entry.type, dataToSet(m_entry));
+    const QStringList remarks = change.remarks();
+    if (change.outcome() == ValueChange::Outcome::Refused)
+        return refuse(remarks.join(QLatin1Char(' ')));
+    for (const QString& what : remarks)
+        remark(what);
 }

@@ -5,7 +5,8 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-/// Foretells what the registry service makes of one statement of a registry file.
+/// Tells what the registry service will make of one statement of a registry file, before it is
+/// carried out. Nothing is written.
 class ImportCheck
 {
     Q_DECLARE_TR_FUNCTIONS(ImportCheck)
@@ -18,10 +19,16 @@ public:
         Refused  ///< not at all: see `remark`
     };
 
+    /// Checks against the store as it is now.
     explicit ImportCheck(const RegFileEntry& entry);
 
     Outcome outcome() const { return m_outcome; }
+    /// What is altered, or why the statement is refused, in sentences; empty for Done.
     QString remark() const { return m_remarks.join(QLatin1Char(' ')); }
+
+    /// The data that RegSetValueExW gets for a statement that sets a value; a text has its
+    /// terminator.
+    static QByteArray dataToSet(const RegFileEntry& entry);
 
 private:
     void refuse(const QString& why);
@@ -31,7 +38,6 @@ private:
     void checkValueDeletion(const QString& name);
     void checkName();
     void checkData();
-    void checkNumber(int size);
 
     RegFileEntry m_entry;
     QString m_path;

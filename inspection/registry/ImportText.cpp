@@ -1,7 +1,8 @@
 #include "inspection/registry/ImportText.h"
 
 #include "inspection/registry/RegistryFormat.h"
-#include "inspection/registry/RegistryKey.h"
+#include "platform/WindowsTypes.h"
+#include "platform/registry/TypeName.h"
 
 #include <QCoreApplication>
 
@@ -40,10 +41,10 @@ QString ImportText::data(const RegFileEntry& entry)
 {
     if (entry.action != Action::SetValue)
         return QString();
-    QByteArray data = entry.type == REG_SZ ? registryTextData(entry.text) : entry.data;
+    QByteArray data = ImportCheck::dataToSet(entry);
     if (entry.type == REG_SZ)
         data.chop(static_cast<int>(sizeof(wchar_t)));
-    return RegistryFormat::typeName(entry.type) + QLatin1Char(' ') +
+    return registryTypeName(entry.type) + QLatin1Char(' ') +
            RegistryFormat::data(entry.type, data);
 }
 

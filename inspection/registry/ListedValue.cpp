@@ -1,10 +1,11 @@
 #include "inspection/registry/ListedValue.h"
 
+#include "inspection/registry/ReadingRemark.h"
 #include "inspection/registry/RedirectedName.h"
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/StoredText.h"
+#include "platform/registry/TypeName.h"
 
 namespace {
 
@@ -84,12 +85,11 @@ const ListedValue::Contents& ListedValue::contents() const
 ListedValue::Contents ListedValue::read() const
 {
     const QVariant entry = rawRegistryEntry(entryPath());
-    const StoredText stored(entry);
     Contents contents;
     contents.raw = rawRegistryText(entry);
     contents.reading = m_place == Place::ListedAtRoot ? readAtRegistryRoot(m_key->key, m_name)
                                                       : m_key->key.read(m_name);
-    contents.remark = contents.reading.readable ? stored.warning() : stored.whyUnreadable();
+    contents.remark = readingRemark(contents.reading, entry);
     if (!contents.reading.readable && !isThere())
         contents.remark = tr("No longer there");
     else if (m_place == Place::InKey && isRedirected(m_name))
@@ -113,7 +113,7 @@ QString ListedValue::placeRemark() const
 
 QString ListedValue::typeText() const
 {
-    return isReadable() ? RegistryFormat::typeName(reading().type) : tr("unreadable");
+    return isReadable() ? registryTypeName(reading().type) : tr("unreadable");
 }
 
 QString ListedValue::dataText() const

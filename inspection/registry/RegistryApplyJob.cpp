@@ -21,7 +21,7 @@ bool ensureKey(const QString& path)
 
 bool setValue(const QString& path, const RegFileEntry& entry)
 {
-    const QByteArray data = entry.type == REG_SZ ? registryTextData(entry.text) : entry.data;
+    const QByteArray data = ImportCheck::dataToSet(entry);
     return ensureKey(path) && RegistryKey(path).set(entry.name, entry.type, data) == ERROR_SUCCESS;
 }
 

@@ -1,9 +1,9 @@
 #include "inspection/registry/RegistryExportJob.h"
 
+#include "inspection/registry/ReadingRemark.h"
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/StoredText.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -89,7 +89,7 @@ void RegistryExportJob::writeValue()
     if (m_walk.path().isEmpty())
         leaveOut(name, tr("it is listed under the root, but cannot be asked for there"));
     else if (!reading.readable)
-        leaveOut(name, StoredText(entry).whyUnreadable());
+        leaveOut(name, readingRemark(reading, entry));
     else if (hasLineEnd(name))
         leaveOut(name, tr("the format knows no line ends in names"));
     else

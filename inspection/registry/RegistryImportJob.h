@@ -13,7 +13,7 @@ class RegistryImportJob : public Job
 public:
     /// `file` is open for reading.
     explicit RegistryImportJob(std::unique_ptr<QIODevice> file);
-    /// A file that is in memory already.
+    /// A file that is in memory already, as those of the tests are.
     explicit RegistryImportJob(const QByteArray& file);
 
     /// Reads one statement or a small piece of the file.

@@ -3,12 +3,11 @@
 #include "inspection/registry/RawStore.h"
 #include "inspection/registry/RedirectedName.h"
 #include "inspection/registry/RegistryPath.h"
-#include "platform/PlatformRegisterManagerImp.h"
+#include "platform/registry/StoredValue.h"
 
 #include <QSet>
 
 #include <algorithm>
-#include <climits>
 
 namespace {
 
@@ -104,9 +103,9 @@ QVariant rawRegistryEntry(const QString& path)
 RegistryReading readAtRegistryRoot(const RegistryKey& root, const QString& name)
 {
     RegistryReading reading = root.readListed(name);
-    unsigned int size = UINT_MAX;
-    QVariant entry = rawRegistryEntry(name);
-    QVarToRegValue(entry, &reading.type, nullptr, &size);
+    const StoredValue stored(rawRegistryEntry(name));
+    if (stored.isReadable())
+        reading.type = stored.type();
     return reading;
 }
 

@@ -34,7 +34,6 @@ public:
     const std::vector<Hit>& hits() const { return m_hits; }
     /// True when there may be more than were listed.
     bool isFull() const { return m_hits.size() >= mostHits; }
-    const RegistryWalk& walk() const { return m_walk; }
 
 private:
     void lookAtKey();

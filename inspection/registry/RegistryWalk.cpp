@@ -28,7 +28,6 @@ void RegistryWalk::enter()
     m_path = m_pending.takeLast();
     m_key.reset();
     m_at = -1;
-    ++m_keys;
     const RegistryListing listing = listRegistryKey(*m_index, m_path);
     QStringList below = listing.allKeys();
     std::reverse(below.begin(), below.end());

@@ -3,6 +3,7 @@
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryKey.h"
 #include "inspection/registry/ValueInput.h"
+#include "platform/registry/TypeName.h"
 #include "window/GlyphIcon.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
@@ -39,7 +40,7 @@ ValueDialog::ValueDialog(unsigned int type, QWidget* parent)
 {
     setWindowTitle(tr("New value"));
     for (const unsigned int offered : types)
-        m_type->addItem(RegistryFormat::typeName(offered), offered);
+        m_type->addItem(registryTypeName(offered), offered);
     m_type->setCurrentIndex(m_type->findData(type));
     build();
     check();

@@ -522,6 +522,17 @@
     </message>
 </context>
 <context>
+    <name>EncodedValue</name>
+    <message>
+        <source>Data without a byte cannot be stored.</source>
+        <translation>无法存储没有任何字节的数据。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be stored.</source>
+        <translation>无法存储 %1。</translation>
+    </message>
+</context>
+<context>
     <name>FilesPage</name>
     <message>
         <source>Type a pattern first, such as /etc/*.conf.</source>
@@ -1018,26 +1029,6 @@
     <message>
         <source>Directly under a root, it is kept in a key of its own name.</source>
         <translation>直接位于根下的值，将保存在与其同名的项中。</translation>
-    </message>
-    <message>
-        <source>Binary data without a byte cannot be stored.</source>
-        <translation>无法存储没有任何字节的二进制数据。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be stored.</source>
-        <translation>无法存储 %1。</translation>
-    </message>
-    <message>
-        <source>A number without a byte cannot be stored.</source>
-        <translation>无法存储没有任何字节的数值。</translation>
-    </message>
-    <message>
-        <source>REG_NONE becomes REG_DWORD.</source>
-        <translation>REG_NONE 将变为 REG_DWORD。</translation>
-    </message>
-    <message>
-        <source>The number does not have %1 bytes: its first byte alone is kept.</source>
-        <translation>数值不是 %1 字节：只保留其第一个字节。</translation>
     </message>
     <message>
         <source>The value &quot;%1&quot; of %2 goes with it.</source>
@@ -2134,6 +2125,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ReadingRemark</name>
+    <message>
+        <source>Not found under this name</source>
+        <translation>按此名称找不到</translation>
+    </message>
+</context>
+<context>
     <name>RedirectedName</name>
     <message>
         <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
@@ -2615,7 +2613,19 @@ Wide: %2</source>
     </message>
 </context>
 <context>
-    <name>StoredText</name>
+    <name>StoredValue</name>
+    <message>
+        <source>Bad number: &quot;%1&quot; is read as 0</source>
+        <translation>数值错误：“%1”将读作 0</translation>
+    </message>
+    <message>
+        <source>Bad digits: what is not hexadecimal is skipped</source>
+        <translation>数字错误：非十六进制字符将被跳过</translation>
+    </message>
+    <message>
+        <source>An odd number of hexadecimal digits</source>
+        <translation>十六进制数字的个数为奇数</translation>
+    </message>
     <message>
         <source>No value: the mark of a key that was created here</source>
         <translation>没有值：在此创建项时留下的标记</translation>
@@ -2629,28 +2639,39 @@ Wide: %2</source>
         <translation>“$”前没有类型标记</translation>
     </message>
     <message>
+        <source>Tag &quot;%1&quot; is refused: it is no number, or too large a one</source>
+        <translation>类型标记“%1”被拒绝：不是数字，或数字过大</translation>
+    </message>
+    <message>
         <source>Tag %1 is refused</source>
         <translation>类型标记 %1 被拒绝</translation>
     </message>
+</context>
+<context>
+    <name>ValueChange</name>
     <message>
-        <source>Not found under this name</source>
-        <translation>按此名称找不到</translation>
+        <source>%1 becomes %2.</source>
+        <translation>%1 将变为 %2。</translation>
     </message>
     <message>
-        <source>The tag is no number and counts as 0</source>
-        <translation>类型标记不是数字，按 0 处理</translation>
+        <source>The text is kept up to its first NUL character.</source>
+        <translation>文本只保留到第一个 NUL 字符为止。</translation>
     </message>
     <message>
-        <source>Bad number: &quot;%1&quot; is read as 0</source>
-        <translation>数值错误：“%1”将读作 0</translation>
+        <source>Some of the text&apos;s characters will be read as others.</source>
+        <translation>文本中的部分字符将读作其他字符。</translation>
     </message>
     <message>
-        <source>Bad digits: what is not hexadecimal is skipped</source>
-        <translation>数字错误：非十六进制字符将被跳过</translation>
+        <source>%1 will be read as 0: it does not fit a signed number.</source>
+        <translation>%1 将读作 0：超出有符号数的范围。</translation>
     </message>
     <message>
-        <source>An odd number of hexadecimal digits</source>
-        <translation>十六进制数字的个数为奇数</translation>
+        <source>The number does not have %1 bytes: its first byte alone is kept.</source>
+        <translation>数值不是 %1 字节：只保留其第一个字节。</translation>
+    </message>
+    <message>
+        <source>Only the lowest byte of a QWORD is kept: %1 will be read as %2.</source>
+        <translation>QWORD 只保留最低字节：%1 将读作 %2。</translation>
     </message>
 </context>
 <context>
@@ -2701,18 +2722,6 @@ Wide: %2</source>
     <message>
         <source>The largest DWORD is 4294967295 (0xffffffff).</source>
         <translation>DWORD 的最大值为 4294967295 (0xffffffff)。</translation>
-    </message>
-    <message>
-        <source>Only the lowest byte of a QWORD is kept: %1 will be read as %2.</source>
-        <translation>QWORD 只保留最低字节：%1 将读作 %2。</translation>
-    </message>
-    <message>
-        <source>A DWORD above 2147483647 (0x7fffffff) will be read as 0.</source>
-        <translation>大于 2147483647 (0x7fffffff) 的 DWORD 将读作 0。</translation>
-    </message>
-    <message>
-        <source>Binary data needs at least one byte.</source>
-        <translation>二进制数据至少需要一个字节。</translation>
     </message>
     <message>
         <source>Type pairs of hexadecimal digits, such as 00 7f ff.</source>

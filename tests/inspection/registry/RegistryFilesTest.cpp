@@ -102,6 +102,19 @@ TEST_F(RegistryFiles, ExportLeavesOutWhatNoHostLibraryReads)
     EXPECT_TRUE(text.contains("\"good\"=dword:00000001"));
 }
 
+TEST_F(RegistryFiles, ExportTellsTheServicesReasonForATagThatIsNoNumber)
+{
+    store("A/a", "x$1");
+    store("A/b", "1x$5");
+    store("A/c", "4294967297$7");
+    const QString text = exported("A", RegFileWriter::Encoding::Utf8);
+    EXPECT_EQ(m_leftOut, 3);
+    const QString refused = "; left out: \"%1\": Tag \"%2\" is refused";
+    EXPECT_TRUE(text.contains(refused.arg("a", "x"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(refused.arg("b", "1x"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(refused.arg("c", "4294967297"))) << text.toStdString();
+}
+
 TEST_F(RegistryFiles, ExportLeavesOutKeysThatTheFormatCannotName)
 {
     const struct
@@ -241,17 +254,17 @@ TEST_F(RegistryFiles, RemovalTakesTheLowestFirstAndLeavesTheRest)
     EXPECT_EQ(g_globalSettings->allKeys(), QStringList("AB/v"));
 }
 
-TEST_F(RegistryFiles, AHeldStoreSavesItselfOnceAtTheEnd)
+TEST_F(RegistryFiles, ABlockedStoreSavesItselfOnceAtTheEnd)
 {
     g_globalSettings->sync();
     QCoreApplication::sendPostedEvents();
     const auto saved = [] {
         QFile input(g_globalSettings->fileName());
-        return input.open(QIODevice::ReadOnly) && input.readAll().contains("held");
+        return input.open(QIODevice::ReadOnly) && input.readAll().contains("blocked");
     };
     {
-        const StoreSaveBlocker hold;
-        store("A/held", "1$1");
+        const StoreSaveBlocker blocker;
+        store("A/blocked", "1$1");
         QCoreApplication::processEvents();
         EXPECT_FALSE(saved());
     }
