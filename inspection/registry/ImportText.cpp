@@ -44,8 +44,7 @@ QString ImportText::data(const RegFileEntry& entry)
     QByteArray data = ImportCheck::dataToSet(entry);
     if (entry.type == REG_SZ)
         data.chop(static_cast<int>(sizeof(wchar_t)));
-    return registryTypeName(entry.type) + QLatin1Char(' ') +
-           RegistryFormat::data(entry.type, data);
+    return registryTypeName(entry.type) + QLatin1Char(' ') + RegistryFormat::data(entry.type, data);
 }
 
 QString ImportText::summary(const ImportPlan& plan)
