@@ -3,7 +3,6 @@
 #include "host/HostLibraries.h"
 
 #include <QFileInfo>
-#include <QSettings>
 
 #include <dlfcn.h>
 
@@ -14,11 +13,6 @@ QString HostInformation::libraryPath()
     if (dladdr(reinterpret_cast<void*>(&setPlatformServices), &info) == 0)
         return QString();
     return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absoluteFilePath();
-}
-
-QString HostInformation::storePath()
-{
-    return g_globalSettings ? g_globalSettings->fileName() : QString();
 }
 
 QString HostInformation::language()

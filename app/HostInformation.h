@@ -11,8 +11,6 @@ class HostInformation
 public:
     /// The file of the host library in use: the maker's or the stand-in. Empty when unknown.
     static QString libraryPath();
-    /// The file of the settings store that serves as the registry. Empty when there is none.
-    static QString storePath();
     /// The name of the interface's language, in that language.
     static QString language();
 };

@@ -5,7 +5,7 @@
 #include "bench/Ratio.h"
 
 #include "host/HostLibraries.h"
-#include "inspection/registry/RegistrySearch.h"
+#include "inspection/registry/RegistrySearchJob.h"
 #include "inspection/registry/StoreOpeningJob.h"
 #include "pages/files/FilesPage.h"
 #include "pages/registry/RegistryPage.h"
@@ -73,7 +73,7 @@ double longestScroll(QTableView& table)
 
 void searchAll()
 {
-    RegistrySearch search(QStringLiteral("no such text"), QString(), true, true);
+    RegistrySearchJob search(QStringLiteral("no such text"), QString(), true, true);
     while (search.step()) {
     }
 }
@@ -99,7 +99,7 @@ void searchAgainstPlainReading(benchmark::State& state)
 
 double longestSearchStep()
 {
-    RegistrySearch search(QStringLiteral("no such text"), QString(), true, true);
+    RegistrySearchJob search(QStringLiteral("no such text"), QString(), true, true);
     double longest = 0;
     bool more = true;
     while (more)

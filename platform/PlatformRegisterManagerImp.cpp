@@ -1,8 +1,8 @@
 #include "platform/PlatformRegisterManagerImp.h"
 
 #include "host/HostLibraries.h"
+#include "platform/registry/GroupScope.h"
 
-#include <QSettings>
 #include <QStringList>
 #include <QVariant>
 
@@ -12,23 +12,6 @@
 namespace {
 
 constexpr unsigned int failure = ERROR_INVALID_FUNCTION;
-
-// Enters a group of the store for as long as it lives.
-class GroupScope
-{
-public:
-    GroupScope(QSettings& store, const QString& group) : m_store(store)
-    {
-        m_store.beginGroup(group);
-    }
-    ~GroupScope() { m_store.endGroup(); }
-
-    GroupScope(const GroupScope&) = delete;
-    GroupScope& operator=(const GroupScope&) = delete;
-
-private:
-    QSettings& m_store;
-};
 
 bool isRoot(HKEY key)
 {

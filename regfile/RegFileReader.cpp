@@ -4,6 +4,7 @@
 #include "regfile/RegFileText.h"
 
 #include <QBuffer>
+#include <QtEndian>
 
 #include <algorithm>
 
@@ -237,7 +238,8 @@ void RegFileReader::readDword(const QString& digits, RegFileEntry& entry)
     if (!valid || digits.size() > 8 || !digits.at(0).isLetterOrNumber())
         return refuse(entry, tr("\"dword:\" needs one to eight hexadecimal digits."));
     entry.type = REG_DWORD;
-    entry.data = littleEndian(value, 4);
+    entry.data.resize(sizeof value);
+    qToLittleEndian(value, entry.data.data());
 }
 
 bool RegFileReader::startsStatement() const

@@ -28,7 +28,7 @@ public:
 
     /// `file` is open for reading.
     explicit RegFileReader(std::unique_ptr<QIODevice> file);
-    /// A file that is in memory already.
+    /// A file that is in memory already, as those of the tests are.
     explicit RegFileReader(const QByteArray& file);
     ~RegFileReader();
 
@@ -40,9 +40,6 @@ public:
     /// when there is an error. A line that makes no sense is a Malformed entry, after which reading
     /// goes on with the next line.
     Step next(RegFileEntry& entry);
-
-    /// The number of the line read last, from 1.
-    int line() const { return m_line; }
 
 private:
     void readPiece();
@@ -66,7 +63,7 @@ private:
     QString m_text;
     bool m_hasHeader = false;
     int m_position = 0;
-    int m_line = 0;
+    int m_line = 0;          ///< the number of the line read last, from 1
     QLatin1String m_lineEnd; ///< of the line read last
     QString m_key;           ///< of the values that follow; empty when they belong to none
     QString m_error;

@@ -1,5 +1,8 @@
 #include "regfile/RegFileText.h"
 
+#include <QVector>
+#include <QtEndian>
+
 namespace {
 
 // -1 for what is no hexadecimal digit.
@@ -86,33 +89,17 @@ bool parseHexBytes(const QString& list, QByteArray& bytes)
     return byte.moveTo(bytes);
 }
 
-QByteArray littleEndian(quint64 value, int size)
-{
-    QByteArray bytes;
-    for (int i = 0; i < size; ++i)
-        bytes.append(static_cast<char>((value >> (8 * i)) & 0xFF));
-    return bytes;
-}
-
 QByteArray utf16Of(const QString& text)
 {
-    QByteArray bytes;
-    bytes.reserve(text.size() * 2);
-    for (const QChar c : text)
-        bytes.append(static_cast<char>(c.cell())).append(static_cast<char>(c.row()));
+    QByteArray bytes(text.size() * static_cast<int>(sizeof(ushort)), Qt::Uninitialized);
+    qToLittleEndian<ushort>(text.utf16(), text.size(), bytes.data());
     return bytes;
 }
 
 QString textOfUtf16(const QByteArray& bytes)
 {
-    QString text;
-    for (int i = 0; i + 1 < bytes.size(); i += 2) {
-        const auto low = static_cast<unsigned char>(bytes.at(i));
-        const auto high = static_cast<unsigned char>(bytes.at(i + 1));
-        const QChar unit(low, high);
-        if (unit.isNull())
-            break;
-        text += unit;
-    }
-    return text;
+    QVector<ushort> units(bytes.size() / static_cast<int>(sizeof(ushort)));
+    qFromLittleEndian<ushort>(bytes.constData(), units.size(), units.data());
+    const int end = units.indexOf(0);
+    return QString::fromUtf16(units.constData(), end < 0 ? units.size() : end);
 }

@@ -21,9 +21,6 @@ bool unquoteRegText(const QString& line, int& position, QString& text);
 /// empty list is no bytes. False for anything else.
 bool parseHexBytes(const QString& list, QByteArray& bytes);
 
-/// The lowest `size` bytes of a number, lowest first.
-QByteArray littleEndian(quint64 value, int size);
-
 /// UTF-16 in little-endian order, without a terminator.
 QByteArray utf16Of(const QString& text);
 

@@ -2,6 +2,7 @@
 
 #include "app/ApplicationLog.h"
 #include "app/HostInformation.h"
+#include "inspection/registry/RawStore.h"
 #include "window/Page.h"
 #include "window/PageRail.h"
 #include "window/PageStack.h"
@@ -44,7 +45,7 @@ bool takesTab(const QWidget& widget, const QWidget& window)
 MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
 {
     logInfo(QStringLiteral("Host library %1, settings store %2")
-                .arg(HostInformation::libraryPath(), HostInformation::storePath()));
+                .arg(HostInformation::libraryPath(), RawStore::fileName()));
     setWindowTitle(tr("Quayside"));
     const std::vector<PageEntry> pages = pageCatalogue();
     for (const PageEntry& page : pages)

@@ -81,32 +81,6 @@ QString Page::statusText() const
     return m_statusText;
 }
 
-void Page::startJob(Steps steps)
-{
-    class StepsJob : public Job
-    {
-    public:
-        StepsJob(Steps steps, bool& isLong) : m_steps(std::move(steps)), m_long(isLong) {}
-        bool step() override
-        {
-            m_long = false;
-            return m_steps.step();
-        }
-        QString progress() const override
-        {
-            return m_steps.progress ? m_steps.progress() : QString();
-        }
-        bool isNextStepLong() const override { return m_long; }
-
-    private:
-        Steps m_steps;
-        bool& m_long;
-    };
-    const auto finished = steps.finished;
-    const QString title = steps.title;
-    run(title, std::make_unique<StepsJob>(std::move(steps), m_nextStepIsLong), finished);
-}
-
 void Page::run(const QString& title, std::unique_ptr<Job> job,
                std::function<void(bool complete)> finished)
 {

@@ -61,18 +61,6 @@ public:
     /// The text of the last report.
     QString statusText() const;
 
-    // To be replaced by jobs of their own.
-    struct Steps
-    {
-        QString title;
-        std::function<bool()> step;
-        std::function<QString()> progress;
-        std::function<void(bool complete)> finished;
-    };
-    void startJob(Steps steps);
-    void endSlice() { m_nextStepIsLong = true; }
-    using PageContext::startJob;
-
     /// As the Cancel button.
     void cancelJob();
 
@@ -103,7 +91,6 @@ private:
     JobRunner m_runner;
     std::unique_ptr<Job> m_job; ///< the one that runs
     std::function<void(bool complete)> m_finished;
-    bool m_nextStepIsLong = false;
     QPointer<QWidget> m_focusBefore;
 };
 

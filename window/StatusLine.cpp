@@ -1,6 +1,7 @@
 #include "window/StatusLine.h"
 
 #include "app/HostInformation.h"
+#include "inspection/registry/RawStore.h"
 #include "window/PathLabel.h"
 
 #include <QHBoxLayout>
@@ -27,7 +28,7 @@ StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent)
         addText(tr("Host library:"), tr("unknown"), 0);
     else
         addPath(tr("Host library:"), new PathLabel(library, PathLabel::FileName), 0);
-    const QString store = HostInformation::storePath();
+    const QString store = RawStore::fileName();
     if (store.isEmpty())
         addText(tr("Settings store:"), tr("none"), 1);
     else

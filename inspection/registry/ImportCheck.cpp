@@ -1,10 +1,9 @@
 #include "inspection/registry/ImportCheck.h"
 
-#include "inspection/registry/RegistryFormat.h"
+#include "inspection/registry/RegistryKey.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/ValueInput.h"
-#include "platform/WindowsTypes.h"
+#include "platform/registry/ValueChange.h"
 
 using Action = RegFileEntry::Action;
 
@@ -13,29 +12,34 @@ ImportCheck::ImportCheck(const RegFileEntry& entry) : m_entry(entry)
     if (entry.action == Action::Malformed)
         refuse(entry.problem);
     else
-        judgeKey();
+        checkKey();
     if (entry.action == Action::SetValue || entry.action == Action::DeleteValue)
-        judgeName();
+        checkName();
     if (entry.action == Action::SetValue)
-        judgeData();
+        checkData();
+}
+
+QByteArray ImportCheck::dataToSet(const RegFileEntry& entry)
+{
+    return entry.type == REG_SZ ? registryTextData(entry.text) : entry.data;
 }
 
 void ImportCheck::refuse(const QString& why)
 {
-    m_verdict = RegistryImport::Verdict::Refused;
+    m_outcome = Outcome::Refused;
     m_remarks = QStringList(why);
 }
 
-// Once refused, only the reason for that is told.
+// Of a statement that is refused nothing but the reason is told.
 void ImportCheck::remark(const QString& what)
 {
-    if (what.isEmpty() || m_verdict == RegistryImport::Verdict::Refused)
+    if (what.isEmpty() || m_outcome == Outcome::Refused)
         return;
-    m_verdict = RegistryImport::Verdict::Altered;
+    m_outcome = Outcome::Altered;
     m_remarks.append(what);
 }
 
-void ImportCheck::judgeKey()
+void ImportCheck::checkKey()
 {
     const QString root = m_entry.key.section(QLatin1Char('\\'), 0, 0);
     if (!root.startsWith(QLatin1String("HKEY_"), Qt::CaseInsensitive) ||
@@ -44,11 +48,11 @@ void ImportCheck::judgeKey()
     if (m_entry.key.contains(QLatin1Char('/')))
         remark(tr("\"/\" in a key's name separates keys like \"\\\"."));
     if (m_entry.action == Action::DeleteKey)
-        judgeKeyDeletion();
+        checkKeyDeletion();
 }
 
-// The service deletes a value of the same name along with a key.
-void ImportCheck::judgeKeyDeletion()
+// The service deletes a value of the same name along with the key.
+void ImportCheck::checkKeyDeletion()
 {
     if (m_path.isEmpty())
         return refuse(tr("A root key cannot be deleted."));
@@ -59,8 +63,8 @@ void ImportCheck::judgeKeyDeletion()
                         RegistryPath::shown(RegistryPath::parent(m_path))));
 }
 
-// And a key of the same name along with a value.
-void ImportCheck::judgeValueDeletion(const QString& name)
+// The service deletes a key of the same name along with the value.
+void ImportCheck::checkValueDeletion(const QString& name)
 {
     if (m_path.isEmpty())
         return remark(tr("Deletes the key \"%1\" below the root with everything in it.")
@@ -70,7 +74,7 @@ void ImportCheck::judgeValueDeletion(const QString& name)
         remark(tr("The key %1 goes with it, with everything in it.").arg(RegistryPath::shown(key)));
 }
 
-void ImportCheck::judgeName()
+void ImportCheck::checkName()
 {
     if (m_entry.name.isEmpty())
         return refuse(tr("The default value, which has no name, cannot be stored."));
@@ -82,35 +86,17 @@ void ImportCheck::judgeName()
         remark(deletes ? tr("The separators in the name lead to a value of a sub-key.")
                        : tr("The separators in the name put the value into a sub-key."));
     if (deletes)
-        judgeValueDeletion(name);
+        checkValueDeletion(name);
     else if (m_path.isEmpty())
         remark(tr("Directly under a root, it is kept in a key of its own name."));
 }
 
-void ImportCheck::judgeData()
+void ImportCheck::checkData()
 {
-    switch (m_entry.type) {
-    case REG_SZ: return;
-    case REG_BINARY:
-        if (m_entry.data.isEmpty())
-            refuse(tr("Binary data without a byte cannot be stored."));
-        return;
-    case REG_DWORD:
-    case REG_NONE: return judgeNumber(4);
-    case REG_QWORD: return judgeNumber(8);
-    default: refuse(tr("%1 cannot be stored.").arg(RegistryFormat::typeName(m_entry.type)));
-    }
-}
-
-void ImportCheck::judgeNumber(int size)
-{
-    if (m_entry.data.isEmpty())
-        return refuse(tr("A number without a byte cannot be stored."));
-    if (m_entry.type == REG_NONE)
-        remark(tr("REG_NONE becomes REG_DWORD."));
-    if (m_entry.data.size() != size)
-        return remark(
-            tr("The number does not have %1 bytes: its first byte alone is kept.").arg(size));
-    remark(ValueInput::numberWarning(m_entry.type == REG_QWORD ? REG_QWORD : REG_DWORD,
-                                     RegistryFormat::number(m_entry.data)));
+    const ValueChange change(m_entry.type, dataToSet(m_entry));
+    const QStringList remarks = change.remarks();
+    if (change.outcome() == ValueChange::Outcome::Refused)
+        return refuse(remarks.join(QLatin1Char(' ')));
+    for (const QString& what : remarks)
+        remark(what);
 }

@@ -1,30 +1,46 @@
 #pragma once
 
-#include "inspection/registry/RegistryImport.h"
+#include "regfile/RegFileEntry.h"
 
-/// Foretells what the registry service makes of one statement of a registry file.
+#include <QCoreApplication>
+#include <QStringList>
+
+/// Tells what the registry service will make of one statement of a registry file, before it is
+/// carried out. Nothing is written.
 class ImportCheck
 {
     Q_DECLARE_TR_FUNCTIONS(ImportCheck)
 
 public:
+    enum class Outcome
+    {
+        Done,    ///< as the file says
+        Altered, ///< otherwise than the file says: see `remark`
+        Refused  ///< not at all: see `remark`
+    };
+
+    /// Checks against the store as it is now.
     explicit ImportCheck(const RegFileEntry& entry);
 
-    RegistryImport::Verdict verdict() const { return m_verdict; }
+    Outcome outcome() const { return m_outcome; }
+    /// What is altered, or why the statement is refused, in sentences; empty for Done.
     QString remark() const { return m_remarks.join(QLatin1Char(' ')); }
+
+    /// The data that RegSetValueExW gets for a statement that sets a value; a text has its
+    /// terminator.
+    static QByteArray dataToSet(const RegFileEntry& entry);
 
 private:
     void refuse(const QString& why);
     void remark(const QString& what);
-    void judgeKey();
-    void judgeKeyDeletion();
-    void judgeValueDeletion(const QString& name);
-    void judgeName();
-    void judgeData();
-    void judgeNumber(int size);
+    void checkKey();
+    void checkKeyDeletion();
+    void checkValueDeletion(const QString& name);
+    void checkName();
+    void checkData();
 
     RegFileEntry m_entry;
     QString m_path;
-    RegistryImport::Verdict m_verdict = RegistryImport::Verdict::Done;
+    Outcome m_outcome = Outcome::Done;
     QStringList m_remarks;
 };

@@ -14,31 +14,31 @@ struct RedirectedName
 // The name by itself: in a whole path that is shown both kinds of separators look the same.
 QString filledIn(const QString& sentence, const QString& path)
 {
-    const QString opened = openedPath(path);
-    return sentence.arg(RegistryPath::name(opened),
-                        RegistryPath::shown(RegistryPath::parent(opened)));
+    const QString found = redirectedPath(path);
+    return sentence.arg(RegistryPath::name(found),
+                        RegistryPath::shown(RegistryPath::parent(found)));
 }
 
 } // namespace
 
-bool isOpenedElsewhere(const QString& path)
+bool isRedirected(const QString& path)
 {
     return path.contains(QLatin1Char('\\'));
 }
 
-QString openedPath(const QString& path)
+QString redirectedPath(const QString& path)
 {
-    return isOpenedElsewhere(path) ? RegistryPath::slashed(path) : path;
+    return isRedirected(path) ? RegistryPath::slashed(path) : path;
 }
 
-QString keyOpenedElsewhere(const QString& path)
+QString redirectedKeyText(const QString& path)
 {
     return filledIn(RedirectedName::tr("A name with a \"\\\" in it: a host library that opens this "
                                        "key gets the key \"%1\" in %2."),
                     path);
 }
 
-QString valueOpenedElsewhere(const QString& path)
+QString redirectedValueText(const QString& path)
 {
     return filledIn(RedirectedName::tr("A name with a \"\\\" in it: a host library that asks for "
                                        "this value gets the value \"%1\" in %2."),

@@ -2,17 +2,18 @@
 
 #include <QString>
 
-/// Names with a "\" in them, as a value set directly under a root leaves them: the service
-/// separates there when it is asked for one, and finds another key or value. Paths are as in
-/// RegistryPath.
+/// Names with a "\" in them, as a value set directly under a root leaves them: the service takes
+/// the "\" for a separator when it is asked for one, and finds another key or value. Paths are as
+/// in RegistryPath.
 
-bool isOpenedElsewhere(const QString& path);
+/// True when the service finds another key or value for this path.
+bool isRedirected(const QString& path);
 
 /// The key or value that the service finds for this path; most often the same.
-QString openedPath(const QString& path);
+QString redirectedPath(const QString& path);
 
 /// Which key a host library gets for this one, in words.
-QString keyOpenedElsewhere(const QString& path);
+QString redirectedKeyText(const QString& path);
 
 /// Which value a host library gets for this one, in words.
-QString valueOpenedElsewhere(const QString& path);
+QString redirectedValueText(const QString& path);

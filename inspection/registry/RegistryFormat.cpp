@@ -2,31 +2,12 @@
 
 #include "inspection/registry/RegistryKey.h"
 
+#include <QtEndian>
+
 namespace {
 
 constexpr int longestBytes = 64;
 constexpr int longestText = 500;
-
-struct TypeName
-{
-    unsigned int type;
-    const char* name;
-};
-
-constexpr TypeName typeNames[] = {
-    {REG_NONE, "REG_NONE"},
-    {REG_SZ, "REG_SZ"},
-    {REG_EXPAND_SZ, "REG_EXPAND_SZ"},
-    {REG_BINARY, "REG_BINARY"},
-    {REG_DWORD, "REG_DWORD"},
-    {REG_DWORD_BIG_ENDIAN, "REG_DWORD_BIG_ENDIAN"},
-    {REG_LINK, "REG_LINK"},
-    {REG_MULTI_SZ, "REG_MULTI_SZ"},
-    {REG_RESOURCE_LIST, "REG_RESOURCE_LIST"},
-    {REG_FULL_RESOURCE_DESCRIPTOR, "REG_FULL_RESOURCE_DESCRIPTOR"},
-    {REG_RESOURCE_REQUIREMENTS_LIST, "REG_RESOURCE_REQUIREMENTS_LIST"},
-    {REG_QWORD, "REG_QWORD"},
-};
 
 QString numberText(const QByteArray& data)
 {
@@ -51,15 +32,6 @@ QString bytesText(const QByteArray& data)
 
 } // namespace
 
-QString RegistryFormat::typeName(unsigned int type)
-{
-    for (const TypeName& row : typeNames) {
-        if (row.type == type)
-            return QString::fromLatin1(row.name);
-    }
-    return QString::number(type);
-}
-
 QString RegistryFormat::data(unsigned int type, const QByteArray& data)
 {
     switch (type) {
@@ -82,8 +54,6 @@ QString RegistryFormat::editable(unsigned int type, const QByteArray& data)
 
 quint64 RegistryFormat::number(const QByteArray& data)
 {
-    quint64 value = 0;
-    for (int i = qMin(data.size(), 8) - 1; i >= 0; --i)
-        value = value << 8 | static_cast<unsigned char>(data.at(i));
-    return value;
+    const QByteArray bytes = data.left(sizeof(quint64)).leftJustified(sizeof(quint64), '\0');
+    return qFromLittleEndian<quint64>(bytes.constData());
 }

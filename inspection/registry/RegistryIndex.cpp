@@ -1,8 +1,6 @@
 #include "inspection/registry/RegistryIndex.h"
 
-#include "host/HostLibraries.h"
-
-#include <QSettings>
+#include "inspection/registry/RawStore.h"
 
 #include <algorithm>
 
@@ -21,8 +19,7 @@ Position endOfGroup(Position first, Position last, const QString& group)
 std::shared_ptr<const RegistryIndex> RegistryIndex::read()
 {
     auto index = std::make_shared<RegistryIndex>();
-    if (g_globalSettings)
-        index->m_entries = g_globalSettings->allKeys();
+    index->m_entries = RawStore().allEntries();
     return index;
 }
 

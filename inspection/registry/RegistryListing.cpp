@@ -1,33 +1,19 @@
 #include "inspection/registry/RegistryListing.h"
 
-#include "host/HostLibraries.h"
+#include "inspection/registry/RawStore.h"
 #include "inspection/registry/RedirectedName.h"
 #include "inspection/registry/RegistryPath.h"
-#include "platform/PlatformRegisterManagerImp.h"
+#include "platform/registry/StoredValue.h"
 
 #include <QSet>
-#include <QSettings>
 
 #include <algorithm>
-#include <climits>
 
 namespace {
 
-// Enters a group of the store for as long as it lives.
-class GroupScope
+bool isMark(const RawStore& key, const QString& name)
 {
-public:
-    explicit GroupScope(const QString& path) { g_globalSettings->beginGroup(path); }
-    ~GroupScope() { g_globalSettings->endGroup(); }
-
-    GroupScope(const GroupScope&) = delete;
-    GroupScope& operator=(const GroupScope&) = delete;
-};
-
-// To be asked within the key's group.
-bool isMark(const QString& name)
-{
-    return g_globalSettings->value(name).isNull();
+    return key.value(name).isNull();
 }
 
 QStringList without(const QStringList& names, const QStringList& others)
@@ -50,48 +36,43 @@ QStringList RegistryListing::allKeys() const
 RegistryListing listRegistryKey(const RegistryIndex& index, const QString& path)
 {
     RegistryListing listing;
-    if (!g_globalSettings)
+    if (!RawStore::exists())
         return listing;
     const RegistryIndex::Children children = index.children(path);
     listing.keys = children.groups;
     listing.values = children.entries;
-    const GroupScope group(path);
+    const RawStore key(path);
     std::copy_if(listing.values.cbegin(), listing.values.cend(), std::back_inserter(listing.marks),
-                 isMark);
+                 [&key](const QString& name) { return isMark(key, name); });
     listing.createdKeys = without(listing.marks, listing.keys);
     return listing;
 }
 
 bool hasSubKeys(const RegistryIndex& index, const QString& path)
 {
-    if (!g_globalSettings)
+    if (!RawStore::exists())
         return false;
     const RegistryIndex::Children children = index.children(path);
     if (!children.groups.isEmpty())
         return true;
-    const GroupScope group(path);
-    return std::any_of(children.entries.cbegin(), children.entries.cend(), isMark);
+    const RawStore key(path);
+    return std::any_of(children.entries.cbegin(), children.entries.cend(),
+                       [&key](const QString& name) { return isMark(key, name); });
 }
 
 QStringList registryValueNames(const QString& path)
 {
-    if (!g_globalSettings)
-        return {};
-    const GroupScope group(openedPath(path));
-    return g_globalSettings->childKeys();
+    return RawStore(redirectedPath(path)).entries();
 }
 
 QStringList registryKeysFrom(const QString& path)
 {
     QSet<QString> keys = {path};
-    if (g_globalSettings) {
-        const GroupScope group(path);
-        const QStringList entries = g_globalSettings->allKeys();
-        for (const QString& entry : entries) {
-            QString key = RegistryPath::join(path, entry).section(QLatin1Char('/'), 0, -2);
-            for (; !keys.contains(key); key = RegistryPath::parent(key))
-                keys.insert(key);
-        }
+    const QStringList entries = RawStore(path).allEntries();
+    for (const QString& entry : entries) {
+        QString key = RegistryPath::join(path, entry).section(QLatin1Char('/'), 0, -2);
+        for (; !keys.contains(key); key = RegistryPath::parent(key))
+            keys.insert(key);
     }
     QStringList sorted = keys.values();
     std::sort(sorted.begin(), sorted.end());
@@ -100,15 +81,12 @@ QStringList registryKeysFrom(const QString& path)
 
 bool isRegistryGroup(const QString& path)
 {
-    if (!g_globalSettings)
-        return false;
-    const GroupScope group(path);
-    return !g_globalSettings->childKeys().isEmpty() || !g_globalSettings->childGroups().isEmpty();
+    return !RawStore(path).isEmpty();
 }
 
 bool hasRegistryEntry(const QString& path)
 {
-    return g_globalSettings && g_globalSettings->contains(path);
+    return RawStore().contains(path);
 }
 
 bool isRegistryKey(const QString& path)
@@ -119,15 +97,15 @@ bool isRegistryKey(const QString& path)
 
 QVariant rawRegistryEntry(const QString& path)
 {
-    return g_globalSettings ? g_globalSettings->value(path) : QVariant();
+    return RawStore().value(path);
 }
 
 RegistryReading readAtRegistryRoot(const RegistryKey& root, const QString& name)
 {
     RegistryReading reading = root.readListed(name);
-    unsigned int size = UINT_MAX;
-    QVariant entry = rawRegistryEntry(name);
-    QVarToRegValue(entry, &reading.type, nullptr, &size);
+    const StoredValue stored(rawRegistryEntry(name));
+    if (stored.isReadable())
+        reading.type = stored.type();
     return reading;
 }
 

@@ -28,14 +28,13 @@ void RegistryWalk::enter()
     m_path = m_pending.takeLast();
     m_key.reset();
     m_at = -1;
-    ++m_keys;
     const RegistryListing listing = listRegistryKey(*m_index, m_path);
     QStringList below = listing.allKeys();
     std::reverse(below.begin(), below.end());
     for (const QString& name : qAsConst(below))
         m_pending.append(RegistryPath::join(m_path, name));
     m_names.clear();
-    if (isOpenedElsewhere(m_path))
+    if (isRedirected(m_path))
         return;
     std::set_difference(listing.values.cbegin(), listing.values.cend(), listing.marks.cbegin(),
                         listing.marks.cend(), std::back_inserter(m_names));

@@ -8,7 +8,7 @@
 #include <memory>
 
 /// Visits a key and all keys below it, each before those below, and the values of each, in small
-/// steps that suit a sliced job. Keys that come or go meanwhile do no harm. Marks of created keys
+/// steps that suit a job. Keys that come or go meanwhile do no harm. Marks of created keys
 /// count as no values, and neither do those of a key for which the service opens another.
 class RegistryWalk
 {
@@ -30,7 +30,6 @@ public:
     /// The key, open for reading the value.
     const RegistryKey& key();
 
-    int keys() const { return m_keys; }
     int values() const { return m_values; }
 
 private:
@@ -42,6 +41,5 @@ private:
     QStringList m_names;
     int m_at = -1;
     std::unique_ptr<RegistryKey> m_key;
-    int m_keys = 0;
     int m_values = 0;
 };

@@ -1,10 +1,9 @@
 #include "inspection/registry/StoreFault.h"
 
-#include "host/HostLibraries.h"
+#include "inspection/registry/RawStore.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QSettings>
 
 namespace {
 
@@ -14,18 +13,18 @@ struct StoreFault
 };
 
 // Saving puts a new file into the folder, beside the one that it replaces.
-bool isSaved(const QSettings& store)
+bool isSaved()
 {
-    const QFileInfo folder(QFileInfo(store.fileName()).absolutePath());
-    return store.isWritable() && folder.isWritable();
+    const QFileInfo folder(QFileInfo(RawStore::fileName()).absolutePath());
+    return RawStore::isWritable() && folder.isWritable();
 }
 
 } // namespace
 
 QString storeFault()
 {
-    if (!g_globalSettings || isSaved(*g_globalSettings))
+    if (!RawStore::exists() || isSaved())
         return QString();
     return StoreFault::tr("The store %1 cannot be written: changes last until the program ends.")
-        .arg(g_globalSettings->fileName());
+        .arg(RawStore::fileName());
 }

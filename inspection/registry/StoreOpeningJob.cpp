@@ -1,10 +1,9 @@
 #include "inspection/registry/StoreOpeningJob.h"
 
-#include "host/HostLibraries.h"
+#include "inspection/registry/RawStore.h"
 #include "platform/profiles/IniName.h"
 
 #include <QFile>
-#include <QSettings>
 
 namespace {
 
@@ -20,9 +19,7 @@ QString groupAt(const QByteArray& text, int start)
 
 StoreOpeningJob::StoreOpeningJob()
 {
-    if (!g_globalSettings)
-        return;
-    QFile file(g_globalSettings->fileName());
+    QFile file(RawStore::fileName());
     if (!file.open(QIODevice::ReadOnly))
         return;
     const QByteArray text = '\n' + file.readAll();
@@ -35,6 +32,6 @@ bool StoreOpeningJob::step()
     if (m_at == m_sections.size())
         return false;
     const QString& group = m_sections.at(m_at++);
-    g_globalSettings->contains(group.isEmpty() ? QStringLiteral("x") : group + QLatin1String("/x"));
+    RawStore().contains(group.isEmpty() ? QStringLiteral("x") : group + QLatin1String("/x"));
     return true;
 }

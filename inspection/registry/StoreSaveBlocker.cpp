@@ -1,30 +1,30 @@
 #include "inspection/registry/StoreSaveBlocker.h"
 
-#include "host/HostLibraries.h"
+#include "inspection/registry/RawStore.h"
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QSettings>
 
-StoreSaveBlocker::StoreSaveBlocker()
+StoreSaveBlocker::StoreSaveBlocker() : m_store(RawStore::receiver())
 {
-    if (g_globalSettings)
-        g_globalSettings->installEventFilter(this);
+    if (m_store)
+        m_store->installEventFilter(this);
 }
 
 StoreSaveBlocker::~StoreSaveBlocker()
 {
-    if (!g_globalSettings)
+    if (!m_store)
         return;
-    g_globalSettings->removeEventFilter(this);
-    if (m_swallowed)
-        QCoreApplication::postEvent(g_globalSettings, new QEvent(QEvent::UpdateRequest));
+    m_store->removeEventFilter(this);
+    if (m_blocked)
+        QCoreApplication::postEvent(m_store, new QEvent(QEvent::UpdateRequest));
 }
 
+// The event by which QSettings asks itself to save.
 bool StoreSaveBlocker::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::UpdateRequest)
         return QObject::eventFilter(watched, event);
-    m_swallowed = true;
+    m_blocked = true;
     return true;
 }

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
-/// While it lives, the store does not save itself between the slices of a job: saving writes the
-/// whole file anew each time. At its end the store saves as after any change.
+/// While one lives, the store does not save itself between the slices of a job, because saving
+/// writes the whole file anew each time. When the last one goes, the store saves itself as after
+/// any change. Does nothing without a store.
 class StoreSaveBlocker : public QObject
 {
     Q_OBJECT
@@ -15,5 +17,6 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool m_swallowed = false;
+    QPointer<QObject> m_store; ///< null when it has gone meanwhile
+    bool m_blocked = false;    ///< a saving has been put off
 };

@@ -1,13 +1,12 @@
 #include "inspection/registry/ValueInput.h"
 
+#include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryKey.h"
-#include "regfile/RegFileText.h"
+#include "platform/registry/ValueChange.h"
+
+#include <QtEndian>
 
 namespace {
-
-constexpr quint64 largestDword = 0xFFFFFFFF;
-constexpr quint64 largestSignedDword = 0x7FFFFFFF;
-constexpr quint64 largestByte = 0xFF;
 
 // Zeros in front are digits, not the sign of octal numbers.
 quint64 parsed(const QString& text, bool* valid)
@@ -29,37 +28,33 @@ ValueInput::ValueInput(unsigned int type, const QString& text)
 {
     switch (type) {
     case REG_SZ: m_data = registryTextData(text); break;
-    case REG_DWORD:
-    case REG_QWORD: readNumber(type, text); break;
+    case REG_DWORD: readNumber(text, sizeof(quint32)); break;
+    case REG_QWORD: readNumber(text, sizeof(quint64)); break;
     default: readBytes(text); break;
     }
+    if (m_problem.isEmpty())
+        check(type);
 }
 
-void ValueInput::readNumber(unsigned int type, const QString& text)
+// What is typed well may still be refused or altered.
+void ValueInput::check(unsigned int type)
+{
+    const ValueChange change(type, m_data);
+    const bool refused = change.outcome() == ValueChange::Outcome::Refused;
+    (refused ? m_problem : m_warning) = change.remarks().join(QLatin1Char(' '));
+}
+
+void ValueInput::readNumber(const QString& text, int size)
 {
     bool valid = false;
     const quint64 value = parsed(text, &valid);
-    if (!valid) {
+    m_data.resize(sizeof value);
+    qToLittleEndian(value, m_data.data());
+    m_data.truncate(size);
+    if (!valid)
         m_problem = tr("Type a whole number, such as 255 or 0xff.");
-        return;
-    }
-    if (type == REG_DWORD && value > largestDword) {
+    else if (RegistryFormat::number(m_data) != value)
         m_problem = tr("The largest DWORD is 4294967295 (0xffffffff).");
-        return;
-    }
-    m_data = littleEndian(value, type == REG_DWORD ? 4 : 8);
-    m_warning = numberWarning(type, value);
-}
-
-QString ValueInput::numberWarning(unsigned int type, quint64 value)
-{
-    if (type == REG_QWORD && value > largestByte)
-        return tr("Only the lowest byte of a QWORD is kept: %1 will be read as %2.")
-            .arg(value)
-            .arg(value & largestByte);
-    if (type == REG_DWORD && value > largestSignedDword)
-        return tr("A DWORD above 2147483647 (0x7fffffff) will be read as 0.");
-    return QString();
 }
 
 void ValueInput::readBytes(const QString& text)
@@ -68,9 +63,7 @@ void ValueInput::readBytes(const QString& text)
     for (const char separator : {' ', ',', '\n', '\t'})
         digits.remove(QLatin1Char(separator));
     m_data = QByteArray::fromHex(digits.toLatin1());
-    if (digits.isEmpty())
-        m_problem = tr("Binary data needs at least one byte.");
-    else if (2 * m_data.size() != digits.size())
+    if (2 * m_data.size() != digits.size())
         m_problem = tr("Type pairs of hexadecimal digits, such as 00 7f ff.");
 }
 

@@ -27,12 +27,10 @@ public:
     /// Why a key cannot have this name, or an empty text.
     static QString keyNameProblem(const QString& name);
 
-    /// What reading back makes of a DWORD, and writing of a QWORD; empty when it keeps the number.
-    static QString numberWarning(unsigned int type, quint64 value);
-
 private:
-    void readNumber(unsigned int type, const QString& text);
+    void readNumber(const QString& text, int size);
     void readBytes(const QString& text);
+    void check(unsigned int type);
 
     QByteArray m_data;
     QString m_problem;

@@ -1,5 +1,6 @@
 #include "pages/registry/ChangeReport.h"
 
+#include "inspection/registry/RedirectedName.h"
 #include "inspection/registry/StoreFault.h"
 
 #include <QCoreApplication>
@@ -13,11 +14,24 @@ struct ChangeReport
 
 } // namespace
 
-void reportChange(Page& page, Page::Report kind, const QString& text)
+void reportChange(PageContext& page, PageContext::Report kind, const QString& text)
 {
     const QString fault = storeFault();
     if (fault.isEmpty())
         page.report(kind, text);
     else
-        page.report(Page::Report::Warning, ChangeReport::tr("%1 %2").arg(text, fault));
+        page.report(PageContext::Report::Warning, ChangeReport::tr("%1 %2").arg(text, fault));
+}
+
+bool isRefused(PageContext& page, const QString& why)
+{
+    if (!why.isEmpty())
+        page.report(PageContext::Report::Error,
+                    ChangeReport::tr("%1 Nothing was changed.").arg(why));
+    return !why.isEmpty();
+}
+
+bool isKeyRefused(PageContext& page, const QString& path)
+{
+    return isRedirected(path) && isRefused(page, redirectedKeyText(path));
 }

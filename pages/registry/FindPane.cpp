@@ -1,6 +1,6 @@
 #include "pages/registry/FindPane.h"
 
-#include "pages/registry/HitModel.h"
+#include "inspection/registry/RegistryPath.h"
 #include "window/EmptyHint.h"
 #include "window/Page.h"
 #include "window/ViewLook.h"
@@ -8,15 +8,40 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
 
-FindPane::FindPane(QWidget* parent)
+namespace {
+
+using Hit = RegistrySearchJob::Hit;
+using Report = PageContext::Report;
+
+std::vector<RecordColumn<Hit>> columns()
+{
+    return {{FindPane::tr("Key"), [](const Hit& hit) { return RegistryPath::shown(hit.path); }, {}},
+            {FindPane::tr("Name"), [](const Hit& hit) { return hit.name; }, {}},
+            {FindPane::tr("Data"), [](const Hit& hit) { return hit.data; }, {}}};
+}
+
+QString outcome(const RegistrySearchJob& search, bool complete)
+{
+    const QString found = QLocale().toString(static_cast<qulonglong>(search.hits().size()));
+    if (!complete)
+        return FindPane::tr("The search was cancelled. Found so far: %1.").arg(found);
+    if (search.isFull())
+        return FindPane::tr("Showing the first %1 places; there may be more.").arg(found);
+    return FindPane::tr("Found: %1.").arg(found);
+}
+
+} // namespace
+
+FindPane::FindPane(PageContext& page, QWidget* parent)
     : QWidget(parent),
-      m_model(new HitModel(this)),
+      m_page(page),
+      m_hits(new RecordsModel<Hit>(columns(), this)),
       m_text(new QLineEdit),
       m_inNames(new QCheckBox(tr("N&ames"))),
       m_inData(new QCheckBox(tr("&Values"))),
@@ -26,20 +51,23 @@ FindPane::FindPane(QWidget* parent)
     m_text->setPlaceholderText(tr("Text to find"));
     m_inNames->setChecked(true);
     m_inData->setChecked(true);
-    m_table->setModel(m_model);
+    makeTable();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(makeLine());
+    layout->addWidget(m_table, 1);
+}
+
+void FindPane::makeTable()
+{
+    m_table->setModel(m_hits);
     arrangeTable(*m_table);
     m_table->setObjectName(QStringLiteral("found"));
     m_table->setAccessibleName(tr("Found"));
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     fitColumns(*m_table, {QStringLiteral("HKEY_CURRENT_USER\\Software\\Maker\\Program")});
     m_hint = new EmptyHint(m_table, tr("What is found is listed here; Enter goes to it."));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeLine());
-    layout->addWidget(m_table, 1);
-    connect(m_table, &QTableView::activated, this, [this](const QModelIndex& index) {
-        emit chosen(m_model->hit(index.row()).path, m_model->hit(index.row()).name);
-    });
+    connect(m_table, &QTableView::activated, this, &FindPane::choose);
 }
 
 QWidget* FindPane::makeLine()
@@ -47,15 +75,15 @@ QWidget* FindPane::makeLine()
     auto* line = new QWidget;
     auto* layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* search = glowing(new QPushButton(tr("Find no&w")));
+    auto* searchButton = glowing(new QPushButton(tr("Find no&w")));
     auto* closeButton = glowing(new QPushButton(tr("&Hide")));
     layout->addWidget(m_text, 1);
     layout->addWidget(m_inNames);
     layout->addWidget(m_inData);
-    layout->addWidget(search);
+    layout->addWidget(searchButton);
     layout->addWidget(closeButton);
-    connect(m_text, &QLineEdit::returnPressed, this, &FindPane::request);
-    connect(search, &QPushButton::clicked, this, &FindPane::request);
+    connect(m_text, &QLineEdit::returnPressed, this, &FindPane::search);
+    connect(searchButton, &QPushButton::clicked, this, &FindPane::search);
     connect(closeButton, &QPushButton::clicked, this, &FindPane::close);
     return line;
 }
@@ -73,24 +101,41 @@ void FindPane::close()
     emit closed();
 }
 
-void FindPane::request()
+void FindPane::search()
 {
     if (m_text->text().isEmpty())
-        emit refused(tr("Type the text to find first."));
+        m_page.report(Report::Error, tr("Type the text to find first."));
     else if (!m_inNames->isChecked() && !m_inData->isChecked())
-        emit refused(tr("Choose where to search: in names, in values, or in both."));
+        m_page.report(Report::Error,
+                      tr("Choose where to search: in names, in values, or in both."));
     else
-        emit searchRequested(m_text->text(), m_inNames->isChecked(), m_inData->isChecked());
+        start();
 }
 
-void FindPane::setHits(const std::vector<RegistrySearch::Hit>& hits)
+void FindPane::start()
 {
-    m_model->setHits(hits);
+    m_page.startJob<RegistrySearchJob>(
+        tr("Searching"),
+        std::make_unique<RegistrySearchJob>(m_text->text(), QString(), m_inNames->isChecked(),
+                                            m_inData->isChecked()),
+        [this](RegistrySearchJob& job, bool complete) { showFound(job, complete); });
+}
+
+void FindPane::showFound(const RegistrySearchJob& search, bool complete)
+{
+    m_hits->setRecords(search.hits());
     m_hint->setText(tr("Nothing was found."));
-    if (hits.empty())
-        return;
-    m_table->setCurrentIndex(m_model->index(0, 0));
-    m_table->setFocus();
+    if (!search.hits().empty()) {
+        m_table->setCurrentIndex(m_hits->index(0, 0));
+        m_table->setFocus();
+    }
+    m_page.setStatus(outcome(search, complete));
+}
+
+void FindPane::choose(const QModelIndex& index)
+{
+    const Hit& hit = m_hits->record(index.row());
+    emit chosen(hit.path, hit.name);
 }
 
 void FindPane::keyPressEvent(QKeyEvent* event)

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "inspection/registry/RegistrySearch.h"
+#include "inspection/registry/RegistrySearchJob.h"
+#include "window/RecordsModel.h"
 
 #include <QWidget>
 
 class EmptyHint;
-class HitModel;
+class PageContext;
 class QCheckBox;
 class QLineEdit;
 class QTableView;
@@ -16,17 +17,13 @@ class FindPane : public QWidget
     Q_OBJECT
 
 public:
-    explicit FindPane(QWidget* parent = nullptr);
+    explicit FindPane(PageContext& page, QWidget* parent = nullptr);
 
     /// Shows itself and takes the keyboard, with the text selected.
     void open();
-    void setHits(const std::vector<RegistrySearch::Hit>& hits);
 
 signals:
-    /// The text is not empty, and one of the places is chosen.
-    void searchRequested(const QString& text, bool inNames, bool inData);
-    /// What is missing for a search, in words.
-    void refused(const QString& why);
+    /// A place that was found is to be shown: a value, or the key where `name` is empty.
     void chosen(const QString& path, const QString& name);
     void closed();
 
@@ -35,10 +32,15 @@ protected:
 
 private:
     QWidget* makeLine();
-    void request();
+    void makeTable();
+    void search();
+    void start();
+    void showFound(const RegistrySearchJob& search, bool complete);
+    void choose(const QModelIndex& index);
     void close();
 
-    HitModel* m_model;
+    PageContext& m_page;
+    RecordsModel<RegistrySearchJob::Hit>* m_hits;
     QLineEdit* m_text;
     QCheckBox* m_inNames;
     QCheckBox* m_inData;

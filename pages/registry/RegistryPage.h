@@ -2,19 +2,13 @@
 
 #include "window/Page.h"
 
-class EmptyHint;
+class AddressBar;
 class FindPane;
-class QAction;
-class QLineEdit;
-class QMenu;
-class QModelIndex;
-class QTableView;
-class QTreeView;
-class RegistryEditor;
-class RegistryTreeModel;
-class RegistryTransfer;
+class KeyTree;
+class ListedValue;
+class RegistryActions;
 class StoreOpeningJob;
-class RegistryValueModel;
+class ValueTable;
 
 /// The registry as a host library finds it: the keys, the values of one of them, and every change
 /// that the service offers.
@@ -33,60 +27,23 @@ public:
     /// Selects a key, or the nearest one above it, and a value of it unless `name` is empty.
     void goTo(const QString& path, const QString& name = QString());
 
-    RegistryTransfer& transfer() const { return *m_transfer; }
-
 private:
-    void makeActions();
-    void makeTree();
-    void makeTable();
-    QLayout* makeAddressLine();
-    QLayout* makeButtons();
-    QMenu* makeNewMenu();
-    QAction* action(const QString& text, void (RegistryPage::*slot)());
+    QWidget* makeViews();
     void connectParts();
-    QString path() const;
-    void showKey(const QModelIndex& current);
-    void readFirst();
-    void showRemark(const QModelIndex& current);
+    void showKey();
+    void showRemark(const ListedValue& value);
+    void openKey(const QString& path);
+    void showChange(const QString& path, const QString& name);
+    void openStore();
     void refreshEntered();
     void reportStore();
-    void enableActions();
-    void openAddress();
-    bool openKey(const QString& wanted);
-    bool isKeyThere();
-    void reportGone(const QString& what);
-    void editValue();
-    void rememberView(const QWidget* before, QWidget* now);
-    void removeChosen();
-    void removeSelected();
-    void removeKey();
-    void copyPath();
-    void copyValue();
-    void exportKey();
-    void importFile();
-    void search(const QString& text, bool inNames, bool inData);
-    void afterChange(const QString& changedPath, const QString& name);
-    void selectValue(const QString& name);
 
-    RegistryTreeModel* m_keys;
-    RegistryValueModel* m_values;
-    RegistryEditor* m_editor;
-    RegistryTransfer* m_transfer;
-    QLineEdit* m_address;
-    QTreeView* m_tree;
-    QTableView* m_table;
+    KeyTree* m_tree;
+    ValueTable* m_table;
+    AddressBar* m_address;
+    RegistryActions* m_actions;
     FindPane* m_find;
-    std::unique_ptr<StoreOpeningJob> m_opening; ///< of the store, before it is listed
+    std::unique_ptr<StoreOpeningJob> m_opening; ///< null until the store is opened
     JobRunner m_openingRunner;
-    EmptyHint* m_hint = nullptr;
-    QWidget* m_lastView = nullptr; ///< that had the keyboard
-    bool m_read = false;           ///< the store has been listed
-    QMenu* m_newMenu = nullptr;
-    QAction* m_edit = nullptr;
-    QAction* m_removeValue = nullptr;
-    QAction* m_removeKey = nullptr;
-    QAction* m_copyPath = nullptr;
-    QAction* m_copyValue = nullptr;
-    QAction* m_export = nullptr;
-    QAction* m_import = nullptr;
+    bool m_isListed = false; ///< the store has been listed
 };

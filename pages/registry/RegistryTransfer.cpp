@@ -1,12 +1,11 @@
 #include "pages/registry/RegistryTransfer.h"
 
-#include "inspection/registry/RegistryExport.h"
-#include "inspection/registry/RegistryImport.h"
+#include "inspection/registry/RegistryApplyJob.h"
+#include "inspection/registry/RegistryExportJob.h"
+#include "inspection/registry/RegistryImportJob.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/StoreSaveBlocker.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/ImportDialog.h"
-#include "window/Page.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -15,16 +14,14 @@
 
 namespace {
 
-QString counted(qint64 number)
-{
-    return QLocale().toString(number);
-}
+using Encoding = RegFileWriter::Encoding;
+using Report = PageContext::Report;
 
-// Far above any registry file; all of it and its statements are kept in memory.
+// No registry file is nearly this large. All of its statements are kept in memory.
 constexpr qint64 largestFile = qint64{32} * 1024 * 1024;
 
-// Why the file cannot be imported, or an empty text. To be asked before it is opened: opening a
-// pipe waits for who writes to it.
+// Why the file cannot be imported, or an empty text. It is to be asked before the file is opened,
+// because opening a pipe waits for a program that writes to it.
 QString fault(const QFileInfo& file)
 {
     if (file.exists() && !file.isFile())
@@ -34,21 +31,24 @@ QString fault(const QFileInfo& file)
     return {};
 }
 
-QFileDialog* fileDialog(Page* page, const QString& title)
+} // namespace
+
+RegistryTransfer::RegistryTransfer(PageContext& page, QWidget* window)
+    : QObject(window), m_page(page), m_window(window)
 {
-    auto* dialog = new QFileDialog(page, title);
+}
+
+QFileDialog* RegistryTransfer::fileDialog(const QString& title) const
+{
+    auto* dialog = new QFileDialog(m_window, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setDefaultSuffix(QStringLiteral("reg"));
     return dialog;
 }
 
-} // namespace
-
-RegistryTransfer::RegistryTransfer(Page* page) : QObject(page), m_page(page) {}
-
 void RegistryTransfer::askExport(const QString& path)
 {
-    QFileDialog* dialog = fileDialog(m_page, tr("Export %1").arg(RegistryPath::shown(path)));
+    QFileDialog* dialog = fileDialog(tr("Export %1").arg(RegistryPath::shown(path)));
     const QString utf8 = tr("Registry file, UTF-8 (*.reg)");
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setNameFilters({tr("Registry file, UTF-16 as Windows writes it (*.reg)"), utf8});
@@ -56,38 +56,38 @@ void RegistryTransfer::askExport(const QString& path)
                                       : RegistryPath::name(path) + QStringLiteral(".reg"));
     connect(dialog, &QFileDialog::fileSelected, this,
             [this, dialog, path, utf8](const QString& file) {
-                exportKey(path, file,
-                          dialog->selectedNameFilter() == utf8 ? RegFileWriter::Encoding::Utf8
-                                                               : RegFileWriter::Encoding::Utf16);
+                const bool isUtf8 = dialog->selectedNameFilter() == utf8;
+                exportKey(path, file, isUtf8 ? Encoding::Utf8 : Encoding::Utf16);
             });
     dialog->open();
 }
 
-void RegistryTransfer::exportKey(const QString& path, const QString& file,
-                                 RegFileWriter::Encoding encoding)
+void RegistryTransfer::exportKey(const QString& path, const QString& file, Encoding encoding)
 {
-    const auto task = std::make_shared<RegistryExport>(path, file, encoding);
-    const auto finished = [this, task, file](bool complete) {
-        if (!complete)
-            m_page->report(Page::Report::Warning, tr("The export was cancelled."));
-        else if (!task->commit())
-            m_page->report(Page::Report::Error,
-                           tr("%1 could not be written: %2").arg(file, task->error()));
-        else if (task->leftOut() > 0)
-            m_page->report(Page::Report::Warning,
-                           tr("Exported to %2. Values: %1. Left out: %3, each named in a comment.")
-                               .arg(counted(task->values()), file, counted(task->leftOut())));
-        else
-            m_page->report(Page::Report::Info,
-                           tr("Exported to %2. Values: %1.").arg(counted(task->values()), file));
-    };
-    m_page->startJob({tr("Exporting"), [task] { return task->step(); },
-                      [task] { return counted(task->values()); }, finished});
+    m_page.startJob<RegistryExportJob>(
+        tr("Exporting"), std::make_unique<RegistryExportJob>(path, file, encoding),
+        [this, file](RegistryExportJob& job, bool complete) { reportExport(job, file, complete); });
+}
+
+void RegistryTransfer::reportExport(RegistryExportJob& job, const QString& file, bool complete)
+{
+    const QLocale locale;
+    const QString values = locale.toString(job.values());
+    if (!complete)
+        m_page.report(Report::Warning, tr("The export was cancelled."));
+    else if (!job.commit())
+        m_page.report(Report::Error, tr("%1 could not be written: %2").arg(file, job.error()));
+    else if (job.leftOut() > 0)
+        m_page.report(Report::Warning,
+                      tr("Exported to %2. Values: %1. Left out: %3, each named in a comment.")
+                          .arg(values, file, locale.toString(job.leftOut())));
+    else
+        m_page.report(Report::Info, tr("Exported to %2. Values: %1.").arg(values, file));
 }
 
 void RegistryTransfer::askImport()
 {
-    QFileDialog* dialog = fileDialog(m_page, tr("Import a registry file"));
+    QFileDialog* dialog = fileDialog(tr("Import a registry file"));
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters({tr("Registry files (*.reg)"), tr("All files (*)")});
     connect(dialog, &QFileDialog::fileSelected, this, &RegistryTransfer::importFile);
@@ -96,55 +96,61 @@ void RegistryTransfer::askImport()
 
 void RegistryTransfer::importFile(const QString& file)
 {
-    const QString refused = fault(QFileInfo(file));
-    if (!refused.isEmpty()) {
-        m_page->report(Page::Report::Error, tr("%1 was not imported: %2").arg(file, refused));
-        return;
-    }
+    const QString why = fault(QFileInfo(file));
+    if (!why.isEmpty())
+        return refuse(file, why);
     auto input = std::make_unique<QFile>(file);
     if (!input->open(QIODevice::ReadOnly)) {
-        m_page->report(Page::Report::Error,
-                       tr("%1 could not be read: %2").arg(file, input->errorString()));
+        m_page.report(Report::Error,
+                      tr("%1 could not be read: %2").arg(file, input->errorString()));
         return;
     }
-    const auto import = std::make_shared<RegistryImport>(std::move(input));
-    m_page->startJob({tr("Reading the file"), [import] { return import->read(); },
-                      [import] { return counted(static_cast<qint64>(import->items().size())); },
-                      [this, file, import](bool complete) {
-                          if (!import->error().isEmpty())
-                              m_page->report(
-                                  Page::Report::Error,
-                                  tr("%1 was not imported: %2").arg(file, import->error()));
-                          else if (complete)
-                              preview(file, import);
-                          else
-                              m_page->setStatus(tr("Cancelled: nothing was imported."));
-                      }});
+    m_page.startJob<RegistryImportJob>(
+        tr("Reading the file"), std::make_unique<RegistryImportJob>(std::move(input)),
+        [this, file](RegistryImportJob& job, bool complete) { endReading(job, file, complete); });
 }
 
-void RegistryTransfer::preview(const QString& file, const std::shared_ptr<RegistryImport>& import)
+void RegistryTransfer::refuse(const QString& file, const QString& why)
 {
-    auto* dialog = new ImportDialog(QFileInfo(file).fileName(), *import, m_page);
+    m_page.report(Report::Error, tr("%1 was not imported: %2").arg(file, why));
+}
+
+void RegistryTransfer::endReading(const RegistryImportJob& job, const QString& file, bool complete)
+{
+    if (!job.error().isEmpty())
+        refuse(file, job.error());
+    else if (complete)
+        preview(file, job.plan());
+    else
+        m_page.setStatus(tr("Cancelled: nothing was imported."));
+}
+
+void RegistryTransfer::preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
+{
+    auto* dialog = new ImportDialog(QFileInfo(file).fileName(), plan, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    // The dialog reads the import for as long as it lives: so does the connection.
-    connect(dialog, &QDialog::accepted, this, [this, file, import] { apply(file, import); });
+    connect(dialog, &QDialog::accepted, this, [this, file, plan] { apply(file, plan); });
     dialog->open();
 }
 
-void RegistryTransfer::apply(const QString& file, const std::shared_ptr<RegistryImport>& import)
+void RegistryTransfer::apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
 {
-    const auto hold = std::make_shared<StoreSaveBlocker>();
-    const auto finished = [this, file, import](bool complete) {
-        emit changed();
-        const int refused = import->count(RegistryImport::Verdict::Refused) + import->failed();
-        const bool good = complete && refused == 0;
-        const QString text = complete
-                                 ? tr("Imported %1. Statements carried out: %2. Refused: %3.")
-                                 : tr("The import of %1 was cancelled. Statements carried out: %2. "
-                                      "Refused: %3.");
-        reportChange(*m_page, good ? Page::Report::Info : Page::Report::Warning,
-                     text.arg(file, counted(import->applied()), counted(refused)));
-    };
-    m_page->startJob({tr("Importing"), [import, hold] { return import->apply(); },
-                      [import] { return counted(import->applied()); }, finished});
+    const int refused = plan->count(ImportPlan::Outcome::Refused);
+    m_page.startJob<RegistryApplyJob>(tr("Importing"), std::make_unique<RegistryApplyJob>(plan),
+                                      [this, file, refused](RegistryApplyJob& job, bool complete) {
+                                          emit changed();
+                                          reportImport(file, job.applied(), refused + job.failed(),
+                                                       complete);
+                                      });
+}
+
+void RegistryTransfer::reportImport(const QString& file, int applied, int refused, bool complete)
+{
+    const QLocale locale;
+    const QString text = complete
+                             ? tr("Imported %1. Statements carried out: %2. Refused: %3.")
+                             : tr("The import of %1 was cancelled. Statements carried out: %2. "
+                                  "Refused: %3.");
+    reportChange(m_page, complete && refused == 0 ? Report::Info : Report::Warning,
+                 text.arg(file, locale.toString(applied), locale.toString(refused)));
 }

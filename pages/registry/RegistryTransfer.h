@@ -6,8 +6,13 @@
 
 #include <memory>
 
-class Page;
-class RegistryImport;
+class ImportPlan;
+class PageContext;
+class QFileDialog;
+class QWidget;
+class RegistryApplyJob;
+class RegistryExportJob;
+class RegistryImportJob;
 
 /// Export and import of registry files from the registry page.
 class RegistryTransfer : public QObject
@@ -15,7 +20,8 @@ class RegistryTransfer : public QObject
     Q_OBJECT
 
 public:
-    explicit RegistryTransfer(Page* page);
+    /// Dialogs open over `window`, which owns this object too.
+    RegistryTransfer(PageContext& page, QWidget* window);
 
     /// Asks for a file, then writes the key with everything below it.
     void askExport(const QString& path);
@@ -30,8 +36,14 @@ signals:
     void changed();
 
 private:
-    void preview(const QString& file, const std::shared_ptr<RegistryImport>& import);
-    void apply(const QString& file, const std::shared_ptr<RegistryImport>& import);
+    QFileDialog* fileDialog(const QString& title) const;
+    void reportExport(RegistryExportJob& job, const QString& file, bool complete);
+    void endReading(const RegistryImportJob& job, const QString& file, bool complete);
+    void preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
+    void apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
+    void reportImport(const QString& file, int applied, int refused, bool complete);
+    void refuse(const QString& file, const QString& why);
 
-    Page* m_page;
+    PageContext& m_page;
+    QWidget* m_window;
 };

@@ -5,7 +5,8 @@
 #include <QAbstractItemModel>
 
 #include <memory>
-#include <vector>
+
+class KeyNode;
 
 /// The keys, read level by level as they are opened. One top item stands for the root that all
 /// predefined root keys share.
@@ -43,20 +44,17 @@ public:
     void refresh();
 
 private:
-    struct Node;
-
-    Node* node(const QModelIndex& index) const;
-    QModelIndex indexOf(Node* node) const;
-    static QString toolTip(const Node& item);
-    void list(Node& node) const;
-    void show(Node& node, int count);
-    void insert(Node& node, int first, int last, const QStringList& names);
-    Node* child(Node& parent, const QString& name);
-    void update(Node& node);
-    void removeVanished(Node& node, const QStringList& names);
-    void insertNew(Node& node, const QStringList& names);
+    KeyNode& node(const QModelIndex& index) const;
+    QModelIndex indexOf(KeyNode& node) const;
+    void list(KeyNode& node) const;
+    void show(KeyNode& node, int count);
+    void insert(KeyNode& node, int first, int last, const QStringList& names);
+    KeyNode* child(KeyNode& parent, const QString& name);
+    void update(KeyNode& node);
+    void removeVanished(KeyNode& node, const QStringList& names);
+    void insertNew(KeyNode& node, const QStringList& names);
 
     std::shared_ptr<const RegistryIndex> m_names;
-    std::unique_ptr<Node> m_root;
-    bool m_inserting = false;
+    std::unique_ptr<KeyNode> m_root;
+    bool m_isInserting = false;
 };

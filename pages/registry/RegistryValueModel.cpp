@@ -1,199 +1,90 @@
 #include "pages/registry/RegistryValueModel.h"
 
-#include "inspection/registry/RedirectedName.h"
-#include "inspection/registry/RegistryFormat.h"
-#include "inspection/registry/RegistryListing.h"
-#include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/StoredText.h"
-#include "pages/registry/ValueGlyph.h"
-#include "window/ShownText.h"
+#include "window/GlyphIcon.h"
 
 #include <QFont>
 #include <QFontDatabase>
 
 namespace {
 
-QString placeRemark(RegistryValueModel::Place place, const QString& name)
+Glyph glyphOf(const ListedValue& value)
 {
-    switch (place) {
-    case RegistryValueModel::Place::UnderRoot:
-        return RegistryValueModel::tr("Set directly under a root: kept in the key \"%1\"")
-            .arg(name);
-    case RegistryValueModel::Place::ListedAtRoot:
-        return RegistryValueModel::tr(
-                   "Only listed: asking for it by name looks into the key \"%1\"")
-            .arg(name);
-    case RegistryValueModel::Place::InKey: break;
+    if (!value.isReadable())
+        return Glyph::Error;
+    switch (value.reading().type) {
+    case REG_SZ: return Glyph::Text;
+    case REG_DWORD:
+    case REG_QWORD: return Glyph::Number;
+    default: return Glyph::Binary;
     }
-    return QString();
 }
 
-// The service makes a key of the name as it is, and separates in the value's own name alone.
-QString keptUnderRoot(const QString& name)
+QVariant look(const ListedValue& value, int role)
 {
-    return RegistryPath::join(name, openedPath(name));
+    if (role == Qt::ToolTipRole && !value.remark().isEmpty())
+        return plainToolTip(value.remark());
+    if (role != Qt::FontRole || value.isReadable())
+        return {};
+    QFont font;
+    font.setItalic(true);
+    return font;
+}
+
+QVariant nameLook(const ListedValue& value, int role)
+{
+    return role == Qt::DecorationRole ? glyphIcon(glyphOf(value)) : look(value, role);
+}
+
+QVariant dataLook(const ListedValue& value, int role)
+{
+    const bool isOdd =
+        role == Qt::DecorationRole && value.isReadable() && !value.remark().isEmpty();
+    return isOdd ? glyphIcon(Glyph::Warning) : look(value, role);
+}
+
+QVariant rawLook(const ListedValue& value, int role)
+{
+    return role == Qt::FontRole ? QFontDatabase::systemFont(QFontDatabase::FixedFont)
+                                : look(value, role);
+}
+
+std::vector<RecordColumn<ListedValue>> columns()
+{
+    return {{RegistryValueModel::tr("Name"), &ListedValue::name, nameLook},
+            {RegistryValueModel::tr("Type"), &ListedValue::typeText, look},
+            {RegistryValueModel::tr("Data"), &ListedValue::dataText, dataLook},
+            {RegistryValueModel::tr("Stored text (raw)"), &ListedValue::raw, rawLook}};
 }
 
 } // namespace
 
-RegistryValueModel::RegistryValueModel(QObject* parent) : QAbstractTableModel(parent) {}
-
-int RegistryValueModel::rowCount(const QModelIndex& parent) const
+RegistryValueModel::RegistryValueModel(QObject* parent)
+    : RecordsModel<ListedValue>(columns(), parent)
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-int RegistryValueModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
 }
 
 void RegistryValueModel::setPath(const QString& path, const RegistryIndex& names)
 {
-    beginResetModel();
-    m_path = path;
-    m_rows.clear();
-    m_key = std::make_unique<RegistryKey>(path);
-    if (path.isEmpty()) {
-        listRoot(names);
-    } else {
-        const QStringList values = registryValueNames(path);
-        for (const QString& name : values)
-            m_rows.push_back({name, Place::InKey, {}});
-    }
-    endResetModel();
+    setRecords(ListedValue::ofKey(path, names));
 }
 
-void RegistryValueModel::listRoot(const RegistryIndex& names)
+void RegistryValueModel::refresh(int row)
 {
-    const RegistryIndex::Children children = names.children(QString());
-    for (const QString& name : children.groups) {
-        if (!rawRegistryEntry(keptUnderRoot(name)).isNull())
-            m_rows.push_back({name, Place::UnderRoot, {}});
-    }
-    for (const QString& name : children.entries)
-        m_rows.push_back({name, Place::ListedAtRoot, {}});
-}
-
-QString RegistryValueModel::entryPath(const Row& row) const
-{
-    return row.place == Place::UnderRoot ? keptUnderRoot(row.name)
-                                         : RegistryPath::join(openedPath(m_path), row.name);
-}
-
-RegistryValueModel::Value RegistryValueModel::read(const Row& row) const
-{
-    Value value{row.name, row.place, {}, {}, {}};
-    const QVariant entry = rawRegistryEntry(entryPath(row));
-    value.raw = rawRegistryText(entry);
-    value.reading = row.place == Place::ListedAtRoot ? readAtRegistryRoot(*m_key, row.name)
-                                                     : m_key->read(row.name);
-    const StoredText stored(entry);
-    value.remark = value.reading.readable ? stored.warning() : stored.whyUnreadable();
-    if (!value.reading.readable && !hasRegistryEntry(entryPath(row)))
-        value.remark = tr("No longer there");
-    else if (row.place == Place::InKey && isOpenedElsewhere(row.name))
-        value.remark = valueOpenedElsewhere(entryPath(row));
-    else if (value.remark.isEmpty())
-        value.remark = placeRemark(row.place, row.name);
-    return value;
-}
-
-const RegistryValueModel::Value& RegistryValueModel::value(int row) const
-{
-    const Row& item = m_rows[static_cast<std::size_t>(row)];
-    if (!item.value)
-        item.value = read(item);
-    return *item.value;
-}
-
-bool RegistryValueModel::refresh(int row)
-{
-    m_rows[static_cast<std::size_t>(row)].value.reset();
-    emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
-    return isThere(row);
-}
-
-bool RegistryValueModel::isThere(int row) const
-{
-    return hasRegistryEntry(entryPath(m_rows[static_cast<std::size_t>(row)]));
-}
-
-RegistryValueModel::Value RegistryValueModel::nameAndPlace(int row) const
-{
-    const Row& item = m_rows[static_cast<std::size_t>(row)];
-    return {item.name, item.place, {}, {}, {}};
+    update(row, [](ListedValue& value) { value.forget(); });
 }
 
 int RegistryValueModel::rowOf(const QString& name) const
 {
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        if (m_rows[i].name == name)
-            return static_cast<int>(i);
+    for (int row = 0; row < rowCount(); ++row) {
+        if (record(row).name() == name)
+            return row;
     }
     return -1;
 }
 
-QVariant RegistryValueModel::data(const QModelIndex& index, int role) const
-{
-    if (!index.isValid())
-        return {};
-    const Value& item = value(index.row());
-    switch (role) {
-    case Qt::DisplayRole: return text(item, index.column());
-    case Qt::DecorationRole: return decoration(item, index.column());
-    case Qt::ToolTipRole:
-        return plainToolTip(item.remark.isEmpty() ? text(item, index.column()).toString()
-                                                  : item.remark);
-    case Qt::FontRole:
-        if (index.column() == Raw)
-            return QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        if (!item.reading.readable) {
-            QFont font;
-            font.setItalic(true);
-            return font;
-        }
-        return {};
-    default: return {};
-    }
-}
-
-QVariant RegistryValueModel::text(const Value& value, int column) const
-{
-    const bool readable = value.reading.readable;
-    switch (column) {
-    case Name: return value.name;
-    case Type: return readable ? RegistryFormat::typeName(value.reading.type) : tr("unreadable");
-    case Data:
-        return readable ? RegistryFormat::data(value.reading.type, value.reading.data)
-                        : value.remark;
-    case Raw: return value.raw;
-    default: return {};
-    }
-}
-
-QVariant RegistryValueModel::decoration(const Value& value, int column) const
-{
-    if (column == Name)
-        return glyphIcon(value.reading.readable ? valueGlyph(value.reading.type) : Glyph::Error);
-    if (column == Data && value.reading.readable && !value.remark.isEmpty())
-        return glyphIcon(Glyph::Warning);
-    return {};
-}
-
 QVariant RegistryValueModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal)
-        return {};
-    if (role == Qt::ToolTipRole && section == Raw)
+    if (orientation == Qt::Horizontal && role == Qt::ToolTipRole && section == Raw)
         return tr("Raw: the text in the store, which no host library sees");
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case Name: return tr("Name");
-    case Type: return tr("Type");
-    case Data: return tr("Data");
-    case Raw: return tr("Stored text (raw)");
-    default: return {};
-    }
+    return RecordsModel::headerData(section, orientation, role);
 }

@@ -3,6 +3,7 @@
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryKey.h"
 #include "inspection/registry/ValueInput.h"
+#include "platform/registry/TypeName.h"
 #include "window/GlyphIcon.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
@@ -20,7 +21,7 @@ namespace {
 
 constexpr unsigned int types[] = {REG_SZ, REG_DWORD, REG_QWORD, REG_BINARY};
 
-// Line ends that do not survive being edited: the field knows but one kind.
+// True where the text has line ends that editing changes: the field knows line feeds alone.
 bool hasOtherLineEnds(const QString& text)
 {
     return text.contains(QLatin1Char('\r')) || text.contains(QChar::LineSeparator) ||
@@ -39,7 +40,7 @@ ValueDialog::ValueDialog(unsigned int type, QWidget* parent)
 {
     setWindowTitle(tr("New value"));
     for (const unsigned int offered : types)
-        m_type->addItem(RegistryFormat::typeName(offered), offered);
+        m_type->addItem(registryTypeName(offered), offered);
     m_type->setCurrentIndex(m_type->findData(type));
     build();
     check();
@@ -120,7 +121,7 @@ QString ValueDialog::warning(const ValueInput& input) const
     return losesLineEnds ? tr("Line ends become LF.") : input.warning();
 }
 
-// A name that is fixed is the store's, whatever it holds.
+// A fixed name comes from the store, which has it already: it is not checked.
 void ValueDialog::check()
 {
     const ValueInput input(type(), textOf(*m_data));

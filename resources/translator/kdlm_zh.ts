@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AddressBar</name>
+    <message>
+        <source>&amp;Go to:</source>
+        <translation>转到(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>Path of the key</source>
+        <translation>项的路径</translation>
+    </message>
+    <message>
+        <source>%1 begins with none of the four root keys.</source>
+        <translation>%1 不以四个根项之一开头。</translation>
+    </message>
+    <message>
+        <source>There is no key %1.</source>
+        <translation>没有项 %1。</translation>
+    </message>
+</context>
+<context>
     <name>Base64Note</name>
     <message>
         <source>The last Base64 character stands alone and yields nothing.</source>
@@ -91,6 +110,10 @@
     <message>
         <source>%1 %2</source>
         <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was changed.</source>
+        <translation>%1未作任何更改。</translation>
     </message>
 </context>
 <context>
@@ -479,6 +502,17 @@
     </message>
 </context>
 <context>
+    <name>EncodedValue</name>
+    <message>
+        <source>Data without a byte cannot be stored.</source>
+        <translation>无法存储没有任何字节的数据。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be stored.</source>
+        <translation>无法存储 %1。</translation>
+    </message>
+</context>
+<context>
     <name>EncryptionNote</name>
     <message>
         <source>DecryptionAES_Export cannot give this text back: its result holds at most %L1 bytes.</source>
@@ -636,6 +670,34 @@
     <message>
         <source>Find no&amp;w</source>
         <translation>立即查找(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>项</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>The search was cancelled. Found so far: %1.</source>
+        <translation>查找已取消。目前找到：%1 处。</translation>
+    </message>
+    <message>
+        <source>Showing the first %1 places; there may be more.</source>
+        <translation>显示前 %1 处结果，可能还有更多。</translation>
+    </message>
+    <message>
+        <source>Found: %1.</source>
+        <translation>找到 %1 处。</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>正在查找</translation>
     </message>
 </context>
 <context>
@@ -912,21 +974,6 @@
     </message>
 </context>
 <context>
-    <name>HitModel</name>
-    <message>
-        <source>Key</source>
-        <translation>项</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Data</source>
-        <translation>数据</translation>
-    </message>
-</context>
-<context>
     <name>HostInformation</name>
     <message>
         <source>English</source>
@@ -969,26 +1016,6 @@
         <translation>直接位于根下的值，将保存在与其同名的项中。</translation>
     </message>
     <message>
-        <source>Binary data without a byte cannot be stored.</source>
-        <translation>无法存储没有任何字节的二进制数据。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be stored.</source>
-        <translation>无法存储 %1。</translation>
-    </message>
-    <message>
-        <source>A number without a byte cannot be stored.</source>
-        <translation>无法存储没有任何字节的数值。</translation>
-    </message>
-    <message>
-        <source>REG_NONE becomes REG_DWORD.</source>
-        <translation>REG_NONE 将变为 REG_DWORD。</translation>
-    </message>
-    <message>
-        <source>The number does not have %1 bytes: its first byte alone is kept.</source>
-        <translation>数值不是 %1 字节：只保留其第一个字节。</translation>
-    </message>
-    <message>
         <source>The value &quot;%1&quot; of %2 goes with it.</source>
         <translation>%2 的值“%1”也会一并删除。</translation>
     </message>
@@ -1008,10 +1035,6 @@
 <context>
     <name>ImportDialog</name>
     <message>
-        <source>As written in the file: %1. Altered: %2. Refused: %3.</source>
-        <translation>与文件一致：%1。有改动：%2。被拒绝：%3。</translation>
-    </message>
-    <message>
         <source>Statements of the file</source>
         <translation>文件中的语句</translation>
     </message>
@@ -1026,25 +1049,6 @@
     <message>
         <source>I&amp;mport</source>
         <translation>导入(&amp;M)</translation>
-    </message>
-</context>
-<context>
-    <name>ImportModel</name>
-    <message>
-        <source>Refused: %1</source>
-        <translation>拒绝：%1</translation>
-    </message>
-    <message>
-        <source>Creates the key</source>
-        <translation>创建该项</translation>
-    </message>
-    <message>
-        <source>Sets the value</source>
-        <translation>设置该值</translation>
-    </message>
-    <message>
-        <source>Deletes the value</source>
-        <translation>删除该值</translation>
     </message>
     <message>
         <source>What happens</source>
@@ -1065,6 +1069,29 @@
     <message>
         <source>Line</source>
         <translation>行</translation>
+    </message>
+</context>
+<context>
+    <name>ImportText</name>
+    <message>
+        <source>Creates the key</source>
+        <translation>创建该项</translation>
+    </message>
+    <message>
+        <source>Sets the value</source>
+        <translation>设置该值</translation>
+    </message>
+    <message>
+        <source>Deletes the value</source>
+        <translation>删除该值</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation>拒绝：%1</translation>
+    </message>
+    <message>
+        <source>As written in the file: %1. Altered: %2. Refused: %3.</source>
+        <translation>与文件一致：%1。有改动：%2。被拒绝：%3。</translation>
     </message>
 </context>
 <context>
@@ -1154,6 +1181,13 @@
     <message>
         <source>getKeyState answers %1: %2</source>
         <translation>getKeyState 返回 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTree</name>
+    <message>
+        <source>Keys</source>
+        <translation>项</translation>
     </message>
 </context>
 <context>
@@ -1281,6 +1315,25 @@
     <message>
         <source>A backslash in it begins an escape.</source>
         <translation>其中的反斜杠开始一个转义序列。</translation>
+    </message>
+</context>
+<context>
+    <name>ListedValue</name>
+    <message>
+        <source>No longer there</source>
+        <translation>已不存在</translation>
+    </message>
+    <message>
+        <source>Set directly under a root: kept in the key &quot;%1&quot;</source>
+        <translation>直接在根下设置：保存在项“%1”中</translation>
+    </message>
+    <message>
+        <source>Only listed: asking for it by name looks into the key &quot;%1&quot;</source>
+        <translation>仅可列出：按名称读取时会到项“%1”中查找</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>无法读取</translation>
     </message>
 </context>
 <context>
@@ -2022,6 +2075,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ReadingRemark</name>
+    <message>
+        <source>Not found under this name</source>
+        <translation>按此名称找不到</translation>
+    </message>
+</context>
+<context>
     <name>RedirectedName</name>
     <message>
         <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
@@ -2084,15 +2144,106 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RegistryActions</name>
+    <message>
+        <source>&quot;%1&quot; in %2 is no longer there.</source>
+        <translation>%2 中的“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>%1 of the selected values in %2 are no longer there.</source>
+        <translation>%2 中所选的值有 %1 个已不存在。</translation>
+    </message>
+    <message>
+        <source>Delete key</source>
+        <translation>删除项</translation>
+    </message>
+    <message>
+        <source>Copy path</source>
+        <translation>复制路径</translation>
+    </message>
+    <message>
+        <source>Export key...</source>
+        <translation>导出项...</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>导入...</translation>
+    </message>
+    <message>
+        <source>Edit value</source>
+        <translation>编辑值</translation>
+    </message>
+    <message>
+        <source>Delete value</source>
+        <translation>删除值</translation>
+    </message>
+    <message>
+        <source>Copy data</source>
+        <translation>复制数据</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>&amp;Key...</source>
+        <translation>项(&amp;K)...</translation>
+    </message>
+    <message>
+        <source>&amp;String (REG_SZ)...</source>
+        <translation>字符串 (REG_SZ)(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Number (REG_DWORD)...</source>
+        <translation>数值 (REG_DWORD)(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>&amp;Large number (REG_QWORD)...</source>
+        <translation>大数值 (REG_QWORD)(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>&amp;Binary (REG_BINARY)...</source>
+        <translation>二进制 (REG_BINARY)(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y path</source>
+        <translation>复制路径(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新建(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Dele&amp;te</source>
+        <translation>删除(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Search...</source>
+        <translation>查找(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>编辑(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>I&amp;mport...</source>
+        <translation>导入(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>导出(&amp;X)...</translation>
+    </message>
+    <message>
+        <source>Copied %1.</source>
+        <translation>已复制 %1。</translation>
+    </message>
+    <message>
+        <source>%1 is no longer there.</source>
+        <translation>%1 已不存在。</translation>
+    </message>
+</context>
+<context>
     <name>RegistryEditor</name>
-    <message>
-        <source>Keys of the same name go with everything in them:</source>
-        <translation>同名的项及其全部内容也会一并删除：</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>删除</translation>
-    </message>
     <message>
         <source>%1 is there already.</source>
         <translation>%1 已存在。</translation>
@@ -2126,70 +2277,6 @@ Wide: %2</source>
         <translation>已设置 %2 中的“%1”，但主机库读到的是 %3。</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>空</translation>
-    </message>
-    <message>
-        <source>Deleting</source>
-        <translation>正在删除</translation>
-    </message>
-    <message>
-        <source>The root itself cannot be deleted.</source>
-        <translation>不能删除根本身。</translation>
-    </message>
-    <message>
-        <source>Counting what goes</source>
-        <translation>正在统计将删除的内容</translation>
-    </message>
-    <message>
-        <source>Delete the key %1?</source>
-        <translation>要删除项 %1 吗？</translation>
-    </message>
-    <message>
-        <source>Keys below it that go with it: %1. Values: %2.</source>
-        <translation>将一并删除的下级项：%1 个；值：%2 个。</translation>
-    </message>
-    <message>
-        <source>Deleted the key %1.</source>
-        <translation>已删除项 %1。</translation>
-    </message>
-    <message>
-        <source>Deleted a part of the key %1.</source>
-        <translation>已删除项 %1 的一部分。</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>以及另外 %1 个</translation>
-    </message>
-    <message>
-        <source>%1 values</source>
-        <translation>%1 个值</translation>
-    </message>
-    <message>
-        <source>Deleted from %1: %2.</source>
-        <translation>已从 %1 删除 %2。</translation>
-    </message>
-    <message>
-        <source>Delete this value of %1?</source>
-        <translation>要删除 %1 中的这个值吗？</translation>
-    </message>
-    <message>
-        <source>Delete these values of %1?</source>
-        <translation>要删除 %1 中的这些值吗？</translation>
-    </message>
-    <message>
-        <source>The value &quot;%1&quot; of %2 goes with it.</source>
-        <translation>%2 的值“%1”也会一并删除。</translation>
-    </message>
-    <message>
-        <source>Cancelled: nothing was deleted.</source>
-        <translation>已取消：未删除任何内容。</translation>
-    </message>
-    <message>
-        <source>%1 Nothing was changed.</source>
-        <translation>%1未作任何更改。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has more than %2 KiB of data: too much to edit here.</source>
         <translation>“%1”的数据超过 %2 KiB，过长，无法在此编辑。</translation>
     </message>
@@ -2199,7 +2286,7 @@ Wide: %2</source>
     </message>
 </context>
 <context>
-    <name>RegistryExport</name>
+    <name>RegistryExportJob</name>
     <message>
         <source>it is listed under the root, but cannot be asked for there</source>
         <translation>它列在根下，但无法按名称读取</translation>
@@ -2228,98 +2315,6 @@ Wide: %2</source>
 <context>
     <name>RegistryPage</name>
     <message>
-        <source>Keys</source>
-        <translation>项</translation>
-    </message>
-    <message>
-        <source>Values</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>Edit value</source>
-        <translation>编辑值</translation>
-    </message>
-    <message>
-        <source>Delete value</source>
-        <translation>删除值</translation>
-    </message>
-    <message>
-        <source>Delete key</source>
-        <translation>删除项</translation>
-    </message>
-    <message>
-        <source>Copy path</source>
-        <translation>复制路径</translation>
-    </message>
-    <message>
-        <source>Copy data</source>
-        <translation>复制数据</translation>
-    </message>
-    <message>
-        <source>Export key...</source>
-        <translation>导出项...</translation>
-    </message>
-    <message>
-        <source>Import...</source>
-        <translation>导入...</translation>
-    </message>
-    <message>
-        <source>New</source>
-        <translation>新建</translation>
-    </message>
-    <message>
-        <source>&amp;Key...</source>
-        <translation>项(&amp;K)...</translation>
-    </message>
-    <message>
-        <source>&amp;Number (REG_DWORD)...</source>
-        <translation>数值 (REG_DWORD)(&amp;N)...</translation>
-    </message>
-    <message>
-        <source>&amp;Large number (REG_QWORD)...</source>
-        <translation>大数值 (REG_QWORD)(&amp;L)...</translation>
-    </message>
-    <message>
-        <source>&amp;Binary (REG_BINARY)...</source>
-        <translation>二进制 (REG_BINARY)(&amp;B)...</translation>
-    </message>
-    <message>
-        <source>&amp;Go to:</source>
-        <translation>转到(&amp;G)：</translation>
-    </message>
-    <message>
-        <source>Path of the key</source>
-        <translation>项的路径</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y path</source>
-        <translation>复制路径(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>&amp;New</source>
-        <translation>新建(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Dele&amp;te</source>
-        <translation>删除(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Edit...</source>
-        <translation>编辑(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>I&amp;mport...</source>
-        <translation>导入(&amp;M)...</translation>
-    </message>
-    <message>
-        <source>E&amp;xport...</source>
-        <translation>导出(&amp;X)...</translation>
-    </message>
-    <message>
-        <source>The registry is empty. Create a key with New, or import a registry file.</source>
-        <translation>注册表为空。请用“新建”创建项，或导入注册表文件。</translation>
-    </message>
-    <message>
         <source>Values: %1. Sub-keys: %2.</source>
         <translation>值：%1 个。子项：%2 个。</translation>
     </message>
@@ -2328,64 +2323,66 @@ Wide: %2</source>
         <translation>主机库尚未建立设置存储：所有注册表调用都会失败。</translation>
     </message>
     <message>
-        <source>%1 begins with none of the four root keys.</source>
-        <translation>%1 不以四个根项之一开头。</translation>
-    </message>
-    <message>
-        <source>There is no key %1.</source>
-        <translation>没有项 %1。</translation>
-    </message>
-    <message>
-        <source>Copied %1.</source>
-        <translation>已复制 %1。</translation>
-    </message>
-    <message>
-        <source>The search was cancelled. Found so far: %1.</source>
-        <translation>查找已取消。目前找到：%1 处。</translation>
-    </message>
-    <message>
-        <source>Showing the first %1 places; there may be more.</source>
-        <translation>显示前 %1 处结果，可能还有更多。</translation>
-    </message>
-    <message>
-        <source>Found: %1.</source>
-        <translation>找到 %1 处。</translation>
-    </message>
-    <message>
-        <source>Searching</source>
-        <translation>正在查找</translation>
-    </message>
-    <message>
-        <source>Values: %1. Found: %2.</source>
-        <translation>值：%1 个。找到：%2 处。</translation>
-    </message>
-    <message>
-        <source>&amp;String (REG_SZ)...</source>
-        <translation>字符串 (REG_SZ)(&amp;S)...</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
+</context>
+<context>
+    <name>RegistryRemover</name>
     <message>
-        <source>This key holds no values. Choose a key below it, or create a value with New.</source>
-        <translation>此项中没有值。请选择其下的项，或用“新建”创建值。</translation>
+        <source>%1 values</source>
+        <translation>%1 个值</translation>
     </message>
     <message>
-        <source>&amp;Search...</source>
-        <translation>查找(&amp;S)...</translation>
+        <source>Delete</source>
+        <translation>删除</translation>
     </message>
     <message>
-        <source>%1 is no longer there.</source>
-        <translation>%1 已不存在。</translation>
+        <source>Delete this value of %1?</source>
+        <translation>要删除 %1 中的这个值吗？</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; in %2 is no longer there.</source>
-        <translation>%2 中的“%1”已不存在。</translation>
+        <source>Delete these values of %1?</source>
+        <translation>要删除 %1 中的这些值吗？</translation>
     </message>
     <message>
-        <source>%1 of the selected values in %2 are no longer there.</source>
-        <translation>%2 中所选的值有 %1 个已不存在。</translation>
+        <source>Deleting</source>
+        <translation>正在删除</translation>
+    </message>
+    <message>
+        <source>Deleted from %1: %2.</source>
+        <translation>已从 %1 删除 %2。</translation>
+    </message>
+    <message>
+        <source>The root itself cannot be deleted.</source>
+        <translation>不能删除根本身。</translation>
+    </message>
+    <message>
+        <source>Counting what goes</source>
+        <translation>正在统计将删除的内容</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>已取消：未删除任何内容。</translation>
+    </message>
+    <message>
+        <source>Delete the key %1?</source>
+        <translation>要删除项 %1 吗？</translation>
+    </message>
+    <message>
+        <source>Deleted the key %1.</source>
+        <translation>已删除项 %1。</translation>
+    </message>
+    <message>
+        <source>Deleted a part of the key %1.</source>
+        <translation>已删除项 %1 的一部分。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistrySearchJob</name>
+    <message>
+        <source>Values: %1. Found: %2.</source>
+        <translation>值：%1 个。找到：%2 处。</translation>
     </message>
 </context>
 <context>
@@ -2489,18 +2486,6 @@ Wide: %2</source>
 <context>
     <name>RegistryValueModel</name>
     <message>
-        <source>Set directly under a root: kept in the key &quot;%1&quot;</source>
-        <translation>直接在根下设置：保存在项“%1”中</translation>
-    </message>
-    <message>
-        <source>Only listed: asking for it by name looks into the key &quot;%1&quot;</source>
-        <translation>仅可列出：按名称读取时会到项“%1”中查找</translation>
-    </message>
-    <message>
-        <source>unreadable</source>
-        <translation>无法读取</translation>
-    </message>
-    <message>
         <source>Raw: the text in the store, which no host library sees</source>
         <translation>原始内容：存储中的文本，主机库看不到</translation>
     </message>
@@ -2520,9 +2505,31 @@ Wide: %2</source>
         <source>Stored text (raw)</source>
         <translation>存储文本（原始）</translation>
     </message>
+</context>
+<context>
+    <name>RemovalText</name>
     <message>
-        <source>No longer there</source>
-        <translation>已不存在</translation>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 个</translation>
+    </message>
+    <message>
+        <source>Keys of the same name go with everything in them:</source>
+        <translation>同名的项及其全部内容也会一并删除：</translation>
+    </message>
+    <message>
+        <source>Keys below it that go with it: %1. Values: %2.</source>
+        <translation>将一并删除的下级项：%1 个；值：%2 个。</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; of %2 goes with it.</source>
+        <translation>%2 的值“%1”也会一并删除。</translation>
+    </message>
+</context>
+<context>
+    <name>SetValueCheck</name>
+    <message>
+        <source>nothing</source>
+        <translation>空</translation>
     </message>
 </context>
 <context>
@@ -2556,7 +2563,19 @@ Wide: %2</source>
     </message>
 </context>
 <context>
-    <name>StoredText</name>
+    <name>StoredValue</name>
+    <message>
+        <source>Bad number: &quot;%1&quot; is read as 0</source>
+        <translation>数值错误：“%1”将读作 0</translation>
+    </message>
+    <message>
+        <source>Bad digits: what is not hexadecimal is skipped</source>
+        <translation>数字错误：非十六进制字符将被跳过</translation>
+    </message>
+    <message>
+        <source>An odd number of hexadecimal digits</source>
+        <translation>十六进制数字的个数为奇数</translation>
+    </message>
     <message>
         <source>No value: the mark of a key that was created here</source>
         <translation>没有值：在此创建项时留下的标记</translation>
@@ -2570,28 +2589,12 @@ Wide: %2</source>
         <translation>“$”前没有类型标记</translation>
     </message>
     <message>
+        <source>Tag &quot;%1&quot; is refused: it is no number, or too large a one</source>
+        <translation>类型标记“%1”被拒绝：不是数字，或数字过大</translation>
+    </message>
+    <message>
         <source>Tag %1 is refused</source>
         <translation>类型标记 %1 被拒绝</translation>
-    </message>
-    <message>
-        <source>Not found under this name</source>
-        <translation>按此名称找不到</translation>
-    </message>
-    <message>
-        <source>The tag is no number and counts as 0</source>
-        <translation>类型标记不是数字，按 0 处理</translation>
-    </message>
-    <message>
-        <source>Bad number: &quot;%1&quot; is read as 0</source>
-        <translation>数值错误：“%1”将读作 0</translation>
-    </message>
-    <message>
-        <source>Bad digits: what is not hexadecimal is skipped</source>
-        <translation>数字错误：非十六进制字符将被跳过</translation>
-    </message>
-    <message>
-        <source>An odd number of hexadecimal digits</source>
-        <translation>十六进制数字的个数为奇数</translation>
     </message>
 </context>
 <context>
@@ -2644,6 +2647,33 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ValueChange</name>
+    <message>
+        <source>%1 becomes %2.</source>
+        <translation>%1 将变为 %2。</translation>
+    </message>
+    <message>
+        <source>The text is kept up to its first NUL character.</source>
+        <translation>文本只保留到第一个 NUL 字符为止。</translation>
+    </message>
+    <message>
+        <source>Some of the text&apos;s characters will be read as others.</source>
+        <translation>文本中的部分字符将读作其他字符。</translation>
+    </message>
+    <message>
+        <source>%1 will be read as 0: it does not fit a signed number.</source>
+        <translation>%1 将读作 0：超出有符号数的范围。</translation>
+    </message>
+    <message>
+        <source>The number does not have %1 bytes: its first byte alone is kept.</source>
+        <translation>数值不是 %1 字节：只保留其第一个字节。</translation>
+    </message>
+    <message>
+        <source>Only the lowest byte of a QWORD is kept: %1 will be read as %2.</source>
+        <translation>QWORD 只保留最低字节：%1 将读作 %2。</translation>
+    </message>
+</context>
+<context>
     <name>ValueDialog</name>
     <message>
         <source>New value</source>
@@ -2693,18 +2723,6 @@ Wide: %2</source>
         <translation>DWORD 的最大值为 4294967295 (0xffffffff)。</translation>
     </message>
     <message>
-        <source>Only the lowest byte of a QWORD is kept: %1 will be read as %2.</source>
-        <translation>QWORD 只保留最低字节：%1 将读作 %2。</translation>
-    </message>
-    <message>
-        <source>A DWORD above 2147483647 (0x7fffffff) will be read as 0.</source>
-        <translation>大于 2147483647 (0x7fffffff) 的 DWORD 将读作 0。</translation>
-    </message>
-    <message>
-        <source>Binary data needs at least one byte.</source>
-        <translation>二进制数据至少需要一个字节。</translation>
-    </message>
-    <message>
         <source>Type pairs of hexadecimal digits, such as 00 7f ff.</source>
         <translation>请成对输入十六进制数字，例如 00 7f ff。</translation>
     </message>
@@ -2723,6 +2741,21 @@ Wide: %2</source>
     <message>
         <source>&quot;\&quot; and &quot;/&quot; separate keys. Create one key at a time.</source>
         <translation>“\”和“/”用于分隔项。请逐级创建。</translation>
+    </message>
+</context>
+<context>
+    <name>ValueTable</name>
+    <message>
+        <source>Values</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>The registry is empty. Create a key with New, or import a registry file.</source>
+        <translation>注册表为空。请用“新建”创建项，或导入注册表文件。</translation>
+    </message>
+    <message>
+        <source>This key holds no values. Choose a key below it, or create a value with New.</source>
+        <translation>此项中没有值。请选择其下的项，或用“新建”创建值。</translation>
     </message>
 </context>
 <context>

@@ -7,7 +7,7 @@
 
 #include "inspection/profiles/NarrowRewriting.h"
 #include "inspection/profiles/ProfileLoadingJob.h"
-#include "inspection/registry/RegistryImport.h"
+#include "inspection/registry/RegistryImportJob.h"
 #include "pages/profiles/LostLinesDialog.h"
 #include "pages/registry/ImportDialog.h"
 #include "pages/registry/NameDialog.h"
@@ -100,12 +100,12 @@ std::unique_ptr<QWidget> name(const WindowProbe& probe)
 
 std::unique_ptr<QWidget> import(const WindowProbe& probe)
 {
-    static RegistryImport import("Windows Registry Editor Version 5.00\r\n\r\n"
-                                 "[HKEY_CURRENT_USER\\A]\r\n\"good\"=dword:1\r\n"
-                                 "\"multi\"=hex(7):00,00\r\n");
-    while (import.read())
+    static RegistryImportJob import("Windows Registry Editor Version 5.00\r\n\r\n"
+                                    "[HKEY_CURRENT_USER\\A]\r\n\"good\"=dword:1\r\n"
+                                    "\"multi\"=hex(7):00,00\r\n");
+    while (import.step())
         ;
-    return std::make_unique<ImportDialog>(QStringLiteral("file.reg"), import, &probe.page());
+    return std::make_unique<ImportDialog>(QStringLiteral("file.reg"), import.plan(), &probe.page());
 }
 
 template <ProfileFamily Family>

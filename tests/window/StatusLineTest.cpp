@@ -1,6 +1,7 @@
 #include "window/StatusLine.h"
 
 #include "app/HostInformation.h"
+#include "inspection/registry/RawStore.h"
 #include "window/PathLabel.h"
 
 #include <QLabel>
@@ -31,7 +32,7 @@ TEST(StatusLineTest, ShowsThePathsOfLibraryAndStore)
     const auto paths = line.findChildren<PathLabel*>();
     ASSERT_EQ(paths.size(), 2);
     EXPECT_EQ(paths[0]->toolTip(), HostInformation::libraryPath());
-    EXPECT_EQ(paths[1]->toolTip(), HostInformation::storePath());
+    EXPECT_EQ(paths[1]->toolTip(), RawStore::fileName());
 }
 
 TEST(StatusLineTest, ReadsOutTheLanguageWithItsCaption)

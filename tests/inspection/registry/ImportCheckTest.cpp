@@ -11,12 +11,12 @@
 namespace {
 
 using Action = RegFileEntry::Action;
-using Verdict = RegistryImport::Verdict;
+using Outcome = ImportCheck::Outcome;
 
 struct Row
 {
     RegFileEntry entry;
-    Verdict verdict;
+    Outcome outcome;
     const char* words; ///< a part of the remark
 };
 
@@ -48,61 +48,62 @@ class Statement : public testing::TestWithParam<Row>
 {
 };
 
-TEST_P(Statement, IsJudgedBeforeItIsCarriedOut)
+TEST_P(Statement, IsCheckedBeforeItIsCarriedOut)
 {
-    const RegistryImport::Item item = RegistryImport::judged(GetParam().entry);
-    EXPECT_EQ(item.verdict, GetParam().verdict) << item.remark.toStdString();
-    EXPECT_EQ(item.remark.isEmpty(), GetParam().verdict == Verdict::Done);
-    EXPECT_TRUE(item.remark.contains(QLatin1String(GetParam().words))) << item.remark.toStdString();
+    const ImportCheck check(GetParam().entry);
+    EXPECT_EQ(check.outcome(), GetParam().outcome) << check.remark().toStdString();
+    EXPECT_EQ(check.remark().isEmpty(), GetParam().outcome == Outcome::Done);
+    EXPECT_TRUE(check.remark().contains(QLatin1String(GetParam().words)))
+        << check.remark().toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(
     OfAKey, Statement,
     testing::Values(
-        Row{statement(Action::CreateKey, "HKEY_CURRENT_USER\\K"), Verdict::Done, ""},
-        Row{statement(Action::CreateKey, "hkey_users\\K"), Verdict::Done, ""},
-        Row{statement(Action::CreateKey, "HKEY_CURRENT_CONFIG\\K"), Verdict::Refused, "root keys"},
-        Row{statement(Action::CreateKey, "Software\\K"), Verdict::Refused, "root keys"},
-        Row{statement(Action::CreateKey, "HKEY_CURRENT_USER\\a/b"), Verdict::Altered, "separates"},
-        Row{statement(Action::DeleteKey, "HKEY_CURRENT_USER\\K"), Verdict::Altered, "Deletes"},
-        Row{statement(Action::DeleteKey, "HKEY_CURRENT_USER"), Verdict::Refused, "root key"}));
+        Row{statement(Action::CreateKey, "HKEY_CURRENT_USER\\K"), Outcome::Done, ""},
+        Row{statement(Action::CreateKey, "hkey_users\\K"), Outcome::Done, ""},
+        Row{statement(Action::CreateKey, "HKEY_CURRENT_CONFIG\\K"), Outcome::Refused, "root keys"},
+        Row{statement(Action::CreateKey, "Software\\K"), Outcome::Refused, "root keys"},
+        Row{statement(Action::CreateKey, "HKEY_CURRENT_USER\\a/b"), Outcome::Altered, "separates"},
+        Row{statement(Action::DeleteKey, "HKEY_CURRENT_USER\\K"), Outcome::Altered, "Deletes"},
+        Row{statement(Action::DeleteKey, "HKEY_CURRENT_USER"), Outcome::Refused, "root key"}));
 
 INSTANTIATE_TEST_SUITE_P(
     OfAName, Statement,
     testing::Values(
-        Row{value(REG_DWORD, "01000000", ""), Verdict::Refused, "default value"},
-        Row{value(REG_DWORD, "01000000", "a\\b"), Verdict::Altered, "sub-key"},
-        Row{value(REG_DWORD, "01000000", "v", "HKEY_CURRENT_USER"), Verdict::Altered, "own name"},
-        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER", "v"), Verdict::Altered,
+        Row{value(REG_DWORD, "01000000", ""), Outcome::Refused, "default value"},
+        Row{value(REG_DWORD, "01000000", "a\\b"), Outcome::Altered, "sub-key"},
+        Row{value(REG_DWORD, "01000000", "v", "HKEY_CURRENT_USER"), Outcome::Altered, "own name"},
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER", "v"), Outcome::Altered,
             "everything in it"},
-        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", ""), Verdict::Refused,
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", ""), Outcome::Refused,
             "default value"},
-        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "v"), Verdict::Done, ""},
-        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "a\\b"), Verdict::Altered,
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "v"), Outcome::Done, ""},
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "a\\b"), Outcome::Altered,
             "lead to a value of a sub-key"},
-        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "\\"), Verdict::Refused,
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER\\K", "\\"), Outcome::Refused,
             "separators alone"},
-        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER", "/\\"), Verdict::Refused,
+        Row{statement(Action::DeleteValue, "HKEY_CURRENT_USER", "/\\"), Outcome::Refused,
             "separators alone"},
-        Row{value(REG_DWORD, "01000000", "\\"), Verdict::Refused, "separators alone"}));
+        Row{value(REG_DWORD, "01000000", "\\"), Outcome::Refused, "separators alone"}));
 
 INSTANTIATE_TEST_SUITE_P(
     OfAType, Statement,
-    testing::Values(Row{value(REG_SZ, ""), Verdict::Done, ""},
-                    Row{value(REG_BINARY, "00"), Verdict::Done, ""},
-                    Row{value(REG_BINARY, ""), Verdict::Refused, "without a byte"},
-                    Row{value(REG_DWORD, "ffffff7f"), Verdict::Done, ""},
-                    Row{value(REG_DWORD, "00000080"), Verdict::Altered, "read as 0"},
-                    Row{value(REG_DWORD, "0102"), Verdict::Altered, "first byte"},
-                    Row{value(REG_DWORD, ""), Verdict::Refused, "without a byte"},
-                    Row{value(REG_QWORD, "ff00000000000000"), Verdict::Done, ""},
-                    Row{value(REG_QWORD, "ff01000000000000"), Verdict::Altered, "511"},
-                    Row{value(REG_NONE, "01000000"), Verdict::Altered, "REG_DWORD"},
-                    Row{value(REG_EXPAND_SZ, "2500"), Verdict::Refused, "REG_EXPAND_SZ"},
-                    Row{value(REG_MULTI_SZ, "0000"), Verdict::Refused, "REG_MULTI_SZ"},
-                    Row{value(REG_DWORD_BIG_ENDIAN, "00000001"), Verdict::Refused, "BIG_ENDIAN"},
-                    Row{value(REG_RESOURCE_LIST, "00"), Verdict::Refused, "REG_RESOURCE_LIST"},
-                    Row{value(12, "00"), Verdict::Refused, "12"}));
+    testing::Values(Row{value(REG_SZ, ""), Outcome::Done, ""},
+                    Row{value(REG_BINARY, "00"), Outcome::Done, ""},
+                    Row{value(REG_BINARY, ""), Outcome::Refused, "without a byte"},
+                    Row{value(REG_DWORD, "ffffff7f"), Outcome::Done, ""},
+                    Row{value(REG_DWORD, "00000080"), Outcome::Altered, "read as 0"},
+                    Row{value(REG_DWORD, "0102"), Outcome::Altered, "first byte"},
+                    Row{value(REG_DWORD, ""), Outcome::Refused, "without a byte"},
+                    Row{value(REG_QWORD, "ff00000000000000"), Outcome::Done, ""},
+                    Row{value(REG_QWORD, "ff01000000000000"), Outcome::Altered, "511"},
+                    Row{value(REG_NONE, "01000000"), Outcome::Altered, "REG_DWORD"},
+                    Row{value(REG_EXPAND_SZ, "2500"), Outcome::Refused, "REG_EXPAND_SZ"},
+                    Row{value(REG_MULTI_SZ, "0000"), Outcome::Refused, "REG_MULTI_SZ"},
+                    Row{value(REG_DWORD_BIG_ENDIAN, "00000001"), Outcome::Refused, "BIG_ENDIAN"},
+                    Row{value(REG_RESOURCE_LIST, "00"), Outcome::Refused, "REG_RESOURCE_LIST"},
+                    Row{value(12, "00"), Outcome::Refused, "12"}));
 
 class StatementOnTwins : public RegistryTest
 {
@@ -112,7 +113,7 @@ protected:
         store("A/twin", "1$1");
         store("A/twin/inside", "1$1");
         store("A/key/inside", "1$1");
-        return RegistryImport::judged(statement(action, key, name)).remark.toStdString();
+        return ImportCheck(statement(action, key, name)).remark().toStdString();
     }
 };
 
@@ -151,9 +152,9 @@ TEST(ImportCheck, PassesOnWhatTheReaderFound)
 {
     RegFileEntry entry;
     entry.problem = "nonsense";
-    const RegistryImport::Item item = RegistryImport::judged(entry);
-    EXPECT_EQ(item.verdict, Verdict::Refused);
-    EXPECT_EQ(item.remark.toStdString(), "nonsense");
+    const ImportCheck check(entry);
+    EXPECT_EQ(check.outcome(), Outcome::Refused);
+    EXPECT_EQ(check.remark().toStdString(), "nonsense");
 }
 
 } // namespace

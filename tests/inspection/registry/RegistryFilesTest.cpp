@@ -1,7 +1,8 @@
 #include "host/HostLibraries.h"
-#include "inspection/registry/RegistryExport.h"
-#include "inspection/registry/RegistryImport.h"
-#include "inspection/registry/RegistryRemoval.h"
+#include "inspection/registry/RegistryApplyJob.h"
+#include "inspection/registry/RegistryExportJob.h"
+#include "inspection/registry/RegistryImportJob.h"
+#include "inspection/registry/RegistryRemovalJob.h"
 #include "inspection/registry/StoreSaveBlocker.h"
 #include "regfile/RegFileDecoder.h"
 #include "regfile/RegFileText.h"
@@ -22,7 +23,7 @@ protected:
 
     QString exported(const QString& path, RegFileWriter::Encoding encoding)
     {
-        RegistryExport task(path, file(), encoding);
+        RegistryExportJob task(path, file(), encoding);
         while (task.step()) {
         }
         m_leftOut = task.leftOut();
@@ -39,20 +40,27 @@ protected:
     {
         QFile input(file());
         ASSERT_TRUE(input.open(QIODevice::ReadOnly));
-        RegistryImport task(input.readAll());
-        while (task.read()) {
+        RegistryImportJob task(input.readAll());
+        while (task.step()) {
         }
-        EXPECT_EQ(task.count(RegistryImport::Verdict::Refused), 0);
-        while (task.apply()) {
+        EXPECT_EQ(task.plan()->count(ImportPlan::Outcome::Refused), 0);
+        RegistryApplyJob apply(task.plan());
+        while (apply.step()) {
         }
+    }
+
+    static std::shared_ptr<const ImportPlan> read(const QString& body)
+    {
+        RegistryImportJob task((QString(regFileHeader) + "\n" + body).toUtf8());
+        while (task.step()) {
+        }
+        return task.plan();
     }
 
     static void import(const QString& body)
     {
-        RegistryImport task((QString(regFileHeader) + "\n" + body).toUtf8());
-        while (task.read()) {
-        }
-        while (task.apply()) {
+        RegistryApplyJob task(read(body));
+        while (task.step()) {
         }
         EXPECT_EQ(task.failed(), 0);
     }
@@ -94,6 +102,19 @@ TEST_F(RegistryFiles, ExportLeavesOutWhatNoHostLibraryReads)
     EXPECT_TRUE(text.contains("\"good\"=dword:00000001"));
 }
 
+TEST_F(RegistryFiles, ExportTellsTheServicesReasonForATagThatIsNoNumber)
+{
+    store("A/a", "x$1");
+    store("A/b", "1x$5");
+    store("A/c", "4294967297$7");
+    const QString text = exported("A", RegFileWriter::Encoding::Utf8);
+    EXPECT_EQ(m_leftOut, 3);
+    const QString refused = "; left out: \"%1\": Tag \"%2\" is refused";
+    EXPECT_TRUE(text.contains(refused.arg("a", "x"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(refused.arg("b", "1x"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(refused.arg("c", "4294967297"))) << text.toStdString();
+}
+
 TEST_F(RegistryFiles, ExportLeavesOutKeysThatTheFormatCannotName)
 {
     const struct
@@ -126,7 +147,7 @@ TEST_F(RegistryFiles, ExportLeavesAnOlderFileAloneUntilItIsComplete)
     old.write("old");
     old.close();
     {
-        RegistryExport task("", file(), RegFileWriter::Encoding::Utf8);
+        RegistryExportJob task("", file(), RegFileWriter::Encoding::Utf8);
         EXPECT_TRUE(task.step());
     }
     EXPECT_EQ(QFileInfo(file()).size(), 3);
@@ -134,7 +155,7 @@ TEST_F(RegistryFiles, ExportLeavesAnOlderFileAloneUntilItIsComplete)
 
 TEST_F(RegistryFiles, ExportTellsOfAFileThatCannotBeWritten)
 {
-    RegistryExport task("", m_folder.filePath("missing/x.reg"), RegFileWriter::Encoding::Utf8);
+    RegistryExportJob task("", m_folder.filePath("missing/x.reg"), RegFileWriter::Encoding::Utf8);
     EXPECT_FALSE(task.step());
     EXPECT_FALSE(task.commit());
     EXPECT_FALSE(task.error().isEmpty());
@@ -196,16 +217,14 @@ TEST_F(RegistryFiles, ImportDeletesALargeKeyInManySteps)
     store("A", "1$1");
     store("A/created", QVariant());
     store("AB/v", "1$1");
-    RegistryImport task((regFileHeader + "\n[-HKEY_CURRENT_USER\\A]\n").toUtf8());
-    while (task.read()) {
-    }
+    RegistryApplyJob task(read("[-HKEY_CURRENT_USER\\A]\n"));
     int steps = 0;
     while (task.applied() == 0) {
-        ASSERT_TRUE(task.apply());
+        ASSERT_TRUE(task.step());
         ++steps;
     }
     EXPECT_GT(steps, count);
-    EXPECT_FALSE(task.apply());
+    EXPECT_FALSE(task.step());
     EXPECT_EQ(task.failed(), 0);
     EXPECT_EQ(g_globalSettings->allKeys(), QStringList("AB/v"));
 }
@@ -224,7 +243,7 @@ TEST_F(RegistryFiles, RemovalTakesTheLowestFirstAndLeavesTheRest)
     store("A/B/v", "1$1");
     store("A/B/w", "1$1");
     store("AB/v", "1$1");
-    RegistryRemoval removal({"A", "A/B"});
+    RegistryRemovalJob removal({"A", "A/B"});
     for (int i = 0; i < 4; ++i)
         EXPECT_TRUE(removal.step());
     EXPECT_FALSE(holds("A/B/v"));
@@ -235,17 +254,17 @@ TEST_F(RegistryFiles, RemovalTakesTheLowestFirstAndLeavesTheRest)
     EXPECT_EQ(g_globalSettings->allKeys(), QStringList("AB/v"));
 }
 
-TEST_F(RegistryFiles, AHeldStoreSavesItselfOnceAtTheEnd)
+TEST_F(RegistryFiles, ABlockedStoreSavesItselfOnceAtTheEnd)
 {
     g_globalSettings->sync();
     QCoreApplication::sendPostedEvents();
     const auto saved = [] {
         QFile input(g_globalSettings->fileName());
-        return input.open(QIODevice::ReadOnly) && input.readAll().contains("held");
+        return input.open(QIODevice::ReadOnly) && input.readAll().contains("blocked");
     };
     {
-        const StoreSaveBlocker hold;
-        store("A/held", "1$1");
+        const StoreSaveBlocker blocker;
+        store("A/blocked", "1$1");
         QCoreApplication::processEvents();
         EXPECT_FALSE(saved());
     }

@@ -413,7 +413,7 @@ TEST_F(RegistryEditTest, TheDeleteButtonGoesByTheKeyboard)
     }
     ASSERT_TRUE(button);
     const auto press = [button](QWidget& view) {
-        view.setFocus();
+        focus(view);
         button->setFocus();
         QTest::mouseClick(button, Qt::LeftButton);
     };

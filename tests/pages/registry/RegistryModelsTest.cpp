@@ -1,16 +1,21 @@
 #include "host/HostLibraries.h"
+#include "inspection/registry/RegistryImportJob.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/RegistrySearch.h"
-#include "pages/registry/HitModel.h"
-#include "pages/registry/ImportModel.h"
+#include "inspection/registry/RegistrySearchJob.h"
+#include "pages/registry/FindPane.h"
+#include "pages/registry/ImportDialog.h"
 #include "pages/registry/RegistryTreeModel.h"
 #include "pages/registry/RegistryValueModel.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/inspection/registry/RegistryTest.h"
+#include "window/Page.h"
 
 #include <QAbstractItemModelTester>
+#include <QLineEdit>
 #include <QSettings>
+#include <QTableView>
+#include <QTest>
 
 namespace {
 
@@ -169,6 +174,11 @@ TEST_F(RegistryModels, ShowAValueAsTheServiceReadsIt)
         {"5$a$b", "REG_SZ", "a$b", "5$a$b"},
         {"1$4294967295", "REG_DWORD", "0 (0x00000000)", "1$4294967295"},
         {"3$1", "unreadable", "Tag 3 is refused", "3$1"},
+        {"x$1", "unreadable", "Tag \"x\" is refused: it is no number, or too large a one", "x$1"},
+        {"1x$5", "unreadable", "Tag \"1x\" is refused: it is no number, or too large a one",
+         "1x$5"},
+        {"4294967297$7", "unreadable",
+         "Tag \"4294967297\" is refused: it is no number, or too large a one", "4294967297$7"},
         {"plain", "unreadable", "No type tag before a \"$\"", "plain"},
         {QVariant(), "unreadable", "No value: the mark of a key that was created here", ""},
         {QStringList({"5$a", "b"}), "unreadable", "A list: the file has a comma without quotes",
@@ -201,8 +211,8 @@ TEST_F(RegistryModels, ShowAValueUnderARootWhereItIsAskedFor)
     ASSERT_EQ(m_values.rowCount(), 1);
     EXPECT_EQ(cell(0, Model::Name).toStdString(), "X");
     EXPECT_EQ(cell(0, Model::Data).toStdString(), "kept below");
-    EXPECT_EQ(m_values.value(0).place, Model::Place::UnderRoot);
-    EXPECT_TRUE(m_values.value(0).remark.contains("kept in the key \"X\""));
+    EXPECT_EQ(m_values.record(0).place(), ListedValue::Place::UnderRoot);
+    EXPECT_TRUE(m_values.record(0).remark().contains("kept in the key \"X\""));
 }
 
 TEST_F(RegistryModels, ShowAnEntryOfTheRootAsListedOnly)
@@ -210,10 +220,10 @@ TEST_F(RegistryModels, ShowAnEntryOfTheRootAsListedOnly)
     store("loose", "1$7");
     m_values.setPath("", *RegistryIndex::read());
     ASSERT_EQ(m_values.rowCount(), 1);
-    EXPECT_EQ(m_values.value(0).place, Model::Place::ListedAtRoot);
+    EXPECT_EQ(m_values.record(0).place(), ListedValue::Place::ListedAtRoot);
     EXPECT_EQ(cell(0, Model::Type).toStdString(), "REG_DWORD");
     EXPECT_EQ(cell(0, Model::Data).toStdString(), "7 (0x00000007)");
-    EXPECT_TRUE(m_values.value(0).remark.contains("Only listed"));
+    EXPECT_TRUE(m_values.record(0).remark().contains("Only listed"));
 }
 
 TEST_F(RegistryModels, TellNameAndPlaceWithoutReading)
@@ -223,11 +233,10 @@ TEST_F(RegistryModels, TellNameAndPlaceWithoutReading)
     m_tree.refresh();
     m_values.setPath("", m_tree.names());
     ASSERT_EQ(m_values.rowCount(), 2);
-    EXPECT_EQ(m_values.nameAndPlace(0).name.toStdString(), "X");
-    EXPECT_EQ(m_values.nameAndPlace(0).place, Model::Place::UnderRoot);
-    EXPECT_EQ(m_values.nameAndPlace(1).name.toStdString(), "loose");
-    EXPECT_EQ(m_values.nameAndPlace(1).place, Model::Place::ListedAtRoot);
-    EXPECT_TRUE(m_values.nameAndPlace(0).raw.isEmpty());
+    EXPECT_EQ(m_values.record(0).name().toStdString(), "X");
+    EXPECT_EQ(m_values.record(0).place(), ListedValue::Place::UnderRoot);
+    EXPECT_EQ(m_values.record(1).name().toStdString(), "loose");
+    EXPECT_EQ(m_values.record(1).place(), ListedValue::Place::ListedAtRoot);
     store("X/X", "5$new"); // what was read before would still be shown
     EXPECT_EQ(cell(0, Model::Data).toStdString(), "new");
 }
@@ -264,17 +273,18 @@ TEST_F(RegistryModels, ShowMarkupInToolTipsAsItStands)
     };
     EXPECT_EQ(tip(m_values, Model::Data), escaped);
     EXPECT_EQ(tip(m_values, Model::Name), "v");
-    HitModel hits;
-    hits.setHits({{"A", "v", markup}});
-    EXPECT_EQ(tip(hits, HitModel::Data), escaped);
-    RegistryImport import(
+    Page page;
+    FindPane pane(page);
+    pane.findChild<QLineEdit*>()->setText("bold");
+    QTest::keyClick(pane.findChild<QLineEdit*>(), Qt::Key_Return);
+    EXPECT_EQ(tip(*pane.findChild<QTableView*>()->model(), 2), escaped);
+    RegistryImportJob import(
         "Windows Registry Editor Version 5.00\n[HKEY_USERS\\A]\n\"<b>bold</b>\"=-\n");
-    while (import.read()) {
+    while (import.step()) {
     }
-    ImportModel statements(import);
-    statements.setOnlyRemarkable(false);
-    EXPECT_EQ(statements.index(1, ImportModel::Name).data(Qt::ToolTipRole).toString().toStdString(),
-              escaped);
+    const ImportDialog dialog("in.reg", import.plan(), nullptr);
+    const QModelIndex name = dialog.findChild<QTableView*>()->model()->index(1, 2);
+    EXPECT_EQ(name.data(Qt::ToolTipRole).toString().toStdString(), escaped);
 }
 
 TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
@@ -285,7 +295,7 @@ TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
     store("Other/none", "5$red");
     store("Other/broken", "blue");
     const auto found = [](bool names, bool data) {
-        RegistrySearch search("BLUE", "", names, data);
+        RegistrySearchJob search("BLUE", "", names, data);
         while (search.step()) {
         }
         QStringList hits;
@@ -308,7 +318,7 @@ TEST_F(RegistryModels, SearchAllBytesOfBinaryData)
     } rows[] = {{"ab cd", true}, {"ABCD", true},  {"d0abc", true}, {"0 ab", true},
                 {"bcd0", true},  {"cd0a", false}, {"bc", true},    {"cd00", false}};
     for (const auto& row : rows) {
-        RegistrySearch search(row.text, "", false, true);
+        RegistrySearchJob search(row.text, "", false, true);
         while (search.step()) {
         }
         EXPECT_EQ(!search.hits().empty(), row.found) << row.text;
@@ -318,7 +328,7 @@ TEST_F(RegistryModels, SearchAllBytesOfBinaryData)
 TEST_F(RegistryModels, SearchTheDataOfWhatTheRootLists)
 {
     store("loose", "5$blue");
-    RegistrySearch search("BLUE", "", false, true);
+    RegistrySearchJob search("BLUE", "", false, true);
     while (search.step()) {
     }
     ASSERT_EQ(search.hits().size(), 1U);
@@ -330,11 +340,11 @@ TEST_F(RegistryModels, EndASearchThatFindsTooMuch)
 {
     for (int i = 0; i < 1100; ++i)
         store(QString("k/v%1").arg(i), "1$1");
-    RegistrySearch search("v", "", true, false);
+    RegistrySearchJob search("v", "", true, false);
     while (search.step()) {
     }
     EXPECT_TRUE(search.isFull());
-    EXPECT_EQ(search.hits().size(), RegistrySearch::mostHits);
+    EXPECT_EQ(search.hits().size(), RegistrySearchJob::mostHits);
 }
 
 TEST(RegistryPath, ReadsWhatItShows)

@@ -118,10 +118,15 @@ QString RegistryPageFixture::words()
 }
 
 // A dialog that has just closed may still be the active window.
-void RegistryPageFixture::pressDelete(QWidget& view)
+void RegistryPageFixture::focus(QWidget& view)
 {
     view.activateWindow();
     view.setFocus();
     EXPECT_TRUE(QTest::qWaitFor([&view] { return view.isActiveWindow() && view.hasFocus(); }));
+}
+
+void RegistryPageFixture::pressDelete(QWidget& view)
+{
+    focus(view);
     QTest::keyClick(&view, Qt::Key_Delete);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/registry/RegistryPage.h"
+#include "pages/registry/RegistryTransfer.h"
 #include "tests/inspection/registry/RegistryTest.h"
 
 class QDialog;
@@ -19,6 +20,7 @@ protected:
     QString cell(int row, int column) const;
     /// The key that is selected, as the address line shows it.
     QString address() const;
+    RegistryTransfer& transfer() const { return *m_page.findChild<RegistryTransfer*>(); }
     QString status() const { return m_page.statusText(); }
 
     /// The entries of the menu of new things.
@@ -42,6 +44,8 @@ protected:
     static void reject();
     /// All words in the dialog that is open.
     static QString words();
+    /// Gives the keyboard to one of the views.
+    static void focus(QWidget& view);
     /// Presses Delete with the keyboard in one of the views.
     static void pressDelete(QWidget& view);
 

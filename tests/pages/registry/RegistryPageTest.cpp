@@ -14,6 +14,12 @@
 
 namespace {
 
+class EndlessJob : public Job
+{
+public:
+    bool step() override { return true; }
+};
+
 class RegistryPageTest : public RegistryPageFixture
 {
 protected:
@@ -194,7 +200,8 @@ TEST_F(RegistryPageTest, IsNotReadAnewWhileAJobRuns)
     store("A/v", "1$1");
     show();
     m_page.goTo("A");
-    m_page.startJob({"Endless", [] { return true; }, {}, {}});
+    m_page.startJob<EndlessJob>("Endless", std::make_unique<EndlessJob>(),
+                                [](EndlessJob& /*job*/, bool /*complete*/) {});
     store("A/w", "1$1");
     m_page.entered();
     EXPECT_EQ(table().model()->rowCount(), 1);

@@ -1,4 +1,3 @@
-#include "pages/registry/RegistryTransfer.h"
 #include "host/HostLibraries.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
 
@@ -33,9 +32,9 @@ protected:
 TEST_F(RegistryTransferTest, ImportShowsFirstWhatItWillDoAndRefuse)
 {
     show();
-    m_page.transfer().importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"good\"=dword:1\r\n"
-                                                  "\"large\"=hex(b):00,01,00,00,00,00,00,00\r\n"
-                                                  "\"multi\"=hex(7):00,00\r\n"));
+    transfer().importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"good\"=dword:1\r\n"
+                                           "\"large\"=hex(b):00,01,00,00,00,00,00,00\r\n"
+                                           "\"multi\"=hex(7):00,00\r\n"));
     EXPECT_TRUE(g_globalSettings->allKeys().isEmpty());
     EXPECT_EQ(dialog().findChild<QLabel*>()->text().toStdString(),
               "As written in the file: 2. Altered: 1. Refused: 1.");
@@ -55,7 +54,7 @@ TEST_F(RegistryTransferTest, ImportShowsFirstWhatItWillDoAndRefuse)
 TEST_F(RegistryTransferTest, ImportThatIsNotConfirmedWritesNothing)
 {
     show();
-    m_page.transfer().importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=dword:1\r\n"));
+    transfer().importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=dword:1\r\n"));
     reject();
     EXPECT_TRUE(g_globalSettings->allKeys().isEmpty());
 }
@@ -63,7 +62,7 @@ TEST_F(RegistryTransferTest, ImportThatIsNotConfirmedWritesNothing)
 TEST_F(RegistryTransferTest, ImportOfNothingButRefusalsCannotBeConfirmed)
 {
     show();
-    m_page.transfer().importFile(written(header + "garbage\r\n"));
+    transfer().importFile(written(header + "garbage\r\n"));
     EXPECT_FALSE(accept());
     reject();
 }
@@ -71,11 +70,11 @@ TEST_F(RegistryTransferTest, ImportOfNothingButRefusalsCannotBeConfirmed)
 TEST_F(RegistryTransferTest, AFileThatIsNoRegistryFileIsRefusedWithItsReason)
 {
     show();
-    m_page.transfer().importFile(written("REGEDIT4\r\n"));
+    transfer().importFile(written("REGEDIT4\r\n"));
     EXPECT_TRUE(status().contains("version 4")) << status().toStdString();
-    m_page.transfer().importFile(written("hello"));
+    transfer().importFile(written("hello"));
     EXPECT_TRUE(status().contains("does not begin with")) << status().toStdString();
-    m_page.transfer().importFile(m_folder.filePath("missing.reg"));
+    transfer().importFile(m_folder.filePath("missing.reg"));
     EXPECT_TRUE(status().contains("could not be read")) << status().toStdString();
 }
 
@@ -85,7 +84,7 @@ TEST_F(RegistryTransferTest, AFileThatIsTooLargeIsNotRead)
     const QString path = written(header);
     show();
     ASSERT_TRUE(QFile::resize(path, largest + 1));
-    m_page.transfer().importFile(path);
+    transfer().importFile(path);
     EXPECT_TRUE(status().endsWith("was not imported: it is larger than 32 MiB."))
         << status().toStdString();
     EXPECT_FALSE(QApplication::activeModalWidget());
@@ -97,7 +96,7 @@ TEST_F(RegistryTransferTest, ALargeFileIsReadInManyTurnsOfTheEventLoop)
     const QByteArray large = comment.repeated(30 * 1024 * 1024 / comment.size());
     const QString path = written(header + large + "[HKEY_CURRENT_USER\\A]\r\n");
     show();
-    m_page.transfer().importFile(path);
+    transfer().importFile(path);
     int turns = 0;
     for (; m_page.isBusy(); ++turns)
         QCoreApplication::processEvents();
@@ -109,7 +108,7 @@ TEST_F(RegistryTransferTest, ALargeFileIsReadInManyTurnsOfTheEventLoop)
 TEST_F(RegistryTransferTest, AFolderIsNoRegistryFile)
 {
     show();
-    m_page.transfer().importFile(m_folder.path());
+    transfer().importFile(m_folder.path());
     EXPECT_TRUE(status().endsWith("was not imported: it is not a regular file."))
         << status().toStdString();
 }
@@ -121,7 +120,7 @@ TEST_F(RegistryTransferTest, ExportWritesTheKeyAndCountsWhatItLeftOut)
     store("B/other", "1$1");
     show();
     const QString path = m_folder.filePath("out.reg");
-    m_page.transfer().exportKey("A", path, RegFileWriter::Encoding::Utf8);
+    transfer().exportKey("A", path, RegFileWriter::Encoding::Utf8);
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray text = file.readAll();
@@ -133,8 +132,7 @@ TEST_F(RegistryTransferTest, ExportWritesTheKeyAndCountsWhatItLeftOut)
 TEST_F(RegistryTransferTest, ExportSaysThatAFileCannotBeWritten)
 {
     show();
-    m_page.transfer().exportKey("", m_folder.filePath("no/out.reg"),
-                                RegFileWriter::Encoding::Utf16);
+    transfer().exportKey("", m_folder.filePath("no/out.reg"), RegFileWriter::Encoding::Utf16);
     EXPECT_TRUE(status().contains("could not be written")) << status().toStdString();
 }
 
@@ -144,7 +142,7 @@ TEST_F(RegistryTransferTest, CancellingAnExportLeavesNoFile)
         store(QString("A/v%1").arg(i), "5$some text that takes its time to write");
     show();
     const QString path = m_folder.filePath("out.reg");
-    m_page.transfer().exportKey("A", path, RegFileWriter::Encoding::Utf16);
+    transfer().exportKey("A", path, RegFileWriter::Encoding::Utf16);
     ASSERT_TRUE(m_page.isBusy());
     m_page.cancelJob();
     EXPECT_FALSE(QFile::exists(path));

@@ -1,5 +1,4 @@
 #include "host/HostLibraries.h"
-#include "pages/registry/RegistryTransfer.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
 
 #include <QDir>
@@ -82,7 +81,7 @@ TEST_F(UnwritableStoreTest, IsToldAfterAnImport)
         "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n\"v\"=dword:1\r\n");
     file.close();
     show();
-    m_page.transfer().importFile(file.fileName());
+    transfer().importFile(file.fileName());
     ASSERT_TRUE(accept());
     expectTold("Imported " + file.fileName() + ". Statements carried out: 2. Refused: 0. ");
 }

@@ -1,0 +1,54 @@
+#include "inspection/registry/RawStore.h"
+
+#include "host/HostLibraries.h"
+
+RawStore::RawStore(const QString& group) : m_store(g_globalSettings)
+{
+    if (m_store)
+        m_group.emplace(*m_store, group);
+}
+
+bool RawStore::exists()
+{
+    return g_globalSettings != nullptr;
+}
+
+QString RawStore::fileName()
+{
+    return g_globalSettings ? g_globalSettings->fileName() : QString();
+}
+
+bool RawStore::isWritable()
+{
+    return g_globalSettings && g_globalSettings->isWritable();
+}
+
+QObject* RawStore::receiver()
+{
+    return g_globalSettings;
+}
+
+QStringList RawStore::allEntries() const
+{
+    return m_store ? m_store->allKeys() : QStringList();
+}
+
+QStringList RawStore::entries() const
+{
+    return m_store ? m_store->childKeys() : QStringList();
+}
+
+bool RawStore::isEmpty() const
+{
+    return !m_store || (m_store->childKeys().isEmpty() && m_store->childGroups().isEmpty());
+}
+
+bool RawStore::contains(const QString& name) const
+{
+    return m_store && m_store->contains(name);
+}
+
+QVariant RawStore::value(const QString& name) const
+{
+    return m_store ? m_store->value(name) : QVariant();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/registry/GroupScope.h"
+
+#include <QStringList>
+#include <QVariant>
+
+#include <optional>
+
+/// One group of the host library's settings store as it stands there, past the registry service:
+/// what is shown of it is marked as raw. Nothing else of the window or the tools reads the store.
+///
+/// Without a store every group is empty. While one lives, no registry call may be made: the calls
+/// would begin in the group that it has entered.
+class RawStore
+{
+public:
+    /// Enters a group, levels separated by "/"; the empty one is the whole store.
+    explicit RawStore(const QString& group = {});
+
+    RawStore(const RawStore&) = delete;
+    RawStore& operator=(const RawStore&) = delete;
+
+    /// True when the host library has set up a store.
+    static bool exists();
+    /// The store's file; empty without a store.
+    static QString fileName();
+    /// What QSettings knows of its right to write the file; false without a store.
+    static bool isWritable();
+    /// The object that gets the store's events; null without a store. Owned by the host library.
+    static QObject* receiver();
+
+    /// Names of all entries below the group, with their levels, sorted.
+    QStringList allEntries() const;
+    /// Names of the entries right in the group.
+    QStringList entries() const;
+    /// True when the group has neither entries nor groups.
+    bool isEmpty() const;
+    /// True when there is an entry of this name, with or without a value.
+    bool contains(const QString& name) const;
+    /// What an entry holds; null where there is none, and for one without a value.
+    QVariant value(const QString& name) const;
+
+private:
+    QSettings* m_store; ///< the host library's; may be null
+    std::optional<GroupScope> m_group;
+};

@@ -1,0 +1,22 @@
+#include "inspection/registry/RegistryImportJob.h"
+
+#include <QIODevice>
+#include <QLocale>
+
+RegistryImportJob::RegistryImportJob(std::unique_ptr<QIODevice> file) : m_reader(std::move(file)) {}
+
+RegistryImportJob::RegistryImportJob(const QByteArray& file) : m_reader(file) {}
+
+bool RegistryImportJob::step()
+{
+    RegFileEntry entry;
+    const RegFileReader::Step step = m_reader.next(entry);
+    if (step == RegFileReader::Step::Statement)
+        m_plan->add(entry);
+    return step != RegFileReader::Step::End;
+}
+
+QString RegistryImportJob::progress() const
+{
+    return QLocale().toString(static_cast<qulonglong>(m_plan->statements().size()));
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "inspection/Job.h"
+#include "inspection/registry/ImportPlan.h"
+#include "regfile/RegFileReader.h"
+
+#include <memory>
+
+/// Reads a registry file into a plan of what importing it will do. Writes nothing: RegistryApplyJob
+/// carries the plan out.
+class RegistryImportJob : public Job
+{
+public:
+    /// `file` is open for reading.
+    explicit RegistryImportJob(std::unique_ptr<QIODevice> file);
+    /// A file that is in memory already, as those of the tests are.
+    explicit RegistryImportJob(const QByteArray& file);
+
+    /// Reads one statement or a small piece of the file.
+    bool step() override;
+    /// The number of statements read.
+    QString progress() const override;
+
+    /// Why the whole file is refused, in words; empty when it can be read, as far as it is known
+    /// yet.
+    QString error() const { return m_reader.error(); }
+    /// Shared with who shows it and who carries it out; complete once the job is done.
+    std::shared_ptr<const ImportPlan> plan() const { return m_plan; }
+
+private:
+    RegFileReader m_reader;
+    std::shared_ptr<ImportPlan> m_plan = std::make_shared<ImportPlan>();
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "inspection/Job.h"
+#include "inspection/registry/RegistryKey.h"
+#include "inspection/registry/StoreSaveBlocker.h"
+
+#include <QStringList>
+
+#include <memory>
+
+/// Deletes keys value by value, the lowest first. Cancelled half-way it leaves what it has not
+/// reached. The store saves itself when the job is destroyed, not before.
+class RegistryRemovalJob : public Job
+{
+public:
+    /// A key and all keys below it, each before those below, as RegistryWalk visits them.
+    explicit RegistryRemovalJob(const QStringList& keys);
+
+    bool step() override;
+    /// The number of values deleted.
+    QString progress() const override;
+
+    int values() const { return m_removed; }
+    /// False where the service has refused to delete a key.
+    bool succeeded() const { return m_succeeded; }
+
+private:
+    void openLast();
+
+    StoreSaveBlocker m_blocker;
+    QStringList m_keys;
+    QStringList m_values; ///< of the last key
+    std::unique_ptr<RegistryKey> m_key;
+    int m_removed = 0;
+    bool m_succeeded = true;
+};

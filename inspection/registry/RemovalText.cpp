@@ -1,0 +1,66 @@
+#include "inspection/registry/RemovalText.h"
+
+#include "inspection/registry/RegistryListing.h"
+#include "inspection/registry/RegistryPath.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace {
+
+using Value = ValueRemovalJob::Value;
+
+struct RemovalTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(RemovalText)
+};
+
+constexpr std::size_t mostNamed = 10;
+
+QString namesOf(const std::vector<Value>& values)
+{
+    QStringList lines;
+    for (std::size_t i = 0; i < values.size() && i < mostNamed; ++i)
+        lines.append(values[i].name);
+    if (values.size() > mostNamed)
+        lines.append(RemovalTexts::tr("and %1 more").arg(values.size() - mostNamed));
+    return lines.join(QLatin1Char('\n'));
+}
+
+// The service deletes a key of the same name along with a value; the mark of a created key is all
+// that there is of that key.
+QStringList keysAlong(const std::vector<Value>& values)
+{
+    QStringList keys;
+    for (const Value& value : values) {
+        const QString key = RegistryPath::join(value.key, value.name);
+        if (keys.size() < static_cast<int>(mostNamed) && isRegistryKey(key))
+            keys.append(RegistryPath::shown(key));
+    }
+    return keys;
+}
+
+} // namespace
+
+QString RemovalText::ofValues(const std::vector<Value>& values)
+{
+    const QStringList keys = keysAlong(values);
+    if (keys.isEmpty())
+        return namesOf(values);
+    return namesOf(values) + QStringLiteral("\n\n") +
+           RemovalTexts::tr("Keys of the same name go with everything in them:") +
+           QLatin1Char('\n') + keys.join(QLatin1Char('\n'));
+}
+
+QString RemovalText::ofKey(const QString& path, const RegistryCountJob& count)
+{
+    const QLocale locale;
+    const QString text =
+        RemovalTexts::tr("Keys below it that go with it: %1. Values: %2.")
+            .arg(locale.toString(count.keys().size() - 1), locale.toString(count.values()));
+    if (rawRegistryEntry(path).isNull())
+        return text;
+    return text + QLatin1Char('\n') +
+           RemovalTexts::tr("The value \"%1\" of %2 goes with it.")
+               .arg(RegistryPath::name(path), RegistryPath::shown(RegistryPath::parent(path)));
+}

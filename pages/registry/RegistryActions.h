@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QObject>
+
+class KeyTree;
+class ListedValue;
+class PageContext;
+class QAction;
+class QKeySequence;
+class QLayout;
+class QMenu;
+class QPushButton;
+class RegistryEditor;
+class RegistryRemover;
+class RegistryTransfer;
+class ValueTable;
+
+/// What can be done with the key that is selected and with its values: the actions of the two
+/// views and the buttons that do the same.
+class RegistryActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Dialogs open over `window`, which owns this object too. The views outlive it.
+    RegistryActions(PageContext& page, KeyTree& tree, ValueTable& table, QWidget* window);
+
+    QPushButton* makeCopyButton() const;
+    QLayout* makeButtons();
+
+signals:
+    /// The store has changed; this key, and this value of it unless empty, is to be looked at.
+    void changed(const QString& path, const QString& name);
+    /// What the views show is no longer what the store has.
+    void outdated();
+    void searchRequested();
+
+private:
+    void makeActions();
+    QAction* add(QWidget& view, const QString& text, void (RegistryActions::*slot)());
+    QMenu* makeNewMenu();
+    void enable(bool anySelected);
+    void rememberView(const QWidget* before, QWidget* now);
+    void editValue();
+    void removeChosen();
+    void removeValues();
+    void removeKey();
+    void copyPath();
+    void copyData();
+    void exportKey();
+    void importFile();
+    bool isKeyThere();
+    void reportGone(const QString& what);
+
+    PageContext& m_page;
+    KeyTree& m_tree;
+    ValueTable& m_table;
+    QWidget* m_window;
+    RegistryEditor* m_editor;
+    RegistryRemover* m_remover;
+    RegistryTransfer* m_transfer;
+    QWidget* m_lastView = nullptr; ///< the view that had the keyboard last
+    QMenu* m_newMenu = nullptr;
+    QAction* m_edit = nullptr;
+    QAction* m_removeValue = nullptr;
+    QAction* m_copyPath = nullptr;
+    QAction* m_copyData = nullptr;
+    QAction* m_export = nullptr;
+    QAction* m_import = nullptr;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "inspection/registry/ValueRemovalJob.h"
+
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+class ListedValue;
+class PageContext;
+class QWidget;
+class RegistryCountJob;
+
+/// Deletes keys and values: asks first, saying what goes along, then deletes through the service.
+class RegistryRemover : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Questions open over `window`, which owns this object too.
+    RegistryRemover(PageContext& page, QWidget* window);
+
+    /// Asks once for all. Does not read the values.
+    void removeValues(const QString& path, const std::vector<ListedValue>& values);
+    /// Counts what goes with the key before it asks.
+    void removeKey(const QString& path);
+
+signals:
+    /// The store has changed; this key is to be looked at.
+    void changed(const QString& path);
+
+private:
+    using Values = std::vector<ValueRemovalJob::Value>;
+
+    void ask(const QString& question, const QString& detail,
+             const std::function<void()>& confirmed);
+    void removeAll(const QString& path, const Values& values);
+    void confirmKey(const QString& path, const RegistryCountJob& count);
+    void removeKeys(const QString& path, const QStringList& keys);
+
+    PageContext& m_page;
+    QWidget* m_window;
+};
