@@ -19,6 +19,8 @@ QString groupAt(const QByteArray& text, int start)
 
 StoreOpeningJob::StoreOpeningJob()
 {
+    if (!RawStore::exists())
+        return;
     QFile file(RawStore::fileName());
     if (!file.open(QIODevice::ReadOnly))
         return;

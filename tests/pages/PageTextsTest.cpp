@@ -127,9 +127,9 @@ TEST(PageTexts, NullIsNotTranslated)
     const std::pair<const char*, const char*> rows[] = {
         {"FindWindowPanel", "null"},
         {"FindWindowPanel", "null: no window was found"},
-        {"CursorPanel", "null: none is set"},
+        {"CursorShapes", "null: none is set"},
         {"CursorPanel", "SetCursor with null changes nothing."},
-        {"PointPanel", "The monitor that holds the point, else null."},
+        {"MonitorQuery", "The monitor that holds the point, else null."},
         {"DecryptionNote",
          "DecryptionAES_Export gives null: its result holds at most %L1 bytes. This "
          "is what Encrypt::DecryptionAES gives."},
