@@ -15,7 +15,7 @@ public:
     StoreOpeningJob();
 
     /// The top-level groups that have a section in the file; the empty one holds what stands in
-    /// none.
+    /// none. For tests: which sections QSettings has parsed cannot be asked.
     const QStringList& sections() const { return m_sections; }
 
     /// Has the next section parsed.
