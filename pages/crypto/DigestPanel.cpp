@@ -90,7 +90,7 @@ void DigestPanel::digest()
     if (!job)
         return;
     const QString name = m_source->description();
-    m_context.startJob<DigestJob>(
+    m_context.startJob(
         tr("Digesting"), std::move(job),
         [this, name](DigestJob& done, bool complete) { showResult(name, done, complete); });
 }

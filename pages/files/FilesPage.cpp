@@ -160,12 +160,12 @@ void FilesPage::search()
     }
     m_searched = m_pattern->text();
     m_entries->setRecords({});
-    startJob<FileSearchJob>(
-        tr("Searching %1").arg(m_searched),
-        std::make_unique<FileSearchJob>(
-            m_searched,
-            [this](std::vector<FoundEntry> entries) { m_entries->append(std::move(entries)); }),
-        [this](const FileSearchJob& job, bool complete) { finish(job, complete); });
+    startJob(tr("Searching %1").arg(m_searched),
+             std::make_unique<FileSearchJob>(m_searched,
+                                             [this](std::vector<FoundEntry> entries) {
+                                                 m_entries->append(std::move(entries));
+                                             }),
+             [this](const FileSearchJob& job, bool complete) { finish(job, complete); });
 }
 
 void FilesPage::finish(const FileSearchJob& job, bool complete)

@@ -193,9 +193,8 @@ void FontsPage::registerSystemFonts()
 {
     if (isBusy())
         return;
-    startJob<FontRegistrationJob>(
-        tr("Registering the system's fonts"), std::make_unique<FontRegistrationJob>(),
-        [this](const FontRegistrationJob& job, bool complete) { finish(job, complete); });
+    startJob(tr("Registering the system's fonts"), std::make_unique<FontRegistrationJob>(),
+             [this](const FontRegistrationJob& job, bool complete) { finish(job, complete); });
 }
 
 void FontsPage::finish(const FontRegistrationJob& job, bool complete)

@@ -125,8 +125,8 @@ QLayout* LogPage::makeFooter()
 
 void LogPage::refresh()
 {
-    startJob<LogReadingJob>(tr("Reading the log"), std::make_unique<LogReadingJob>(m_reader),
-                            [this](LogReadingJob&, bool) { showCount(); });
+    startJob(tr("Reading the log"), std::make_unique<LogReadingJob>(m_reader),
+             [this](LogReadingJob&, bool) { showCount(); });
 }
 
 void LogPage::find()
@@ -163,13 +163,12 @@ void LogPage::saveAs(const QString& path)
 {
     if (isLog(path))
         return report(Report::Error, tr("%1 was not written: this is the log itself.").arg(path));
-    startJob<LogSavingJob>(
-        tr("Saving"),
-        std::make_unique<LogSavingJob>(path, m_filter->rowCount(),
-                                       [this](int row) { return m_filter->entry(row).line; }),
-        [this, path](const LogSavingJob& job, bool complete) {
-            reportSaving(job, path, complete);
-        });
+    startJob(tr("Saving"),
+             std::make_unique<LogSavingJob>(path, m_filter->rowCount(),
+                                            [this](int row) { return m_filter->entry(row).line; }),
+             [this, path](const LogSavingJob& job, bool complete) {
+                 reportSaving(job, path, complete);
+             });
 }
 
 void LogPage::reportSaving(const LogSavingJob& job, const QString& file, bool complete)

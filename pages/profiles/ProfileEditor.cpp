@@ -30,14 +30,14 @@ void ProfileEditor::write(const Request& request)
 
 void ProfileEditor::tryOut(const Request& request)
 {
-    m_page.startJob<ProfileDryRun>(tr("Trying the change on a copy"),
-                                   std::make_unique<ProfileDryRun>(request.path, request.change),
-                                   [this, request](const ProfileDryRun& dryRun, bool complete) {
-                                       if (complete)
-                                           decide(request, dryRun);
-                                       else
-                                           m_page.setStatus(tr("Nothing written."));
-                                   });
+    m_page.startJob(tr("Trying the change on a copy"),
+                    std::make_unique<ProfileDryRun>(request.path, request.change),
+                    [this, request](const ProfileDryRun& dryRun, bool complete) {
+                        if (complete)
+                            decide(request, dryRun);
+                        else
+                            m_page.setStatus(tr("Nothing written."));
+                    });
 }
 
 void ProfileEditor::decide(const Request& request, const ProfileDryRun& dryRun)
@@ -82,11 +82,11 @@ void ProfileEditor::writeNow(const Request& request)
             return;
         }
     }
-    m_page.startJob<ProfileWritingJob>(
-        tr("Writing"), std::make_unique<ProfileWritingJob>(request.path, request.change),
-        [this, request, backup](const ProfileWritingJob& job, bool complete) {
-            finish(request, job, backup, complete);
-        });
+    m_page.startJob(tr("Writing"),
+                    std::make_unique<ProfileWritingJob>(request.path, request.change),
+                    [this, request, backup](const ProfileWritingJob& job, bool complete) {
+                        finish(request, job, backup, complete);
+                    });
 }
 
 // A job that was cancelled may have written all the same.

@@ -224,10 +224,9 @@ void ProfilesPage::read(const QString& path)
     ProfileReadingJob::Receiver receiver{
         [this](ProfileDocument document) { showDocument(std::move(document)); },
         [this](ProfileReading reading) { addReading(std::move(reading)); }};
-    startJob<ProfileReadingJob>(
-        tr("Reading through both families"),
-        std::make_unique<ProfileReadingJob>(path, std::move(receiver)),
-        [this](const ProfileReadingJob& job, bool complete) { finish(job, complete); });
+    startJob(tr("Reading through both families"),
+             std::make_unique<ProfileReadingJob>(path, std::move(receiver)),
+             [this](const ProfileReadingJob& job, bool complete) { finish(job, complete); });
 }
 
 void ProfilesPage::showDocument(ProfileDocument document)

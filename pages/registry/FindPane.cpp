@@ -114,11 +114,10 @@ void FindPane::search()
 
 void FindPane::start()
 {
-    m_page.startJob<RegistrySearchJob>(
-        tr("Searching"),
-        std::make_unique<RegistrySearchJob>(m_text->text(), QString(), m_inNames->isChecked(),
-                                            m_inData->isChecked()),
-        [this](RegistrySearchJob& job, bool complete) { showFound(job, complete); });
+    m_page.startJob(tr("Searching"),
+                    std::make_unique<RegistrySearchJob>(
+                        m_text->text(), QString(), m_inNames->isChecked(), m_inData->isChecked()),
+                    [this](RegistrySearchJob& job, bool complete) { showFound(job, complete); });
 }
 
 void FindPane::showFound(const RegistrySearchJob& search, bool complete)

@@ -71,8 +71,7 @@ void RegistryRemover::removeAll(const QString& path, const Values& values)
                      tr("Deleted from %1: %2.")
                          .arg(RegistryPath::shown(path), deletedText(first, job.removed())));
     };
-    m_page.startJob<ValueRemovalJob>(tr("Deleting"), std::make_unique<ValueRemovalJob>(values),
-                                     finished);
+    m_page.startJob(tr("Deleting"), std::make_unique<ValueRemovalJob>(values), finished);
 }
 
 void RegistryRemover::removeKey(const QString& path)
@@ -87,8 +86,7 @@ void RegistryRemover::removeKey(const QString& path)
         else
             m_page.setStatus(tr("Cancelled: nothing was deleted."));
     };
-    m_page.startJob<RegistryCountJob>(tr("Counting what goes"),
-                                      std::make_unique<RegistryCountJob>(path), finished);
+    m_page.startJob(tr("Counting what goes"), std::make_unique<RegistryCountJob>(path), finished);
 }
 
 void RegistryRemover::confirmKey(const QString& path, const RegistryCountJob& count)
@@ -108,6 +106,5 @@ void RegistryRemover::removeKeys(const QString& path, const QStringList& keys)
         reportChange(m_page, whole ? Report::Info : Report::Warning,
                      text.arg(RegistryPath::shown(path)));
     };
-    m_page.startJob<RegistryRemovalJob>(tr("Deleting"), std::make_unique<RegistryRemovalJob>(keys),
-                                        finished);
+    m_page.startJob(tr("Deleting"), std::make_unique<RegistryRemovalJob>(keys), finished);
 }

@@ -64,7 +64,7 @@ void RegistryTransfer::askExport(const QString& path)
 
 void RegistryTransfer::exportKey(const QString& path, const QString& file, Encoding encoding)
 {
-    m_page.startJob<RegistryExportJob>(
+    m_page.startJob(
         tr("Exporting"), std::make_unique<RegistryExportJob>(path, file, encoding),
         [this, file](RegistryExportJob& job, bool complete) { reportExport(job, file, complete); });
 }
@@ -105,7 +105,7 @@ void RegistryTransfer::importFile(const QString& file)
                       tr("%1 could not be read: %2").arg(file, input->errorString()));
         return;
     }
-    m_page.startJob<RegistryImportJob>(
+    m_page.startJob(
         tr("Reading the file"), std::make_unique<RegistryImportJob>(std::move(input)),
         [this, file](RegistryImportJob& job, bool complete) { endReading(job, file, complete); });
 }
@@ -136,12 +136,11 @@ void RegistryTransfer::preview(const QString& file, const std::shared_ptr<const 
 void RegistryTransfer::apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
 {
     const int refused = plan->count(ImportPlan::Outcome::Refused);
-    m_page.startJob<RegistryApplyJob>(tr("Importing"), std::make_unique<RegistryApplyJob>(plan),
-                                      [this, file, refused](RegistryApplyJob& job, bool complete) {
-                                          emit changed();
-                                          reportImport(file, job.applied(), refused + job.failed(),
-                                                       complete);
-                                      });
+    m_page.startJob(tr("Importing"), std::make_unique<RegistryApplyJob>(plan),
+                    [this, file, refused](RegistryApplyJob& job, bool complete) {
+                        emit changed();
+                        reportImport(file, job.applied(), refused + job.failed(), complete);
+                    });
 }
 
 void RegistryTransfer::reportImport(const QString& file, int applied, int refused, bool complete)

@@ -2,6 +2,7 @@
 #include "tests/inspection/fonts/FreshServices.h"
 #include "tests/pages/ShownToolTip.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/window/EndlessJob.h"
 
 #include <QComboBox>
 #include <QFontDatabase>
@@ -157,16 +158,9 @@ TEST_F(FontsPageTest, RegistersTheFontsOfTheSystem)
     EXPECT_TRUE(status().startsWith(QStringLiteral("Registered:")));
 }
 
-class EndlessJob : public Job
-{
-public:
-    bool step() override { return true; }
-};
-
 TEST_F(FontsPageTest, IsNotReadAnewWhileAJobRuns)
 {
-    m_probe.page().startJob<EndlessJob>("Endless", std::make_unique<EndlessJob>(),
-                                        [](EndlessJob&, bool) {});
+    m_probe.page().startJob("Endless", std::make_unique<EndlessJob>(), [](EndlessJob&, bool) {});
     add("Global", "Local", GB2312_CHARSET);
     m_probe.page().entered();
     EXPECT_EQ(model().rowCount(), 0);

@@ -1,6 +1,7 @@
 #include "host/HostLibraries.h"
 #include "pages/registry/RegistryValueModel.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
+#include "tests/window/EndlessJob.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -13,12 +14,6 @@
 #include <QTreeView>
 
 namespace {
-
-class EndlessJob : public Job
-{
-public:
-    bool step() override { return true; }
-};
 
 class RegistryPageTest : public RegistryPageFixture
 {
@@ -200,8 +195,8 @@ TEST_F(RegistryPageTest, IsNotReadAnewWhileAJobRuns)
     store("A/v", "1$1");
     show();
     m_page.goTo("A");
-    m_page.startJob<EndlessJob>("Endless", std::make_unique<EndlessJob>(),
-                                [](EndlessJob& /*job*/, bool /*complete*/) {});
+    m_page.startJob("Endless", std::make_unique<EndlessJob>(),
+                    [](EndlessJob& /*job*/, bool /*complete*/) {});
     store("A/w", "1$1");
     m_page.entered();
     EXPECT_EQ(table().model()->rowCount(), 1);
