@@ -33,12 +33,11 @@ protected:
 
 QTemporaryDir* SourceTree::folder = nullptr;
 
-TEST_F(SourceTree, ServesAProgramThatUsesTheDigests)
+TEST_F(SourceTree, ServesAProgramThatDecrypts)
 {
-    build("digest_consumer");
+    build("crypto_consumer");
     ASSERT_FALSE(HasFailure());
-    EXPECT_EQ("ungWv48Bz-pBQUDeXa4iI7ADYaOWF3qctBD_YfIAFa0\n",
-              outputOf(folder->filePath("digest_consumer"), {}));
+    EXPECT_EQ("plain text\n", outputOf(folder->filePath("crypto_consumer"), {}));
 }
 
 TEST_F(SourceTree, HasHeadersForAProgramThatUsesTheServices)
