@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr std::size_t AllHandles = 0xFFFF;
-constexpr int Rounds = 1000;
+constexpr std::size_t allHandles = 0xFFFF;
+constexpr int rounds = 1000;
 
 std::unique_ptr<QImage> plainImage()
 {
@@ -36,12 +36,12 @@ void fillImages(benchmark::State& state)
         state,
         [] {
             PlatformResourceManagerImp manager;
-            for (std::size_t i = 0; i < AllHandles; ++i)
+            for (std::size_t i = 0; i < allHandles; ++i)
                 image(manager);
         },
         [] {
             std::vector<std::unique_ptr<QImage>> images;
-            for (std::size_t i = 0; i < AllHandles; ++i)
+            for (std::size_t i = 0; i < allHandles; ++i)
                 images.push_back(plainImage());
         });
 }
@@ -53,12 +53,12 @@ void fillBrushes(benchmark::State& state)
         state,
         [] {
             PlatformResourceManagerImp manager;
-            for (unsigned int color = 0; color < AllHandles; ++color)
+            for (unsigned int color = 0; color < allHandles; ++color)
                 benchmark::DoNotOptimize(manager.createBrush(color));
         },
         [] {
             std::map<int, void*> brushes;
-            for (int handle = 1; handle <= static_cast<int>(AllHandles); ++handle)
+            for (int handle = 1; handle <= static_cast<int>(allHandles); ++handle)
                 brushes.emplace_hint(brushes.end(), handle, nullptr);
         });
 }
@@ -75,14 +75,14 @@ void refillBothEnds(benchmark::State& state)
     compare(
         state,
         [&] {
-            for (int round = 0; round < Rounds; ++round) {
+            for (int round = 0; round < rounds; ++round) {
                 manager.deleteObject(handles.front());
                 handles.front() = image(manager);
                 manager.deleteObject(image(manager));
             }
         },
         [] {
-            for (int round = 0; round < Rounds; ++round) {
+            for (int round = 0; round < rounds; ++round) {
                 benchmark::DoNotOptimize(plainImage());
                 benchmark::DoNotOptimize(plainImage());
             }
@@ -117,7 +117,7 @@ void refillGaps(benchmark::State& state)
 
 BENCHMARK(fillImages)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(fillBrushes)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(refillBothEnds)->Arg(1000)->Arg(AllHandles - 1)->UseManualTime();
-BENCHMARK(refillGaps)->Arg(4096)->Arg(AllHandles)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(refillBothEnds)->Arg(1000)->Arg(allHandles - 1)->UseManualTime();
+BENCHMARK(refillGaps)->Arg(4096)->Arg(allHandles)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -31,13 +31,13 @@ struct Buffers
     std::size_t blocks;
 };
 
-template <class Direction_, std::size_t Columns_>
+template <class Way, std::size_t Count>
 class Cipher
 {
 public:
-    using Direction = Direction_;
-    using Block = State<Columns_>;
-    static constexpr std::size_t columns = Columns_;
+    using Direction = Way;
+    using Block = State<Count>;
+    static constexpr std::size_t columns = Count;
     static constexpr std::size_t size = 4 * columns;
 
     explicit Cipher(const Schedule& schedule)

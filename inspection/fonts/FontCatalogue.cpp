@@ -7,19 +7,19 @@
 
 namespace {
 
-template <std::size_t size>
-QString fromField(const wchar_t (&field)[size])
+template <std::size_t Size>
+QString fromField(const wchar_t (&field)[Size])
 {
     return QString::fromWCharArray(field,
-                                   static_cast<int>(std::find(field, field + size, L'\0') - field));
+                                   static_cast<int>(std::find(field, field + Size, L'\0') - field));
 }
 
 // Cuts the text where it does not fit; the field is terminated in any case.
-template <std::size_t size>
-void toField(wchar_t (&field)[size], const QString& text)
+template <std::size_t Size>
+void toField(wchar_t (&field)[Size], const QString& text)
 {
-    std::wcsncpy(field, text.toStdWString().c_str(), size - 1);
-    field[size - 1] = L'\0';
+    std::wcsncpy(field, text.toStdWString().c_str(), Size - 1);
+    field[Size - 1] = L'\0';
 }
 
 CStdStr<wchar_t> wide(const QString& text)

@@ -10,9 +10,30 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 namespace {
+
+// Arguments in the form in which `main` gets them, the program's name before them.
+class Arguments
+{
+public:
+    explicit Arguments(std::vector<QByteArray> texts) : m_texts(std::move(texts))
+    {
+        m_texts.insert(m_texts.begin(), "prog");
+        for (QByteArray& text : m_texts)
+            m_values.push_back(text.data());
+        m_values.push_back(nullptr);
+    }
+
+    int count() const { return static_cast<int>(m_texts.size()); }
+    char** values() { return m_values.data(); }
+
+private:
+    std::vector<QByteArray> m_texts;
+    std::vector<char*> m_values;
+};
 
 // What a program would do with these arguments, in a working directory of its own.
 class CommandLineTest : public testing::Test
@@ -31,15 +52,10 @@ protected:
         QDir::setCurrent(QDir::rootPath());
     }
 
-    void start(std::vector<QByteArray> arguments)
+    void start(std::vector<QByteArray> texts)
     {
-        arguments.insert(arguments.begin(), "prog");
-        std::vector<char*> argv;
-        for (QByteArray& argument : arguments)
-            argv.push_back(argument.data());
-        const int argc = static_cast<int>(argv.size());
-        argv.push_back(nullptr);
-        parseCommandLine(argc, argv.data(), appTranslator, qtTranslator);
+        Arguments arguments(std::move(texts));
+        parseCommandLine(arguments.count(), arguments.values(), appTranslator, qtTranslator);
     }
 
     void bringQtCatalogue() const
@@ -215,6 +231,29 @@ TEST_F(CommandLineTest, OtherLanguagesInstallNothing)
     EXPECT_FALSE(QCoreApplication::removeTranslator(&appTranslator));
     EXPECT_FALSE(QCoreApplication::removeTranslator(&qtTranslator));
     EXPECT_EQ(QStringLiteral("Cancel"), cancel());
+}
+
+struct PageOption
+{
+    std::vector<QByteArray> arguments;
+    const char* page;
+};
+
+TEST(RequestedPage, FollowsTheGrammarOfPairs)
+{
+    const PageOption rows[] = {{{"/page", "log"}, "log"},
+                               {{"/language", "zh-CN", "/page", "files"}, "files"},
+                               {{"/page", "log", "/page", "input"}, "input"},
+                               {{"/page"}, ""},
+                               {{"/page", "log", "/x"}, ""},
+                               {{"page", "log"}, ""},
+                               {{"/PAGE", "log"}, ""},
+                               {{"/x", "/page"}, ""},
+                               {{}, ""}};
+    for (const PageOption& row : rows) {
+        Arguments arguments(row.arguments);
+        EXPECT_EQ(requestedPage(arguments.count(), arguments.values()).toStdString(), row.page);
+    }
 }
 
 } // namespace

@@ -1,9 +1,12 @@
 // The tree that installation leaves, seen by one who compiles against it and by one who starts it.
 
+#include "tests/cmake/ChildOutput.h"
+#include "window/PageCatalogue.h"
+
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -11,16 +14,34 @@
 
 namespace {
 
-QString outputOf(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished(300000));
-    const QString output = QString::fromUtf8(process.readAll());
-    EXPECT_EQ(0, process.exitCode()) << output.toStdString();
-    return output;
-}
+// The headers that others compile against. A further one is a promise to keep it.
+const QStringList publicHeaders = {
+    "app/CStdStr.h",
+    "app/CommandLine.h",
+    "app/Logger.h",
+    "app/TextTime.h",
+    "crypto/AesEncrypt.h",
+    "crypto/Base64Encoder.h",
+    "crypto/Encrypt.h",
+    "crypto/MD5.h",
+    "crypto/Sha256.h",
+    "host/HostLibraries.h",
+    "platform/IPlatformServices.h",
+    "platform/PlatformCursorManagerImp.h",
+    "platform/PlatformDirectoryManagerImp.h",
+    "platform/PlatformFontManagerImp.h",
+    "platform/PlatformMessageManagerImp.h",
+    "platform/PlatformProfileManagerImp.h",
+    "platform/PlatformRegisterManagerImp.h",
+    "platform/PlatformResourceManagerImp.h",
+    "platform/PlatformServicesImp.h",
+    "platform/PlatformUserInputManagerImp.h",
+    "platform/WindowsTypes.h",
+    "widgets/ButtonMonitor.h",
+    "widgets/QAnimationStackedWidget.h",
+    "widgets/QProgressIndicator.h",
+    "window/MainWindow.h",
+};
 
 class InstalledTree : public testing::Test
 {
@@ -32,20 +53,56 @@ protected:
     }
     static void TearDownTestSuite() { delete folder; }
     static QString prefix() { return folder->filePath("prefix"); }
+    static QString headerFolder() { return prefix() + "/" QUAYSIDE_INCLUDE_FOLDER "/quayside"; }
+    static QString consumerFolder() { return folder->filePath("consumer"); }
+
+    // Builds a target of the programs that know the tree alone.
+    static bool consumerBuilds(const QString& target)
+    {
+        outputOf("cmake", {"-S", QUAYSIDE_CONSUMER_FOLDER, "-B", consumerFolder(), "-G", "Ninja",
+                           "-DCMAKE_PREFIX_PATH=" + prefix(),
+                           "-DCONSUMER_HEADERS=" + publicHeaders.join(';')});
+        outputOf("cmake", {"--build", consumerFolder(), "--target", target});
+        return !HasFailure();
+    }
 
     static QTemporaryDir* folder;
 };
 
 QTemporaryDir* InstalledTree::folder = nullptr;
 
-TEST_F(InstalledTree, ServesAProgramThatCompilesAgainstIt)
+TEST_F(InstalledTree, HoldsThePublicHeadersAndNoOthers)
 {
-    const QString build = folder->filePath("consumer");
-    outputOf("cmake", {"-S", QUAYSIDE_CONSUMER_FOLDER, "-B", build, "-G", "Ninja",
-                       "-DCMAKE_PREFIX_PATH=" + prefix()});
-    outputOf("cmake", {"--build", build});
+    const QDir headers(headerFolder());
+    QStringList found;
+    QDirIterator files(headers.path(), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        found += headers.relativeFilePath(files.next());
+    found.sort();
+    EXPECT_EQ(publicHeaders.join("\n").toStdString(), found.join("\n").toStdString());
+}
+
+// With nothing but Qt and the tree on the include path, so that a header that is not installed
+// cannot be included either.
+TEST_F(InstalledTree, HasHeadersThatEachCompileAlone)
+{
+    EXPECT_TRUE(consumerBuilds("headers"));
+}
+
+TEST_F(InstalledTree, ServesAProgramThatUsesTheServices)
+{
+    ASSERT_TRUE(consumerBuilds("consumer"));
     EXPECT_EQ("ungWv48Bz-pBQUDeXa4iI7ADYaOWF3qctBD_YfIAFa0 2 40 7\n",
-              outputOf(build + "/consumer", {}));
+              outputOf(consumerFolder() + "/consumer", {}));
+}
+
+TEST_F(InstalledTree, ServesAProgramThatShowsTheWindow)
+{
+    QString names;
+    for (const PageEntry& page : pageCatalogue())
+        names += page.name + '\n';
+    ASSERT_TRUE(consumerBuilds("window_consumer"));
+    EXPECT_EQ(names, outputOf(consumerFolder() + "/window_consumer", {}));
 }
 
 TEST_F(InstalledTree, HoldsTheProgramItsCatalogueAndTheStandIn)

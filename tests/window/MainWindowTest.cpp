@@ -1,6 +1,5 @@
 #include "window/MainWindow.h"
 
-#include "app/CommandLine.h"
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/window/EndlessJob.h"
@@ -246,34 +245,6 @@ TEST_F(MainWindowTest, FitsASmallScreen)
     EXPECT_EQ(m_window.size(), QSize(800, 600));
     EXPECT_LE(m_window.minimumSizeHint().width(), 800);
     EXPECT_LE(m_window.minimumSizeHint().height(), 560);
-}
-
-struct PageOption
-{
-    std::vector<const char*> arguments;
-    const char* page;
-};
-
-TEST(RequestedPage, FollowsTheGrammarOfPairs)
-{
-    const PageOption rows[] = {{{"/page", "log"}, "log"},
-                               {{"/language", "zh-CN", "/page", "files"}, "files"},
-                               {{"/page", "log", "/page", "input"}, "input"},
-                               {{"/page"}, ""},
-                               {{"/page", "log", "/x"}, ""},
-                               {{"page", "log"}, ""},
-                               {{"/PAGE", "log"}, ""},
-                               {{"/x", "/page"}, ""},
-                               {{}, ""}};
-    for (const PageOption& row : rows) {
-        std::vector<std::string> texts = {"program"};
-        texts.insert(texts.end(), row.arguments.begin(), row.arguments.end());
-        std::vector<char*> arguments;
-        for (std::string& text : texts)
-            arguments.push_back(text.data());
-        EXPECT_EQ(requestedPage(static_cast<int>(arguments.size()), arguments.data()).toStdString(),
-                  row.page);
-    }
 }
 
 } // namespace

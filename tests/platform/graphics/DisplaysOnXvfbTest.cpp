@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int Down = -32768;
+constexpr int keyDown = -32768;
 
 // Knows which keys are down, from its own events.
 class KeyRecorder : public QWidget
@@ -78,7 +78,7 @@ TEST_F(RealInput, OfMouseButtonsIsTheirKeyState)
          {ButtonRow{"1", VK_LBUTTON}, ButtonRow{"2", VK_MBUTTON}, ButtonRow{"3", VK_RBUTTON}}) {
         expectState(row.virtualKey, 0);
         ASSERT_TRUE(Display::xdotool({"mousedown", row.button}));
-        expectState(row.virtualKey, Down);
+        expectState(row.virtualKey, keyDown);
         ASSERT_TRUE(Display::xdotool({"mouseup", row.button}));
         expectState(row.virtualKey, 0);
     }
@@ -102,7 +102,7 @@ TEST_F(RealInput, OfOneModifierIsTheKeyStateOfBothSides)
     for (const ModifierRow& row : rows) {
         ASSERT_TRUE(Display::xdotool({"keydown", row.key}));
         for (const int key : row.virtualKeys)
-            expectState(key, Down);
+            expectState(key, keyDown);
         ASSERT_TRUE(Display::xdotool({"keyup", row.key}));
         for (const int key : row.virtualKeys)
             expectState(key, 0);

@@ -14,9 +14,9 @@
 
 namespace {
 
-constexpr LONG Least = std::numeric_limits<LONG>::min();
-constexpr LONG Greatest = std::numeric_limits<LONG>::max();
-constexpr UINT AllFlags[] = {0, 1, 2, 3, 4, 0x80000000, ~0U};
+constexpr LONG least = std::numeric_limits<LONG>::min();
+constexpr LONG greatest = std::numeric_limits<LONG>::max();
+constexpr UINT allFlags[] = {0, 1, 2, 3, 4, 0x80000000, ~0U};
 
 HMONITOR monitorFromPoint(LONG x, LONG y, UINT flags)
 {
@@ -25,7 +25,7 @@ HMONITOR monitorFromPoint(LONG x, LONG y, UINT flags)
 
 // Before main there is no application yet, and so there are no screens.
 const bool anyMonitorBeforeMain =
-    std::any_of(std::begin(AllFlags), std::end(AllFlags),
+    std::any_of(std::begin(allFlags), std::end(allFlags),
                 [](UINT flags) { return monitorFromPoint(0, 0, flags) != nullptr; });
 
 // The offscreen platform's own screen is at (0, 0) and of 800 by 600 pixels.
@@ -51,7 +51,7 @@ TEST(NoScreens, GiveNoMonitor)
 TEST_F(Screens, AreFoundByAPointInsideWhateverTheFlags)
 {
     const VirtualScreen second(QRect(-500, 100, 300, 200));
-    for (const UINT flags : AllFlags) {
+    for (const UINT flags : allFlags) {
         EXPECT_EQ(first, monitorFromPoint(0, 0, flags));
         EXPECT_EQ(first, monitorFromPoint(799, 599, flags));
         EXPECT_EQ(second.screen(), monitorFromPoint(-500, 100, flags));
@@ -119,21 +119,21 @@ struct FarRow
 };
 
 // A distance of 0x7FFFFFFF or more is no distance at all.
-constexpr FarRow FarRows[] = {
-    {Least, Least, false},
-    {Least + 1, Least + 1, false},
-    {Least + 2, Least + 2, true},
-    {Least, 5, true},
-    {-9, Least, true},
-    {Least, Greatest, true},
-    {Greatest, Greatest, true},
-    {Greatest, Least, true},
-    {Least, Least + 2, true},
+constexpr FarRow farRows[] = {
+    {least, least, false},
+    {least + 1, least + 1, false},
+    {least + 2, least + 2, true},
+    {least, 5, true},
+    {-9, least, true},
+    {least, greatest, true},
+    {greatest, greatest, true},
+    {greatest, least, true},
+    {least, least + 2, true},
 };
 
 TEST_F(Screens, AreMeasuredWithoutOverflow)
 {
-    for (const FarRow& row : FarRows)
+    for (const FarRow& row : farRows)
         EXPECT_EQ(row.found ? first : nullptr, nearest(row.x, row.y)) << row.x << ' ' << row.y;
 }
 
@@ -141,9 +141,9 @@ TEST_F(Screens, BeyondAnyOverflowAreComparedTruly)
 {
     // 2147484646 from the second screen's nearest edges: more than any 32-bit number.
     const VirtualScreen second(QRect(1000, 1000, 10, 10));
-    EXPECT_EQ(nullptr, nearest(Least, Least));
-    EXPECT_EQ(first, nearest(Least + 2, Least + 2));
-    EXPECT_EQ(second.screen(), nearest(Greatest, Greatest));
+    EXPECT_EQ(nullptr, nearest(least, least));
+    EXPECT_EQ(first, nearest(least + 2, least + 2));
+    EXPECT_EQ(second.screen(), nearest(greatest, greatest));
 }
 
 class MonitorInfo : public Screens
@@ -157,28 +157,28 @@ protected:
         record.expect(expected);
     }
 
-    static constexpr DWORD CbSizeUntouched = 0x5A5A5A5A;
+    static constexpr DWORD cbSizeUntouched = 0x5A5A5A5A;
 };
 
 TEST_F(MonitorInfo, EndsOnTheLastPixelAndLeavesCbSizeAlone)
 {
-    expectInfo(first, {CbSizeUntouched, {0, 0, 799, 599}, {0, 0, 799, 599}, MONITORINFOF_PRIMARY});
+    expectInfo(first, {cbSizeUntouched, {0, 0, 799, 599}, {0, 0, 799, 599}, MONITORINFOF_PRIMARY});
 }
 
 TEST_F(MonitorInfo, TellsTheWorkAreaOfASecondScreen)
 {
     const VirtualScreen second(QRect(-1280, -100, 1280, 1024), QRect(-1280, -70, 1200, 994));
     expectInfo(second.screen(),
-               {CbSizeUntouched, {-1280, -100, -1, 923}, {-1280, -70, -81, 923}, 0});
-    expectInfo(first, {CbSizeUntouched, {0, 0, 799, 599}, {0, 0, 799, 599}, MONITORINFOF_PRIMARY});
+               {cbSizeUntouched, {-1280, -100, -1, 923}, {-1280, -70, -81, 923}, 0});
+    expectInfo(first, {cbSizeUntouched, {0, 0, 799, 599}, {0, 0, 799, 599}, MONITORINFOF_PRIMARY});
 }
 
 TEST_F(MonitorInfo, FollowsAChangeOfThePrimaryScreen)
 {
     const VirtualScreen second(QRect(800, 0, 640, 480), QRect(), true);
     expectInfo(second.screen(),
-               {CbSizeUntouched, {800, 0, 1439, 479}, {800, 0, 1439, 479}, MONITORINFOF_PRIMARY});
-    expectInfo(first, {CbSizeUntouched, {0, 0, 799, 599}, {0, 0, 799, 599}, 0});
+               {cbSizeUntouched, {800, 0, 1439, 479}, {800, 0, 1439, 479}, MONITORINFOF_PRIMARY});
+    expectInfo(first, {cbSizeUntouched, {0, 0, 799, 599}, {0, 0, 799, 599}, 0});
 }
 
 TEST_F(MonitorInfo, NeedsAMonitorAndARecord)
@@ -217,7 +217,7 @@ TEST_F(SystemMetrics, AreZeroForEverythingElse)
             continue;
         EXPECT_EQ(0, manager.GetSystemMetrics(index)) << index;
     }
-    for (const int index : {0x1000, 0x10010, Least, Greatest})
+    for (const int index : {0x1000, 0x10010, least, greatest})
         EXPECT_EQ(0, manager.GetSystemMetrics(index)) << index;
 }
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr wchar_t Marker = L'#';
+constexpr wchar_t marker = L'#';
 
 class Module
 {
@@ -37,27 +37,27 @@ private:
 class ResourceStrings : public testing::Test
 {
 protected:
-    static constexpr int Before = 4;
+    static constexpr int before = 4;
 
     ResourceStrings()
     {
-        m_memory.fill(Marker);
+        m_memory.fill(marker);
         m_memory.back() = L'\0';
         EXPECT_NE(nullptr, module.handle()) << dlerror();
     }
 
-    wchar_t* buffer() { return m_memory.data() + Before; }
+    wchar_t* buffer() { return m_memory.data() + before; }
 
     // What stands in the buffer and around it: the markers in front, `content`, markers to the end.
     void expectContent(const std::wstring& content)
     {
-        std::wstring expected(m_memory.size() - 1, Marker);
-        expected.replace(Before, content.size(), content);
+        std::wstring expected(m_memory.size() - 1, marker);
+        expected.replace(before, content.size(), content);
         EXPECT_EQ(expected, std::wstring(m_memory.data(), m_memory.size() - 1));
     }
 
     // From the buffer's start to the only terminator that the test itself has set.
-    int lengthToTheEnd() const { return static_cast<int>(m_memory.size()) - 1 - Before; }
+    int lengthToTheEnd() const { return static_cast<int>(m_memory.size()) - 1 - before; }
 
     PlatformResourceManagerImp manager;
     Module module{QUAYSIDE_STRING_MODULE};
@@ -110,7 +110,7 @@ TEST_P(TooLongString, FillsTheBufferWithoutATerminator)
 
 TEST_F(ResourceStrings, AreWideBeyondTheBmpAndFoundByTheWholeIdentifier)
 {
-    EXPECT_EQ(2, manager.loadString(module.handle(), NonBmpText, buffer(), 10));
+    EXPECT_EQ(2, manager.loadString(module.handle(), nonBmpText, buffer(), 10));
     expectContent(std::wstring(L"\U0001F600\u4E2D") + L'\0');
 }
 
@@ -161,7 +161,7 @@ TEST_F(ResourceStrings, AreEmptyByAddressTooWithoutTheModulesFunction)
 TEST_F(ResourceStrings, ThatTheModuleDoesNotKnowLeaveTheBufferAlone)
 {
     for (const int size : {0, 1, 10})
-        EXPECT_EQ(0, manager.loadString(module.handle(), NoText, buffer(), size)) << size;
+        EXPECT_EQ(0, manager.loadString(module.handle(), noText, buffer(), size)) << size;
     expectContent(L"");
 }
 

@@ -5,9 +5,9 @@
 
 extern "C" [[gnu::visibility("default")]] const wchar_t* loadstring(unsigned int id)
 {
-    static constexpr wchar_t Digits[] = L"abcdefghijklmnopqrst";
-    constexpr unsigned int longest = sizeof Digits / sizeof *Digits - 1;
-    if (id == NonBmpText)
+    static constexpr wchar_t digits[] = L"abcdefghijklmnopqrst";
+    constexpr unsigned int longest = sizeof digits / sizeof *digits - 1;
+    if (id == nonBmpText)
         return L"\U0001F600\u4E2D";
-    return id <= longest ? Digits + longest - id : nullptr;
+    return id <= longest ? digits + longest - id : nullptr;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// The identifier of a text with a character beyond the BMP. It needs all 32 bits.
-constexpr unsigned int NonBmpText = 0x80000001;
+constexpr unsigned int nonBmpText = 0x80000001;
 
 /// An identifier without a text.
-constexpr unsigned int NoText = 0x00010001;
+constexpr unsigned int noText = 0x00010001;

@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr int Down = -32768;
+constexpr int keyDown = -32768;
 
-static_assert(static_cast<unsigned int>(Down) == 0xFFFF8000U, "the high bit, sign-extended");
+static_assert(static_cast<unsigned int>(keyDown) == 0xFFFF8000U, "the high bit, sign-extended");
 
 // With its tables open, and rows that the system itself does not have.
 class OpenManager : public PlatformUserInputManagerImp
@@ -109,7 +109,7 @@ struct ModifierRow
     Keys keys;
 };
 
-const ModifierRow ModifierRows[] = {
+const ModifierRow modifierRows[] = {
     {Qt::ShiftModifier, {VK_SHIFT, VK_LSHIFT, VK_RSHIFT}},
     {Qt::ControlModifier, {VK_CONTROL, VK_LCONTROL, VK_RCONTROL}},
     {Qt::AltModifier, {VK_MENU, VK_LMENU, VK_RMENU}},
@@ -122,7 +122,7 @@ const ModifierRow ModifierRows[] = {
 
 TEST_F(KeyStates, FollowTheModifiersOnBothSides)
 {
-    for (const ModifierRow& row : ModifierRows) {
+    for (const ModifierRow& row : modifierRows) {
         modify(row.modifiers);
         EXPECT_EQ(row.keys, keysDown()) << row.modifiers;
     }
@@ -131,9 +131,9 @@ TEST_F(KeyStates, FollowTheModifiersOnBothSides)
 TEST_F(KeyStates, AreMinus32768WhenDown)
 {
     modify(Qt::ShiftModifier);
-    EXPECT_EQ(Down, manager.getKeyState(0x10));
-    EXPECT_EQ(Down, manager.getKeyState(0xA1));
-    EXPECT_EQ(Down, manager.getAsyncKeyState(0xA0));
+    EXPECT_EQ(keyDown, manager.getKeyState(0x10));
+    EXPECT_EQ(keyDown, manager.getKeyState(0xA1));
+    EXPECT_EQ(keyDown, manager.getAsyncKeyState(0xA0));
     EXPECT_TRUE(manager.isKeyPressed(0x10));
     static_assert(std::is_same_v<int, decltype(manager.getKeyState(0))>);
 }
@@ -154,11 +154,11 @@ struct FlagRow
     int qtKey;
 };
 
-constexpr FlagRow FlagRows[] = {{VK_RETURN, 0x01000004}, {VK_SPACE, 0x20}};
+constexpr FlagRow flagRows[] = {{VK_RETURN, 0x01000004}, {VK_SPACE, 0x20}};
 
 TEST_F(KeyStates, OfReturnAndSpaceAreWhatTheCallerSays)
 {
-    for (const FlagRow& row : FlagRows) {
+    for (const FlagRow& row : flagRows) {
         EXPECT_EQ(Keys{}, keysDown());
         manager.setKeyPressed(row.qtKey, true);
         EXPECT_EQ(Keys{row.virtualKey}, keysDown());
@@ -211,8 +211,8 @@ TEST_F(KeyStates, AreUpOutsideOfOneTo254EvenForKeysInTheMap)
         EXPECT_EQ(0, manager.getKeyState(key)) << key;
     }
     manager.m_keyMap[254] = Qt::LeftButton;
-    EXPECT_EQ(Down, manager.getKeyState(254));
-    EXPECT_EQ(Down, manager.getKeyState(1));
+    EXPECT_EQ(keyDown, manager.getKeyState(254));
+    EXPECT_EQ(keyDown, manager.getKeyState(1));
 }
 
 TEST_F(KeyStates, FollowTheMetaModifierForAKeyThatIsMappedToIt)
@@ -220,7 +220,7 @@ TEST_F(KeyStates, FollowTheMetaModifierForAKeyThatIsMappedToIt)
     manager.m_keyMap[VK_LWIN] = 0x10000000;
     EXPECT_EQ(0, manager.getKeyState(VK_LWIN));
     modify(Qt::MetaModifier);
-    EXPECT_EQ(Down, manager.getKeyState(VK_LWIN));
+    EXPECT_EQ(keyDown, manager.getKeyState(VK_LWIN));
 }
 
 TEST_F(KeyStates, AreUpForKeysThatAreMappedToAnythingElse)
@@ -256,7 +256,7 @@ TEST(KeyMap, LeavesThePressedFlagsAloneWhenItIsFilled)
     PlatformUserInputManagerImp manager;
     manager.setKeyPressed(Qt::Key_Space, true);
     manager.initKeyMap();
-    EXPECT_EQ(Down, manager.getKeyState(VK_SPACE));
+    EXPECT_EQ(keyDown, manager.getKeyState(VK_SPACE));
 }
 
 class OverridingManager : public PlatformUserInputManagerImp
