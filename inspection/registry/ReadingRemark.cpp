@@ -14,6 +14,8 @@ struct ReadingRemark
 QString readingRemark(const RegistryReading& reading, const QVariant& entry)
 {
     const StoredValue stored(entry);
-    const bool isFound = reading.readable || !stored.isReadable();
-    return isFound ? stored.explanation() : ReadingRemark::tr("Not found under this name");
+    if (reading.readable == stored.isReadable())
+        return stored.explanation();
+    // A name with a "\" in it stands for another entry, which the service has read or missed.
+    return reading.readable ? QString() : ReadingRemark::tr("Not found under this name");
 }

@@ -30,7 +30,7 @@ public:
     /// RegQueryValueExW.
     RegistryReading read(const QString& name) const;
     /// RegQueryValueW, which under a root reads the very entry that enumeration lists there, where
-    /// RegQueryValueExW looks elsewhere. It tells no type: `readable` and `data` alone are set.
+    /// RegQueryValueExW reads another one. It tells no type: `readable` and `data` alone are set.
     RegistryReading readListed(const QString& name) const;
     unsigned int set(const QString& name, unsigned int type, const QByteArray& data) const;
     unsigned int removeValue(const QString& name) const;

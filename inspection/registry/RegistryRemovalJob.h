@@ -20,7 +20,6 @@ public:
     /// The number of values deleted.
     QString progress() const override;
 
-    int values() const { return m_removed; }
     /// False where the service has refused to delete a key.
     bool succeeded() const { return m_succeeded; }
 

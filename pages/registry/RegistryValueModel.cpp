@@ -53,7 +53,8 @@ std::vector<RecordColumn<ListedValue>> columns()
     return {{RegistryValueModel::tr("Name"), &ListedValue::name, nameLook},
             {RegistryValueModel::tr("Type"), &ListedValue::typeText, look},
             {RegistryValueModel::tr("Data"), &ListedValue::dataText, dataLook},
-            {RegistryValueModel::tr("Stored text (raw)"), &ListedValue::raw, rawLook}};
+            {RegistryValueModel::tr("Stored text (raw)"), &ListedValue::raw, rawLook,
+             RegistryValueModel::tr("Raw: the text in the store, which no host library sees")}};
 }
 
 } // namespace
@@ -80,11 +81,4 @@ int RegistryValueModel::rowOf(const QString& name) const
             return row;
     }
     return -1;
-}
-
-QVariant RegistryValueModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation == Qt::Horizontal && role == Qt::ToolTipRole && section == Raw)
-        return tr("Raw: the text in the store, which no host library sees");
-    return RecordsModel::headerData(section, orientation, role);
 }

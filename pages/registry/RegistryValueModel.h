@@ -28,6 +28,4 @@ public:
     void refresh(int row);
     /// The row of a name, or -1. A value that can be asked for comes before one that is listed.
     int rowOf(const QString& name) const;
-
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 };

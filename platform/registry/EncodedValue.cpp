@@ -10,7 +10,7 @@ EncodedValue::EncodedValue(unsigned int type, const unsigned char* data, unsigne
     QString payload;
     m_isAccepted = data && tag && tag->encode(data, size, payload);
     if (m_isAccepted)
-        m_text = QString::number(tag->number) + QLatin1Char('$') + payload;
+        m_text = QString::number(tag->number) + StoredTag::separator + payload;
 }
 
 EncodedValue::Refusal EncodedValue::refusal() const

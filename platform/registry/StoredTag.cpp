@@ -46,24 +46,24 @@ bool encodeText(const unsigned char* data, unsigned int /*size*/, QString& paylo
 }
 
 // What does not fit is 0.
-StoredData decodeDword(const QStringRef& payload)
+void decodeDword(const QStringRef& payload, StoredData& data)
 {
-    return payload.toInt();
+    data = payload.toInt();
 }
 
-StoredData decodeQword(const QStringRef& payload)
+void decodeQword(const QStringRef& payload, StoredData& data)
 {
-    return payload.toLongLong();
+    data = payload.toLongLong();
 }
 
-StoredData decodeBinary(const QStringRef& payload)
+void decodeBinary(const QStringRef& payload, StoredData& data)
 {
-    return QByteArray::fromHex(payload.toLatin1());
+    data = QByteArray::fromHex(payload.toLatin1());
 }
 
-StoredData decodeText(const QStringRef& payload)
+void decodeText(const QStringRef& payload, StoredData& data)
 {
-    return payload.toUcs4();
+    data = payload.toUcs4();
 }
 
 PayloadFault dwordFault(const QStringRef& payload)

@@ -22,6 +22,9 @@ enum class PayloadFault
 /// How the values of a type are kept as text in the settings store: a tag, "$" and a payload.
 struct StoredTag
 {
+    /// Stands between the tag and the payload.
+    static constexpr QLatin1Char separator{'$'};
+
     int number;
     /// The Windows type that is read back, and another one that is written with this tag as well;
     /// the same where there is none.
@@ -31,7 +34,8 @@ struct StoredTag
     /// Makes the payload of `size` bytes of data, which is not null; false where the data is
     /// refused. Null for a tag that is read only.
     bool (*encode)(const unsigned char* data, unsigned int size, QString& payload);
-    StoredData (*decode)(const QStringRef& payload);
+    /// Writes what a payload stands for into `data`, in place: a host library waits for it.
+    void (*decode)(const QStringRef& payload, StoredData& data);
     PayloadFault (*fault)(const QStringRef& payload);
 
     /// True where the caller's size has to suffice even without a buffer.

@@ -32,45 +32,48 @@ Bytes bytesOf(const QVector<uint>& characters)
     return {characters.constData(), static_cast<std::size_t>(characters.size()) * sizeof(uint)};
 }
 
-Bytes bytesOf(const StoredData& data)
-{
-    return std::visit([](const auto& content) { return bytesOf(content); }, data);
-}
-
 } // namespace
 
+// A host library waits for it, so that nothing is done here for the explanation alone.
 StoredValue::StoredValue(const QVariant& entry)
-    : m_isNull(entry.isNull()),
-      m_isList(entry.type() == QVariant::StringList),
-      m_text(entry.toString()),
-      m_separator(m_text.indexOf(QLatin1Char('$')))
+    : m_isNull(entry.isNull()), m_text(m_isNull ? QString() : entry.toString())
 {
-    if (m_isNull || m_separator <= 0)
+    if (m_isNull)
         return;
+    m_separator = m_text.indexOf(StoredTag::separator);
     bool isNumber = false;
-    const int number = tagText().toInt(&isNumber);
+    const int number = m_separator > 0 ? tagText().toInt(&isNumber) : 0;
     m_tag = isNumber ? StoredTag::ofNumber(number) : nullptr;
     if (m_tag)
-        m_data = m_tag->decode(payload());
+        m_tag->decode(payload(), m_data);
+    else
+        m_isList = entry.type() == QVariant::StringList;
 }
 
 QByteArray StoredValue::data() const
 {
-    const Bytes bytes = bytesOf(m_data);
-    return QByteArray(static_cast<const char*>(bytes.first), static_cast<int>(bytes.size));
+    const auto copied = [](const auto& content) {
+        const Bytes bytes = bytesOf(content);
+        return QByteArray(static_cast<const char*>(bytes.first), static_cast<int>(bytes.size));
+    };
+    return std::visit(copied, m_data);
 }
 
 bool StoredValue::copyTo(unsigned char* data, unsigned int* size) const
 {
-    const Bytes bytes = bytesOf(m_data);
     const bool isMeasured = size && (data || m_tag->measuresWithoutBuffer);
-    if (isMeasured && *size < bytes.size + (m_tag->wantsTerminator ? 1 : 0))
-        return false;
-    if (data && bytes.size > 0)
-        std::memcpy(data, bytes.first, bytes.size);
-    if (size)
-        *size = static_cast<unsigned int>(bytes.size);
-    return true;
+    const std::size_t spare = m_tag->wantsTerminator ? 1 : 0;
+    const auto copy = [&](const auto& content) {
+        const Bytes bytes = bytesOf(content);
+        if (isMeasured && *size < bytes.size + spare)
+            return false;
+        if (data && bytes.size > 0)
+            std::memcpy(data, bytes.first, bytes.size);
+        if (size)
+            *size = static_cast<unsigned int>(bytes.size);
+        return true;
+    };
+    return std::visit(copy, m_data);
 }
 
 StoredValue::Remark StoredValue::remark() const

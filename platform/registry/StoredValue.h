@@ -54,9 +54,9 @@ private:
     Remark refusal() const;
 
     bool m_isNull;
-    bool m_isList;
+    bool m_isList = false; ///< only told of an entry that is refused
     QString m_text;
-    int m_separator;                  ///< where it stands in the text, or -1
+    int m_separator = -1;             ///< where it stands in the text, or -1
     const StoredTag* m_tag = nullptr; ///< null where the entry is refused
     StoredData m_data;
 };

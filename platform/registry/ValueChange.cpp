@@ -10,15 +10,19 @@ namespace {
 
 constexpr int terminatorSize = sizeof(wchar_t);
 
-QByteArray terminated(const QByteArray& text)
+// True where the terminator of a text of `size` bytes is the end of the data. Data may be large: it
+// is copied no more than it must be.
+bool isTerminated(const QByteArray& data, int size)
 {
-    return text + QByteArray(terminatorSize, '\0');
+    return data.size() == size + terminatorSize && size % terminatorSize == 0 &&
+           data.endsWith(QByteArray(terminatorSize, '\0'));
 }
 
 // A text is encoded up to its terminator, which the data may lack. No data is none at all.
 EncodedValue encoded(unsigned int type, const QByteArray& data)
 {
-    const QByteArray safe = terminated(data);
+    const bool isSafe = isTerminated(data, data.size() - terminatorSize);
+    const QByteArray safe = isSafe ? data : data + QByteArray(terminatorSize, '\0');
     return EncodedValue(
         type, data.isEmpty() ? nullptr : reinterpret_cast<const unsigned char*>(safe.constData()),
         static_cast<unsigned int>(data.size()));
@@ -44,13 +48,14 @@ ValueChange::Outcome ValueChange::outcome() const
 {
     if (!m_read)
         return Outcome::Refused;
-    return m_read->type() == m_type && comesBackWhole() ? Outcome::Kept : Outcome::Altered;
+    const bool isKept = m_read->type() == m_type && comesBackWhole(m_read->data());
+    return isKept ? Outcome::Kept : Outcome::Altered;
 }
 
-bool ValueChange::comesBackWhole() const
+bool ValueChange::comesBackWhole(const QByteArray& read) const
 {
-    const QByteArray read = m_read->data();
-    return m_data == (m_read->type() == REG_SZ ? terminated(read) : read);
+    return m_read->type() == REG_SZ ? isTerminated(m_data, read.size()) && m_data.startsWith(read)
+                                    : m_data == read;
 }
 
 QStringList ValueChange::remarks() const
@@ -61,14 +66,14 @@ QStringList ValueChange::remarks() const
     if (m_read->type() != m_type)
         remarks.append(
             tr("%1 becomes %2.").arg(registryTypeName(m_type), registryTypeName(m_read->type())));
-    if (!comesBackWhole())
-        remarks.append(alteration());
+    const QByteArray read = m_read->data();
+    if (!comesBackWhole(read))
+        remarks.append(alteration(read));
     return remarks;
 }
 
-QString ValueChange::alteration() const
+QString ValueChange::alteration(const QByteArray& read) const
 {
-    const QByteArray read = m_read->data();
     if (m_read->type() == REG_SZ)
         return m_data.startsWith(read)
                    ? tr("The text is kept up to its first NUL character.")

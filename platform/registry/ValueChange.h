@@ -29,8 +29,8 @@ public:
     QStringList remarks() const;
 
 private:
-    bool comesBackWhole() const;
-    QString alteration() const;
+    bool comesBackWhole(const QByteArray& read) const;
+    QString alteration(const QByteArray& read) const;
 
     unsigned int m_type;
     QByteArray m_data;

@@ -54,6 +54,18 @@ TEST_F(ListedValueTest, OfTheRootIsDeletedWhereItIsKept)
     EXPECT_EQ(values[1].keyToDeleteFrom().toStdString(), "");
 }
 
+TEST_F(ListedValueTest, OfARootThatTheServiceReadsAtAnotherPlaceSaysWhereItIsListed)
+{
+    store("a\\b", QVariant());
+    store("a/b", "1$5");
+    const std::vector<ListedValue> values = of("");
+    ASSERT_EQ(values.size(), 1U);
+    EXPECT_EQ(values[0].name().toStdString(), "a\\b");
+    EXPECT_TRUE(values[0].isReadable());
+    EXPECT_EQ(values[0].remark().toStdString(),
+              "Only listed: asking for it by name looks into the key \"a\\b\"");
+}
+
 TEST_F(ListedValueTest, KnowsThatItHasGone)
 {
     store("A/u", "1$1");

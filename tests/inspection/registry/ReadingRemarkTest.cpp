@@ -31,4 +31,10 @@ TEST(ReadingRemark, TellsOfAGoodEntryThatTheServiceDoesNotFind)
     EXPECT_EQ(readingRemark(reading(false), "5$x").toStdString(), "Not found under this name");
 }
 
+TEST(ReadingRemark, TellsNothingOfAnEntryInPlaceOfWhichTheServiceReadAnother)
+{
+    EXPECT_EQ(readingRemark(reading(true), QVariant()).toStdString(), "");
+    EXPECT_EQ(readingRemark(reading(true), "3$1").toStdString(), "");
+}
+
 } // namespace

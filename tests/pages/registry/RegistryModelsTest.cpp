@@ -155,6 +155,18 @@ TEST_F(RegistryModels, ShowVeryManyKeysInBatches)
     EXPECT_EQ(below("").size(), 4502);
 }
 
+TEST_F(RegistryModels, SayAboveTheStoredTextThatItIsRaw)
+{
+    const auto tip = [this](int column) {
+        return m_values.headerData(column, Qt::Horizontal, Qt::ToolTipRole)
+            .toString()
+            .toStdString();
+    };
+    EXPECT_EQ(tip(RegistryValueModel::Raw),
+              "Raw: the text in the store, which no host library sees");
+    EXPECT_EQ(tip(RegistryValueModel::Data), "");
+}
+
 struct ValueRow
 {
     QVariant entry;

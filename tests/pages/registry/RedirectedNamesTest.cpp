@@ -13,7 +13,7 @@
 namespace {
 
 // Keys and values with a "\" in their names, in the place of which a host library finds others.
-class RegistryElsewhereTest : public RegistryPageFixture
+class RedirectedNamesTest : public RegistryPageFixture
 {
 protected:
     void showAt(const QString& path)
@@ -45,7 +45,7 @@ protected:
     QStringList m_before;
 };
 
-TEST_F(RegistryElsewhereTest, AKeyIsMarkedAndSaysWhatIsOpened)
+TEST_F(RedirectedNamesTest, AKeyIsMarkedAndSaysWhatIsOpened)
 {
     store("a\\b/x", "1$1");
     store("plain/x", "1$1");
@@ -59,7 +59,7 @@ TEST_F(RegistryElsewhereTest, AKeyIsMarkedAndSaysWhatIsOpened)
     EXPECT_EQ(status().toStdString(), "Values: 1. Sub-keys: 0.");
 }
 
-TEST_F(RegistryElsewhereTest, AKeyIsNotDeleted)
+TEST_F(RedirectedNamesTest, AKeyIsNotDeleted)
 {
     store("a/b/precious", "1$1");
     store("a\\b/a/b", "5$x");
@@ -71,7 +71,7 @@ TEST_F(RegistryElsewhereTest, AKeyIsNotDeleted)
     expectRefused();
 }
 
-TEST_F(RegistryElsewhereTest, AKeyGetsNothingNew)
+TEST_F(RedirectedNamesTest, AKeyGetsNothingNew)
 {
     store("a\\b/a/b", "5$x");
     store("a/b/v", "5$x");
@@ -82,7 +82,7 @@ TEST_F(RegistryElsewhereTest, AKeyGetsNothingNew)
     }
 }
 
-TEST_F(RegistryElsewhereTest, AKeyIsNotExported)
+TEST_F(RedirectedNamesTest, AKeyIsNotExported)
 {
     store("a\\b/a/b", "5$x");
     showAt("a\\b");
@@ -91,7 +91,7 @@ TEST_F(RegistryElsewhereTest, AKeyIsNotExported)
     EXPECT_TRUE(status().contains("a host library")) << status().toStdString();
 }
 
-TEST_F(RegistryElsewhereTest, AKeyShowsTheValuesThatTheServiceListsThere)
+TEST_F(RedirectedNamesTest, AKeyShowsTheValuesThatTheServiceListsThere)
 {
     store("a\\b/own", "5$own");
     store("a/b/theirs", "1$5");
@@ -108,7 +108,7 @@ TEST_F(RegistryElsewhereTest, AKeyShowsTheValuesThatTheServiceListsThere)
     expectRefused();
 }
 
-TEST_F(RegistryElsewhereTest, AValueSetUnderARootIsShownAndEditedButNotDeleted)
+TEST_F(RedirectedNamesTest, AValueSetUnderARootIsShownAndEditedButNotDeleted)
 {
     IPlatformRegisterManager* manager = g_PlatformServices.registerManager();
     const unsigned char data[] = {7, 0, 0, 0};
@@ -130,7 +130,7 @@ TEST_F(RegistryElsewhereTest, AValueSetUnderARootIsShownAndEditedButNotDeleted)
     EXPECT_EQ(g_globalSettings->allKeys().size(), 2);
 }
 
-TEST_F(RegistryElsewhereTest, AValueInAKeyIsNeitherEditedNorDeleted)
+TEST_F(RedirectedNamesTest, AValueInAKeyIsNeitherEditedNorDeleted)
 {
     store("k/x\\y", "1$5");
     store("k/x/y", "1$6");
