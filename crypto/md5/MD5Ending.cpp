@@ -14,9 +14,9 @@ std::uint32_t signExtendBytes(std::uint32_t word)
            (0U - ((word & 0x800000U) << 1));
 }
 
-/// Whether one of the 64 bytes changes its word by its sign: the last byte of a word has no higher
-/// bits to set.
-bool isSignExtended(const char* bytes)
+/// Whether one of the 64 bytes may change its word by its sign: the last byte of a word has no
+/// higher bits to set.
+bool hasSigns(const char* bytes)
 {
     std::uint64_t quads[bytesPerBlock / sizeof(std::uint64_t)];
     std::memcpy(quads, bytes, sizeof quads);
@@ -26,11 +26,27 @@ bool isSignExtended(const char* bytes)
     return (all & 0x0080808000808080U) != 0;
 }
 
-std::array<char, bytesPerBlock> fillWithZeros(const char* bytes, std::size_t count)
+using BlockBytes = std::array<char, bytesPerBlock>;
+
+BlockBytes fillWithZeros(const char* bytes, std::size_t count)
 {
-    std::array<char, bytesPerBlock> block{};
+    BlockBytes block{};
     std::copy_n(bytes, count, block.begin());
     return block;
+}
+
+/// Whether these words have bits that the 64 bytes do not set by themselves.
+bool isExtended(const Block& words, const char* bytes)
+{
+    return std::memcmp(words.data(), bytes, bytesPerBlock) != 0;
+}
+
+/// The same for a text's last bytes, with the mark behind them.
+bool isEndExtended(const Block& words, const char* bytes, std::size_t count)
+{
+    BlockBytes block = fillWithZeros(bytes, count);
+    block[count] = '\x80';
+    return isExtended(words, block.data());
 }
 
 /// The blocks behind those that the text fills: one at least, also where the text is so long that
@@ -53,7 +69,7 @@ std::size_t plainBlocks(const char* bytes, std::size_t blocks)
 {
     constexpr std::size_t limit = 64;
     std::size_t count = 0;
-    while (count < std::min(blocks, limit) && !isSignExtended(bytes + count * bytesPerBlock))
+    while (count < std::min(blocks, limit) && !hasSigns(bytes + count * bytesPerBlock))
         ++count;
     return count;
 }
@@ -103,11 +119,12 @@ bool compressText(State& state, const char* bytes, std::size_t blocks)
         compress(state, reinterpret_cast<const unsigned char*>(bytes), plain);
         bytes += plain * bytesPerBlock;
         blocks -= plain;
-        if (blocks != 0 && isSignExtended(bytes)) {
-            compressBlock(state, loadBlock(bytes));
+        if (blocks != 0 && hasSigns(bytes)) {
+            const Block words = loadBlock(bytes);
+            compressBlock(state, words);
+            extended = extended || isExtended(words, bytes);
             bytes += bytesPerBlock;
             --blocks;
-            extended = true;
         }
     }
     return extended;
@@ -117,7 +134,7 @@ Ending::Ending(const char* rest, std::uint64_t length)
     : m_next(loadEnd(rest, length % bytesPerBlock)),
       m_storedLength(storedLength(length)),
       m_blocksLeft(blocksFromEnd(length)),
-      m_signExtended(md5::isSignExtended(fillWithZeros(rest, length % bytesPerBlock).data()))
+      m_signExtended(isEndExtended(m_next, rest, length % bytesPerBlock))
 {
 }
 

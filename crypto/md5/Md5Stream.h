@@ -28,7 +28,8 @@ public:
     std::uint64_t length() const { return m_buffer.length(); }
 
     /// True when the sign of a byte from 0x80 on has changed its word, so that the digest is not
-    /// that of RFC 1321. The last byte of a word of four changes nothing.
+    /// that of RFC 1321. The last byte of a word of four changes nothing, and neither does one
+    /// behind which the word has only bytes of 0xFF.
     bool isSignExtended() const { return m_signExtended; }
     /// True when the length makes the padding 2^23 blocks longer than RFC 1321 has it.
     bool hasLongPadding() const { return md5::hasLongPadding(length()); }

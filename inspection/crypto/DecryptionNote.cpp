@@ -4,8 +4,8 @@
 #include "inspection/crypto/DecodedText.h"
 #include "inspection/crypto/Sentences.h"
 
-DecryptionNote::DecryptionNote(const Decryption& decryption, KeySource source)
-    : m_decryption(decryption), m_source(source), m_text(decryption.text())
+DecryptionNote::DecryptionNote(const Decryption& decryption, const LibraryAnswer& answer)
+    : m_decryption(decryption), m_answer(answer)
 {
 }
 
@@ -16,8 +16,9 @@ bool DecryptionNote::isFailure() const
 
 QString DecryptionNote::suspicion() const
 {
-    return m_source == KeySource::PassPhrase ? tr("Wrong pass phrase, or damaged cipher text:")
-                                             : tr("Wrong key or IV, or damaged cipher text:");
+    return m_answer.source == KeySource::PassPhrase
+               ? tr("Wrong pass phrase, or damaged cipher text:")
+               : tr("Wrong key or IV, or damaged cipher text:");
 }
 
 QString DecryptionNote::fault() const
@@ -26,7 +27,8 @@ QString DecryptionNote::fault() const
         return tr("the padding does not match, and the library gets an empty text.");
     if (m_decryption.reason() == DecryptionReason::NoPadding)
         return tr("there is no padding, and the library gets these bytes as they are.");
-    return DecodedText::of(m_text).isText ? QString() : tr("the clear text is not valid UTF-8.");
+    return DecodedText::of(m_answer.text).isText ? QString()
+                                                 : tr("the clear text is not valid UTF-8.");
 }
 
 QString DecryptionNote::outcome() const
@@ -39,19 +41,19 @@ QString DecryptionNote::outcome() const
             .arg(m_decryption.cipherSize);
     if (isFailure())
         return joinSentences({suspicion(), fault()});
-    return tr("Bytes decrypted: %L1.").arg(m_text.size());
+    return tr("Bytes decrypted: %L1.").arg(m_answer.text.size());
 }
 
 QString DecryptionNote::remarks() const
 {
     QStringList remarks;
-    if (m_source == KeySource::PassPhrase && m_text.size() > longestExportedText)
+    if (m_answer.isNull)
         remarks += tr("DecryptionAES_Export gives null: its result holds at most %L1 bytes. This "
                       "is what Encrypt::DecryptionAES gives.")
                        .arg(longestExportedText);
-    remarks += DecodedText::of(m_text).note();
-    if (m_text.size() < m_decryption.bytes.size())
+    remarks += DecodedText::of(m_answer.text).note();
+    if (m_answer.text.size() < m_decryption.bytes.size())
         remarks += tr("The library ends the text before its first zero byte. Bytes left out: %L1.")
-                       .arg(m_decryption.bytes.size() - m_text.size());
+                       .arg(m_decryption.bytes.size() - m_answer.text.size());
     return joinSentences(remarks);
 }

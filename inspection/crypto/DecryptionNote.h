@@ -1,7 +1,7 @@
 #pragma once
 
 #include "crypto/Decryption.h"
-#include "inspection/crypto/EncryptionNote.h"
+#include "inspection/crypto/LibraryAnswer.h"
 
 #include <QCoreApplication>
 
@@ -11,8 +11,8 @@ class DecryptionNote
     Q_DECLARE_TR_FUNCTIONS(DecryptionNote)
 
 public:
-    /// `decryption` must live as long as this.
-    DecryptionNote(const Decryption& decryption, KeySource source);
+    /// For one cipher text and the same keys; both must live as long as this.
+    DecryptionNote(const Decryption& decryption, const LibraryAnswer& answer);
 
     /// True where the keys are wrong or the cipher text is damaged.
     bool isFailure() const;
@@ -29,6 +29,5 @@ private:
     QString suspicion() const;
 
     const Decryption& m_decryption;
-    KeySource m_source;
-    std::string m_text;
+    const LibraryAnswer& m_answer;
 };

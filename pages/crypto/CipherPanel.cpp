@@ -4,6 +4,7 @@
 #include "inspection/crypto/Base64Note.h"
 #include "inspection/crypto/DecodedText.h"
 #include "inspection/crypto/DecryptionNote.h"
+#include "inspection/crypto/LibraryAnswer.h"
 #include "inspection/crypto/Sentences.h"
 #include "inspection/crypto/TextLimits.h"
 #include "pages/crypto/KeyInput.h"
@@ -87,10 +88,14 @@ void CipherPanel::decrypt()
         return refuse(tr("Enter the cipher text first."));
     }
     const Decryption decryption = decryptWithReason(*keys, cipherText);
-    const DecryptionNote note(decryption, m_keys->source());
+    const LibraryAnswer answer =
+        m_keys->source() == KeySource::PassPhrase
+            ? LibraryAnswer::underPassPhrase(m_keys->passPhrase(), cipherText)
+            : LibraryAnswer::withKeys(*keys, cipherText);
+    const DecryptionNote note(decryption, answer);
     if (decryption.reason() == DecryptionReason::NothingDecoded)
         return refuse(note.outcome());
-    m_plain->setText(DecodedText::of(decryption.text()).text);
+    m_plain->setText(DecodedText::of(answer.text).text);
     const QString remarks =
         joinSentences({note.remarks(), Base64Note::of(cipherText), m_keys->note()});
     if (note.isFailure())

@@ -104,6 +104,11 @@ KeySource KeyInput::source() const
     return m_useKeys->isChecked() ? KeySource::KeyAndIv : KeySource::PassPhrase;
 }
 
+std::string KeyInput::passPhrase() const
+{
+    return m_passPhrase->text().toStdString();
+}
+
 std::optional<CipherKeys> KeyInput::refuse(QLineEdit* field, const QString& problem)
 {
     m_context.report(PageContext::Report::Warning, problem);
@@ -116,7 +121,7 @@ std::optional<CipherKeys> KeyInput::keys()
     if (source() == KeySource::PassPhrase) {
         if (m_passPhrase->text().isEmpty())
             return refuse(m_passPhrase, tr("Enter the pass phrase first."));
-        return keysFromPassPhrase(m_passPhrase->text().toStdString());
+        return keysFromPassPhrase(passPhrase());
     }
     for (QLineEdit* field : {m_key, m_iv}) {
         const QString problem = typed(field).problem();

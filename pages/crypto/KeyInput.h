@@ -24,6 +24,9 @@ public:
 
     KeySource source() const;
 
+    /// What was typed, which is not to be reported.
+    std::string passPhrase() const;
+
     /// Nothing when the keys are incomplete; then it has reported why, and the field in question
     /// has the focus.
     std::optional<CipherKeys> keys();

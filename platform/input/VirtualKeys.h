@@ -29,8 +29,8 @@ inline constexpr std::array<VirtualKey, 14> knownKeys{{
     {VK_LMENU, "VK_LMENU", Qt::AltModifier},
     {VK_RMENU, "VK_RMENU", Qt::AltModifier},
     {VK_LBUTTON, "VK_LBUTTON", Qt::LeftButton},
-    {VK_RBUTTON, "VK_RBUTTON", Qt::RightButton},
     {VK_MBUTTON, "VK_MBUTTON", Qt::MiddleButton},
+    {VK_RBUTTON, "VK_RBUTTON", Qt::RightButton},
     {VK_RETURN, "VK_RETURN", Qt::Key_Return},
     {VK_SPACE, "VK_SPACE", Qt::Key_Space},
 }};

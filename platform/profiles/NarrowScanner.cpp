@@ -1,31 +1,5 @@
 #include "platform/profiles/NarrowScanner.h"
 
-namespace {
-
-constexpr QChar equalsSign = QLatin1Char('=');
-
-} // namespace
-
-bool NarrowScanner::next()
-{
-    if (m_rest.isEmpty())
-        return false;
-    const qsizetype end = m_rest.indexOf(QLatin1Char('\n'));
-    m_line = end < 0 ? m_rest : m_rest.left(end);
-    m_rest = end < 0 ? QStringView() : m_rest.mid(end + 1);
-    if (m_line.startsWith(QLatin1Char('['))) {
-        m_header = m_line;
-        m_kind = Kind::Header;
-        return true;
-    }
-    m_equals = m_line.indexOf(equalsSign);
-    m_secondEquals = m_equals < 0 ? -1 : m_line.indexOf(equalsSign, m_equals + 1);
-    // A value with a "=" in it is lost. Intended.
-    const bool isKept = m_equals >= 0 && m_secondEquals < 0 && !m_header.isEmpty();
-    m_kind = isKept ? Kind::Entry : Kind::Dropped;
-    return true;
-}
-
 LineState NarrowScanner::state() const
 {
     switch (m_kind) {

@@ -55,3 +55,25 @@ private:
     qsizetype m_secondEquals = -1;
     Kind m_kind = Kind::Dropped;
 };
+
+// Inline, so that a read of the narrow family costs no more than a loop over the lines of its own.
+inline bool NarrowScanner::next()
+{
+    if (m_rest.isEmpty())
+        return false;
+    const qsizetype end = m_rest.indexOf(QLatin1Char('\n'));
+    m_line = end < 0 ? m_rest : m_rest.left(end);
+    m_rest = end < 0 ? QStringView() : m_rest.mid(end + 1);
+    if (m_line.startsWith(QLatin1Char('['))) {
+        m_header = m_line;
+        m_kind = Kind::Header;
+        return true;
+    }
+    constexpr QChar equalsSign = QLatin1Char('=');
+    m_equals = m_line.indexOf(equalsSign);
+    m_secondEquals = m_equals < 0 ? -1 : m_line.indexOf(equalsSign, m_equals + 1);
+    // A value with a "=" in it is lost. Intended.
+    const bool isKept = m_equals >= 0 && m_secondEquals < 0 && !m_header.isEmpty();
+    m_kind = isKept ? Kind::Entry : Kind::Dropped;
+    return true;
+}

@@ -99,6 +99,27 @@ TEST(Md5StreamTest, TellsWhetherTheSignOfAByteChangesItsWord)
     }
 }
 
+// As the erased part of a flash memory: the bits that the sign would set are set.
+TEST(Md5StreamTest, TellsThatTheSignChangesNoWordOfBytesOfFF)
+{
+    for (const std::size_t length : {4U, 64U, 80U, 112U, 1024U}) {
+        const std::string text(length, '\xff');
+        Md5Stream stream;
+        stream.add(text.data(), length);
+        stream.end();
+        EXPECT_FALSE(stream.isSignExtended()) << length;
+    }
+}
+
+TEST(Md5StreamTest, TellsThatTheSignReachesTheMarkBehindTheText)
+{
+    const std::string text(67, '\xff');
+    Md5Stream stream;
+    stream.add(text.data(), text.size());
+    stream.end();
+    EXPECT_TRUE(stream.isSignExtended());
+}
+
 TEST(Md5StreamTest, TellsWhichLengthsHaveALongPadding)
 {
     for (std::size_t length = 0; length <= 200; ++length) {

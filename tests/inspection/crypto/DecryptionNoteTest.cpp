@@ -20,7 +20,9 @@ class DecryptionNoteTest : public testing::TestWithParam<NoteRow>
 
 TEST_P(DecryptionNoteTest, PutsTheReasonIntoWords)
 {
-    const DecryptionNote note(GetParam().decryption, KeySource::KeyAndIv);
+    const Decryption& decryption = GetParam().decryption;
+    const LibraryAnswer answer{KeySource::KeyAndIv, decryption.text()};
+    const DecryptionNote note(decryption, answer);
     EXPECT_EQ(note.isFailure(), GetParam().isFailure);
     EXPECT_EQ(note.outcome().toStdString(), GetParam().outcome);
     EXPECT_EQ(note.remarks().toStdString(), GetParam().remarks);
@@ -62,18 +64,19 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(DecryptionNote, SuspectsThePassPhraseThatWasUsed)
 {
     const Decryption wrong{"", Padding::Mismatched, 16};
-    EXPECT_TRUE(DecryptionNote(wrong, KeySource::PassPhrase)
+    const LibraryAnswer answer{KeySource::PassPhrase, {}};
+    EXPECT_TRUE(DecryptionNote(wrong, answer)
                     .outcome()
                     .startsWith("Wrong pass phrase, or damaged cipher text:"));
 }
 
-TEST(DecryptionNote, TellsWhatTheExportedEntryCannotGive)
+TEST(DecryptionNote, TellsThatTheExportedEntryHasAnsweredNull)
 {
-    const Decryption longest{std::string(2047, 'x'), Padding::Removed, 2048};
-    const Decryption longer{std::string(2048, 'x'), Padding::Removed, 2064};
-    EXPECT_EQ(DecryptionNote(longest, KeySource::PassPhrase).remarks(), "");
-    EXPECT_EQ(DecryptionNote(longer, KeySource::KeyAndIv).remarks(), "");
-    EXPECT_EQ(DecryptionNote(longer, KeySource::PassPhrase).remarks(),
+    const Decryption decryption{"text", Padding::Removed, 16};
+    const LibraryAnswer given{KeySource::PassPhrase, "text"};
+    const LibraryAnswer refused{KeySource::PassPhrase, "text", true};
+    EXPECT_EQ(DecryptionNote(decryption, given).remarks(), "");
+    EXPECT_EQ(DecryptionNote(decryption, refused).remarks(),
               "DecryptionAES_Export gives null: its result holds at most 2,047 bytes. This is what "
               "Encrypt::DecryptionAES gives.");
 }

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QLabel>
 
+#include <functional>
+
 namespace {
 
 TEST_F(CryptoPageTest, OpensWithThePassPhraseInFocus)
@@ -145,6 +147,22 @@ TEST_F(CryptoPageTest, ShowsTheEmptyTextThatWrongPaddingGives)
     EXPECT_EQ(status(), "Wrong key or IV, or damaged cipher text: the padding does not match, and "
                         "the library gets an empty text.");
     EXPECT_EQ(clear()->toPlainText(), "");
+}
+
+// The function writes of padding that does not match to standard output, which shows that the page
+// has called it, and once only.
+TEST_F(CryptoPageTest, AsksTheFunctionThatAHostLibraryCalls)
+{
+    const std::function<void()> enterings[] = {
+        [this] { enterPassPhrase(passPhrase); },
+        [this] { enterKeys("0123456789abcdef", "0123456789abcdef"); }};
+    for (const auto& enter : enterings) {
+        enter();
+        cipher()->setPlainText("QUIC"); // bytes that end with 2, before which stands no 2
+        testing::internal::CaptureStdout();
+        pressDecrypt();
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), "去填充失败！解密出错！！\n");
+    }
 }
 
 TEST_F(CryptoPageTest, TellsAnEmptyClearTextFromAWrongPassPhrase)

@@ -50,6 +50,15 @@ TEST_F(InputPageTest, HasALampForEveryKeyThatTheServiceKnows)
     EXPECT_EQ(knownKeys.size(), 14U);
 }
 
+TEST_F(InputPageTest, HasTheLampOfTheMiddleButtonBetweenTheOthers)
+{
+    const QPoint left = control<KeyLamp>("VK_LBUTTON")->pos();
+    const QPoint middle = control<KeyLamp>("VK_MBUTTON")->pos();
+    const QPoint right = control<KeyLamp>("VK_RBUTTON")->pos();
+    EXPECT_LT(left.y(), middle.y());
+    EXPECT_LT(middle.y(), right.y());
+}
+
 TEST_F(InputPageTest, LampsFollowWhatTheHostLibraryReports)
 {
     IPlatformUserInputManager* service = g_PlatformServices.userInputManager();
