@@ -16,11 +16,10 @@ class QVBoxLayout;
 ///  1. Derive from Page in a folder of its own, `pages/<name>/`, beside a function that draws the
 ///     page's glyph.
 ///  2. Add a row to the table of `pages/PageCatalogue.cpp`: the page's name, its title with a
-///  letter
-///     for Alt that no other title has, its glyph and its class. That is all that the window needs:
-///     the rail, the shortcuts, the option "/page", the pictures and the tests of all pages follow
-///     the catalogue. The window makes the page on the first visit, as a child of its place in the
-///     stack.
+///     letter for Alt that no other title has, its glyph and its class. That is all that the window
+///     needs: the rail, the shortcuts, the option "/page", the pictures and the tests of all pages
+///     follow the catalogue. The window makes the page on the first visit, as a child of its place
+///     in the stack.
 ///  3. In the constructor build the widgets into `body()`, set a focus proxy (`setFocusProxy`) to
 ///     the control that gets the keyboard when the page is opened, give every control an accessible
 ///     name, and install `g_buttonMonitor` on every push button (`glowing` does it).
