@@ -97,7 +97,7 @@ public:
         const Record& each = record(index.row());
         if (role == Qt::DisplayRole)
             return column.text(each);
-        const QVariant look = column.look ? column.look(each, role) : QVariant();
+        QVariant look = column.look ? column.look(each, role) : QVariant();
         if (role == Qt::ToolTipRole && !look.isValid())
             return plainToolTip(column.text(each));
         return look;

@@ -55,7 +55,7 @@ QString RemovalText::ofValues(const std::vector<Value>& values)
 QString RemovalText::ofKey(const QString& path, const RegistryCountJob& count)
 {
     const QLocale locale;
-    const QString text =
+    QString text =
         RemovalTexts::tr("Keys below it that go with it: %1. Values: %2.")
             .arg(locale.toString(count.keys().size() - 1), locale.toString(count.values()));
     if (rawRegistryEntry(path).isNull())

@@ -47,7 +47,7 @@ void ProfileEditor::decide(const Request& request, const ProfileDryRun& dryRun)
         m_page.report(Report::Error, ProfileWriter::unreadable(family));
         return;
     }
-    const QByteArray tried = dryRun.bytes();
+    const QByteArray& tried = dryRun.bytes();
     if (dryRun.isHarmless()) {
         writeAsTried(request, tried);
         return;

@@ -91,7 +91,7 @@ void RegistryRemover::removeKey(const QString& path)
 
 void RegistryRemover::confirmKey(const QString& path, const RegistryCountJob& count)
 {
-    const QStringList keys = count.keys();
+    const QStringList& keys = count.keys();
     ask(tr("Delete the key %1?").arg(RegistryPath::shown(path)), RemovalText::ofKey(path, count),
         [this, path, keys] { removeKeys(path, keys); });
 }
