@@ -4,6 +4,8 @@
 #include "pages/registry/RegistryTransfer.h"
 #include "tests/inspection/registry/RegistryTest.h"
 
+#include <QTest>
+
 class QDialog;
 class QTableView;
 class QTreeView;
@@ -38,6 +40,22 @@ protected:
     /// The dialog that is open, or opens soon.
     static QDialog& dialog();
     static void type(const QString& name, const QString& data);
+    /// Imports or exports, and waits until the job that reads or writes the file has ended.
+    void importFile(const QString& file)
+    {
+        transfer().importFile(file);
+        settle();
+    }
+    void exportKey(const QString& path, const QString& file, RegFileWriter::Encoding encoding)
+    {
+        transfer().exportKey(path, file, encoding);
+        settle();
+    }
+    void settle()
+    {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }, 300000));
+    }
+
     /// Presses the dialog's button for Enter, and waits for the job that follows; false when the
     /// button is off.
     bool accept() const;

@@ -32,9 +32,9 @@ protected:
 TEST_F(RegistryTransferTest, ImportShowsFirstWhatItWillDoAndRefuse)
 {
     show();
-    transfer().importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"good\"=dword:1\r\n"
-                                           "\"large\"=hex(b):00,01,00,00,00,00,00,00\r\n"
-                                           "\"multi\"=hex(7):00,00\r\n"));
+    importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"good\"=dword:1\r\n"
+                                "\"large\"=hex(b):00,01,00,00,00,00,00,00\r\n"
+                                "\"multi\"=hex(7):00,00\r\n"));
     EXPECT_TRUE(g_globalSettings->allKeys().isEmpty());
     EXPECT_EQ(dialog().findChild<QLabel*>()->text().toStdString(),
               "As written in the file: 2. Altered: 1. Refused: 1.");
@@ -54,7 +54,7 @@ TEST_F(RegistryTransferTest, ImportShowsFirstWhatItWillDoAndRefuse)
 TEST_F(RegistryTransferTest, ImportThatIsNotConfirmedWritesNothing)
 {
     show();
-    transfer().importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=dword:1\r\n"));
+    importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=dword:1\r\n"));
     reject();
     EXPECT_TRUE(g_globalSettings->allKeys().isEmpty());
 }
@@ -62,7 +62,7 @@ TEST_F(RegistryTransferTest, ImportThatIsNotConfirmedWritesNothing)
 TEST_F(RegistryTransferTest, ImportOfNothingButRefusalsCannotBeConfirmed)
 {
     show();
-    transfer().importFile(written(header + "garbage\r\n"));
+    importFile(written(header + "garbage\r\n"));
     EXPECT_FALSE(accept());
     reject();
 }
@@ -70,11 +70,11 @@ TEST_F(RegistryTransferTest, ImportOfNothingButRefusalsCannotBeConfirmed)
 TEST_F(RegistryTransferTest, AFileThatIsNoRegistryFileIsRefusedWithItsReason)
 {
     show();
-    transfer().importFile(written("REGEDIT4\r\n"));
+    importFile(written("REGEDIT4\r\n"));
     EXPECT_TRUE(status().contains("version 4")) << status().toStdString();
-    transfer().importFile(written("hello"));
+    importFile(written("hello"));
     EXPECT_TRUE(status().contains("does not begin with")) << status().toStdString();
-    transfer().importFile(m_folder.filePath("missing.reg"));
+    importFile(m_folder.filePath("missing.reg"));
     EXPECT_TRUE(status().contains("could not be read")) << status().toStdString();
 }
 
@@ -84,7 +84,7 @@ TEST_F(RegistryTransferTest, AFileThatIsTooLargeIsNotRead)
     const QString path = written(header);
     show();
     ASSERT_TRUE(QFile::resize(path, largest + 1));
-    transfer().importFile(path);
+    importFile(path);
     EXPECT_TRUE(status().endsWith("was not imported: it is larger than 32 MiB."))
         << status().toStdString();
     EXPECT_FALSE(QApplication::activeModalWidget());
@@ -108,7 +108,7 @@ TEST_F(RegistryTransferTest, ALargeFileIsReadInManyTurnsOfTheEventLoop)
 TEST_F(RegistryTransferTest, AFolderIsNoRegistryFile)
 {
     show();
-    transfer().importFile(m_folder.path());
+    importFile(m_folder.path());
     EXPECT_TRUE(status().endsWith("was not imported: it is not a regular file."))
         << status().toStdString();
 }
@@ -120,7 +120,7 @@ TEST_F(RegistryTransferTest, ExportWritesTheKeyAndCountsWhatItLeftOut)
     store("B/other", "1$1");
     show();
     const QString path = m_folder.filePath("out.reg");
-    transfer().exportKey("A", path, RegFileWriter::Encoding::Utf8);
+    exportKey("A", path, RegFileWriter::Encoding::Utf8);
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray text = file.readAll();
@@ -132,7 +132,7 @@ TEST_F(RegistryTransferTest, ExportWritesTheKeyAndCountsWhatItLeftOut)
 TEST_F(RegistryTransferTest, ExportSaysThatAFileCannotBeWritten)
 {
     show();
-    transfer().exportKey("", m_folder.filePath("no/out.reg"), RegFileWriter::Encoding::Utf16);
+    exportKey("", m_folder.filePath("no/out.reg"), RegFileWriter::Encoding::Utf16);
     EXPECT_TRUE(status().contains("could not be written")) << status().toStdString();
 }
 

@@ -81,7 +81,7 @@ TEST_F(UnwritableStoreTest, IsToldAfterAnImport)
         "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n\"v\"=dword:1\r\n");
     file.close();
     show();
-    transfer().importFile(file.fileName());
+    importFile(file.fileName());
     ASSERT_TRUE(accept());
     expectTold("Imported " + file.fileName() + ". Statements carried out: 2. Refused: 0. ");
 }
