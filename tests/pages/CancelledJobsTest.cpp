@@ -64,12 +64,15 @@ protected:
     static void waitForProgress(const WindowProbe& probe, const QString& pattern)
     {
         const QRegularExpression expression(pattern);
-        EXPECT_TRUE(QTest::qWaitFor([&] {
-            const auto labels = overlay(probe).findChildren<QLabel*>();
-            return std::any_of(labels.begin(), labels.end(), [&expression](const QLabel* label) {
-                return expression.match(label->text()).hasMatch();
-            });
-        }));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                const auto labels = overlay(probe).findChildren<QLabel*>();
+                return std::any_of(labels.begin(), labels.end(),
+                                   [&expression](const QLabel* label) {
+                                       return expression.match(label->text()).hasMatch();
+                                   });
+            },
+            300000));
     }
     static QString status(const WindowProbe& probe) { return probe.page().statusText(); }
     // The number that the status tells behind (or before) these words.

@@ -88,7 +88,7 @@ void WindowProbe::click(const char* name) const
 
 bool WindowProbe::settle() const
 {
-    return QTest::qWaitFor([this] { return !page().isBusy(); }, 20000);
+    return QTest::qWaitFor([this] { return !page().isBusy(); }, 300000);
 }
 
 QStringList WindowProbe::clipped() const
