@@ -3,11 +3,16 @@
 #include "app/ApplicationLog.h"
 #include "app/HostInformation.h"
 #include "inspection/registry/RawStore.h"
+#include "window/AccessibleRole.h"
+#include "window/FaintText.h"
 #include "window/Page.h"
 #include "window/PageRail.h"
 #include "window/PageStack.h"
 #include "window/StatusLine.h"
+#include "window/TabOrder.h"
+#include "window/WindowSize.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
@@ -17,27 +22,16 @@
 
 namespace {
 
-// Comfortable for two columns of text, and never larger than the screen.
+// Comfortable for two columns of text where the screen has room for that.
 QSize firstSize(const QWidget& window)
 {
     const int unit = window.fontMetrics().height();
     const QSize wanted(unit * 66, unit * 44);
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? wanted.boundedTo(screen->availableSize() * 0.9) : wanted;
-}
-
-// What the pages need, but no more than the smallest of screens. A minimum of its own keeps a page
-// that is built later from enlarging the window, which start-up has centred by then.
-QSize smallestSize(const QWidget& window)
-{
-    const int unit = window.fontMetrics().height();
-    return QSize(unit * 46, unit * 34).boundedTo({800, 600}).expandedTo(window.minimumSizeHint());
-}
-
-bool takesTab(const QWidget& widget, const QWidget& window)
-{
-    return (widget.focusPolicy() & Qt::TabFocus) != 0 && !widget.focusProxy() &&
-           widget.isEnabled() && widget.window() == &window && widget.isVisibleTo(&window);
+    // Window managers take about that much for a title bar, and for the other edges.
+    return screen ? firstWindowSize(wanted, screen->virtualGeometry(),
+                                    screen->availableVirtualGeometry(), unit * 2, unit / 3)
+                  : wanted;
 }
 
 } // namespace
@@ -46,7 +40,9 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
 {
     logInfo(QStringLiteral("Host library %1, settings store %2")
                 .arg(HostInformation::libraryPath(), RawStore::fileName()));
+    setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(tr("Quayside"));
+    makePlaceholdersFaint(*this);
     const std::vector<PageEntry> pages = pageCatalogue();
     for (const PageEntry& page : pages)
         m_names.push_back(page.name);
@@ -60,12 +56,17 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addLayout(middle, 1);
-    layout->addWidget(new StatusLine);
+    auto* status = new StatusLine;
+    layout->addWidget(status);
     m_rail->setChosen(0);
-    connect(m_rail, &PageRail::chosen, this, &MainWindow::choose);
+    connect(m_rail, &PageRail::chosen, this, [this](int page) { m_stack->slideTo(page); });
+    connect(m_rail, &PageRail::browsed, this,
+            [this](int page) { m_stack->slideTo(page, PageStack::Keyboard::Stays); });
     connect(m_stack, &PageStack::entered, this, &MainWindow::logPage);
     addShortcuts(static_cast<int>(pages.size()));
-    setMinimumSize(smallestSize(*this));
+    // A minimum of its own keeps a page that is built later from enlarging the window, which
+    // start-up has centred by then.
+    setMinimumSize(smallestWindow.expandedTo(minimumSizeHint()));
     resize(firstSize(*this).expandedTo(minimumSize()));
 }
 
@@ -73,7 +74,10 @@ void MainWindow::addShortcuts(int pages)
 {
     for (int page = 0; page < pages; ++page) {
         auto* shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(page + 1)), this);
-        connect(shortcut, &QShortcut::activated, this, [this, page] { choose(page); });
+        connect(shortcut, &QShortcut::activated, this, [this, page] {
+            m_rail->setChosen(page);
+            m_stack->slideTo(page);
+        });
     }
     addShortcut(Qt::Key_F5, [](Page& page) { page.refresh(); });
     addShortcut(QKeySequence::Find, [](Page& page) { page.find(); });
@@ -96,17 +100,17 @@ void MainWindow::addShortcut(const QKeySequence& keys, void (*operation)(Page& p
 // controls before that one.
 bool MainWindow::focusNextPrevChild(bool next)
 {
-    const auto after = [next](const QWidget& widget) {
-        return next ? widget.nextInFocusChain() : widget.previousInFocusChain();
-    };
-    const QWidget* from = focusWidget() ? focusWidget() : this;
-    for (QWidget* widget = after(*from); widget != from; widget = after(*widget)) {
-        if (!takesTab(*widget, *this))
-            continue;
-        widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        return true;
-    }
-    return false;
+    QWidget* to = tabNeighbour(*this, next);
+    if (to)
+        to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return to != nullptr;
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        makePlaceholdersFaint(*this);
 }
 
 void MainWindow::showPage(const QString& name)
@@ -122,12 +126,6 @@ void MainWindow::showPage(const QString& name)
 Page* MainWindow::currentPage() const
 {
     return m_stack->page(m_stack->current());
-}
-
-void MainWindow::choose(int page)
-{
-    m_rail->setChosen(page);
-    m_stack->slideTo(page);
 }
 
 void MainWindow::logPage(int page)

@@ -28,11 +28,11 @@ public:
 
 protected:
     bool focusNextPrevChild(bool next) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void addShortcuts(int pages);
     void addShortcut(const QKeySequence& keys, void (*operation)(Page& page));
-    void choose(int page);
     void logPage(int page);
 
     std::vector<QString> m_names;

@@ -110,6 +110,8 @@ public:
         const Column& column = m_columns[static_cast<std::size_t>(section)];
         if (role == Qt::ToolTipRole && !column.tip.isEmpty())
             return plainToolTip(column.tip);
+        if (role == Qt::AccessibleTextRole) // a sign alone heads some columns, or nothing
+            return column.title.isEmpty() ? column.tip : column.title;
         return role == Qt::DisplayRole ? column.title : QVariant();
     }
 

@@ -1,5 +1,7 @@
 #include "window/ViewLook.h"
 
+#include "window/ViewFocus.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QLayout>
@@ -30,6 +32,7 @@ void arrangeTable(QTableView& table)
     table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    new ViewFocus(&table);
 }
 
 int sampleWidth(const QTableView& table, const QString& sample)
@@ -76,8 +79,10 @@ void ColumnBalancer::share()
     int rest = m_table->viewport()->width();
     for (int column = 0; column < m_table->model()->columnCount() - 1; ++column)
         rest -= column == m_column ? 0 : m_table->columnWidth(column);
+    const QHeaderView* header = m_table->horizontalHeader();
+    const int titled = rest - header->sectionSizeHint(header->count() - 1);
     m_sharing = true;
-    m_table->setColumnWidth(m_column, std::max(rest / 2, m_least));
+    m_table->setColumnWidth(m_column, std::max(std::min(rest / 2, titled), m_least));
     m_sharing = false;
 }
 

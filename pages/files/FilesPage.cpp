@@ -6,16 +6,15 @@
 #include "pages/files/PathPanel.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
+#include "window/FaintText.h"
 #include "window/ViewLook.h"
 
 #include <QDir>
 #include <QFileDialog>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPalette>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
@@ -34,7 +33,7 @@ Column detail(const QString& title, const Text& text, const Text& raw)
                 if (role == Qt::ToolTipRole)
                     return plainToolTip(raw(entry));
                 if (role == Qt::ForegroundRole && !entry.details)
-                    return QGuiApplication::palette().placeholderText();
+                    return faintText();
                 return {};
             }};
 }

@@ -2,10 +2,10 @@
 
 #include "pages/profiles/ProfileText.h"
 #include "platform/profiles/LineStateText.h"
+#include "window/FaintText.h"
 
 #include <QFont>
 #include <QGuiApplication>
-#include <QPalette>
 
 namespace {
 
@@ -22,11 +22,6 @@ bool isDull(const LineReading& reading)
     }
 }
 
-QVariant grey()
-{
-    return QGuiApplication::palette().placeholderText();
-}
-
 QString narrowText(const Line& line)
 {
     return longText(line.narrow, ProfileFamily::Narrow);
@@ -41,7 +36,7 @@ QString wideText(const Line& line)
 QVariant lineLook(const Line& line, bool isDullText, int role)
 {
     if (role == Qt::ForegroundRole && isDullText)
-        return grey();
+        return faintText();
     if (role == Qt::ToolTipRole)
         return ProfileColumns::tr("Narrow: %1\nWide: %2").arg(narrowText(line), wideText(line));
     return {};
@@ -50,7 +45,7 @@ QVariant lineLook(const Line& line, bool isDullText, int role)
 QVariant stateLook(const LineReading& reading, ProfileFamily family, int role)
 {
     if (role == Qt::ForegroundRole && isDull(reading))
-        return grey();
+        return faintText();
     return role == Qt::ToolTipRole ? longText(reading, family) : QVariant();
 }
 
@@ -80,7 +75,7 @@ Shown shownValue(const std::optional<QString>& value)
 QVariant look(const Shown& shown, bool isBold, int role)
 {
     if (role == Qt::ForegroundRole && shown.isPlaceholder)
-        return grey();
+        return faintText();
     if (role != Qt::FontRole || !isBold || shown.isPlaceholder)
         return {};
     QFont bold = QGuiApplication::font();
@@ -152,7 +147,7 @@ std::vector<RecordColumn<ProfileReading>> ProfileColumns::ofReadings()
              [](const Reading& reading) {
                  return QString(reading.differs() ? QChar(u'≠') : QLatin1Char('='));
              },
-             &differenceLook},
+             &differenceLook, tr("Whether the families read the same value")},
             {tr("Narrow reading"),
              [](const Reading& reading) { return shownValue(reading.narrow).text; }, &narrowLook}};
 }
