@@ -5,11 +5,14 @@
 #include "inspection/registry/RawStore.h"
 #include "window/AccessibleRole.h"
 #include "window/FaintText.h"
+#include "window/GlyphIcon.h"
+#include "window/HelpWindow.h"
 #include "window/Page.h"
 #include "window/PageRail.h"
 #include "window/PageStack.h"
 #include "window/StatusLine.h"
 #include "window/TabOrder.h"
+#include "window/WindowGlyph.h"
 #include "window/WindowSize.h"
 
 #include <QEvent>
@@ -43,6 +46,7 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(tr("Quayside"));
     makePlaceholdersFaint(*this);
+    setWindowIcon(glyphIcon(&drawWindowGlyph));
     const std::vector<PageEntry> pages = pageCatalogue();
     for (const PageEntry& page : pages)
         m_names.push_back(page.name);
@@ -63,6 +67,7 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     connect(m_rail, &PageRail::browsed, this,
             [this](int page) { m_stack->slideTo(page, PageStack::Keyboard::Stays); });
     connect(m_stack, &PageStack::entered, this, &MainWindow::logPage);
+    connect(status, &StatusLine::helpRequested, this, &MainWindow::showHelp);
     addShortcuts(static_cast<int>(pages.size()));
     // A minimum of its own keeps a page that is built later from enlarging the window, which
     // start-up has centred by then.
@@ -79,6 +84,9 @@ void MainWindow::addShortcuts(int pages)
             m_stack->slideTo(page);
         });
     }
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &MainWindow::showHelp);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this,
+            &QWidget::close);
     addShortcut(Qt::Key_F5, [](Page& page) { page.refresh(); });
     addShortcut(QKeySequence::Find, [](Page& page) { page.find(); });
     // A field that is being typed into takes these two for itself.
@@ -126,6 +134,13 @@ void MainWindow::showPage(const QString& name)
 Page* MainWindow::currentPage() const
 {
     return m_stack->page(m_stack->current());
+}
+
+void MainWindow::showHelp()
+{
+    if (!m_help)
+        m_help = new HelpWindow(pageCatalogue(), this);
+    m_help->showAt(m_names[static_cast<std::size_t>(m_stack->current())]);
 }
 
 void MainWindow::logPage(int page)

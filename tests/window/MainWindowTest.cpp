@@ -299,4 +299,21 @@ TEST_F(MainWindowTest, TabGoesFromTheRailThroughThePageToTheStatusLine)
     EXPECT_EQ(partOf(m_window, QApplication::focusWidget()), Part::StatusLine);
 }
 
+TEST_F(MainWindowTest, CtrlQClosesIt)
+{
+    show();
+    QTest::keyClick(&m_window, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(m_window.isVisible());
+}
+
+TEST_F(MainWindowTest, HasAnIconOfItsOwn)
+{
+    const QImage icon = m_window.windowIcon().pixmap(64, 64).toImage();
+    ASSERT_FALSE(icon.isNull());
+    const QColor ground = icon.pixelColor(6, 6);
+    EXPECT_EQ(ground, m_window.palette().color(QPalette::Highlight));
+    EXPECT_NE(icon.pixelColor(32, 11), ground) << "the bollard";
+    EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0) << "rounded";
+}
+
 } // namespace
