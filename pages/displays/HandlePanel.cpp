@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTableView>
 
@@ -31,6 +32,11 @@ IPlatformResourceManager* service()
 QString handleName(const GraphicsObject& handle)
 {
     return handleText(handle.handle);
+}
+
+bool isSame(const GraphicsObject& one, const GraphicsObject& other)
+{
+    return one.handle == other.handle && one.type == other.type && one.object == other.object;
 }
 
 std::vector<RecordColumn<GraphicsObject>> columns()
@@ -58,6 +64,7 @@ void HandlePanel::makeTable()
     m_view->setAccessibleName(tr("Graphics handles"));
     arrangeTable(*m_view);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setMinimumHeight(fontMetrics().height() * 5); // for the hint of an empty table
     auto* action = new QAction(tr("Delete handle"), m_view);
     action->setShortcut(QKeySequence::Delete);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -109,13 +116,38 @@ void HandlePanel::addButton(QHBoxLayout* row, const QString& caption, void (Hand
 
 void HandlePanel::refresh()
 {
+    const void* before = chosen();
+    const int place = m_view->verticalScrollBar()->value();
     m_model.setRecords(graphicsHandles());
     fitColumnsToContents(*m_view);
-    const auto& handles = m_model.records();
-    const auto made = std::find_if(handles.begin(), handles.end(),
-                                   [this](const auto& handle) { return handle.handle == m_made; });
-    if (made != handles.end())
-        m_view->selectRow(static_cast<int>(made - handles.begin()));
+    choose(before);
+    m_view->verticalScrollBar()->setValue(place);
+}
+
+bool HandlePanel::lookForChanges()
+{
+    const std::vector<GraphicsObject> now = graphicsHandles();
+    const auto& shown = m_model.records();
+    if (std::equal(now.begin(), now.end(), shown.begin(), shown.end(), &isSame))
+        return false;
+    refresh();
+    return true;
+}
+
+const void* HandlePanel::chosen() const
+{
+    const QModelIndex current = m_view->currentIndex();
+    return current.isValid() ? m_model.record(current.row()).handle : nullptr;
+}
+
+void HandlePanel::choose(const void* handle)
+{
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        if (m_model.record(row).handle == handle) {
+            m_view->selectRow(row);
+            return;
+        }
+    }
 }
 
 void HandlePanel::createImage()
@@ -137,13 +169,13 @@ void HandlePanel::createBrush()
 
 void HandlePanel::showNew(void* handle)
 {
-    m_made = handle;
     if (handle)
         m_page.report(PageContext::Report::Info, tr("Made handle %1.").arg(handleText(handle)));
     else
         m_page.report(PageContext::Report::Error,
                       tr("The service made no handle: all 65,535 numbers are taken."));
     refresh();
+    choose(handle);
 }
 
 bool HandlePanel::confirmDeletion(const QString& name)
