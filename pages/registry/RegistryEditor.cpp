@@ -112,13 +112,19 @@ QString RegistryEditor::whyNotEdited(const ListedValue& value) const
     return {};
 }
 
-// A value that cannot be read can be replaced: the dialog offers an empty text.
 void RegistryEditor::openEditor(const QString& path, const ListedValue& value)
 {
-    const unsigned int type = value.isReadable() ? value.reading().type : REG_SZ;
-    const QByteArray data = value.isReadable() ? value.reading().data : QByteArray();
-    auto* dialog = new ValueDialog(value.name(), type, data, m_window);
-    open(dialog, [this, dialog, path] { write(path, *dialog); });
+    auto* dialog = new ValueDialog(value, m_window);
+    open(dialog, [this, dialog, path] { endEditing(path, *dialog); });
+}
+
+void RegistryEditor::endEditing(const QString& path, const ValueDialog& dialog)
+{
+    if (dialog.isUnchanged())
+        m_page.setStatus(tr("\"%1\" in %2 stays as it is: nothing was typed that would change it.")
+                             .arg(dialog.name(), RegistryPath::shown(path)));
+    else
+        write(path, dialog);
 }
 
 void RegistryEditor::write(const QString& path, const ValueDialog& dialog)

@@ -35,6 +35,7 @@ private:
     void createValue(const QString& path, const ValueDialog& dialog);
     QString whyNotEdited(const ListedValue& value) const;
     void openEditor(const QString& path, const ListedValue& value);
+    void endEditing(const QString& path, const ValueDialog& dialog);
     void write(const QString& path, const ValueDialog& dialog);
     void reportWritten(const QString& path, const ValueDialog& dialog);
 
