@@ -5,6 +5,7 @@
 #include "inspection/registry/RegistryPath.h"
 #include "pages/registry/KeyTree.h"
 #include "pages/registry/RegistryEditor.h"
+#include "pages/registry/RegistryHistory.h"
 #include "pages/registry/RegistryRemover.h"
 #include "pages/registry/RegistryTransfer.h"
 #include "pages/registry/ValueTable.h"
@@ -54,15 +55,18 @@ RegistryActions::RegistryActions(PageContext& page, KeyTree& tree, ValueTable& t
       m_tree(tree),
       m_table(table),
       m_window(window),
-      m_editor(new RegistryEditor(page, window)),
-      m_remover(new RegistryRemover(page, window)),
-      m_transfer(new RegistryTransfer(page, window))
+      m_history(new RegistryHistory(page, window)),
+      m_editor(new RegistryEditor(page, *m_history, window)),
+      m_remover(new RegistryRemover(page, *m_history, window)),
+      m_transfer(new RegistryTransfer(page, *m_history, window))
 {
     makeActions();
     enable(false);
     connect(qApp, &QApplication::focusChanged, this, &RegistryActions::rememberView);
     connect(&m_table, &ValueTable::selectedChanged, this, &RegistryActions::enable);
     connect(&m_table, &QTableView::activated, this, &RegistryActions::editValue);
+    connect(m_history, &RegistryHistory::changed, this, &RegistryActions::changed);
+    connect(m_history, &RegistryHistory::outdated, this, &RegistryActions::outdated);
     connect(m_editor, &RegistryEditor::changed, this, &RegistryActions::changed);
     connect(m_remover, &RegistryRemover::changed, this,
             [this](const QString& path) { emit changed(path, {}); });

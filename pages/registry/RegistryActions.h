@@ -11,6 +11,7 @@ class QLayout;
 class QMenu;
 class QPushButton;
 class RegistryEditor;
+class RegistryHistory;
 class RegistryRemover;
 class RegistryTransfer;
 class ValueTable;
@@ -56,6 +57,7 @@ private:
     KeyTree& m_tree;
     ValueTable& m_table;
     QWidget* m_window;
+    RegistryHistory* m_history;
     RegistryEditor* m_editor;
     RegistryRemover* m_remover;
     RegistryTransfer* m_transfer;
