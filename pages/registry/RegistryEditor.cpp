@@ -5,6 +5,7 @@
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/SetValueCheck.h"
 #include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/ValueInput.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/NameDialog.h"
 #include "pages/registry/RegistryHistory.h"
@@ -42,7 +43,8 @@ void RegistryEditor::newKey(const QString& parentPath)
 {
     if (isKeyRefused(m_page, parentPath))
         return;
-    auto* dialog = new NameDialog(RegistryPath::shown(parentPath), m_window);
+    auto* dialog = new NameDialog(tr("New key"), RegistryPath::shown(parentPath),
+                                  &ValueInput::keyNameProblem, m_window);
     open(dialog, [this, dialog, parentPath] { createKey(parentPath, dialog->name()); });
 }
 
