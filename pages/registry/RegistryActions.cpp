@@ -7,6 +7,7 @@
 #include "pages/registry/RegistryEditor.h"
 #include "pages/registry/RegistryRemover.h"
 #include "pages/registry/RegistryTransfer.h"
+#include "pages/registry/StoreGate.h"
 #include "pages/registry/ValueTable.h"
 #include "window/Page.h"
 
@@ -47,8 +48,8 @@ QString goneText(const QString& name, std::size_t count, const QString& path)
 
 } // namespace
 
-RegistryActions::RegistryActions(PageContext& page, KeyTree& tree, ValueTable& table,
-                                 QWidget* window)
+RegistryActions::RegistryActions(PageContext& page, StoreWatch& watch, KeyTree& tree,
+                                 ValueTable& table, QWidget* window)
     : QObject(window),
       m_page(page),
       m_tree(tree),
@@ -56,13 +57,17 @@ RegistryActions::RegistryActions(PageContext& page, KeyTree& tree, ValueTable& t
       m_window(window),
       m_editor(new RegistryEditor(page, window)),
       m_remover(new RegistryRemover(page, window)),
-      m_transfer(new RegistryTransfer(page, window))
+      m_transfer(new RegistryTransfer(page, window)),
+      m_gate(new StoreGate(
+          page, watch, [this](const auto& exported) { m_transfer->askExport({}, exported); },
+          window))
 {
     makeActions();
     enable(false);
     connect(qApp, &QApplication::focusChanged, this, &RegistryActions::rememberView);
     connect(&m_table, &ValueTable::selectedChanged, this, &RegistryActions::enable);
-    connect(&m_table, &QTableView::activated, this, &RegistryActions::editValue);
+    connect(&m_table, &QTableView::activated, this,
+            [this] { change(&RegistryActions::editValue); });
     connect(m_editor, &RegistryEditor::changed, this, &RegistryActions::changed);
     connect(m_remover, &RegistryRemover::changed, this,
             [this](const QString& path) { emit changed(path, {}); });
@@ -74,33 +79,52 @@ void RegistryActions::makeActions()
     m_newMenu = makeNewMenu();
     m_tree.addAction(m_newMenu->menuAction());
     m_table.addAction(m_newMenu->menuAction());
-    add(m_tree, tr("Delete key"), &RegistryActions::removeKey)->setShortcut(Qt::Key_Delete);
+    addChange(m_tree, tr("Delete key"), &RegistryActions::removeKey)->setShortcut(Qt::Key_Delete);
     m_copyPath = add(m_tree, tr("Copy path"), &RegistryActions::copyPath);
     m_copyPath->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
     m_export = add(m_tree, tr("Export key..."), &RegistryActions::exportKey);
-    m_import = add(m_tree, tr("Import..."), &RegistryActions::importFile);
-    m_edit = add(m_table, tr("Edit value"), &RegistryActions::editValue);
+    m_import = addChange(m_tree, tr("Import..."), &RegistryActions::importFile);
+    m_edit = addChange(m_table, tr("Edit value"), &RegistryActions::editValue);
     m_edit->setShortcut(Qt::Key_F2);
-    m_removeValue = add(m_table, tr("Delete value"), &RegistryActions::removeValues);
+    m_removeValue = addChange(m_table, tr("Delete value"), &RegistryActions::removeValues);
     m_removeValue->setShortcut(Qt::Key_Delete);
     m_copyData = add(m_table, tr("Copy data"), &RegistryActions::copyData);
     m_copyData->setShortcut(QKeySequence::Copy);
 }
 
-QAction* RegistryActions::add(QWidget& view, const QString& text, void (RegistryActions::*slot)())
+QAction* RegistryActions::makeAction(QWidget& view, const QString& text)
 {
     auto* action = new QAction(text, this);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(action, &QAction::triggered, this, slot);
     view.addAction(action);
     return action;
+}
+
+QAction* RegistryActions::add(QWidget& view, const QString& text, void (RegistryActions::*slot)())
+{
+    QAction* action = makeAction(view, text);
+    connect(action, &QAction::triggered, this, slot);
+    return action;
+}
+
+QAction* RegistryActions::addChange(QWidget& view, const QString& text,
+                                    void (RegistryActions::*slot)())
+{
+    QAction* action = makeAction(view, text);
+    connect(action, &QAction::triggered, this, [this, slot] { change(slot); });
+    return action;
+}
+
+void RegistryActions::change(void (RegistryActions::*slot)())
+{
+    m_gate->pass([this, slot] { (this->*slot)(); });
 }
 
 QMenu* RegistryActions::makeNewMenu()
 {
     auto* menu = new QMenu(tr("New"), m_window);
     connect(menu->addAction(tr("&Key...")), &QAction::triggered, this,
-            [this] { m_editor->newKey(m_tree.path()); });
+            [this] { m_gate->pass([this] { m_editor->newKey(m_tree.path()); }); });
     menu->addSeparator();
     const std::pair<QString, unsigned int> types[] = {
         {tr("&String (REG_SZ)..."), REG_SZ},
@@ -108,8 +132,9 @@ QMenu* RegistryActions::makeNewMenu()
         {tr("&Large number (REG_QWORD)..."), REG_QWORD},
         {tr("&Binary (REG_BINARY)..."), REG_BINARY}};
     for (const auto& [text, number] : types) {
-        connect(menu->addAction(text), &QAction::triggered, this,
-                [this, type = number] { m_editor->newValue(m_tree.path(), type); });
+        connect(menu->addAction(text), &QAction::triggered, this, [this, type = number] {
+            m_gate->pass([this, type] { m_editor->newValue(m_tree.path(), type); });
+        });
     }
     return menu;
 }
@@ -124,7 +149,8 @@ QLayout* RegistryActions::makeButtons()
     auto* create = glowing(new QPushButton(tr("&New")));
     create->setMenu(m_newMenu);
     auto* remove = glowing(new QPushButton(tr("Dele&te")));
-    connect(remove, &QPushButton::clicked, this, &RegistryActions::removeChosen);
+    connect(remove, &QPushButton::clicked, this,
+            [this] { change(&RegistryActions::removeChosen); });
     auto* search = glowing(new QPushButton(tr("&Search...")));
     search->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
     connect(search, &QPushButton::clicked, this, &RegistryActions::searchRequested);

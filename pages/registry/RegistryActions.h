@@ -13,6 +13,8 @@ class QPushButton;
 class RegistryEditor;
 class RegistryRemover;
 class RegistryTransfer;
+class StoreGate;
+class StoreWatch;
 class ValueTable;
 
 /// What can be done with the key that is selected and with its values: the actions of the two
@@ -22,8 +24,9 @@ class RegistryActions : public QObject
     Q_OBJECT
 
 public:
-    /// Dialogs open over `window`, which owns this object too. The views outlive it.
-    RegistryActions(PageContext& page, KeyTree& tree, ValueTable& table, QWidget* window);
+    /// Dialogs open over `window`, which owns this object too. The watch and the views outlive it.
+    RegistryActions(PageContext& page, StoreWatch& watch, KeyTree& tree, ValueTable& table,
+                    QWidget* window);
 
     QPushButton* makeCopyButton() const;
     QLayout* makeButtons();
@@ -37,10 +40,13 @@ signals:
 
 private:
     void makeActions();
+    QAction* makeAction(QWidget& view, const QString& text);
     QAction* add(QWidget& view, const QString& text, void (RegistryActions::*slot)());
+    QAction* addChange(QWidget& view, const QString& text, void (RegistryActions::*slot)());
     QMenu* makeNewMenu();
     void enable(bool anySelected);
     void rememberView(const QWidget* before, QWidget* now);
+    void change(void (RegistryActions::*slot)());
     void editValue();
     void removeChosen();
     void removeValues();
@@ -59,6 +65,7 @@ private:
     RegistryEditor* m_editor;
     RegistryRemover* m_remover;
     RegistryTransfer* m_transfer;
+    StoreGate* m_gate;             ///< every action that changes the store goes through it
     QWidget* m_lastView = nullptr; ///< the view that had the keyboard last
     QMenu* m_newMenu = nullptr;
     QAction* m_edit = nullptr;

@@ -46,7 +46,7 @@ QFileDialog* RegistryTransfer::fileDialog(const QString& title) const
     return dialog;
 }
 
-void RegistryTransfer::askExport(const QString& path)
+void RegistryTransfer::askExport(const QString& path, const std::function<void()>& exported)
 {
     QFileDialog* dialog = fileDialog(tr("Export %1").arg(RegistryPath::shown(path)));
     const QString utf8 = tr("Registry file, UTF-8 (*.reg)");
@@ -55,27 +55,32 @@ void RegistryTransfer::askExport(const QString& path)
     dialog->selectFile(path.isEmpty() ? QStringLiteral("registry.reg")
                                       : RegistryPath::name(path) + QStringLiteral(".reg"));
     connect(dialog, &QFileDialog::fileSelected, this,
-            [this, dialog, path, utf8](const QString& file) {
+            [this, dialog, path, utf8, exported](const QString& file) {
                 const bool isUtf8 = dialog->selectedNameFilter() == utf8;
-                exportKey(path, file, isUtf8 ? Encoding::Utf8 : Encoding::Utf16);
+                exportKey(path, file, isUtf8 ? Encoding::Utf8 : Encoding::Utf16, exported);
             });
     dialog->open();
 }
 
-void RegistryTransfer::exportKey(const QString& path, const QString& file, Encoding encoding)
+void RegistryTransfer::exportKey(const QString& path, const QString& file, Encoding encoding,
+                                 const std::function<void()>& exported)
 {
-    m_page.startJob(
-        tr("Exporting"), std::make_unique<RegistryExportJob>(path, file, encoding),
-        [this, file](RegistryExportJob& job, bool complete) { reportExport(job, file, complete); });
+    m_page.startJob(tr("Exporting"), std::make_unique<RegistryExportJob>(path, file, encoding),
+                    [this, file, exported](RegistryExportJob& job, bool complete) {
+                        if (reportExport(job, file, complete) && exported)
+                            exported();
+                    });
 }
 
-void RegistryTransfer::reportExport(RegistryExportJob& job, const QString& file, bool complete)
+// True where the file is complete.
+bool RegistryTransfer::reportExport(RegistryExportJob& job, const QString& file, bool complete)
 {
     const QLocale locale;
     const QString values = locale.toString(job.values());
+    const bool done = complete && job.commit();
     if (!complete)
         m_page.report(Report::Warning, tr("The export was cancelled."));
-    else if (!job.commit())
+    else if (!done)
         m_page.report(Report::Error, tr("%1 could not be written: %2").arg(file, job.error()));
     else if (job.leftOut() > 0)
         m_page.report(Report::Warning,
@@ -83,6 +88,7 @@ void RegistryTransfer::reportExport(RegistryExportJob& job, const QString& file,
                           .arg(values, file, locale.toString(job.leftOut())));
     else
         m_page.report(Report::Info, tr("Exported to %2. Values: %1.").arg(values, file));
+    return done;
 }
 
 void RegistryTransfer::askImport()

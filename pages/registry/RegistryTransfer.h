@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class ImportPlan;
@@ -23,9 +24,11 @@ public:
     /// Dialogs open over `window`, which owns this object too.
     RegistryTransfer(PageContext& page, QWidget* window);
 
-    /// Asks for a file, then writes the key with everything below it.
-    void askExport(const QString& path);
-    void exportKey(const QString& path, const QString& file, RegFileWriter::Encoding encoding);
+    /// Asks for a file, then writes the key with everything below it. `exported` is called when
+    /// that has succeeded.
+    void askExport(const QString& path, const std::function<void()>& exported = {});
+    void exportKey(const QString& path, const QString& file, RegFileWriter::Encoding encoding,
+                   const std::function<void()>& exported = {});
 
     /// Asks for a file, then shows what importing it would do.
     void askImport();
@@ -37,7 +40,7 @@ signals:
 
 private:
     QFileDialog* fileDialog(const QString& title) const;
-    void reportExport(RegistryExportJob& job, const QString& file, bool complete);
+    bool reportExport(RegistryExportJob& job, const QString& file, bool complete);
     void endReading(const RegistryImportJob& job, const QString& file, bool complete);
     void preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
     void apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan);

@@ -2586,6 +2586,59 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>StoreFollower</name>
+    <message>
+        <source>The store is in step with its file %1 again.</source>
+        <translation>存储与其文件 %1 再次一致。</translation>
+    </message>
+</context>
+<context>
+    <name>StoreGate</name>
+    <message>
+        <source>Comparing the store with its file</source>
+        <translation>正在比较存储与其文件</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was changed.</source>
+        <translation>已取消：未作任何更改。</translation>
+    </message>
+    <message>
+        <source>The store&apos;s file</source>
+        <translation>存储的文件</translation>
+    </message>
+    <message>
+        <source>An export first keeps all that is shown here.</source>
+        <translation>先导出可保留此处显示的全部内容。</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <source>Export first...</source>
+        <translation>先导出...</translation>
+    </message>
+</context>
+<context>
+    <name>StoreWatch</name>
+    <message>
+        <source>The store still holds what it had read. Its next change makes it read the file, and what the file lacks is gone.</source>
+        <translation>存储中仍是先前读取的内容。下一次更改会使其重新读取该文件，文件中没有的内容将会丢失。</translation>
+    </message>
+    <message>
+        <source>The store&apos;s file %1 is gone: another program has deleted or moved it. The store still holds what it had read. Its next change makes a new file that holds nothing but that change.</source>
+        <translation>存储的文件 %1 已不存在：其他程序已将其删除或移走。存储中仍是先前读取的内容。下一次更改将生成一个只含该更改的新文件。</translation>
+    </message>
+    <message>
+        <source>Another program has replaced the store&apos;s file %1.</source>
+        <translation>其他程序已替换存储的文件 %1。</translation>
+    </message>
+    <message>
+        <source>Another program has changed the store&apos;s file %1.</source>
+        <translation>其他程序已更改存储的文件 %1。</translation>
+    </message>
+</context>
+<context>
     <name>StoredValue</name>
     <message>
         <source>Bad number: &quot;%1&quot; is read as 0</source>
