@@ -5,6 +5,7 @@
 #include "inspection/registry/RegistryRemovalJob.h"
 #include "inspection/registry/RemovalText.h"
 #include "pages/registry/ChangeReport.h"
+#include "pages/registry/StoreBackup.h"
 #include "window/Page.h"
 
 #include <QLocale>
@@ -39,9 +40,11 @@ void RegistryRemover::ask(const QString& question, const QString& detail,
     QPushButton* yes = glowing(box->addButton(tr("Delete"), QMessageBox::AcceptRole));
     glowing(qobject_cast<QPushButton*>(box->button(QMessageBox::Cancel)));
     box->setDefaultButton(QMessageBox::Cancel);
-    connect(box, &QMessageBox::buttonClicked, this, [yes, confirmed](QAbstractButton* button) {
+    auto* backup = new BackupBox;
+    box->setCheckBox(backup);
+    connect(box, &QMessageBox::buttonClicked, this, [=](const QAbstractButton* button) {
         if (button == yes)
-            confirmed();
+            changeWithBackup(m_page, backup->isChecked(), confirmed);
     });
     box->open();
 }

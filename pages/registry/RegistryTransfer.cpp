@@ -6,6 +6,7 @@
 #include "inspection/registry/RegistryPath.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/ImportDialog.h"
+#include "pages/registry/StoreBackup.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -96,11 +97,12 @@ void RegistryTransfer::askImport()
     QFileDialog* dialog = fileDialog(tr("Import a registry file"));
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters({tr("Registry files (*.reg)"), tr("All files (*)")});
-    connect(dialog, &QFileDialog::fileSelected, this, &RegistryTransfer::importFile);
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString& file) { importFile(file); });
     dialog->open();
 }
 
-void RegistryTransfer::importFile(const QString& file)
+void RegistryTransfer::importFile(const QString& file, const QByteArray& codePage)
 {
     const QString why = fault(QFileInfo(file));
     if (!why.isEmpty())
@@ -112,7 +114,7 @@ void RegistryTransfer::importFile(const QString& file)
         return;
     }
     m_page.startJob(
-        tr("Reading the file"), std::make_unique<RegistryImportJob>(std::move(input)),
+        tr("Reading the file"), std::make_unique<RegistryImportJob>(std::move(input), codePage),
         [this, file](RegistryImportJob& job, bool complete) { endReading(job, file, complete); });
 }
 
@@ -126,16 +128,25 @@ void RegistryTransfer::endReading(const RegistryImportJob& job, const QString& f
     if (!job.error().isEmpty())
         refuse(file, job.error());
     else if (complete)
-        preview(file, job.plan());
+        preview(file, job);
     else
         m_page.setStatus(tr("Cancelled: nothing was imported."));
 }
 
-void RegistryTransfer::preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
+void RegistryTransfer::preview(const QString& file, const RegistryImportJob& job)
 {
-    auto* dialog = new ImportDialog(QFileInfo(file).fileName(), plan, m_window);
+    std::optional<ImportDialog::Decoding> decoding;
+    if (job.reader().isVersion4())
+        decoding = {job.reader().codePage(), job.reader().isOfCodePage()};
+    const std::shared_ptr<const ImportPlan> plan = job.plan();
+    auto* dialog = new ImportDialog(QFileInfo(file).fileName(), plan, m_window, decoding);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, file, plan] { apply(file, plan); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog, file, plan] {
+        changeWithBackup(m_page, dialog->isBackupWanted(),
+                         [this, file, plan] { apply(file, plan); });
+    });
+    connect(dialog, &ImportDialog::codePageChosen, this,
+            [this, file](const QByteArray& codePage) { importFile(file, codePage); });
     dialog->open();
 }
 

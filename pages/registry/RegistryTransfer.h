@@ -32,7 +32,8 @@ public:
 
     /// Asks for a file, then shows what importing it would do.
     void askImport();
-    void importFile(const QString& file);
+    /// `codePage` is that of a file of version 4, the system's where it is empty.
+    void importFile(const QString& file, const QByteArray& codePage = {});
 
 signals:
     /// The store has changed.
@@ -42,7 +43,7 @@ private:
     QFileDialog* fileDialog(const QString& title) const;
     bool reportExport(RegistryExportJob& job, const QString& file, bool complete);
     void endReading(const RegistryImportJob& job, const QString& file, bool complete);
-    void preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
+    void preview(const QString& file, const RegistryImportJob& job);
     void apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
     void reportImport(const QString& file, int applied, int refused, bool complete);
     void refuse(const QString& file, const QString& why);

@@ -21,6 +21,39 @@
     </message>
 </context>
 <context>
+    <name>BackupBox</name>
+    <message>
+        <source>&amp;Back the store up first, to %1</source>
+        <translation>先备份存储到 %1(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Nothing to &amp;back up: the store has no file that could change</source>
+        <translation>无需备份：存储没有会被更改的文件(&amp;B)</translation>
+    </message>
+    <message>
+        <source>A copy of the store&apos;s file as it is: %1
+Put it in the place of the file to bring everything back.</source>
+        <translation>存储文件当前内容的副本：%1
+用它替换该文件即可恢复全部内容。</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was changed.</source>
+        <translation>已取消：未作任何更改。</translation>
+    </message>
+    <message>
+        <source>The store could not be backed up: %1 Nothing was changed.</source>
+        <translation>无法备份存储：%1未作任何更改。</translation>
+    </message>
+    <message>
+        <source>Backed the store up to %1.</source>
+        <translation>已将存储备份到 %1。</translation>
+    </message>
+    <message>
+        <source>Backing the store up</source>
+        <translation>正在备份存储</translation>
+    </message>
+</context>
+<context>
     <name>Base64Note</name>
     <message>
         <source>The last Base64 character stands alone and yields nothing.</source>
@@ -157,6 +190,49 @@
     <message>
         <source>Enter the cipher text first.</source>
         <translation>请先输入密文。</translation>
+    </message>
+</context>
+<context>
+    <name>CodePages</name>
+    <message>
+        <source>Simplified Chinese</source>
+        <translation>简体中文</translation>
+    </message>
+    <message>
+        <source>Traditional Chinese</source>
+        <translation>繁体中文</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日语</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>朝鲜语</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>西欧</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>中欧</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>西里尔</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>希腊语</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>土耳其语</translation>
+    </message>
+    <message>
+        <source>The system&apos;s: %1</source>
+        <translation>系统：%1</translation>
     </message>
 </context>
 <context>
@@ -1031,6 +1107,10 @@
         <source>The separators in the name lead to a value of a sub-key.</source>
         <translation>名称中含有分隔符，所指的是子项中的值。</translation>
     </message>
+    <message>
+        <source>It has no data and becomes the number 0.</source>
+        <translation>该值没有数据，将变为数值 0。</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -1041,10 +1121,6 @@
     <message>
         <source>Import %1</source>
         <translation>导入 %1</translation>
-    </message>
-    <message>
-        <source>&amp;Only what is altered or refused</source>
-        <translation>仅显示有改动或被拒绝的语句(&amp;O)</translation>
     </message>
     <message>
         <source>I&amp;mport</source>
@@ -1070,6 +1146,60 @@
         <source>Line</source>
         <translation>行</translation>
     </message>
+    <message>
+        <source>In the store now</source>
+        <translation>存储中现有</translation>
+    </message>
+    <message>
+        <source>&amp;Only what is altered, refused or overwritten</source>
+        <translation>仅显示有改动、被拒绝或会覆盖的语句(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Code page of the file</source>
+        <translation>文件的代码页</translation>
+    </message>
+    <message>
+        <source>&amp;Code page of this file of version 4:</source>
+        <translation>此第 4 版文件的代码页(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Some of its bytes are no text in this one.</source>
+        <translation>按此代码页，文件中有些字节不是文本。</translation>
+    </message>
+</context>
+<context>
+    <name>ImportOverlaps</name>
+    <message>
+        <source>The same key as under %1 in line %2: all root keys are one.</source>
+        <translation>与第 %2 行 %1 下的项相同：所有根项是同一个项。</translation>
+    </message>
+    <message>
+        <source>Deletes what line %2 puts under %1: all root keys are one.</source>
+        <translation>将删除第 %2 行放在 %1 下的内容：所有根项是同一个项。</translation>
+    </message>
+    <message>
+        <source>The same value as under %1 in line %2: all root keys are one, and the later statement wins.</source>
+        <translation>与第 %2 行 %1 下的值相同：所有根项是同一个项，以后面的语句为准。</translation>
+    </message>
+    <message>
+        <source>%1 differs from &quot;%2&quot; in case only: two keys here, one on Windows.</source>
+        <translation>%1 与“%2”仅大小写不同：此处是两个项，在 Windows 上是一个。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; differs from &quot;%2&quot; in case only: two values here, one on Windows.</source>
+        <translation>“%1”与“%2”仅大小写不同：此处是两个值，在 Windows 上是一个。</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPlan</name>
+    <message>
+        <source>Line %1 comes later and wins: all root keys are one.</source>
+        <translation>以后面的第 %1 行为准：所有根项是同一个项。</translation>
+    </message>
+    <message>
+        <source>unreadable: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
 </context>
 <context>
     <name>ImportText</name>
@@ -1090,8 +1220,28 @@
         <translation>拒绝：%1</translation>
     </message>
     <message>
-        <source>As written in the file: %1. Altered: %2. Refused: %3.</source>
-        <translation>与文件一致：%1。有改动：%2。被拒绝：%3。</translation>
+        <source>The key is there already</source>
+        <translation>该项已存在</translation>
+    </message>
+    <message>
+        <source>The value is there already</source>
+        <translation>该值已存在且相同</translation>
+    </message>
+    <message>
+        <source>Overwrites the value</source>
+        <translation>覆盖该值</translation>
+    </message>
+    <message>
+        <source>Overwrites the value. %1</source>
+        <translation>覆盖该值。%1</translation>
+    </message>
+    <message>
+        <source>As written in the file: %L1. Altered: %L2. Refused: %L3.</source>
+        <translation>与文件一致：%L1。有改动：%L2。被拒绝：%L3。</translation>
+    </message>
+    <message>
+        <source>Values that are overwritten: %L1.</source>
+        <translation>被覆盖的值：%L1。</translation>
     </message>
 </context>
 <context>
@@ -2120,10 +2270,6 @@ Wide: %2</source>
     <message>
         <source>The file is neither UTF-16 with a byte order mark nor UTF-8.</source>
         <translation>该文件既不是带字节顺序标记的 UTF-16，也不是 UTF-8。</translation>
-    </message>
-    <message>
-        <source>The file has version 4. Only version 5.00 is understood.</source>
-        <translation>该文件为第 4 版，仅支持 5.00 版。</translation>
     </message>
     <message>
         <source>The file does not begin with &quot;%1&quot;.</source>
