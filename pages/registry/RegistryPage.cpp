@@ -12,6 +12,7 @@
 #include "pages/registry/TablePlace.h"
 #include "pages/registry/ValueTable.h"
 
+#include <QAction>
 #include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
@@ -51,6 +52,7 @@ RegistryPage::RegistryPage(QWidget* parent)
     m_find->hide();
     setFocusProxy(m_tree);
     connectParts();
+    addSearchKeys();
     if (!RawStore::exists())
         reportStore();
 }
@@ -71,6 +73,19 @@ void RegistryPage::connectParts()
     connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
     connect(m_follower, &StoreFollower::changed, this, &RegistryPage::follow);
     connect(&m_openingRunner, &JobRunner::finished, this, &RegistryPage::refreshEntered);
+}
+
+void RegistryPage::addSearchKeys()
+{
+    const std::pair<QKeySequence, void (FindPane::*)()> keys[] = {
+        {Qt::Key_F3, &FindPane::showNext}, {Qt::SHIFT | Qt::Key_F3, &FindPane::showPrevious}};
+    for (const auto& [key, slot] : keys) {
+        auto* action = new QAction(this);
+        action->setShortcut(key);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        connect(action, &QAction::triggered, m_find, slot);
+        addAction(action);
+    }
 }
 
 void RegistryPage::showKey()

@@ -35,6 +35,7 @@ protected:
 private:
     QWidget* makeViews();
     void connectParts();
+    void addSearchKeys();
     void readKeys();
     void showKey();
     void showCounts();
