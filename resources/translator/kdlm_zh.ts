@@ -19,6 +19,14 @@
         <source>There is no key %1.</source>
         <translation>没有项 %1。</translation>
     </message>
+    <message>
+        <source>&amp;Jump there</source>
+        <translation>跳转到该处(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Names are case-sensitive here: %1?</source>
+        <translation>此处的名称区分大小写：是否为 %1？</translation>
+    </message>
 </context>
 <context>
     <name>BackupBox</name>
@@ -720,28 +728,12 @@ Put it in the place of the file to bring everything back.</source>
         <translation>查找结果将列在这里，按 Enter 键可转到该处。</translation>
     </message>
     <message>
-        <source>&amp;Hide</source>
-        <translation>隐藏(&amp;H)</translation>
-    </message>
-    <message>
         <source>Nothing was found.</source>
         <translation>未找到任何内容。</translation>
     </message>
     <message>
-        <source>N&amp;ames</source>
-        <translation>名称(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Values</source>
-        <translation>值(&amp;V)</translation>
-    </message>
-    <message>
         <source>Type the text to find first.</source>
         <translation>请先输入要查找的文本。</translation>
-    </message>
-    <message>
-        <source>Choose where to search: in names, in values, or in both.</source>
-        <translation>请选择查找范围：名称、值或两者。</translation>
     </message>
     <message>
         <source>Find no&amp;w</source>
@@ -774,6 +766,38 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Searching</source>
         <translation>正在查找</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>项(&amp;K)</translation>
+    </message>
+    <message>
+        <source>N&amp;ames of values</source>
+        <translation>值的名称(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Data of &amp;values</source>
+        <translation>值的数据(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Match &amp;upper and lower case</source>
+        <translation>区分大小写(&amp;U)</translation>
+    </message>
+    <message>
+        <source>W&amp;hole words</source>
+        <translation>全字匹配(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>返回(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Choose where to search: in keys, in names, in data, or in several.</source>
+        <translation>请选择查找范围：项、名称、数据，或其中几种。</translation>
+    </message>
+    <message>
+        <source>Found place %L1 of %L2 (F3: next, Shift+F3: previous).</source>
+        <translation>第 %L1 处，共 %L2 处（F3：下一处，Shift+F3：上一处）。</translation>
     </message>
 </context>
 <context>
