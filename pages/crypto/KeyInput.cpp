@@ -49,6 +49,7 @@ KeyInput::KeyInput(PageContext& context, QWidget* parent)
     choice->addWidget(usePassPhrase);
     choice->addWidget(m_useKeys);
     choice->addStretch();
+    choice->addWidget(makeReveal());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(choice);
@@ -65,6 +66,16 @@ KeyInput::KeyInput(PageContext& context, QWidget* parent)
     keysPlace->hide();
     usePassPhrase->setChecked(true);
     setFocusProxy(m_passPhrase);
+}
+
+QWidget* KeyInput::makeReveal()
+{
+    auto* reveal = new QCheckBox(tr("Show what is typ&ed"));
+    connect(reveal, &QCheckBox::toggled, this, [this](bool shown) {
+        for (QLineEdit* field : {m_passPhrase, m_key, m_iv})
+            field->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);
+    });
+    return reveal;
 }
 
 QWidget* KeyInput::makePassPhrase()

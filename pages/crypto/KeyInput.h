@@ -14,7 +14,7 @@ class QGridLayout;
 class QLineEdit;
 class QRadioButton;
 
-/// Takes a pass phrase, or key and IV. What is typed is masked.
+/// Takes a pass phrase, or key and IV. What is typed is masked until the user wants to see it.
 class KeyInput : public QWidget
 {
     Q_OBJECT
@@ -35,6 +35,7 @@ public:
     QString note() const;
 
 private:
+    QWidget* makeReveal();
     QWidget* makePassPhrase();
     QWidget* makeKeys();
     /// A key with a count of its bytes behind.

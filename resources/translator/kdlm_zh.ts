@@ -158,6 +158,10 @@
         <source>Enter the cipher text first.</source>
         <translation>请先输入密文。</translation>
     </message>
+    <message>
+        <source>They are not shown: the clear text is kept.</source>
+        <translation>这些字节未显示：明文保持不变。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -1123,6 +1127,10 @@
     <message>
         <source>&amp;Key:</source>
         <translation>密钥(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>Show what is typ&amp;ed</source>
+        <translation>显示输入内容(&amp;E)</translation>
     </message>
 </context>
 <context>
