@@ -11,6 +11,9 @@ enum class Glyph
     Text,
     Number,
     Binary,
+    Undo,
+    Redo,
+    Reread,
     Warning,
     Error
 };

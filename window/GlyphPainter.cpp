@@ -37,6 +37,41 @@ void binary(GlyphCanvas& canvas)
     }
 }
 
+// An arrow that comes from the right, turns, and points to the left; mirrored for the way forward.
+void turningArrow(GlyphCanvas& canvas, bool forward)
+{
+    const auto x = [forward](qreal fromBack) {
+        return forward ? GlyphCanvas::side - fromBack : fromBack;
+    };
+    QPainterPath arrow({x(4), 9});
+    arrow.lineTo(x(14), 9);
+    arrow.cubicTo({x(22), 9}, {x(22), 19.5}, {x(14), 19.5});
+    arrow.lineTo(x(8), 19.5);
+    canvas.path(arrow);
+    canvas.line({x(9), 4}, {x(4), 9});
+    canvas.line({x(4), 9}, {x(9), 14});
+}
+
+void undo(GlyphCanvas& canvas)
+{
+    turningArrow(canvas, false);
+}
+
+void redo(GlyphCanvas& canvas)
+{
+    turningArrow(canvas, true);
+}
+
+void reread(GlyphCanvas& canvas)
+{
+    QPainterPath turn;
+    turn.arcMoveTo(QRectF(4, 4, 16, 16), 20);
+    turn.arcTo(QRectF(4, 4, 16, 16), 20, 310);
+    canvas.path(turn);
+    canvas.line({20, 4}, {19.5, 9.5});
+    canvas.line({19.5, 9.5}, {14, 9});
+}
+
 void warning(GlyphCanvas& canvas)
 {
     canvas.polygon({{12, 3.5}, {21.5, 20}, {2.5, 20}});
@@ -60,6 +95,9 @@ GlyphDrawing glyphDrawing(Glyph glyph)
     case Glyph::Text: return &text;
     case Glyph::Number: return &number;
     case Glyph::Binary: return &binary;
+    case Glyph::Undo: return &undo;
+    case Glyph::Redo: return &redo;
+    case Glyph::Reread: return &reread;
     case Glyph::Warning: return &warning;
     case Glyph::Error: return &error;
     }

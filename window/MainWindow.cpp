@@ -75,10 +75,21 @@ void MainWindow::addShortcuts(int pages)
         auto* shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(page + 1)), this);
         connect(shortcut, &QShortcut::activated, this, [this, page] { choose(page); });
     }
-    auto* refresh = new QShortcut(QKeySequence(Qt::Key_F5), this);
-    connect(refresh, &QShortcut::activated, this, [this] { onCurrentPage(&Page::refresh); });
-    auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
-    connect(find, &QShortcut::activated, this, [this] { onCurrentPage(&Page::find); });
+    addShortcut(Qt::Key_F5, [](Page& page) { page.refresh(); });
+    addShortcut(QKeySequence::Find, [](Page& page) { page.find(); });
+    // A field that is being typed into takes these two for itself.
+    addShortcut(QKeySequence::Undo, [](Page& page) { page.undoStack().undo(); });
+    addShortcut(QKeySequence::Redo, [](Page& page) { page.undoStack().redo(); });
+}
+
+void MainWindow::addShortcut(const QKeySequence& keys, void (*operation)(Page& page))
+{
+    auto* shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, this, [this, operation] {
+        Page* page = currentPage();
+        if (page && !page->isBusy())
+            operation(*page);
+    });
 }
 
 // Qt would take a page, or a panel in it, for the control that has its focus, and go past the
@@ -122,11 +133,4 @@ void MainWindow::choose(int page)
 void MainWindow::logPage(int page)
 {
     logInfo(QStringLiteral("Page %1").arg(m_names[static_cast<std::size_t>(page)]));
-}
-
-void MainWindow::onCurrentPage(void (Page::*operation)())
-{
-    Page* page = currentPage();
-    if (page && !page->isBusy())
-        (page->*operation)();
 }

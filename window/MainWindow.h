@@ -31,9 +31,9 @@ protected:
 
 private:
     void addShortcuts(int pages);
+    void addShortcut(const QKeySequence& keys, void (*operation)(Page& page));
     void choose(int page);
     void logPage(int page);
-    void onCurrentPage(void (Page::*operation)());
 
     std::vector<QString> m_names;
     PageRail* m_rail;

@@ -3,14 +3,12 @@
 #include "app/ApplicationLog.h"
 #include "widgets/ButtonMonitor.h"
 #include "window/BusyOverlay.h"
-#include "window/GlyphIcon.h"
-#include "window/ShownText.h"
+#include "window/PageFooter.h"
 
-#include <QAccessible>
-#include <QEvent>
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QApplication>
 #include <QPushButton>
+#include <QTimerEvent>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -24,14 +22,8 @@ Logger::log_level level(Page::Report kind)
     return Logger::error;
 }
 
-QPixmap statusPixmap(const QWidget& widget, Page::Report kind)
-{
-    if (kind == Page::Report::Info)
-        return {};
-    const int side = widget.fontMetrics().height();
-    const Glyph glyph = kind == Page::Report::Warning ? Glyph::Warning : Glyph::Error;
-    return glyphIcon(glyph).pixmap(widget.windowHandle(), QSize(side, side));
-}
+// Half of what "within a second" allows.
+constexpr int changeMilliseconds = 500;
 
 } // namespace
 
@@ -39,8 +31,7 @@ Page::Page(QWidget* parent)
     : QWidget(parent),
       m_content(new QWidget(this)),
       m_body(new QVBoxLayout),
-      m_statusIcon(new QLabel),
-      m_status(new QLabel),
+      m_footer(new PageFooter(m_changes)),
       m_overlay(new BusyOverlay(m_content))
 {
     auto* outer = new QVBoxLayout(this);
@@ -48,15 +39,8 @@ Page::Page(QWidget* parent)
     outer->addWidget(m_content);
     auto* content = new QVBoxLayout(m_content);
     content->addLayout(m_body, 1);
-    auto* line = new QHBoxLayout;
-    line->addWidget(m_statusIcon);
-    line->addWidget(m_status, 1);
-    content->addLayout(line);
-    m_statusIcon->setObjectName(QStringLiteral("statusIcon"));
-    m_statusIcon->hide();
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setWordWrap(true);
-    m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    content->addWidget(m_footer);
+    connect(m_footer, &PageFooter::rereadRequested, this, [this] { refresh(); });
     connect(m_overlay, &BusyOverlay::cancelRequested, this, &Page::cancelJob);
     connect(&m_runner, &JobRunner::progressed, this, &Page::showProgress);
     connect(&m_runner, &JobRunner::finished, this, [this] { endJob(true); });
@@ -78,7 +62,7 @@ void Page::takeFocus()
 
 QString Page::statusText() const
 {
-    return m_statusText;
+    return m_footer->text();
 }
 
 void Page::run(const QString& title, std::unique_ptr<Job> job,
@@ -129,39 +113,45 @@ void Page::showProgress()
 
 void Page::report(Report kind, const QString& text)
 {
-    showStatus(kind, text);
+    m_footer->show(kind, text);
     ApplicationLog::instance().write(level(kind), text);
 }
 
 void Page::setStatus(const QString& text)
 {
-    showStatus(Report::Info, text);
+    m_footer->show(Report::Info, text);
 }
 
-void Page::showStatus(Report kind, const QString& text)
+void Page::log(const QString& line)
 {
-    m_kind = kind;
-    paintStatusIcon();
-    m_statusIcon->setVisible(kind != Report::Info);
-    m_statusText = text;
-    m_status->setText(withoutLongWords(text));
-    m_status->setToolTip(m_status->text() == text ? QString() : plainToolTip(text));
-    if (text.isEmpty())
-        return;
-    QAccessibleEvent alert(m_status, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    logInfo(line);
 }
 
-void Page::paintStatusIcon()
+void Page::markRead()
 {
-    m_statusIcon->setPixmap(statusPixmap(*this, m_kind));
+    m_footer->markRead();
 }
 
-void Page::changeEvent(QEvent* event)
+void Page::lookForChanges() {}
+
+void Page::showEvent(QShowEvent* event)
 {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        paintStatusIcon();
+    QWidget::showEvent(event);
+    m_changeTimer.start(changeMilliseconds, this);
+}
+
+void Page::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    m_changeTimer.stop();
+}
+
+void Page::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_changeTimer.timerId())
+        QWidget::timerEvent(event);
+    else if (!isBusy() && !QApplication::activeModalWidget() && !QApplication::activePopupWidget())
+        lookForChanges();
 }
 
 QPushButton* glowing(QPushButton* button)

@@ -3,11 +3,13 @@
 #include "inspection/JobRunner.h"
 #include "window/PageContext.h"
 
+#include <QBasicTimer>
 #include <QPointer>
+#include <QUndoStack>
 #include <QWidget>
 
 class BusyOverlay;
-class QLabel;
+class PageFooter;
 class QVBoxLayout;
 
 /// A page of the main window.
@@ -29,8 +31,12 @@ class QVBoxLayout;
 ///  - Everything that it shows comes through `g_PlatformServices`, so that it shows what a host
 ///    library gets; text read past the services is marked as raw. Models know nothing of views.
 ///  - Nothing takes longer than 30 ms at a time. What may, is a job: see PageContext.
-///  - F5 calls `refresh`, Ctrl+F calls `find`, both only while no job runs. F2 and Delete belong to
-///    the page's own actions (QAction, Qt::WidgetWithChildrenShortcut, added to the view).
+///  - It is live: what somebody else changes shows within a second, through `lookForChanges`.
+///  - What it changes can be undone: a MadeChange goes onto the undo stack, a line of the audit
+///    trail into the log.
+///  - F5 calls `refresh`, Ctrl+F calls `find`, Ctrl+Z and Ctrl+Shift+Z undo and redo, all only
+///    while no job runs. F2 and Delete belong to the page's own actions (QAction,
+///    Qt::WidgetWithChildrenShortcut, added to the view).
 ///  - The mnemonics of the catalogue's titles choose pages: its own controls use other letters.
 ///  - Sizes come from the font (QFontMetrics, style metrics), colours from the palette, and every
 ///    text through tr(). A page must fit 640 x 520 pixels with a 9 point font.
@@ -65,27 +71,36 @@ public:
 
     void report(Report kind, const QString& text) override;
     void setStatus(const QString& text) override;
+    void log(const QString& line) override;
+    QUndoStack& undoStack() override { return m_changes; }
 
 protected:
     /// Where the page's widgets go; below it stands the line of `report`.
     QVBoxLayout* body() const { return m_body; }
 
-    void changeEvent(QEvent* event) override;
+    /// Call it when what the page shows has been read: the footer tells when that was.
+    void markRead();
+
+    /// Called twice a second while the page is in view, no job runs and no dialog is open: reads
+    /// anew what has changed since it was read. It has to find out cheaply (a time stamp, a
+    /// counter), and keeps what is selected and typed. Does nothing by default.
+    virtual void lookForChanges();
+
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     void run(const QString& title, std::unique_ptr<Job> job,
              std::function<void(bool complete)> finished) override;
-    void showStatus(Report kind, const QString& text);
-    void paintStatusIcon();
     void endJob(bool complete);
     void showProgress();
 
     QWidget* m_content;
     QVBoxLayout* m_body;
-    QLabel* m_statusIcon;
-    Report m_kind = Report::Info; ///< of the last report
-    QLabel* m_status;
-    QString m_statusText; ///< whole: the label leaves out the middle of long words
+    QUndoStack m_changes;
+    PageFooter* m_footer;
+    QBasicTimer m_changeTimer; ///< runs while the page is in view
     BusyOverlay* m_overlay;
     JobRunner m_runner;
     std::unique_ptr<Job> m_job; ///< the one that runs

@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+class QUndoStack;
+
 /// What a part of a page asks of the page around it: a panel, a dialog or an editor gets this and
 /// nothing else of the page.
 class PageContext
@@ -23,6 +25,12 @@ public:
     virtual void report(Report kind, const QString& text) = 0;
     /// Shows `text` in the same place without logging it.
     virtual void setStatus(const QString& text) = 0;
+    /// Writes a line of the audit trail into the log without showing it: see `changeLine`.
+    virtual void log(const QString& line) = 0;
+
+    /// The changes that were made on this page and can be undone, each a MadeChange. It lives as
+    /// long as the page, and nothing is undone while a job runs.
+    virtual QUndoStack& undoStack() = 0;
 
     /// True while a job runs.
     virtual bool isBusy() const = 0;

@@ -1676,6 +1676,29 @@
     </message>
 </context>
 <context>
+    <name>PageFooter</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Read again (F5)</source>
+        <translation>重新读取 (F5)</translation>
+    </message>
+    <message>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>撤销 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo (Ctrl+Shift+Z)</source>
+        <translation>重做 (Ctrl+Shift+Z)</translation>
+    </message>
+    <message>
+        <source>Read at %1</source>
+        <translation>读取于 %1</translation>
+    </message>
+</context>
+<context>
     <name>PageRail</name>
     <message>
         <source>Pages</source>

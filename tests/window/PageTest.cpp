@@ -5,6 +5,7 @@
 #include "window/BusyOverlay.h"
 
 #include <QAccessible>
+#include <QDialog>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,6 +28,10 @@ public:
     OnePage() : field(new QLineEdit) { body()->addWidget(field); }
 
     QLineEdit* field;
+    int looks = 0;
+
+protected:
+    void lookForChanges() override { ++looks; }
 };
 
 class PaintCounter : public QObject
@@ -320,6 +325,36 @@ TEST_F(PageTest, DestroyingThePageDropsItsJob)
     EXPECT_EQ(m_alive, 0);
     QTest::qWait(30);
     EXPECT_FALSE(ended);
+}
+
+TEST_F(PageTest, APageInViewLooksForChanges)
+{
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_page.looks >= 2; }, 60000));
+}
+
+TEST_F(PageTest, NothingLooksForChangesOutOfViewOrBesideAJobOrBelowADialog)
+{
+    start(1000000);
+    QTest::qWait(1200);
+    EXPECT_EQ(m_page.looks, 0);
+    m_page.cancelJob();
+    QDialog dialog(&m_page);
+    dialog.open();
+    QTest::qWait(1200);
+    EXPECT_EQ(m_page.looks, 0);
+    dialog.close();
+    m_page.hide();
+    QTest::qWait(1200);
+    EXPECT_EQ(m_page.looks, 0);
+}
+
+TEST_F(PageTest, AnAuditLineIsLoggedAndNotShown)
+{
+    m_page.log("C:\\a.ini: \"A\": absent -> \"1\"");
+    EXPECT_EQ(m_page.statusText(), QString());
+    QFile log(ApplicationLog::path());
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(log.readAll().endsWith(" : C:\\a.ini: \"A\": absent -> \"1\"\n"));
 }
 
 TEST_F(PageTest, AReportIsShownAndLogged)

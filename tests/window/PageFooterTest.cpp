@@ -1,0 +1,108 @@
+#include "window/PageFooter.h"
+
+#include "window/MadeChange.h"
+
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTest>
+#include <QToolButton>
+#include <QUndoStack>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Count : public MadeChange
+{
+public:
+    explicit Count(int& count) : MadeChange("Count one more"), m_count(count) {}
+
+protected:
+    void takeBack() override { --m_count; }
+    void makeAgain() override { ++m_count; }
+
+private:
+    int& m_count;
+};
+
+class PageFooterTest : public testing::Test
+{
+protected:
+    PageFooterTest()
+    {
+        m_footer.resize(600, 40);
+        static_cast<QWidget&>(m_footer).show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_footer));
+    }
+
+    QToolButton& button(const QString& name)
+    {
+        for (QToolButton* button : m_footer.findChildren<QToolButton*>()) {
+            if (button->accessibleName() == name)
+                return *button;
+        }
+        ADD_FAILURE() << "no button " << name.toStdString();
+        std::abort();
+    }
+    QToolButton& undo() { return button("Undo (Ctrl+Z)"); }
+    QToolButton& redo() { return button("Redo (Ctrl+Shift+Z)"); }
+
+    void change()
+    {
+        ++m_count;
+        m_changes.push(new Count(m_count));
+    }
+
+    int m_count = 0;
+    QUndoStack m_changes;
+    PageFooter m_footer{m_changes};
+};
+
+TEST_F(PageFooterTest, ShowsNoButtonBeforeThereIsSomethingForIt)
+{
+    for (const QToolButton* button : m_footer.findChildren<QToolButton*>())
+        EXPECT_FALSE(button->isVisible()) << button->accessibleName().toStdString();
+}
+
+TEST_F(PageFooterTest, APushedChangeIsNotMadeASecondTime)
+{
+    change();
+    EXPECT_EQ(m_count, 1);
+}
+
+TEST_F(PageFooterTest, TheButtonsUndoAndRedoTheLastChange)
+{
+    change();
+    change();
+    undo().click();
+    EXPECT_EQ(m_count, 1);
+    redo().click();
+    EXPECT_EQ(m_count, 2);
+}
+
+TEST_F(PageFooterTest, TheButtonsNameTheChangeAndAreDisabledWithoutOne)
+{
+    change();
+    EXPECT_EQ(undo().toolTip().toStdString(), "Undo (Ctrl+Z): Count one more");
+    EXPECT_FALSE(redo().isEnabled());
+    undo().click();
+    EXPECT_FALSE(undo().isEnabled());
+    EXPECT_EQ(undo().toolTip().toStdString(), "Undo (Ctrl+Z)");
+    EXPECT_EQ(redo().toolTip().toStdString(), "Redo (Ctrl+Shift+Z): Count one more");
+}
+
+TEST_F(PageFooterTest, TellsWhenThePageWasReadAndReadsItAgainOnRequest)
+{
+    int requests = 0;
+    QObject::connect(&m_footer, &PageFooter::rereadRequested, [&requests] { ++requests; });
+    m_footer.markRead();
+    QStringList texts;
+    for (const QLabel* label : m_footer.findChildren<QLabel*>())
+        texts += label->text();
+    EXPECT_GE(texts.indexOf(QRegularExpression("Read at \\d\\d:\\d\\d:\\d\\d")), 0)
+        << texts.join('|').toStdString();
+    button("Read again (F5)").click();
+    EXPECT_EQ(requests, 1);
+}
+
+} // namespace
