@@ -100,6 +100,11 @@ void RegistryPage::refresh()
     m_table->choose(name);
 }
 
+void RegistryPage::openFile(const QString& path)
+{
+    m_actions->importFrom(path);
+}
+
 // While a job runs nothing is read: a job that changes anything ends with a refresh.
 void RegistryPage::entered()
 {

@@ -6,9 +6,9 @@
 #include "inspection/registry/RegistryPath.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/ImportDialog.h"
+#include "window/FileDialog.h"
 
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -40,8 +40,7 @@ RegistryTransfer::RegistryTransfer(PageContext& page, QWidget* window)
 
 QFileDialog* RegistryTransfer::fileDialog(const QString& title) const
 {
-    auto* dialog = new QFileDialog(m_window, title);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    auto* dialog = new FileDialog(m_window, title, "registry");
     dialog->setDefaultSuffix(QStringLiteral("reg"));
     return dialog;
 }
