@@ -257,6 +257,23 @@ TEST_F(CryptoPageTest, ShowsSecretsForAsLongAsTheUserWants)
     }
 }
 
+TEST_F(CryptoPageTest, SaysNothingOfOneTabInAnother)
+{
+    pressEncrypt();
+    ASSERT_EQ(status(), "Enter the pass phrase first.");
+    chooseTab(1);
+    EXPECT_EQ(status(), "");
+}
+
+TEST_F(CryptoPageTest, SaysOfASingleByteThatItIsNoWholeBlock)
+{
+    enterPassPhrase(passPhrase);
+    cipher()->setPlainText("QQ==");
+    pressDecrypt();
+    EXPECT_EQ(status(), "Damaged cipher text: one byte is no whole block of 16. The library gets "
+                        "it undecrypted.");
+}
+
 TEST_F(CryptoPageTest, SaysWhatOfTheCipherTextIsIgnored)
 {
     enterPassPhrase(passPhrase);
