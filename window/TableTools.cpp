@@ -42,8 +42,6 @@ TableTools::TableTools(QTableView* table)
 {
     QHeaderView* header = table->horizontalHeader();
     header->setSectionsClickable(true);
-    header->setSortIndicatorShown(true);
-    header->setSortIndicator(m_column, m_order);
     connect(header, &QHeaderView::sectionClicked, this, &TableTools::sortByNext);
     connect(&m_runner, &JobRunner::finished, this, &TableTools::endCopying);
     const QAbstractItemModel* model = table->model();
@@ -107,6 +105,8 @@ void TableTools::sortBy(int column, Qt::SortOrder order)
 {
     m_column = column;
     m_order = order;
+    // Shown only where there is one: it takes room from the titles of all columns.
+    m_table->horizontalHeader()->setSortIndicatorShown(column >= 0);
     m_table->horizontalHeader()->setSortIndicator(column, order);
     m_table->model()->sort(column, order);
     if (m_table->currentIndex().isValid())

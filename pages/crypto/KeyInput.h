@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 class PageContext;
 class QCheckBox;
@@ -35,7 +36,8 @@ public:
     QString note() const;
 
 private:
-    QWidget* makeReveal();
+    /// A box that shows what is typed into these fields.
+    QWidget* makeReveal(const std::vector<QLineEdit*>& fields);
     QWidget* makePassPhrase();
     QWidget* makeKeys();
     /// A key with a count of its bytes behind.

@@ -240,7 +240,6 @@ TEST_F(CryptoPageTest, UndoBringsBackTheCipherTextThatEncryptingReplaced)
 
 TEST_F(CryptoPageTest, ShowsSecretsForAsLongAsTheUserWants)
 {
-    auto* reveal = button<QCheckBox>("Show what is typ&ed");
     const std::function<QList<QLineEdit*>()> fields[] = {
         [this] { return QList<QLineEdit*>{control<QLineEdit>("Pass phrase:")}; },
         [this] {
@@ -249,6 +248,7 @@ TEST_F(CryptoPageTest, ShowsSecretsForAsLongAsTheUserWants)
         }};
     for (const auto& visible : fields) {
         for (QLineEdit* field : visible()) {
+            auto* reveal = button<QCheckBox>("Show what is typ&ed");
             reveal->setChecked(true);
             EXPECT_EQ(field->echoMode(), QLineEdit::Normal);
             reveal->setChecked(false);
