@@ -76,7 +76,6 @@ PageFooter::PageFooter(QUndoStack& changes, QWidget* parent)
     m_status->setWordWrap(true);
     m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_read->setTextFormat(Qt::PlainText);
-    m_read->setForegroundRole(QPalette::PlaceholderText);
     m_read->hide();
     connect(m_reread, &QToolButton::clicked, this, &PageFooter::rereadRequested);
     addUndo(changes);

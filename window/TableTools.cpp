@@ -1,11 +1,14 @@
 #include "window/TableTools.h"
 
+#include "window/SortableTableModel.h"
+
 #include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
+#include <QSortFilterProxyModel>
 #include <QTableView>
 
 #include <algorithm>
@@ -22,6 +25,13 @@ std::vector<int> selectedRows(const QTableView& table)
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     return rows;
+}
+
+// Another model's "sort" may do nothing, and nobody can tell.
+bool isSortable(const QAbstractItemModel* model)
+{
+    return qobject_cast<const SortableTableModel*>(model) ||
+           qobject_cast<const QSortFilterProxyModel*>(model);
 }
 
 bool isMenuKey(const QEvent& event)
@@ -41,7 +51,7 @@ TableTools::TableTools(QTableView* table)
       m_copyWithHeader(addCopy(tr("Copy with header"), TableCopyJob::WithHeader))
 {
     QHeaderView* header = table->horizontalHeader();
-    header->setSectionsClickable(true);
+    header->setSectionsClickable(isSortable(table->model()));
     connect(header, &QHeaderView::sectionClicked, this, &TableTools::sortByNext);
     connect(&m_runner, &JobRunner::finished, this, &TableTools::endCopying);
     const QAbstractItemModel* model = table->model();
@@ -164,7 +174,8 @@ void TableTools::showMenu(const QPoint& place)
         m_copy->setEnabled(true);
         m_copyWithHeader->setEnabled(true);
     });
-    menu->addMenu(makeSortMenu(menu));
+    if (isSortable(m_table->model()))
+        menu->addMenu(makeSortMenu(menu));
     menu->popup(place);
 }
 

@@ -13,9 +13,10 @@ class QPoint;
 class QTableView;
 
 /// What every table of the window can do. A click on a column's header sorts by it, a second one
-/// the other way round, and a third one brings the original order back. Ctrl+C copies the rows that
-/// are selected as a text. A context menu, by the mouse, the menu key or Shift+F10, has all of it,
-/// behind the actions that the page has added to the table.
+/// the other way round, and a third one brings the original order back; that goes for a
+/// SortableTableModel and for what filters one. Ctrl+C copies the rows that are selected as a text.
+/// A context menu, by the mouse, the menu key or Shift+F10, has all of it, behind the actions that
+/// the page has added to the table.
 ///
 /// Where one of the page's actions has Ctrl+C, it keeps that.
 class TableTools : public QObject

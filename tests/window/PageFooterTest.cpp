@@ -126,4 +126,20 @@ TEST_F(PageFooterTest, TellsWhenThePageWasReadAndReadsItAgainOnRequest)
     EXPECT_EQ(requests, 1);
 }
 
+// A role that a palette only derives has a brush that paints nothing.
+TEST_F(PageFooterTest, TheTimeOfReadingCanBeSeen)
+{
+    m_footer.markRead();
+    QTest::qWait(20);
+    for (const QLabel* label : m_footer.findChildren<QLabel*>()) {
+        if (!label->text().startsWith("Read at"))
+            continue;
+        const QImage picture = m_footer.grab(label->geometry()).toImage();
+        bool isPainted = false;
+        for (int x = 0; x < picture.width(); ++x)
+            isPainted |= picture.pixel(x, picture.height() / 2) != picture.pixel(0, 0);
+        EXPECT_TRUE(isPainted);
+    }
+}
+
 } // namespace

@@ -10,6 +10,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
+#include <QStringListModel>
 #include <QTableView>
 #include <QTest>
 
@@ -103,6 +104,15 @@ TEST_F(TableToolsTest, BeginAnotherColumnUpwards)
     clickHeader(1);
     EXPECT_EQ(first(), "anna");
     EXPECT_EQ(m_table.horizontalHeader()->sortIndicatorSection(), 1);
+}
+
+TEST_F(TableToolsTest, OfferNoSortingWhereTheModelHasNone)
+{
+    QStringListModel list({"b", "a"});
+    QTableView table;
+    table.setModel(&list);
+    arrangeTable(table);
+    EXPECT_FALSE(table.horizontalHeader()->sectionsClickable());
 }
 
 TEST_F(TableToolsTest, KeepWhatIsSelected)
