@@ -44,9 +44,9 @@ std::vector<RecordColumn<Row>> columns()
             {ImportDialog::tr("Type and data"),
              [](const Row& row) { return ImportText::data(row->entry); },
              {}},
-            {ImportDialog::tr("Line"),
-             [](const Row& row) { return QLocale().toString(row->entry.line); },
-             {}}};
+            RecordColumn<Row>(ImportDialog::tr("Line"), [](const Row& row) {
+                return QLocale().toString(row->entry.line);
+            }).sortedBy([](const Row& row) { return SortKey::number(row->entry.line); })};
 }
 
 } // namespace

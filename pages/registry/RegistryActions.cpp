@@ -318,6 +318,11 @@ void RegistryActions::importFile()
     m_transfer->askImport();
 }
 
+void RegistryActions::importFrom(const QString& file)
+{
+    m_transfer->importFile(file);
+}
+
 // A host library may have deleted what the page still shows.
 bool RegistryActions::isKeyThere()
 {

@@ -33,6 +33,8 @@ public:
 
     QPushButton* makeCopyButton() const;
     QLayout* makeButtons();
+    /// Shows what importing this file would do.
+    void importFrom(const QString& file);
 
 signals:
     /// The store has changed; this key, and this value of it unless empty, is to be looked at.

@@ -174,6 +174,11 @@ void RegistryPage::follow()
     m_isFollowing = false;
 }
 
+void RegistryPage::openFile(const QString& path)
+{
+    m_actions->importFrom(path);
+}
+
 // While a job runs nothing is read: a job that changes anything ends with a refresh.
 void RegistryPage::entered()
 {

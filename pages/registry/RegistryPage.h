@@ -25,6 +25,8 @@ public:
     void refresh() override;
     void find() override;
     void entered() override;
+    /// Shows what importing the file would do.
+    void openFile(const QString& path) override;
 
     /// Selects a key, or the nearest one above it, and a value of it unless `name` is empty.
     void goTo(const QString& path, const QString& name = QString());

@@ -8,9 +8,9 @@
 #include "pages/registry/ImportDialog.h"
 #include "pages/registry/RegistryHistory.h"
 #include "pages/registry/StoreBackup.h"
+#include "window/FileDialog.h"
 
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -42,8 +42,7 @@ RegistryTransfer::RegistryTransfer(PageContext& page, RegistryHistory& history, 
 
 QFileDialog* RegistryTransfer::fileDialog(const QString& title) const
 {
-    auto* dialog = new QFileDialog(m_window, title);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    auto* dialog = new FileDialog(m_window, title, "registry");
     dialog->setDefaultSuffix(QStringLiteral("reg"));
     return dialog;
 }

@@ -199,6 +199,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Enter the cipher text first.</source>
         <translation>请先输入密文。</translation>
     </message>
+    <message>
+        <source>They are not shown: the clear text is kept.</source>
+        <translation>这些字节未显示：明文保持不变。</translation>
+    </message>
 </context>
 <context>
     <name>CodePages</name>
@@ -419,6 +423,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
         <translation>库的文本止于第一个零字节之前。略去 %L1 字节。</translation>
     </message>
+    <message>
+        <source>Damaged cipher text: one byte is no whole block of 16. The library gets it undecrypted.</source>
+        <translation>密文已损坏：1 字节不是 16 字节的整数倍。库得到的是未经解密的字节。</translation>
+    </message>
 </context>
 <context>
     <name>DigestJob</name>
@@ -473,6 +481,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Sha256Encode and KdEncode read only the %L1 bytes before the first zero byte.</source>
         <translation>Sha256Encode 和 KdEncode 只读取第一个零字节之前的 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>Sha256Encode and KdEncode read only the one byte before the first zero byte.</source>
+        <translation>Sha256Encode 和 KdEncode 只读取第一个零字节之前的 1 字节。</translation>
     </message>
     <message>
         <source>SHA-256 and the fingerprint of an empty text are empty.</source>
@@ -667,6 +679,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Names in the folder that are no text in the locale&apos;s encoding, and that the service leaves out: %L1.</source>
         <translation>该文件夹中不符合区域设置编码、被服务略去的名称：%L1 个。</translation>
     </message>
+    <message>
+        <source>The service finds nothing for %1. %2 With slashes it reads %3.</source>
+        <translation>服务找不到与 %1 匹配的内容。%2用斜杠书写则为 %3。</translation>
+    </message>
 </context>
 <context>
     <name>FilesPage</name>
@@ -699,10 +715,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>查找</translation>
     </message>
     <message>
-        <source>Found entries</source>
-        <translation>找到的条目</translation>
-    </message>
-    <message>
         <source>Folder to search</source>
         <translation>要搜索的文件夹</translation>
     </message>
@@ -727,28 +739,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>找到 %L1 项。只有第一项带有大小和时间，而且仅当它是文件时才有；dwReserved0、dwReserved1 和 cAlternateFileName 从不写入。</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Attributes</source>
-        <translation>属性</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>大小</translation>
-    </message>
-    <message>
-        <source>Last written</source>
-        <translation>修改时间</translation>
-    </message>
-    <message>
-        <source>Created</source>
-        <translation>创建时间</translation>
-    </message>
-    <message>
-        <source>Last accessed</source>
-        <translation>访问时间</translation>
+        <source>The rows are still those of %1: press Enter to search for the new pattern.</source>
+        <translation>这些行仍是 %1 的结果：按回车键搜索新的模式。</translation>
     </message>
 </context>
 <context>
@@ -879,7 +871,7 @@ Put it in the place of the file to bring everything back.</source>
 <context>
     <name>FontRegistrationJob</name>
     <message>
-        <source>%L1 families left</source>
+        <source>Families left: %L1</source>
         <translation>还剩 %L1 个字体族</translation>
     </message>
     <message>
@@ -887,8 +879,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>所有字体族此前均已注册。</translation>
     </message>
     <message>
-        <source>Registered: %L1 records of %L2 families.</source>
-        <translation>已注册 %L2 个字体族的 %L1 条记录。</translation>
+        <source>Registered records: %L1. Families: %L2.</source>
+        <translation>已注册 %L1 条记录，共 %L2 个字体族。</translation>
     </message>
     <message>
         <source>Left out, because their names do not fit a record: %1.</source>
@@ -974,7 +966,7 @@ Put it in the place of the file to bring everything back.</source>
         <translation>尚未注册任何字体。主机库会在启动时注册自己的字体；使用下方的按钮可以注册本系统的字体。</translation>
     </message>
     <message>
-        <source>%L1 records</source>
+        <source>Records: %L1</source>
         <translation>%L1 条记录</translation>
     </message>
     <message>
@@ -1003,6 +995,45 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>The service has not written this field: a caller finds in it what its record held before the call.</source>
         <translation>服务没有写入这个字段：调用者看到的是其记录在调用之前的内容。</translation>
+    </message>
+</context>
+<context>
+    <name>FoundTable</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Last written</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Last accessed</source>
+        <translation>访问时间</translation>
+    </message>
+    <message>
+        <source>Found entries</source>
+        <translation>找到的条目</translation>
+    </message>
+    <message>
+        <source>Open the folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Folder above</source>
+        <translation>上一级文件夹</translation>
     </message>
 </context>
 <context>
@@ -1336,6 +1367,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>&amp;Key:</source>
         <translation>密钥(&amp;K)：</translation>
     </message>
+    <message>
+        <source>Show what is typ&amp;ed</source>
+        <translation>显示输入内容(&amp;E)</translation>
+    </message>
 </context>
 <context>
     <name>KeyPanel</name>
@@ -1572,10 +1607,6 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Log</source>
         <translation>日志</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>复制</translation>
     </message>
     <message>
         <source>No line of the log has this level and this text.</source>
@@ -1977,6 +2008,14 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>%1 (path is missing)</source>
         <translation>%1（路径不存在）</translation>
+    </message>
+    <message>
+        <source>Asked about %1.</source>
+        <translation>查询的是 %1。</translation>
+    </message>
+    <message>
+        <source>%1 AddBackslash makes %2 of it.</source>
+        <translation>%1AddBackslash 将其变为 %2。</translation>
     </message>
 </context>
 <context>
@@ -3043,6 +3082,25 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>TableTools</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy with header</source>
+        <translation>连同表头复制</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>排序依据</translation>
+    </message>
+    <message>
+        <source>Original order</source>
+        <translation>原始顺序</translation>
+    </message>
+</context>
+<context>
     <name>TextLimits</name>
     <message>
         <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
@@ -3072,8 +3130,8 @@ Wide: %2</source>
         <translation>初始向量过短：该密码算法需要 %1 字节。</translation>
     </message>
     <message>
-        <source>%1 bytes: only the first %2 are used</source>
-        <translation>%1 字节：仅使用前 %2 字节</translation>
+        <source>%L1 bytes: only the first %2 are used</source>
+        <translation>%L1 字节：仅使用前 %2 字节</translation>
     </message>
     <message>
         <source>Only the first %1 bytes of the key are used.</source>
@@ -3225,6 +3283,13 @@ Wide: %2</source>
     <message>
         <source>No window was found. Names must match exactly, upper and lower case included.</source>
         <translation>未找到窗口。名称必须完全一致，区分大小写。</translation>
+    </message>
+</context>
+<context>
+    <name>WindowsPath</name>
+    <message>
+        <source>The services know no drives, and a backslash is a character of a name to them: only / separates folders.</source>
+        <translation>服务没有盘符的概念，反斜杠对它们只是名称中的一个字符：只有 / 分隔文件夹。</translation>
     </message>
 </context>
 </TS>
