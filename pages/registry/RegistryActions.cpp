@@ -320,7 +320,7 @@ void RegistryActions::importFile()
 
 void RegistryActions::importFrom(const QString& file)
 {
-    m_transfer->importFile(file);
+    m_gate->pass([this, file] { m_transfer->importFile(file); });
 }
 
 // A host library may have deleted what the page still shows.
