@@ -5,6 +5,7 @@
 #include "inspection/registry/RawStore.h"
 #include "window/AccessibleRole.h"
 #include "window/FaintText.h"
+#include "window/FileOpener.h"
 #include "window/GlyphIcon.h"
 #include "window/HelpWindow.h"
 #include "window/Page.h"
@@ -69,6 +70,7 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     connect(m_stack, &PageStack::entered, this, &MainWindow::logPage);
     connect(status, &StatusLine::helpRequested, this, &MainWindow::showHelp);
     addShortcuts(static_cast<int>(pages.size()));
+    new FileOpener(this, m_rail, m_stack);
     // A minimum of its own keeps a page that is built later from enlarging the window, which
     // start-up has centred by then.
     setMinimumSize(smallestWindow.expandedTo(minimumSizeHint()));

@@ -1,5 +1,6 @@
 #include "window/ViewLook.h"
 
+#include "window/TableTools.h"
 #include "window/ViewFocus.h"
 
 #include <QEvent>
@@ -33,6 +34,7 @@ void arrangeTable(QTableView& table)
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     new ViewFocus(&table);
+    new TableTools(&table);
 }
 
 int sampleWidth(const QTableView& table, const QString& sample)

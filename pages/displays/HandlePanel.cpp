@@ -3,6 +3,7 @@
 #include "inspection/displays/MonitorList.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
+#include "window/KeptPlace.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
 #include "window/ViewLook.h"
@@ -13,7 +14,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QSpinBox>
 #include <QTableView>
 
@@ -41,7 +41,10 @@ bool isSame(const GraphicsObject& one, const GraphicsObject& other)
 
 std::vector<RecordColumn<GraphicsObject>> columns()
 {
-    return {{HandlePanel::tr("Handle"), &handleName},
+    const auto number = [](const GraphicsObject& handle) {
+        return SortKey::number(static_cast<double>(reinterpret_cast<quintptr>(handle.handle)));
+    };
+    return {RecordColumn<GraphicsObject>(HandlePanel::tr("Handle"), &handleName).sortedBy(number),
             {HandlePanel::tr("Type"), &typeText},
             {HandlePanel::tr("Object"), &objectText}};
 }
@@ -116,12 +119,10 @@ void HandlePanel::addButton(QHBoxLayout* row, const QString& caption, void (Hand
 
 void HandlePanel::refresh()
 {
-    const void* before = chosen();
-    const int place = m_view->verticalScrollBar()->value();
+    const KeptPlace place(*m_view, [this](int row) { return handleName(m_model.record(row)); });
     m_model.setRecords(graphicsHandles());
     fitColumnsToContents(*m_view);
-    choose(before);
-    m_view->verticalScrollBar()->setValue(place);
+    place.restore();
 }
 
 bool HandlePanel::lookForChanges()
@@ -132,12 +133,6 @@ bool HandlePanel::lookForChanges()
         return false;
     refresh();
     return true;
-}
-
-const void* HandlePanel::chosen() const
-{
-    const QModelIndex current = m_view->currentIndex();
-    return current.isValid() ? m_model.record(current.row()).handle : nullptr;
 }
 
 void HandlePanel::choose(const void* handle)

@@ -35,7 +35,6 @@ private:
     bool confirmDeletion(const QString& name);
     void showNew(void* handle);
     void choose(const void* handle);
-    const void* chosen() const;
 
     PageContext& m_page;
     RecordsModel<GraphicsObject> m_model;

@@ -29,6 +29,8 @@ public:
     /// Opens a file, or refuses it and keeps the one that is open.
     void open(const QString& path);
 
+    void openFile(const QString& path) override;
+
     /// Reads the file again.
     void refresh() override;
     void find() override;

@@ -10,6 +10,7 @@ KeyTree::KeyTree(QWidget* parent) : QTreeView(parent), m_keys(new RegistryTreeMo
     setHeaderHidden(true);
     setUniformRowHeights(true);
     new ViewFocus(this);
+    setTextElideMode(Qt::ElideMiddle);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     setMinimumWidth(fontMetrics().averageCharWidth() * 20);
     setCurrentIndex(m_keys->rootItem());
