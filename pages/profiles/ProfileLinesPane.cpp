@@ -184,10 +184,12 @@ void ProfileLinesPane::findNext()
 
 void ProfileLinesPane::finishSearch(const ProfileFindJob& job, bool complete, const QString& text)
 {
-    if (job.found() >= 0)
+    if (job.found() >= 0) {
         m_table->setCurrentIndex(m_model->index(job.found(), ProfileColumns::TextColumn));
-    else if (complete)
+        m_page.setStatus(description(job.found()));
+    } else if (complete) {
         m_page.setStatus(tr("No line contains “%1”.").arg(text));
-    else
+    } else {
         m_page.setStatus(tr("Stopped before all lines were searched."));
+    }
 }

@@ -35,7 +35,7 @@ ProfileReadingsPane::ProfileReadingsPane(PageContext& page, QWidget* parent)
       m_table(
           makeProfileTable(m_model, tr("Readings of both families"), QStringLiteral("readings"))),
       m_onlyDifferences(new QCheckBox(tr("Onl&y differences"))),
-      m_next(glowing(new QPushButton(tr("Nex&t difference")))),
+      m_next(glowing(new QPushButton(tr("Next difference")))),
       m_all(glowing(new QPushButton(tr("Re&ad all values")))),
       m_queue(new ProfileReadingQueue(this))
 {

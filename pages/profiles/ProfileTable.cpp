@@ -15,6 +15,8 @@ QTableView* makeProfileTable(QAbstractItemModel* model, const QString& name,
     table->setModel(model);
     arrangeTable(*table);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
+    // The header and two rows: on a small screen two tables share what the fields leave.
+    table->setMinimumHeight(table->fontMetrics().height() * 4);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 4 / 3);
     return table;

@@ -2085,10 +2085,6 @@ Wide: %2</source>
         <translation>仅显示差异(&amp;Y)</translation>
     </message>
     <message>
-        <source>Nex&amp;t difference</source>
-        <translation>下一处差异(&amp;T)</translation>
-    </message>
-    <message>
         <source>Re&amp;ad all values</source>
         <translation>读取所有值(&amp;A)</translation>
     </message>
@@ -2127,6 +2123,10 @@ Wide: %2</source>
     <message>
         <source>The families read all values alike.</source>
         <translation>两种接口对所有值的读取结果相同。</translation>
+    </message>
+    <message>
+        <source>Next difference</source>
+        <translation>下一处差异</translation>
     </message>
 </context>
 <context>
