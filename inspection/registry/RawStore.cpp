@@ -52,3 +52,15 @@ QVariant RawStore::value(const QString& name) const
 {
     return m_store ? m_store->value(name) : QVariant();
 }
+
+void RawStore::set(const QString& name, const QVariant& value)
+{
+    if (m_store)
+        m_store->setValue(name, value);
+}
+
+void RawStore::remove(const QString& name)
+{
+    if (m_store)
+        m_store->remove(name);
+}

@@ -10,8 +10,11 @@ class QKeySequence;
 class QLayout;
 class QMenu;
 class QPushButton;
+class RegistryClipboard;
 class RegistryEditor;
+class RegistryHistory;
 class RegistryRemover;
+class RegistryRenamer;
 class RegistryTransfer;
 class ValueTable;
 
@@ -37,34 +40,52 @@ signals:
 
 private:
     void makeActions();
-    QAction* add(QWidget& view, const QString& text, void (RegistryActions::*slot)());
+    void makeKeyActions();
+    void makeValueActions();
+    void fillMenus();
+    void connectParts();
+    QAction* make(const QString& text, void (RegistryActions::*slot)());
     QMenu* makeNewMenu();
     void enable(bool anySelected);
     void rememberView(const QWidget* before, QWidget* now);
     void editValue();
+    void renameValue();
     void removeChosen();
     void removeValues();
+    void copyData();
+    void copyValues();
+    void renameKey();
     void removeKey();
     void copyPath();
-    void copyData();
+    void copyKey();
     void exportKey();
     void importFile();
     bool isKeyThere();
+    bool isValueThere();
     void reportGone(const QString& what);
 
     PageContext& m_page;
     KeyTree& m_tree;
     ValueTable& m_table;
     QWidget* m_window;
+    RegistryHistory* m_history;
     RegistryEditor* m_editor;
+    RegistryRenamer* m_renamer;
     RegistryRemover* m_remover;
     RegistryTransfer* m_transfer;
+    RegistryClipboard* m_clipboard;
     QWidget* m_lastView = nullptr; ///< the view that had the keyboard last
     QMenu* m_newMenu = nullptr;
-    QAction* m_edit = nullptr;
-    QAction* m_removeValue = nullptr;
+    QAction* m_renameKey = nullptr;
+    QAction* m_removeKey = nullptr;
     QAction* m_copyPath = nullptr;
+    QAction* m_copyKey = nullptr;
+    QAction* m_edit = nullptr;
+    QAction* m_renameValue = nullptr;
+    QAction* m_removeValue = nullptr;
     QAction* m_copyData = nullptr;
+    QAction* m_copyValues = nullptr;
+    QAction* m_search = nullptr;
     QAction* m_export = nullptr;
     QAction* m_import = nullptr;
 };

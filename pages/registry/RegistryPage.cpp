@@ -10,6 +10,7 @@
 #include "pages/registry/RegistryActions.h"
 #include "pages/registry/ValueTable.h"
 
+#include <QLabel>
 #include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
@@ -30,6 +31,20 @@ QSplitter* splitter(Qt::Orientation orientation, QWidget* first, int firstShare,
     return made;
 }
 
+// A view with a sentence below it.
+QWidget* withNote(QWidget* view, const QString& text)
+{
+    auto* note = new QLabel(text);
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    auto* made = new QWidget;
+    auto* layout = new QVBoxLayout(made);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view, 1);
+    layout->addWidget(note);
+    return made;
+}
+
 } // namespace
 
 RegistryPage::RegistryPage(QWidget* parent)
@@ -43,7 +58,9 @@ RegistryPage::RegistryPage(QWidget* parent)
     m_address->addButton(m_actions->makeCopyButton());
     body()->addWidget(m_address);
     body()->addLayout(m_actions->makeButtons());
-    QSplitter* views = splitter(Qt::Horizontal, m_tree, 1, m_table, 3);
+    QWidget* keys = withNote(m_tree, tr("The four root keys are one here: what is set under one is "
+                                        "found under each."));
+    QSplitter* views = splitter(Qt::Horizontal, keys, 1, m_table, 3);
     body()->addWidget(splitter(Qt::Vertical, views, 2, m_find, 1), 1);
     m_find->hide();
     setFocusProxy(m_tree);

@@ -6,6 +6,7 @@
 #include "inspection/registry/RegistryPath.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/ImportDialog.h"
+#include "pages/registry/RegistryHistory.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -33,8 +34,8 @@ QString fault(const QFileInfo& file)
 
 } // namespace
 
-RegistryTransfer::RegistryTransfer(PageContext& page, QWidget* window)
-    : QObject(window), m_page(page), m_window(window)
+RegistryTransfer::RegistryTransfer(PageContext& page, RegistryHistory& history, QWidget* window)
+    : QObject(window), m_page(page), m_history(history), m_window(window)
 {
 }
 
@@ -136,11 +137,14 @@ void RegistryTransfer::preview(const QString& file, const std::shared_ptr<const 
 void RegistryTransfer::apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
 {
     const int refused = plan->count(ImportPlan::Outcome::Refused);
-    m_page.startJob(tr("Importing"), std::make_unique<RegistryApplyJob>(plan),
-                    [this, file, refused](RegistryApplyJob& job, bool complete) {
-                        emit changed();
-                        reportImport(file, job.applied(), refused + job.failed(), complete);
-                    });
+    const auto recorder = m_history.recorder();
+    m_page.startJob(
+        tr("Importing"), std::make_unique<RegistryApplyJob>(plan, recorder),
+        [this, file, refused, recorder](RegistryApplyJob& job, bool complete) {
+            m_history.add({tr("Import %1").arg(QFileInfo(file).fileName()), {}, {}}, *recorder);
+            emit changed();
+            reportImport(file, job.applied(), refused + job.failed(), complete);
+        });
 }
 
 void RegistryTransfer::reportImport(const QString& file, int applied, int refused, bool complete)

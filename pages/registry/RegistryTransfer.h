@@ -12,6 +12,7 @@ class QFileDialog;
 class QWidget;
 class RegistryApplyJob;
 class RegistryExportJob;
+class RegistryHistory;
 class RegistryImportJob;
 
 /// Export and import of registry files from the registry page.
@@ -20,8 +21,9 @@ class RegistryTransfer : public QObject
     Q_OBJECT
 
 public:
-    /// Dialogs open over `window`, which owns this object too.
-    RegistryTransfer(PageContext& page, QWidget* window);
+    /// Dialogs open over `window`, which owns this object too. `history` gets what is imported, and
+    /// outlives it.
+    RegistryTransfer(PageContext& page, RegistryHistory& history, QWidget* window);
 
     /// Asks for a file, then writes the key with everything below it.
     void askExport(const QString& path);
@@ -45,5 +47,6 @@ private:
     void refuse(const QString& file, const QString& why);
 
     PageContext& m_page;
+    RegistryHistory& m_history;
     QWidget* m_window;
 };

@@ -280,6 +280,17 @@
     </message>
 </context>
 <context>
+    <name>DataField</name>
+    <message>
+        <source>Enter begins a new line; Ctrl+Enter confirms.</source>
+        <translation>回车键换行；Ctrl+Enter 确定。</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+</context>
+<context>
     <name>DecodedText</name>
     <message>
         <source>They are no text; shown in hexadecimal.</source>
@@ -521,6 +532,33 @@
     <message>
         <source>The library encrypts everything from the first zero byte on (byte %L1) as zeros: it cannot be read back.</source>
         <translation>库从第一个零字节（第 %L1 字节）起全部按零加密，无法还原。</translation>
+    </message>
+</context>
+<context>
+    <name>ExportWriter</name>
+    <message>
+        <source>the format knows no line ends in names of keys</source>
+        <translation>该格式不支持项名称中含换行符</translation>
+    </message>
+    <message>
+        <source>a &quot;\&quot; in it separates keys</source>
+        <translation>其中的“\”会分隔项</translation>
+    </message>
+    <message>
+        <source>a part of its name would be taken for a comment</source>
+        <translation>其名称的一部分会被当作注释</translation>
+    </message>
+    <message>
+        <source>it is listed under the root, but cannot be asked for there</source>
+        <translation>它列在根下，但无法按名称读取</translation>
+    </message>
+    <message>
+        <source>the format knows no line ends in names</source>
+        <translation>此格式的名称中不能包含换行符</translation>
+    </message>
+    <message>
+        <source>left out: &quot;%1&quot;: %2</source>
+        <translation>已略过：“%1”：%2</translation>
     </message>
 </context>
 <context>
@@ -1597,10 +1635,6 @@
 <context>
     <name>NameDialog</name>
     <message>
-        <source>New key</source>
-        <translation>新建项</translation>
-    </message>
-    <message>
         <source>In %1</source>
         <translation>位于 %1</translation>
     </message>
@@ -2387,12 +2421,47 @@ Wide: %2</source>
         <translation>导出(&amp;X)...</translation>
     </message>
     <message>
+        <source>%1 is no longer there.</source>
+        <translation>%1 已不存在。</translation>
+    </message>
+    <message>
+        <source>Search...</source>
+        <translation>查找...</translation>
+    </message>
+    <message>
+        <source>Rename key...</source>
+        <translation>重命名项...</translation>
+    </message>
+    <message>
+        <source>Copy key as .reg</source>
+        <translation>将项复制为 .reg</translation>
+    </message>
+    <message>
+        <source>Rename value...</source>
+        <translation>重命名值...</translation>
+    </message>
+    <message>
+        <source>Copy as .reg</source>
+        <translation>复制为 .reg</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryClipboard</name>
+    <message>
         <source>Copied %1.</source>
         <translation>已复制 %1。</translation>
     </message>
     <message>
-        <source>%1 is no longer there.</source>
-        <translation>%1 已不存在。</translation>
+        <source>Copying</source>
+        <translation>正在复制</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was copied.</source>
+        <translation>已取消：未复制任何内容。</translation>
+    </message>
+    <message>
+        <source>Copied as the text of a registry file. Values: %1. Left out: %2.</source>
+        <translation>已按注册表文件的文本复制。值：%1 个。略过：%2 个。</translation>
     </message>
 </context>
 <context>
@@ -2437,32 +2506,80 @@ Wide: %2</source>
         <source>The value &quot;%1&quot; of %2 stands for a key of that name: a host library that opens the key succeeds. Nothing was changed.</source>
         <translation>%2 的值“%1”可当作同名的项：主机库能够打开该项。未作任何更改。</translation>
     </message>
+    <message>
+        <source>New key</source>
+        <translation>新建项</translation>
+    </message>
+    <message>
+        <source>Create the key %1</source>
+        <translation>创建项 %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in %2 stays as it is: nothing was typed that would change it.</source>
+        <translation>%2 中的“%1”保持不变：输入的内容不会改变它。</translation>
+    </message>
+    <message>
+        <source>Set &quot;%1&quot; in %2</source>
+        <translation>设置 %2 中的“%1”</translation>
+    </message>
 </context>
 <context>
-    <name>RegistryExportJob</name>
+    <name>RegistryHistory</name>
     <message>
-        <source>it is listed under the root, but cannot be asked for there</source>
-        <translation>它列在根下，但无法按名称读取</translation>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 个</translation>
     </message>
     <message>
-        <source>the format knows no line ends in names</source>
-        <translation>此格式的名称中不能包含换行符</translation>
+        <source>Changing the store</source>
+        <translation>正在更改存储</translation>
     </message>
     <message>
-        <source>left out: &quot;%1&quot;: %2</source>
-        <translation>已略过：“%1”：%2</translation>
+        <source>%1: the store has changed meanwhile. Nothing was changed.</source>
+        <translation>%1：其间存储已有变化。未做任何更改。</translation>
     </message>
     <message>
-        <source>the format knows no line ends in names of keys</source>
-        <translation>该格式不支持项名称中含换行符</translation>
+        <source>Done: %1.</source>
+        <translation>已完成：%1。</translation>
     </message>
     <message>
-        <source>a &quot;\&quot; in it separates keys</source>
-        <translation>其中的“\”会分隔项</translation>
+        <source>Cancelled half-way: %1.</source>
+        <translation>中途取消：%1。</translation>
     </message>
     <message>
-        <source>a part of its name would be taken for a comment</source>
-        <translation>其名称的一部分会被当作注释</translation>
+        <source>Undoing</source>
+        <translation>正在撤消</translation>
+    </message>
+    <message>
+        <source>Redoing</source>
+        <translation>正在重做</translation>
+    </message>
+    <message>
+        <source>Undone: %1.</source>
+        <translation>已撤消：%1。</translation>
+    </message>
+    <message>
+        <source>Redone: %1.</source>
+        <translation>已重做：%1。</translation>
+    </message>
+    <message>
+        <source>%1 Left as somebody else has changed them: %2.</source>
+        <translation>%1 其间被他人更改而保留的：%2 个。</translation>
+    </message>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>其间已被更改</translation>
+    </message>
+    <message>
+        <source>%1: somebody else has changed this since. It would be lost.</source>
+        <translation>%1：此后他人更改过这些内容，那些更改将丢失。</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>Only the rest</source>
+        <translation>仅其余部分</translation>
     </message>
 </context>
 <context>
@@ -2478,6 +2595,10 @@ Wide: %2</source>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>The four root keys are one here: what is set under one is found under each.</source>
+        <translation>四个根项在此是同一个：在其中一个下设置的内容，在每一个下都能找到。</translation>
     </message>
 </context>
 <context>
@@ -2529,6 +2650,73 @@ Wide: %2</source>
     <message>
         <source>Deleted a part of the key %1.</source>
         <translation>已删除项 %1 的一部分。</translation>
+    </message>
+    <message>
+        <source>Delete %1 from %2</source>
+        <translation>从 %2 删除 %1</translation>
+    </message>
+    <message>
+        <source>Delete the key %1</source>
+        <translation>删除项 %1</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryRenamer</name>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 has a value &quot;%2&quot; already.</source>
+        <translation>%1 中已有值“%2”。</translation>
+    </message>
+    <message>
+        <source>Rename the key</source>
+        <translation>重命名项</translation>
+    </message>
+    <message>
+        <source>The root itself cannot be renamed.</source>
+        <translation>不能重命名根本身。</translation>
+    </message>
+    <message>
+        <source>Reading the key</source>
+        <translation>正在读取项</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was renamed.</source>
+        <translation>已取消：未重命名任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 is no longer there.</source>
+        <translation>%1 已不存在。</translation>
+    </message>
+    <message>
+        <source>Rename the key %1 to &quot;%2&quot;</source>
+        <translation>将项 %1 重命名为“%2”</translation>
+    </message>
+    <message>
+        <source>Rename the value</source>
+        <translation>重命名值</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands in the root itself, where the registry can list it but not set it.</source>
+        <translation>“%1”直接位于根中，注册表只能列出它，不能设置它。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the mark of a key that was created: rename the key.</source>
+        <translation>“%1”是已创建的项的标记：请重命名该项。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no longer there.</source>
+        <translation>“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot; in %3</source>
+        <translation>将 %3 中的“%1”重命名为“%2”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; keeps its name.</source>
+        <translation>“%1”的名称不变。</translation>
     </message>
 </context>
 <context>
@@ -2619,6 +2807,10 @@ Wide: %2</source>
     <message>
         <source>Cancelled: nothing was imported.</source>
         <translation>已取消：未导入任何内容。</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <translation>导入 %1</translation>
     </message>
 </context>
 <context>
@@ -2845,10 +3037,6 @@ Wide: %2</source>
         <translation>类型</translation>
     </message>
     <message>
-        <source>Data</source>
-        <translation>数据</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
     </message>
@@ -2863,6 +3051,30 @@ Wide: %2</source>
     <message>
         <source>Line ends become LF.</source>
         <translation>换行符将变为 LF。</translation>
+    </message>
+    <message>
+        <source>Se&amp;veral lines</source>
+        <translation>多行(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Stored text (raw)</source>
+        <translation>存储文本（原始）</translation>
+    </message>
+    <message>
+        <source>Stored:</source>
+        <translation>已存储：</translation>
+    </message>
+    <message>
+        <source>OK leaves it as it is.</source>
+        <translation>按“确定”后保持不变。</translation>
+    </message>
+    <message>
+        <source>It is not replaced by what is typed.</source>
+        <translation>输入的内容不会替换它。</translation>
+    </message>
+    <message>
+        <source>OK replaces it with: %1</source>
+        <translation>按“确定”后替换为：%1</translation>
     </message>
 </context>
 <context>

@@ -129,9 +129,11 @@ TEST_F(FileDialogs, SaveAsWritesTheLinesShown)
     logInfo("a line for the saved file");
     ApplicationLog::instance().write(Logger::error, "an error for the saved file");
     const WindowProbe probe("log");
+    ASSERT_TRUE(probe.settle());
     probe.page().findChild<QComboBox*>()->setCurrentIndex(3); // errors only
     const FileDialogAnswer dialog(path("saved"));
     answer(probe, "S&ave as...", dialog);
+    ASSERT_TRUE(probe.settle());
     EXPECT_EQ(dialog.proposed().toStdString(), "quayside.log");
     const QByteArray saved = ProfileFixture::bytesOf(path("saved.log"));
     EXPECT_TRUE(saved.contains("an error for the saved file")) << saved.toStdString();

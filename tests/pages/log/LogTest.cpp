@@ -4,6 +4,7 @@
 #include "pages/log/LogPage.h"
 #include "pages/log/LogTable.h"
 #include "tests/pages/ShownToolTip.h"
+#include "tests/support/WaitFor.h"
 #include "window/BusyOverlay.h"
 
 #include <QComboBox>
@@ -214,6 +215,7 @@ TEST_F(LogPageTest, SavesTheLinesInView)
     m_page.findChild<QLineEdit*>()->setText("to be saved");
     const QString path = m_folder.filePath("saved.log");
     m_page.saveAs(path);
+    ASSERT_TRUE(waitForJob(m_page));
     QFile saved(path);
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     const QByteArray lines = saved.readAll();
@@ -282,6 +284,7 @@ TEST(LogPage, SaysThatTheLogCannotBeWritten)
 TEST_F(LogPageTest, SaysThatAFileCannotBeWritten)
 {
     m_page.saveAs(m_folder.filePath("missing/saved.log"));
+    ASSERT_TRUE(waitForJob(m_page));
     EXPECT_TRUE(m_page.statusText().contains("could not be written"))
         << m_page.statusText().toStdString();
 }

@@ -9,6 +9,7 @@
 #include "pages/registry/RegistryValueModel.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/inspection/registry/RegistryTest.h"
+#include "tests/support/WaitFor.h"
 #include "window/Page.h"
 
 #include <QAbstractItemModelTester>
@@ -289,6 +290,7 @@ TEST_F(RegistryModels, ShowMarkupInToolTipsAsItStands)
     FindPane pane(page);
     pane.findChild<QLineEdit*>()->setText("bold");
     QTest::keyClick(pane.findChild<QLineEdit*>(), Qt::Key_Return);
+    ASSERT_TRUE(waitForJob(page));
     EXPECT_EQ(tip(*pane.findChild<QTableView*>()->model(), 2), escaped);
     RegistryImportJob import(
         "Windows Registry Editor Version 5.00\n[HKEY_USERS\\A]\n\"<b>bold</b>\"=-\n");

@@ -169,6 +169,7 @@ TEST_F(RegistryPageTest, FindsAndGoesToAHit)
     ASSERT_TRUE(field);
     QTest::keyClicks(field, "blue");
     QTest::keyClick(field, Qt::Key_Return);
+    settle();
     EXPECT_EQ(status().toStdString(), "Found: 1.");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
