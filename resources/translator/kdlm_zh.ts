@@ -2211,6 +2211,13 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>ProfileAskingJob</name>
+    <message>
+        <source>Values: %1</source>
+        <translation>值：%1 个</translation>
+    </message>
+</context>
+<context>
     <name>ProfileColumns</name>
     <message>
         <source>Narrow: %1
@@ -2279,6 +2286,18 @@ Wide: %2</source>
         <source>Whether the families read the same value</source>
         <translation>两种接口读到的值是否相同</translation>
     </message>
+    <message>
+        <source>(not asked yet)</source>
+        <translation>（尚未读取）</translation>
+    </message>
+    <message>
+        <source>The families have not been asked for this value yet.</source>
+        <translation>尚未通过两种接口读取此值。</translation>
+    </message>
+    <message>
+        <source>Not UTF-8: the calls of both families lose what it says.</source>
+        <translation>不是 UTF-8：两种接口都会丢失其内容。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileDocument</name>
@@ -2299,8 +2318,8 @@ Wide: %2</source>
         <translation>无法读取 %1。</translation>
     </message>
     <message>
-        <source>%1 is larger than %2 KiB, the most that is opened here.</source>
-        <translation>%1 大于 %2 KiB，此处最大只能打开这么大的文件。</translation>
+        <source>%1 is larger than %2 MiB: no call of either family can read it.</source>
+        <translation>%1 大于 %2 MiB：两种接口都无法读取。</translation>
     </message>
 </context>
 <context>
@@ -2382,6 +2401,26 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ProfileEncodingBox</name>
+    <message>
+        <source>Encoding of lines that are not UTF-8</source>
+        <translation>非 UTF-8 行的编码</translation>
+    </message>
+    <message>
+        <source>Lines that are not UTF-8 are shown in this encoding. The calls of both families read them as before.</source>
+        <translation>非 UTF-8 的行按此编码显示，两种接口的读取结果不变。</translation>
+    </message>
+    <message>
+        <source>windows-1252 GB18030 Big5 Shift_JIS EUC-KR windows-1251</source>
+        <comment>Encodings, the one that is most likely where the language is spoken first</comment>
+        <translation>GB18030 Big5 windows-1252 Shift_JIS EUC-KR windows-1251</translation>
+    </message>
+    <message>
+        <source>UTF-8, as the calls read</source>
+        <translation>UTF-8，与接口读取的一致</translation>
+    </message>
+</context>
+<context>
     <name>ProfileFindBar</name>
     <message>
         <source>Text to find</source>
@@ -2397,10 +2436,121 @@ Wide: %2</source>
     </message>
 </context>
 <context>
-    <name>ProfileReadingJob</name>
+    <name>ProfileForm</name>
     <message>
-        <source>%1 values</source>
-        <translation>%1 个值</translation>
+        <source>Encoding: %1. Byte order mark: %2. Line ends: %3.</source>
+        <translation>编码：%1。字节顺序标记：%2。行尾：%3。</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>有</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>not UTF-8 (lines: %1, the first is %2)</source>
+        <translation>不是 UTF-8（共 %1 行，首行为第 %2 行）</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>mixed, %1</source>
+        <translation>混合，%1</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLinesPane</name>
+    <message>
+        <source>Shown as:</source>
+        <translation>显示为：</translation>
+    </message>
+    <message>
+        <source>Lines of the file</source>
+        <translation>文件的各行</translation>
+    </message>
+    <message>
+        <source>Open a profile, or drop one here: each line appears with a margin that tells how either family of calls reads it.</source>
+        <translation>打开配置文件，或将文件拖放到此处：每一行旁边会标明两种接口如何读取它。</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>name and form of a file</comment>
+        <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>Line %1. Narrow: %2 Wide: %3</source>
+        <translation>第 %1 行。窄字符：%2 宽字符：%3</translation>
+    </message>
+    <message>
+        <source>Searching the lines</source>
+        <translation>正在查找</translation>
+    </message>
+    <message>
+        <source>No line contains “%1”.</source>
+        <translation>没有包含“%1”的行。</translation>
+    </message>
+    <message>
+        <source>Stopped before all lines were searched.</source>
+        <translation>已停止：尚未查找完所有行。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileReadingsPane</name>
+    <message>
+        <source>Readings of both families</source>
+        <translation>两种接口的读取结果</translation>
+    </message>
+    <message>
+        <source>Onl&amp;y differences</source>
+        <translation>仅显示差异(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Re&amp;ad all values</source>
+        <translation>读取所有值(&amp;A)</translation>
+    </message>
+    <message>
+        <source>What the wide and the narrow calls read stands here side by side.</source>
+        <translation>宽字符接口和窄字符接口读到的内容在此并排显示。</translation>
+    </message>
+    <message>
+        <source>Edit value</source>
+        <translation>编辑值</translation>
+    </message>
+    <message>
+        <source>Asks the calls of both families for every value of a large file, one after the other. Otherwise those in view are asked for.</source>
+        <translation>依次通过两种接口读取大文件中的每个值。否则只读取当前可见的值。</translation>
+    </message>
+    <message>
+        <source>Values: %1. Read differently: %2.</source>
+        <translation>值：%1 个，其中读取结果不同的：%2 个。</translation>
+    </message>
+    <message>
+        <source>Values: %1. Asked for so far: %2. Read differently: %3.</source>
+        <translation>值：%1 个，已读取：%2 个，其中读取结果不同的：%3 个。</translation>
+    </message>
+    <message>
+        <source>Asking both families for all values</source>
+        <translation>正在通过两种接口读取所有值</translation>
+    </message>
+    <message>
+        <source>Stopped. %1</source>
+        <translation>已停止。%1</translation>
+    </message>
+    <message>
+        <source>Looking for a difference</source>
+        <translation>正在查找差异</translation>
+    </message>
+    <message>
+        <source>The families read all values alike.</source>
+        <translation>两种接口对所有值的读取结果相同。</translation>
+    </message>
+    <message>
+        <source>Next difference</source>
+        <translation>下一处差异</translation>
     </message>
 </context>
 <context>
@@ -2445,26 +2595,6 @@ Wide: %2</source>
         <translation>打开(&amp;N)...</translation>
     </message>
     <message>
-        <source>Lines of the file</source>
-        <translation>文件的各行</translation>
-    </message>
-    <message>
-        <source>Open a profile, or drop one here: each line appears with a margin that tells how either family of calls reads it.</source>
-        <translation>打开配置文件，或将文件拖放到此处：每一行旁边会标明两种接口如何读取它。</translation>
-    </message>
-    <message>
-        <source>Readings of both families</source>
-        <translation>两种接口的读取结果</translation>
-    </message>
-    <message>
-        <source>What the wide and the narrow calls read stands here side by side.</source>
-        <translation>宽字符接口和窄字符接口读到的内容在此并排显示。</translation>
-    </message>
-    <message>
-        <source>Edit value</source>
-        <translation>编辑值</translation>
-    </message>
-    <message>
         <source>Open a profile</source>
         <translation>打开配置文件</translation>
     </message>
@@ -2485,16 +2615,8 @@ Wide: %2</source>
         <translation>文件不存在：两种接口都将其读作空。写入值时会创建该文件。</translation>
     </message>
     <message>
-        <source>%1 values, %2 of them read differently.</source>
-        <translation>共 %1 个值，其中 %2 个读取结果不同。</translation>
-    </message>
-    <message>
         <source>Stopped. %1</source>
         <translation>已停止。%1</translation>
-    </message>
-    <message>
-        <source>Line %1. Narrow: %2 Wide: %3</source>
-        <translation>第 %1 行。窄字符：%2 宽字符：%3</translation>
     </message>
     <message>
         <source>Written.</source>
@@ -2513,12 +2635,20 @@ Wide: %2</source>
         <translation>没有可查找的行。请先打开文件。</translation>
     </message>
     <message>
-        <source>No line contains “%1”.</source>
-        <translation>没有包含“%1”的行。</translation>
-    </message>
-    <message>
         <source>Stopped before the file was read.</source>
         <translation>已停止：文件尚未读取。</translation>
+    </message>
+    <message>
+        <source>Next difference</source>
+        <translation>下一处差异</translation>
+    </message>
+    <message>
+        <source>The file has been changed by somebody else, and was read again. %1</source>
+        <translation>文件已被其他程序更改，并已重新读取。%1</translation>
+    </message>
+    <message>
+        <source>%1 has been deleted: both families read it as empty.</source>
+        <translation>%1 已被删除：两种接口都将其读作空。</translation>
     </message>
 </context>
 <context>
