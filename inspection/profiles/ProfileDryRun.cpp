@@ -1,52 +1,80 @@
 #include "inspection/profiles/ProfileDryRun.h"
 
-#include "inspection/profiles/NarrowRewriting.h"
+#include "inspection/profiles/ProfileBytes.h"
 
 #include <QFile>
 
 #include <utility>
 
+using namespace std::chrono_literals;
+
+namespace {
+
+bool makeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+} // namespace
+
 ProfileDryRun::ProfileDryRun(const QString& file, const ProfileChange& change)
-    : m_change(change), m_loading(file), m_writing(copiedFile(), change)
+    : m_file(file),
+      m_change(change),
+      m_folder(std::make_shared<QTemporaryDir>()),
+      m_writing(writtenFile(), change, ProfileDocument(file).isLarge())
 {
 }
 
-QString ProfileDryRun::copiedFile() const
+ProfileDryRun::~ProfileDryRun() = default;
+
+QString ProfileDryRun::formerFile() const
 {
-    return m_folder.filePath(QStringLiteral("written.ini"));
+    return m_folder->filePath(QStringLiteral("former.ini"));
+}
+
+QString ProfileDryRun::writtenFile() const
+{
+    return m_folder->filePath(QStringLiteral("written.ini"));
 }
 
 bool ProfileDryRun::step()
 {
     if (!std::exchange(m_isCopied, true))
         return copy();
-    if (m_writing.step())
+    if (!m_comparison && m_writing.step())
         return true;
     if (!isReadBack())
         return false;
-    if (m_loading.step())
-        return true;
-    if (std::exchange(m_isCompared, true))
-        return false;
     compare();
-    return true;
+    return !m_difference;
+}
+
+bool ProfileDryRun::isNextStepLong() const
+{
+    return !m_comparison && m_writing.isNextStepLong();
 }
 
 bool ProfileDryRun::copy()
 {
-    if (!document().exists())
-        return true;
-    return QFile::copy(file(), copiedFile()) &&
-           QFile::setPermissions(copiedFile(), QFile::ReadOwner | QFile::WriteOwner);
+    m_bytes = ProfileBytes::of(m_file);
+    return !m_bytes || (makeFile(formerFile(), *m_bytes) && makeFile(writtenFile(), *m_bytes));
 }
 
+// Files of megabytes take longer than a step may.
 void ProfileDryRun::compare()
 {
-    if (m_change.family == ProfileFamily::Narrow)
-        m_changes = NarrowRewriting(file()).changes();
+    if (!m_comparison)
+        m_comparison = std::make_unique<Computation<ProfileDifference>>(
+            [folder = m_folder, former = formerFile(), written = writtenFile(), change = m_change] {
+                return ProfileDifference(former, written, change);
+            });
+    if (m_comparison->isDone(4ms))
+        m_difference = std::make_shared<const ProfileDifference>(m_comparison->take());
 }
 
-bool ProfileDryRun::isHarmless() const
+// The narrow family answers an empty text for a missing value too.
+QString ProfileDryRun::former() const
 {
-    return document().lostLines(m_change.family).empty() && m_changes.isEmpty();
+    return m_difference->hadEntry() ? m_writing.former() : QString();
 }

@@ -71,11 +71,19 @@ ProfilesPage::ProfilesPage(QWidget* parent)
     splitter->addWidget(m_readings);
     body()->addWidget(splitter, 1);
     body()->addWidget(m_panel);
-    connect(m_panel, &ProfileEditPanel::writeRequested, this, &ProfilesPage::write);
-    connect(m_editor, &ProfileEditor::written, this, &ProfilesPage::showWritten);
+    connectEditor();
     addEditAction();
     setAcceptDrops(true);
     setFocusProxy(m_file);
+}
+
+void ProfilesPage::connectEditor()
+{
+    connect(m_panel, &ProfileEditPanel::writeRequested, this,
+            [this] { change(ProfileChange::Action::Set); });
+    connect(m_panel, &ProfileEditPanel::deletionRequested, this, &ProfilesPage::change);
+    connect(m_editor, &ProfileEditor::written, this, &ProfilesPage::showWritten);
+    connect(m_editor, &ProfileEditor::restored, this, &ProfilesPage::showRestored);
 }
 
 QLayout* ProfilesPage::makeFileRow()
@@ -138,6 +146,11 @@ void ProfilesPage::addEditAction()
     edit->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_readings->addAction(edit);
     m_readings->setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* remove = new QAction(tr("Delete key"), m_readings);
+    remove->setShortcut(Qt::Key_Delete);
+    remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_readings->addAction(remove);
+    connect(remove, &QAction::triggered, this, &ProfilesPage::deleteReading);
     connect(edit, &QAction::triggered, m_panel, &ProfileEditPanel::editValue);
     connect(m_readings, &QTableView::activated, m_panel, &ProfileEditPanel::editValue);
 }
@@ -233,6 +246,7 @@ void ProfilesPage::showDocument(ProfileDocument document)
 {
     m_path = document.path();
     m_exists = document.exists();
+    m_editor->noteRead(m_path);
     m_file->setText(m_path);
     m_readingsModel->setRecords({});
     m_linesModel->setRecords(std::move(document.lines()));
@@ -352,19 +366,41 @@ void ProfilesPage::showReading()
         m_panel->setReading(m_readingsModel->record(row));
 }
 
-void ProfilesPage::write()
+void ProfilesPage::change(ProfileChange::Action action)
 {
-    m_editor->write({m_path, m_panel->change(), m_panel->keepsBackup()});
+    ProfileChange change = m_panel->change();
+    change.action = action;
+    m_editor->write({m_path, change, m_panel->keepsBackup()});
 }
 
-void ProfilesPage::showWritten(const ProfileChange& change, const QString& backup)
+// The chosen one, whatever has been typed into the fields.
+void ProfilesPage::deleteReading()
+{
+    const int row = m_readings->currentIndex().row();
+    if (row < 0)
+        return;
+    const ProfileReading& reading = m_readingsModel->record(row);
+    const ProfileChange change{m_panel->change().family, reading.section, reading.key, QString(),
+                               ProfileChange::Action::DeleteKey};
+    m_editor->write({m_path, change, m_panel->keepsBackup()});
+}
+
+void ProfilesPage::showWritten(const ProfileChange& change, const QString& summary)
 {
     m_place = currentPlace();
-    m_place.name.emplace(change.section, change.key);
-    m_panel->setReading({change.section, change.key, change.value, change.value});
-    m_summary =
-        backup.isEmpty() ? tr("Written.") : tr("Written; the backup copy is %1.").arg(backup);
+    if (change.action == ProfileChange::Action::Set) {
+        m_place.name.emplace(change.section, change.key);
+        m_panel->setReading({change.section, change.key, change.value, change.value});
+    }
+    m_summary = summary;
     read(m_path);
+}
+
+void ProfilesPage::showRestored(const QString& path, const QString& summary)
+{
+    m_place = path == m_path ? currentPlace() : Place();
+    m_summary = summary;
+    read(path);
 }
 
 void ProfilesPage::dragEnterEvent(QDragEnterEvent* event)

@@ -2,6 +2,7 @@
 
 #include "inspection/profiles/ProfileDocument.h"
 #include "inspection/profiles/ProfileReading.h"
+#include "inspection/profiles/ProfileWriter.h"
 #include "window/Page.h"
 #include "window/RecordsModel.h"
 
@@ -12,7 +13,6 @@ class ProfileEditor;
 class ProfileFindBar;
 class ProfileLinesModel;
 class ProfileReadingJob;
-struct ProfileChange;
 class QLayout;
 class QLineEdit;
 class QTableView;
@@ -64,8 +64,11 @@ private:
     void showLine();
     void chooseReadingOf(const ProfileDocument::Line& line);
     void showReading();
-    void write();
-    void showWritten(const ProfileChange& change, const QString& backup);
+    void connectEditor();
+    void change(ProfileChange::Action action);
+    void deleteReading();
+    void showWritten(const ProfileChange& change, const QString& summary);
+    void showRestored(const QString& path, const QString& summary);
 
     QLineEdit* m_file;
     ProfileLinesModel* m_linesModel;
