@@ -70,6 +70,14 @@ void writeFirst(_WIN32_FIND_DATAW* data, const QString& name, const QFileInfo& i
         writeFileDetails(data, info);
 }
 
+// The names lie in memory as the directory gave them, and are visited in another order: the next
+// one is on its way into the cache while the system is asked about this one.
+void prefetchNext(DirectorySearch& search)
+{
+    if (search.index + 1 < search.names.size())
+        __builtin_prefetch(search.names[search.index + 1].data_ptr());
+}
+
 void assign(CStdStr<wchar_t>& destination, const QString& text)
 {
     ssasn(destination, text.toStdWString().c_str());
@@ -156,6 +164,7 @@ int PlatformDirectoryManagerImp::findNextFile(void* search, _WIN32_FIND_DATAW* d
     if (!found || !data || found->index + 1 >= found->names.size())
         return 0;
     const QString& name = found->names.at(++found->index);
+    prefetchNext(*found);
     // Intended: size and times keep what they held.
     writeEntry(data, name, found->directory.isFolder(name));
     return 1;
