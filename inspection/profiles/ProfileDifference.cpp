@@ -4,6 +4,31 @@
 #include "inspection/profiles/ProfileDocument.h"
 #include "inspection/profiles/ReadableLine.h"
 
+#include <unordered_set>
+
+namespace {
+
+using Texts = std::unordered_set<std::string_view>;
+
+std::string_view withoutEnd(std::string_view line)
+{
+    const std::size_t last = line.find_last_not_of("\r\n");
+    return last == std::string_view::npos ? std::string_view() : line.substr(0, last + 1);
+}
+
+// The added lines, as they are and without their ends.
+Texts addedTexts(const LineDifference& lines, bool areEndsKept)
+{
+    Texts texts;
+    for (const LineDifference::Hunk& hunk : lines.hunks()) {
+        for (int line = hunk.after; line < hunk.after + hunk.added; ++line)
+            texts.insert(areEndsKept ? lines.after().at(line) : withoutEnd(lines.after().at(line)));
+    }
+    return texts;
+}
+
+} // namespace
+
 ProfileDifference::ProfileDifference(const QString& before, const QString& after,
                                      const ProfileChange& change)
     : m_lines(ProfileDocument::bytesOf(before), ProfileDocument::bytesOf(after)),
@@ -14,6 +39,7 @@ ProfileDifference::ProfileDifference(const QString& before, const QString& after
       m_formChanges(FileForm(m_lines.before()).changesTo(FileForm(m_lines.after())))
 {
     findDestroyed();
+    findFates();
 }
 
 bool ProfileDifference::findAskedFor(const FamilyLines& after, const ProfileChange& change) const
@@ -44,5 +70,22 @@ void ProfileDifference::findDestroyed()
         for (int line = hunk.before; line < hunk.before + hunk.removed; ++line)
             if (!ReadableLine(m_lines.before(), line).isText())
                 m_destroyed.push_back(line + 1);
+    }
+}
+
+void ProfileDifference::findFates()
+{
+    m_fates.resize(static_cast<std::size_t>(m_lines.before().count()));
+    const Texts whole = addedTexts(m_lines, true);
+    const Texts texts = addedTexts(m_lines, false);
+    for (const LineDifference::Hunk& hunk : m_lines.hunks()) {
+        for (int line = hunk.before; line < hunk.before + hunk.removed; ++line) {
+            const std::string_view bytes = m_lines.before().at(line);
+            Fate& fate = m_fates[static_cast<std::size_t>(line)];
+            if (whole.count(bytes) > 0)
+                fate = Fate::Moved;
+            else if (texts.count(withoutEnd(bytes)) > 0)
+                fate = Fate::EndChanged;
+        }
     }
 }

@@ -10,6 +10,14 @@
 class ProfileDifference
 {
 public:
+    /// What becomes of a line that does not stay where it is.
+    enum class Fate : unsigned char
+    {
+        Gone,      ///< it is dropped, or reads otherwise
+        Moved,     ///< it stands elsewhere
+        EndChanged ///< it has another line end, here or elsewhere
+    };
+
     ProfileDifference(const QString& before, const QString& after, const ProfileChange& change);
 
     const LineDifference& lines() const { return m_lines; }
@@ -19,6 +27,8 @@ public:
     bool isAskedFor() const { return m_isAskedFor; }
     /// How the family reads a line of the file before; from 0 on.
     const LineReading& reading(int line) const { return m_readings.at(line); }
+    /// Of a line of the file before that is removed; from 0 on.
+    Fate fate(int line) const { return m_fates[static_cast<std::size_t>(line)]; }
     /// True where the family found the entry before.
     bool hadEntry() const { return m_hadEntry; }
     /// See FileForm::changesTo.
@@ -29,6 +39,7 @@ public:
 private:
     bool findAskedFor(const FamilyLines& after, const ProfileChange& change) const;
     void findDestroyed();
+    void findFates();
 
     LineDifference m_lines;
     FamilyLines m_readings; ///< of the file before
@@ -37,4 +48,5 @@ private:
     bool m_hadEntry;
     QStringList m_formChanges;
     std::vector<int> m_destroyed;
+    std::vector<Fate> m_fates; ///< by line of the file before
 };

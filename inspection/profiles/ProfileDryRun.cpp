@@ -46,13 +46,11 @@ bool ProfileDryRun::step()
         return true;
     if (!isReadBack())
         return false;
-    compare();
+    if (m_comparison)
+        takeDifference();
+    else
+        compare();
     return !m_difference;
-}
-
-bool ProfileDryRun::isNextStepLong() const
-{
-    return !m_comparison && m_writing.isNextStepLong();
 }
 
 bool ProfileDryRun::copy()
@@ -64,11 +62,14 @@ bool ProfileDryRun::copy()
 // Files of megabytes take longer than a step may.
 void ProfileDryRun::compare()
 {
-    if (!m_comparison)
-        m_comparison = std::make_unique<Computation<ProfileDifference>>(
-            [folder = m_folder, former = formerFile(), written = writtenFile(), change = m_change] {
-                return ProfileDifference(former, written, change);
-            });
+    m_comparison = std::make_unique<Computation<ProfileDifference>>(
+        [folder = m_folder, former = formerFile(), written = writtenFile(), change = m_change] {
+            return ProfileDifference(former, written, change);
+        });
+}
+
+void ProfileDryRun::takeDifference()
+{
     if (m_comparison->isDone(4ms))
         m_difference = std::make_shared<const ProfileDifference>(m_comparison->take());
 }

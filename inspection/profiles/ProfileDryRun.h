@@ -14,8 +14,8 @@ public:
     ~ProfileDryRun() override;
 
     bool step() override;
-    /// True for the steps on a large file that ask the service.
-    bool isNextStepLong() const override;
+    /// True for each step on a large file.
+    bool isNextStepLong() const override { return m_writing.isNextStepLong(); }
 
     /// True where the family finds the value in the copy that it has written, or no longer finds
     /// what was deleted. Like everything below this is known when the job is done; where it is
@@ -32,6 +32,7 @@ private:
     QString writtenFile() const;
     bool copy();
     void compare();
+    void takeDifference();
 
     QString m_file;
     ProfileChange m_change;

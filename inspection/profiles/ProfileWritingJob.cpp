@@ -52,6 +52,13 @@ ProfileWritingJob::ProfileWritingJob(const QString& file, const ProfileChange& c
 {
 }
 
+ProfileWritingJob::ProfileWritingJob(const QString& file, const ProfileChange& change,
+                                     const QByteArray& tried)
+    : ProfileWritingJob(file, change)
+{
+    m_tried = tried;
+}
+
 ProfileWritingJob::~ProfileWritingJob() = default;
 
 bool ProfileWritingJob::step()
@@ -84,7 +91,7 @@ void ProfileWritingJob::parse() const
 
 void ProfileWritingJob::readFormer()
 {
-    if (m_change.action == Action::DeleteSection || !QFile::exists(m_file))
+    if (!m_tried.isNull() || m_change.action == Action::DeleteSection || !QFile::exists(m_file))
         return;
     const ProfileReader reader(m_file);
     m_former = isWide() ? reader.wide(m_change.section, m_change.key).value_or(QString())
@@ -102,12 +109,13 @@ void ProfileWritingJob::write()
 // What lies on disk need not be what the wide family remembers to have written.
 void ProfileWritingJob::copy()
 {
-    m_isCopied = m_isWritten && QFile::copy(m_file, copiedFile());
+    m_isReadBack = m_isWritten && !m_tried.isNull() && ProfileDocument::bytesOf(m_file) == m_tried;
+    m_isCopied = m_isWritten && !m_isReadBack && QFile::copy(m_file, copiedFile());
 }
 
 void ProfileWritingJob::read()
 {
-    m_isReadBack = m_isCopied && isDone(copiedFile(), m_change);
+    m_isReadBack = m_isReadBack || (m_isCopied && isDone(copiedFile(), m_change));
 }
 
 QString ProfileWritingJob::copiedFile() const

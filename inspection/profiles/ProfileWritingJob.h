@@ -18,6 +18,9 @@ public:
     ProfileWritingJob(const QString& file, const ProfileChange& change);
     /// For a file that is still to come.
     ProfileWritingJob(const QString& file, const ProfileChange& change, bool isLarge);
+    /// For a change that has been tried, with the bytes that it left: where the file is the same
+    /// afterwards the service is not asked again.
+    ProfileWritingJob(const QString& file, const ProfileChange& change, const QByteArray& tried);
     ~ProfileWritingJob() override;
 
     const ProfileChange& change() const { return m_change; }
@@ -26,7 +29,7 @@ public:
     /// True for each step on a large file.
     bool isNextStepLong() const override { return m_isLarge; }
 
-    /// What the family read before; not null.
+    /// What the family read before; null where there was no file, or the change has been tried.
     const QString& former() const { return m_former; }
     /// True once the service says that it has written, or lines have been deleted.
     bool isWritten() const { return m_isWritten; }
@@ -47,6 +50,7 @@ private:
     QString m_file;
     ProfileChange m_change;
     bool m_isLarge;
+    QByteArray m_tried; ///< null where it has not been tried
     QTemporaryDir m_folder;
     QString m_former;
     std::unique_ptr<ParsedProfileCache> m_cache;

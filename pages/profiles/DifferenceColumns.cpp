@@ -71,7 +71,14 @@ QString reason(const ProfileDifference& difference, const DifferenceRow& row)
     if (!line(difference, row).isText())
         return DifferenceColumns::tr("not text");
     const bool isAltered = isLost(reading) || reading.isEscaped;
-    return isAltered || reading.state == LineState::Blank ? shortText(reading) : QString();
+    if (isAltered || reading.state == LineState::Blank)
+        return shortText(reading);
+    switch (difference.fate(row.before)) {
+    case ProfileDifference::Fate::Gone: return {};
+    case ProfileDifference::Fate::Moved: return DifferenceColumns::tr("moved");
+    case ProfileDifference::Fate::EndChanged: return DifferenceColumns::tr("line end");
+    }
+    return {};
 }
 
 QVariant reasonLook(const ProfileDifference& difference, const DifferenceRow& row, int role)
@@ -143,8 +150,11 @@ std::vector<RecordColumn<DifferenceRow>> DifferenceColumns::of(const Difference&
             {tr("Line"), [difference](const Row& row) { return text(*difference, row); }, plain}};
 }
 
+// Numbers of five digits fit too.
 QStringList DifferenceColumns::samples()
 {
-    return {QStringLiteral("⋯"), QStringLiteral("99999"), QStringLiteral("99999"),
-            QStringLiteral("CRLF"), tr("no section", "as wide as a reason")};
+    const QString more = QStringLiteral("00");
+    return {QStringLiteral("⋯00"), tr("Before", "number of a line") + more,
+            tr("After", "number of a line") + more, QStringLiteral("CRLF"),
+            tr("line end") + more + more};
 }

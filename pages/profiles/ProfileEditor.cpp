@@ -163,7 +163,8 @@ void ProfileEditor::writeNow(const Request& request, const Trial& trial)
         }
     }
     m_page.startJob(writingTitle(request.path),
-                    std::make_unique<ProfileWritingJob>(request.path, request.change),
+                    std::make_unique<ProfileWritingJob>(request.path, request.change,
+                                                        trial.difference->lines().after().bytes()),
                     [this, request, trial, backup](const ProfileWritingJob& job, bool complete) {
                         finish(request, trial, job, backup, complete);
                     });

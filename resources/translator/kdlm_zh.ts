@@ -353,6 +353,14 @@
         <translation>非文本</translation>
     </message>
     <message>
+        <source>moved</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>line end</source>
+        <translation>换行符</translation>
+    </message>
+    <message>
         <source>±</source>
         <comment>column of signs</comment>
         <translation>±</translation>
@@ -383,11 +391,6 @@
     <message>
         <source>Line</source>
         <translation>行</translation>
-    </message>
-    <message>
-        <source>no section</source>
-        <comment>as wide as a reason</comment>
-        <translation>无所属节</translation>
     </message>
 </context>
 <context>

@@ -108,6 +108,31 @@ TEST(ProfileDryRun, NamesTheLinesWhoseBytesGo)
     }
 }
 
+TEST(ProfileDryRun, TellsMovedLinesFromThoseThatAreGone)
+{
+    using Fate = ProfileDifference::Fate;
+    const Trial trial("[S]\nz=0\ny=0\n; why\nb=0\r\na=0\n", setting(narrow, "S", "a", "1"));
+    EXPECT_EQ(trial.after(), "[S]\na=1\nb=0\ny=0\nz=0\n");
+    EXPECT_NE(trial.difference().fate(1), trial.difference().fate(2)); // one of them stays
+    EXPECT_EQ(trial.difference().fate(3), Fate::Gone);
+    EXPECT_EQ(trial.difference().fate(4), Fate::EndChanged);
+    EXPECT_EQ(trial.difference().fate(5), Fate::Gone);
+}
+
+TEST(ProfileDryRun, HasNoLimitOfSize)
+{
+    QByteArray bytes = "[S]\n";
+    for (int i = 0; bytes.size() < 2000000; ++i)
+        bytes += "key" + QByteArray::number(i) + "=some value\n"; // not in order
+    for (const ProfileFamily family : {wide, narrow}) {
+        const Trial trial(bytes, setting(family, "S", "key1", "1"));
+        ASSERT_TRUE(trial.result().isReadBack());
+        EXPECT_FALSE(trial.difference().isAskedFor());
+        EXPECT_EQ(trial.difference().lines().before().count(),
+                  trial.difference().lines().after().count());
+    }
+}
+
 TEST(ProfileDryRun, TellsWhatTheFamilyReadBefore)
 {
     for (const ProfileFamily family : {wide, narrow}) {

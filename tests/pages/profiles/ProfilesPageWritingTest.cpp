@@ -42,7 +42,7 @@ TEST_F(ProfilesPageTest, AsksBeforeAWideWriteChangesOtherLines)
     request(QStringLiteral("Main"), QStringLiteral("A"), QStringLiteral("2"), wide);
     ASSERT_NE(question(), nullptr);
     EXPECT_EQ(m_file.bytes(), hand);
-    EXPECT_EQ(changedLines(), QStringList({"−|[Main]", "−escape|Path=C:\\Windows\\System32",
+    EXPECT_EQ(changedLines(), QStringList({"−line end|[Main]", "−escape|Path=C:\\Windows\\System32",
                                            "−|A=1", "−|Section Key=1", "+|[Main]", "+|A=2",
                                            "+|Path=C:indowsystem32", "+|Section%20Key=1"}));
     EXPECT_EQ(sentence("form"), QStringLiteral("The line ends change: CRLF in 4, then LF in 4."));
