@@ -77,6 +77,13 @@ TEST(LineDifference, KeepsTheLinesBetweenDroppedBlankOnes)
     EXPECT_EQ(difference.added(), 0);
 }
 
+TEST(LineDifference, FindsLinesThatOccurMoreOftenAfterwards)
+{
+    const LineDifference difference("b\na\na\nc\n", "d\na\na\na\ne\n");
+    EXPECT_EQ(difference.removed(), 2);
+    EXPECT_EQ(difference.added(), 3);
+}
+
 TEST(LineDifference, AllDiffersWhereNothingIsCommon)
 {
     const LineDifference difference(numbered(0, 300000), numbered(300000, 300000));
