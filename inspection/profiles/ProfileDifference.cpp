@@ -1,7 +1,7 @@
 #include "inspection/profiles/ProfileDifference.h"
 
-#include "inspection/profiles/FileForm.h"
 #include "inspection/profiles/ProfileDocument.h"
+#include "inspection/profiles/ProfileForm.h"
 #include "inspection/profiles/ReadableLine.h"
 
 #include <unordered_set>
@@ -36,7 +36,7 @@ ProfileDifference::ProfileDifference(const QString& before, const QString& after
       m_family(change.family),
       m_isAskedFor(findAskedFor(FamilyLines(after, change.family), change)),
       m_hadEntry(m_readings.hasEntryOf(change)),
-      m_formChanges(FileForm(m_lines.before()).changesTo(FileForm(m_lines.after())))
+      m_formChanges(ProfileForm::of(m_lines.before()).changesTo(ProfileForm::of(m_lines.after())))
 {
     findDestroyed();
     findFates();

@@ -31,7 +31,7 @@ public:
     Fate fate(int line) const { return m_fates[static_cast<std::size_t>(line)]; }
     /// True where the family found the entry before.
     bool hadEntry() const { return m_hadEntry; }
-    /// See FileForm::changesTo.
+    /// See ProfileForm::changesTo.
     const QStringList& formChanges() const { return m_formChanges; }
     /// The lines, from 1 on, that are no text in the file's encoding and do not stay as they are.
     const std::vector<int>& destroyedLines() const { return m_destroyed; }

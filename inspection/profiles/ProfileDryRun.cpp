@@ -4,8 +4,6 @@
 
 #include <QFile>
 
-#include <utility>
-
 using namespace std::chrono_literals;
 
 namespace {
@@ -40,8 +38,16 @@ QString ProfileDryRun::writtenFile() const
 
 bool ProfileDryRun::step()
 {
-    if (!std::exchange(m_isCopied, true))
-        return copy();
+    switch (m_stage++) {
+    case 0: m_bytes = ProfileBytes::of(m_file); return true;
+    case 1: return copyTo(formerFile());
+    case 2: return copyTo(writtenFile());
+    default: return tryOut();
+    }
+}
+
+bool ProfileDryRun::tryOut()
+{
     if (!m_comparison && m_writing.step())
         return true;
     if (!isReadBack())
@@ -53,10 +59,9 @@ bool ProfileDryRun::step()
     return !m_difference;
 }
 
-bool ProfileDryRun::copy()
+bool ProfileDryRun::copyTo(const QString& path) const
 {
-    m_bytes = ProfileBytes::of(m_file);
-    return !m_bytes || (makeFile(formerFile(), *m_bytes) && makeFile(writtenFile(), *m_bytes));
+    return !m_bytes || makeFile(path, *m_bytes);
 }
 
 // Files of megabytes take longer than a step may.

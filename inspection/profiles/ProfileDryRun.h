@@ -30,7 +30,8 @@ public:
 private:
     QString formerFile() const;
     QString writtenFile() const;
-    bool copy();
+    bool copyTo(const QString& path) const;
+    bool tryOut();
     void compare();
     void takeDifference();
 
@@ -41,5 +42,5 @@ private:
     std::optional<QByteArray> m_bytes;
     std::unique_ptr<Computation<ProfileDifference>> m_comparison;
     std::shared_ptr<const ProfileDifference> m_difference;
-    bool m_isCopied = false;
+    int m_stage = 0;
 };

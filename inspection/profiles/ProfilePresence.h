@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
-
-#include <sys/types.h>
+#include "inspection/profiles/ProfileStamp.h"
 
 /// Remembers which file a profile was when it was read, to tell whether it is still the same one.
 class ProfilePresence
@@ -24,7 +22,5 @@ public:
 
 private:
     QString m_path;
-    bool m_wasThere = false;
-    dev_t m_device = 0;
-    ino_t m_number = 0;
+    ProfileStamp m_stamp; ///< of the file when it was there last
 };

@@ -5,17 +5,8 @@
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
+#include "inspection/registry/StoreEntry.h"
 #include "platform/registry/TypeName.h"
-
-namespace {
-
-// The service makes a key of the name as it is, and separates in the value's own name alone.
-QString keptUnderRoot(const QString& name)
-{
-    return RegistryPath::join(name, redirectedPath(name));
-}
-
-} // namespace
 
 ListedValue::ListedValue(std::shared_ptr<const Key> key, const QString& name, Place place)
     : m_key(std::move(key)), m_name(name), m_place(place)
@@ -41,7 +32,7 @@ std::vector<ListedValue> ListedValue::ofRoot(const RegistryIndex& names)
     const RegistryIndex::Children children = names.children(QString());
     std::vector<ListedValue> values;
     for (const QString& name : children.groups) {
-        if (!rawRegistryEntry(keptUnderRoot(name)).isNull())
+        if (!rawRegistryEntry(StoreEntry::ofValue(QString(), name)).isNull())
             values.push_back(ListedValue(root, name, Place::UnderRoot));
     }
     for (const QString& name : children.entries)
@@ -51,7 +42,7 @@ std::vector<ListedValue> ListedValue::ofRoot(const RegistryIndex& names)
 
 QString ListedValue::entryPath() const
 {
-    return m_place == Place::UnderRoot ? keptUnderRoot(m_name)
+    return m_place == Place::UnderRoot ? StoreEntry::ofValue(QString(), m_name)
                                        : RegistryPath::join(redirectedPath(m_key->path), m_name);
 }
 

@@ -30,6 +30,8 @@ public:
 
     const QString& name() const { return m_name; }
     Place place() const { return m_place; }
+    /// The path of the entry that keeps the value.
+    QString entryPath() const;
     /// The key in which deleting the value deletes nothing else that the key holds.
     QString keyToDeleteFrom() const;
     /// False when the value has gone meanwhile.
@@ -74,7 +76,6 @@ private:
     ListedValue(std::shared_ptr<const Key> key, const QString& name, Place place);
 
     static std::vector<ListedValue> ofRoot(const RegistryIndex& names);
-    QString entryPath() const;
     const Contents& contents() const;
     Contents read() const;
     QString placeRemark() const;

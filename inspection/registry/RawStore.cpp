@@ -28,6 +28,13 @@ QObject* RawStore::receiver()
     return g_globalSettings;
 }
 
+std::unique_ptr<QSettings> RawStore::opened(const QString& file)
+{
+    auto other = std::make_unique<QSettings>(file, g_globalSettings->format());
+    other->setIniCodec(g_globalSettings->iniCodec());
+    return other;
+}
+
 QStringList RawStore::allEntries() const
 {
     return m_store ? m_store->allKeys() : QStringList();
@@ -51,4 +58,16 @@ bool RawStore::contains(const QString& name) const
 QVariant RawStore::value(const QString& name) const
 {
     return m_store ? m_store->value(name) : QVariant();
+}
+
+void RawStore::set(const QString& name, const QVariant& value)
+{
+    if (m_store)
+        m_store->setValue(name, value);
+}
+
+void RawStore::remove(const QString& name)
+{
+    if (m_store)
+        m_store->remove(name);
 }

@@ -5,10 +5,13 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <memory>
 #include <optional>
 
 /// One group of the host library's settings store as it stands there, past the registry service:
-/// what is shown of it is marked as raw. Nothing else of the window or the tools reads the store.
+/// what is shown of it is marked as raw. Nothing else of the window or the tools reads the store,
+/// or writes to it: what is undone or renamed goes back as it stood, for which the service has no
+/// call.
 ///
 /// Without a store every group is empty. While one lives, no registry call may be made: the calls
 /// would begin in the group that it has entered.
@@ -30,6 +33,10 @@ public:
     /// The object that gets the store's events; null without a store. Owned by the host library.
     static QObject* receiver();
 
+    /// Opens another file as the store's own is opened, in the same format and encoding. There must
+    /// be a store.
+    static std::unique_ptr<QSettings> opened(const QString& file);
+
     /// Names of all entries below the group, with their levels, sorted.
     QStringList allEntries() const;
     /// Names of the entries right in the group.
@@ -40,6 +47,11 @@ public:
     bool contains(const QString& name) const;
     /// What an entry holds; null where there is none, and for one without a value.
     QVariant value(const QString& name) const;
+
+    /// Writes an entry as it is to stand in the file. Does nothing without a store, like `remove`.
+    void set(const QString& name, const QVariant& value);
+    /// Removes an entry, and with it the group of the same name.
+    void remove(const QString& name);
 
 private:
     QSettings* m_store; ///< the host library's; may be null

@@ -4,6 +4,7 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/RegistryRemovalJob.h"
+#include "inspection/registry/StoreEntry.h"
 
 #include <QLocale>
 
@@ -38,9 +39,19 @@ QString pathOf(const RegFileEntry& entry)
     return path;
 }
 
-bool carryOut(const RegFileEntry& entry)
+// Values and keys are set entry by entry; a deletion takes along what is below.
+void watchEntries(StoreRecorder& recorder, const QString& path, const RegFileEntry& entry)
 {
-    const QString path = pathOf(entry);
+    if (entry.action == Action::DeleteValue)
+        return recorder.watchTree(StoreEntry::deletedWithValue(path, entry.name));
+    if (!path.isEmpty())
+        recorder.watch(path);
+    if (entry.action == Action::SetValue)
+        recorder.watch(StoreEntry::ofValue(path, entry.name));
+}
+
+bool isDone(const QString& path, const RegFileEntry& entry)
+{
     switch (entry.action) {
     case Action::CreateKey: return ensureKey(path);
     case Action::SetValue: return setValue(path, entry);
@@ -53,7 +64,9 @@ bool carryOut(const RegFileEntry& entry)
 
 } // namespace
 
-RegistryApplyJob::RegistryApplyJob(std::shared_ptr<const ImportPlan> plan) : m_plan(std::move(plan))
+RegistryApplyJob::RegistryApplyJob(std::shared_ptr<const ImportPlan> plan,
+                                   std::shared_ptr<StoreRecorder> recorder)
+    : m_plan(std::move(plan)), m_recorder(std::move(recorder))
 {
 }
 
@@ -83,10 +96,19 @@ QString RegistryApplyJob::progress() const
     return QLocale().toString(m_applied);
 }
 
+bool RegistryApplyJob::carryOut(const RegFileEntry& entry)
+{
+    const QString path = pathOf(entry);
+    watchEntries(*m_recorder, path, entry);
+    const bool done = isDone(path, entry);
+    m_recorder->record();
+    return done;
+}
+
 // A key may hold anything, and the service would delete all of it in one call.
 void RegistryApplyJob::beginRemoval(const RegFileEntry& entry)
 {
-    m_removal = std::make_unique<RegistryRemovalJob>(registryKeysFrom(pathOf(entry)));
+    m_removal = std::make_unique<RegistryRemovalJob>(registryKeysFrom(pathOf(entry)), m_recorder);
 }
 
 void RegistryApplyJob::continueRemoval()

@@ -2,6 +2,7 @@
 
 #include "inspection/Job.h"
 #include "inspection/registry/ImportPlan.h"
+#include "inspection/registry/StoreRecorder.h"
 #include "inspection/registry/StoreSaveBlocker.h"
 
 #include <memory>
@@ -13,7 +14,10 @@ class RegistryRemovalJob;
 class RegistryApplyJob : public Job
 {
 public:
-    explicit RegistryApplyJob(std::shared_ptr<const ImportPlan> plan);
+    /// `recorder` records what becomes of the entries.
+    explicit RegistryApplyJob(
+        std::shared_ptr<const ImportPlan> plan,
+        std::shared_ptr<StoreRecorder> recorder = std::make_shared<StoreRecorder>());
     ~RegistryApplyJob() override;
 
     /// Carries out one statement that is not refused, or a small piece of one that deletes a key.
@@ -27,12 +31,14 @@ public:
     int failed() const { return m_failed; }
 
 private:
+    bool carryOut(const RegFileEntry& entry);
     void beginRemoval(const RegFileEntry& entry);
     void continueRemoval();
     void count(bool done) { ++(done ? m_applied : m_failed); }
 
     StoreSaveBlocker m_blocker;
     std::shared_ptr<const ImportPlan> m_plan;
+    std::shared_ptr<StoreRecorder> m_recorder;
     std::size_t m_next = 0;
     std::unique_ptr<RegistryRemovalJob> m_removal; ///< null unless a key is being deleted
     int m_applied = 0;

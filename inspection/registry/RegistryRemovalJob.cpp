@@ -1,27 +1,27 @@
 #include "inspection/registry/RegistryRemovalJob.h"
 
 #include "inspection/registry/RegistryListing.h"
+#include "inspection/registry/RegistryPath.h"
+#include "inspection/registry/StoreEntry.h"
 
 #include <QLocale>
 
-RegistryRemovalJob::RegistryRemovalJob(const QStringList& keys) : m_keys(keys) {}
+RegistryRemovalJob::RegistryRemovalJob(const QStringList& keys,
+                                       std::shared_ptr<StoreRecorder> recorder)
+    : m_keys(keys), m_recorder(std::move(recorder))
+{
+}
 
 bool RegistryRemovalJob::step()
 {
     if (m_keys.isEmpty())
         return false;
-    if (!m_key) {
+    if (!m_key)
         openLast();
-        return true;
-    }
-    if (!m_values.isEmpty()) {
-        m_key->removeValue(m_values.takeLast());
-        ++m_removed;
-        return true;
-    }
-    m_key.reset();
-    if (RegistryKey(QString()).removeKey(m_keys.takeLast()) != ERROR_SUCCESS)
-        m_succeeded = false;
+    else if (!m_values.isEmpty())
+        removeLastValue();
+    else
+        removeLastKey();
     return true;
 }
 
@@ -34,4 +34,23 @@ void RegistryRemovalJob::openLast()
 {
     m_key = std::make_unique<RegistryKey>(m_keys.last());
     m_values = registryValueNames(m_keys.last());
+}
+
+void RegistryRemovalJob::removeLastValue()
+{
+    const QString name = m_values.takeLast();
+    m_recorder->watchTree(StoreEntry::deletedWithValue(m_keys.last(), name));
+    m_key->removeValue(name);
+    m_recorder->record();
+    ++m_removed;
+}
+
+void RegistryRemovalJob::removeLastKey()
+{
+    const QString path = m_keys.takeLast();
+    m_key.reset();
+    m_recorder->watchTree(RegistryPath::slashed(path));
+    if (RegistryKey(QString()).removeKey(path) != ERROR_SUCCESS)
+        m_succeeded = false;
+    m_recorder->record();
 }

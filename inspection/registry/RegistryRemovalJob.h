@@ -2,6 +2,7 @@
 
 #include "inspection/Job.h"
 #include "inspection/registry/RegistryKey.h"
+#include "inspection/registry/StoreRecorder.h"
 #include "inspection/registry/StoreSaveBlocker.h"
 
 #include <QStringList>
@@ -14,7 +15,9 @@ class RegistryRemovalJob : public Job
 {
 public:
     /// A key and all keys below it, each before those below, as RegistryWalk visits them.
-    explicit RegistryRemovalJob(const QStringList& keys);
+    /// `recorder` records what goes.
+    explicit RegistryRemovalJob(const QStringList& keys, std::shared_ptr<StoreRecorder> recorder =
+                                                             std::make_shared<StoreRecorder>());
 
     bool step() override;
     /// The number of values deleted.
@@ -25,9 +28,12 @@ public:
 
 private:
     void openLast();
+    void removeLastValue();
+    void removeLastKey();
 
     StoreSaveBlocker m_blocker;
     QStringList m_keys;
+    std::shared_ptr<StoreRecorder> m_recorder;
     QStringList m_values; ///< of the last key
     std::unique_ptr<RegistryKey> m_key;
     int m_removed = 0;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "inspection/Job.h"
+#include "inspection/registry/RegistryValueName.h"
+#include "inspection/registry/StoreRecorder.h"
 #include "inspection/registry/StoreSaveBlocker.h"
 
-#include <QString>
-
+#include <memory>
 #include <vector>
 
 /// Deletes values one by one. Cancelled half-way it leaves what it has not reached. The store saves
@@ -12,13 +13,11 @@
 class ValueRemovalJob : public Job
 {
 public:
-    struct Value
-    {
-        QString key; ///< path of the key in which it is deleted
-        QString name;
-    };
+    using Value = RegistryValueName;
 
-    explicit ValueRemovalJob(std::vector<Value> values);
+    /// `recorder` records what goes.
+    explicit ValueRemovalJob(std::vector<Value> values, std::shared_ptr<StoreRecorder> recorder =
+                                                            std::make_shared<StoreRecorder>());
 
     bool step() override;
     /// The number of values deleted.
@@ -29,5 +28,6 @@ public:
 private:
     StoreSaveBlocker m_blocker;
     std::vector<Value> m_values;
+    std::shared_ptr<StoreRecorder> m_recorder;
     std::size_t m_next = 0;
 };

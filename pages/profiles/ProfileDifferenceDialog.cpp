@@ -71,8 +71,8 @@ void ProfileDifferenceDialog::addButtons(QVBoxLayout* layout, const ProfileChang
     write->setAutoDefault(false);
     auto* cancel = glowing(buttons->button(QDialogButtonBox::Cancel));
     cancel->setDefault(true);
-    cancel->setFocus();
     layout->addWidget(buttons);
+    cancel->setFocus(); // not the table, which takes the Return key
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }

@@ -1,6 +1,5 @@
 #include "pages/registry/NameDialog.h"
 
-#include "inspection/registry/ValueInput.h"
 #include "window/Page.h"
 
 #include <QDialogButtonBox>
@@ -9,15 +8,21 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-NameDialog::NameDialog(const QString& parentKey, QWidget* parent)
-    : QDialog(parent), m_name(new QLineEdit), m_note(new QLabel)
+NameDialog::NameDialog(const QString& title, const QString& key, Problem problem, QWidget* parent,
+                       const QString& first)
+    : QDialog(parent),
+      m_problem(std::move(problem)),
+      m_name(new QLineEdit(first)),
+      m_note(new QLabel)
 {
-    setWindowTitle(tr("New key"));
-    auto* place = new QLabel(tr("In %1").arg(parentKey));
+    setWindowTitle(title);
+    auto* place = new QLabel(tr("In %1").arg(key));
     place->setTextFormat(Qt::PlainText);
     place->setWordWrap(true);
     m_name->setAccessibleName(tr("Name"));
     m_name->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
+    m_name->selectAll();
+    m_note->setTextFormat(Qt::PlainText);
     m_note->setWordWrap(true);
     m_note->setMinimumHeight(fontMetrics().lineSpacing() * 2);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -41,7 +46,7 @@ QString NameDialog::name() const
 
 void NameDialog::check()
 {
-    const QString problem = ValueInput::keyNameProblem(name());
+    const QString problem = m_problem(name());
     m_note->setText(problem);
     m_ok->setEnabled(problem.isEmpty());
 }

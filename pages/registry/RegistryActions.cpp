@@ -4,15 +4,19 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "pages/registry/KeyTree.h"
+#include "pages/registry/MenuKey.h"
+#include "pages/registry/RegistryClipboard.h"
 #include "pages/registry/RegistryEditor.h"
+#include "pages/registry/RegistryHistory.h"
 #include "pages/registry/RegistryRemover.h"
+#include "pages/registry/RegistryRenamer.h"
 #include "pages/registry/RegistryTransfer.h"
+#include "pages/registry/StoreGate.h"
 #include "pages/registry/ValueTable.h"
 #include "window/Page.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QMenu>
@@ -35,6 +39,13 @@ QPushButton* buttonFor(QAction* action, const QString& text)
     return button;
 }
 
+QAction* separator(QObject* parent)
+{
+    auto* action = new QAction(parent);
+    action->setSeparator(true);
+    return action;
+}
+
 // What is reported when values have gone meanwhile; `name` is that of the first.
 QString goneText(const QString& name, std::size_t count, const QString& path)
 {
@@ -47,22 +58,38 @@ QString goneText(const QString& name, std::size_t count, const QString& path)
 
 } // namespace
 
-RegistryActions::RegistryActions(PageContext& page, KeyTree& tree, ValueTable& table,
-                                 QWidget* window)
+RegistryActions::RegistryActions(PageContext& page, StoreWatch& watch, KeyTree& tree,
+                                 ValueTable& table, QWidget* window)
     : QObject(window),
       m_page(page),
       m_tree(tree),
       m_table(table),
       m_window(window),
-      m_editor(new RegistryEditor(page, window)),
-      m_remover(new RegistryRemover(page, window)),
-      m_transfer(new RegistryTransfer(page, window))
+      m_history(new RegistryHistory(page, window)),
+      m_editor(new RegistryEditor(page, *m_history, window)),
+      m_renamer(new RegistryRenamer(page, *m_history, window)),
+      m_remover(new RegistryRemover(page, *m_history, window)),
+      m_transfer(new RegistryTransfer(page, *m_history, window)),
+      m_clipboard(new RegistryClipboard(page, window)),
+      m_gate(new StoreGate(
+          page, watch, [this](const auto& exported) { m_transfer->askExport({}, exported); },
+          window))
 {
     makeActions();
     enable(false);
+    connectParts();
+    new MenuKey(&m_tree);
+    new MenuKey(&m_table);
+}
+
+void RegistryActions::connectParts()
+{
     connect(qApp, &QApplication::focusChanged, this, &RegistryActions::rememberView);
     connect(&m_table, &ValueTable::selectedChanged, this, &RegistryActions::enable);
-    connect(&m_table, &QTableView::activated, this, &RegistryActions::editValue);
+    connect(&m_table, &QTableView::activated, this,
+            [this] { change(&RegistryActions::editValue); });
+    connect(m_history, &RegistryHistory::changed, this, &RegistryActions::changed);
+    connect(m_history, &RegistryHistory::outdated, this, &RegistryActions::outdated);
     connect(m_editor, &RegistryEditor::changed, this, &RegistryActions::changed);
     connect(m_remover, &RegistryRemover::changed, this,
             [this](const QString& path) { emit changed(path, {}); });
@@ -72,35 +99,81 @@ RegistryActions::RegistryActions(PageContext& page, KeyTree& tree, ValueTable& t
 void RegistryActions::makeActions()
 {
     m_newMenu = makeNewMenu();
-    m_tree.addAction(m_newMenu->menuAction());
-    m_table.addAction(m_newMenu->menuAction());
-    add(m_tree, tr("Delete key"), &RegistryActions::removeKey)->setShortcut(Qt::Key_Delete);
-    m_copyPath = add(m_tree, tr("Copy path"), &RegistryActions::copyPath);
-    m_copyPath->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
-    m_export = add(m_tree, tr("Export key..."), &RegistryActions::exportKey);
-    m_import = add(m_tree, tr("Import..."), &RegistryActions::importFile);
-    m_edit = add(m_table, tr("Edit value"), &RegistryActions::editValue);
-    m_edit->setShortcut(Qt::Key_F2);
-    m_removeValue = add(m_table, tr("Delete value"), &RegistryActions::removeValues);
-    m_removeValue->setShortcut(Qt::Key_Delete);
-    m_copyData = add(m_table, tr("Copy data"), &RegistryActions::copyData);
-    m_copyData->setShortcut(QKeySequence::Copy);
+    makeKeyActions();
+    makeValueActions();
+    m_search = make(tr("Search..."), &RegistryActions::searchRequested);
+    m_import = makeChange(tr("Import..."), &RegistryActions::importFile);
+    m_export = make(tr("Export key..."), &RegistryActions::exportKey);
+    fillMenus();
 }
 
-QAction* RegistryActions::add(QWidget& view, const QString& text, void (RegistryActions::*slot)())
+// F2 alone is free in the tree: a key has nothing else to be edited.
+void RegistryActions::makeKeyActions()
+{
+    const QKeySequence shiftF2(Qt::SHIFT + Qt::Key_F2);
+    m_renameKey = makeChange(tr("Rename key..."), &RegistryActions::renameKey);
+    m_renameKey->setShortcuts({QKeySequence(Qt::Key_F2), shiftF2});
+    m_removeKey = makeChange(tr("Delete key"), &RegistryActions::removeKey);
+    m_removeKey->setShortcut(Qt::Key_Delete);
+    m_copyPath = make(tr("Copy path"), &RegistryActions::copyPath);
+    m_copyPath->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
+    m_copyKey = make(tr("Copy key as .reg"), &RegistryActions::copyKey);
+}
+
+void RegistryActions::makeValueActions()
+{
+    m_edit = makeChange(tr("Edit value"), &RegistryActions::editValue);
+    m_edit->setShortcut(Qt::Key_F2);
+    m_renameValue = makeChange(tr("Rename value..."), &RegistryActions::renameValue);
+    m_renameValue->setShortcut(Qt::SHIFT + Qt::Key_F2);
+    m_removeValue = makeChange(tr("Delete value"), &RegistryActions::removeValues);
+    m_removeValue->setShortcut(Qt::Key_Delete);
+    m_copyData = make(tr("Copy data"), &RegistryActions::copyData);
+    m_copyData->setShortcut(QKeySequence::Copy);
+    m_copyValues = make(tr("Copy as .reg"), &RegistryActions::copyValues);
+}
+
+// A view's actions are its context menu. What concerns the whole key is in both menus.
+void RegistryActions::fillMenus()
+{
+    QAction* create = m_newMenu->menuAction();
+    m_tree.addActions({create, m_renameKey, m_removeKey, separator(this), m_copyPath, m_copyKey,
+                       separator(this), m_search, m_import, m_export});
+    m_table.addActions({create, m_edit, m_renameValue, m_removeValue, separator(this), m_copyData,
+                        m_copyValues, separator(this), m_copyPath, m_search, m_import, m_export});
+}
+
+QAction* RegistryActions::make(const QString& text)
 {
     auto* action = new QAction(text, this);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(action, &QAction::triggered, this, slot);
-    view.addAction(action);
     return action;
+}
+
+QAction* RegistryActions::make(const QString& text, void (RegistryActions::*slot)())
+{
+    QAction* action = make(text);
+    connect(action, &QAction::triggered, this, slot);
+    return action;
+}
+
+QAction* RegistryActions::makeChange(const QString& text, void (RegistryActions::*slot)())
+{
+    QAction* action = make(text);
+    connect(action, &QAction::triggered, this, [this, slot] { change(slot); });
+    return action;
+}
+
+void RegistryActions::change(void (RegistryActions::*slot)())
+{
+    m_gate->pass([this, slot] { (this->*slot)(); });
 }
 
 QMenu* RegistryActions::makeNewMenu()
 {
     auto* menu = new QMenu(tr("New"), m_window);
     connect(menu->addAction(tr("&Key...")), &QAction::triggered, this,
-            [this] { m_editor->newKey(m_tree.path()); });
+            [this] { m_gate->pass([this] { m_editor->newKey(m_tree.path()); }); });
     menu->addSeparator();
     const std::pair<QString, unsigned int> types[] = {
         {tr("&String (REG_SZ)..."), REG_SZ},
@@ -108,8 +181,9 @@ QMenu* RegistryActions::makeNewMenu()
         {tr("&Large number (REG_QWORD)..."), REG_QWORD},
         {tr("&Binary (REG_BINARY)..."), REG_BINARY}};
     for (const auto& [text, number] : types) {
-        connect(menu->addAction(text), &QAction::triggered, this,
-                [this, type = number] { m_editor->newValue(m_tree.path(), type); });
+        connect(menu->addAction(text), &QAction::triggered, this, [this, type = number] {
+            m_gate->pass([this, type] { m_editor->newValue(m_tree.path(), type); });
+        });
     }
     return menu;
 }
@@ -124,10 +198,10 @@ QLayout* RegistryActions::makeButtons()
     auto* create = glowing(new QPushButton(tr("&New")));
     create->setMenu(m_newMenu);
     auto* remove = glowing(new QPushButton(tr("Dele&te")));
-    connect(remove, &QPushButton::clicked, this, &RegistryActions::removeChosen);
-    auto* search = glowing(new QPushButton(tr("&Search...")));
+    connect(remove, &QPushButton::clicked, this,
+            [this] { change(&RegistryActions::removeChosen); });
+    QPushButton* search = buttonFor(m_search, tr("&Search..."));
     search->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
-    connect(search, &QPushButton::clicked, this, &RegistryActions::searchRequested);
     auto* line = new QHBoxLayout;
     line->addWidget(create);
     line->addWidget(buttonFor(m_edit, tr("&Edit...")));
@@ -141,7 +215,7 @@ QLayout* RegistryActions::makeButtons()
 
 void RegistryActions::enable(bool anySelected)
 {
-    for (QAction* action : {m_edit, m_removeValue, m_copyData})
+    for (QAction* action : {m_edit, m_renameValue, m_removeValue, m_copyData, m_copyValues})
         action->setEnabled(anySelected);
 }
 
@@ -153,14 +227,26 @@ void RegistryActions::rememberView(const QWidget* /*before*/, QWidget* now)
 
 void RegistryActions::editValue()
 {
+    if (isValueThere())
+        m_editor->editValue(m_tree.path(), *m_table.current());
+}
+
+void RegistryActions::renameValue()
+{
+    if (isValueThere())
+        m_renamer->renameValue(m_tree.path(), *m_table.current());
+}
+
+bool RegistryActions::isValueThere()
+{
     if (!m_table.current())
-        return;
+        return false;
     m_table.refreshCurrent();
     const ListedValue& value = *m_table.current();
-    if (value.isThere())
-        m_editor->editValue(m_tree.path(), value);
-    else
+    const bool there = value.isThere();
+    if (!there)
         reportGone(goneText(value.name(), 1, m_tree.path()));
+    return there;
 }
 
 // The button takes the keyboard from the view in which something was chosen. A row stays selected
@@ -191,17 +277,31 @@ void RegistryActions::removeKey()
         m_remover->removeKey(m_tree.path());
 }
 
+void RegistryActions::renameKey()
+{
+    if (isKeyThere())
+        m_renamer->renameKey(m_tree.path());
+}
+
 void RegistryActions::copyPath()
 {
-    const QString shown = RegistryPath::shown(m_tree.path());
-    QGuiApplication::clipboard()->setText(shown);
-    m_page.setStatus(tr("Copied %1.").arg(shown));
+    m_clipboard->copyPath(m_tree.path());
+}
+
+void RegistryActions::copyKey()
+{
+    if (isKeyThere())
+        m_clipboard->copyKey(m_tree.path());
 }
 
 void RegistryActions::copyData()
 {
-    if (m_table.current())
-        QGuiApplication::clipboard()->setText(m_table.current()->wholeData());
+    m_clipboard->copyData(m_table.selected());
+}
+
+void RegistryActions::copyValues()
+{
+    m_clipboard->copyValues(m_table.selected());
 }
 
 void RegistryActions::exportKey()
@@ -216,6 +316,11 @@ void RegistryActions::exportKey()
 void RegistryActions::importFile()
 {
     m_transfer->askImport();
+}
+
+void RegistryActions::importFrom(const QString& file)
+{
+    m_gate->pass([this, file] { m_transfer->importFile(file); });
 }
 
 // A host library may have deleted what the page still shows.

@@ -4,13 +4,16 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/SetValueCheck.h"
+#include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/ValueInput.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/NameDialog.h"
+#include "pages/registry/RegistryHistory.h"
 #include "pages/registry/ValueDialog.h"
 
 namespace {
 
-using Place = ListedValue::Place;
+using Place = RegistryHistory::Place;
 using Report = PageContext::Report;
 
 // Laying out more than this in the edit field takes longer than a window may stand still.
@@ -19,13 +22,13 @@ constexpr int mostEditedKiB = 64;
 // An entry that no host library can read takes a name too: writing would replace it.
 bool isTaken(const QString& path, const QString& name)
 {
-    return !rawRegistryEntry(RegistryPath::join(path.isEmpty() ? name : path, name)).isNull();
+    return !rawRegistryEntry(StoreEntry::ofValue(path, name)).isNull();
 }
 
 } // namespace
 
-RegistryEditor::RegistryEditor(PageContext& page, QWidget* window)
-    : QObject(window), m_page(page), m_window(window)
+RegistryEditor::RegistryEditor(PageContext& page, RegistryHistory& history, QWidget* window)
+    : QObject(window), m_page(page), m_history(history), m_window(window)
 {
 }
 
@@ -40,7 +43,8 @@ void RegistryEditor::newKey(const QString& parentPath)
 {
     if (isKeyRefused(m_page, parentPath))
         return;
-    auto* dialog = new NameDialog(RegistryPath::shown(parentPath), m_window);
+    auto* dialog = new NameDialog(tr("New key"), RegistryPath::shown(parentPath),
+                                  &ValueInput::keyNameProblem, m_window);
     open(dialog, [this, dialog, parentPath] { createKey(parentPath, dialog->name()); });
 }
 
@@ -49,7 +53,7 @@ void RegistryEditor::createKey(const QString& parentPath, const QString& name)
     const QString path = RegistryPath::join(parentPath, name);
     const QString shown = RegistryPath::shown(path);
     const bool present = RegistryKey(path).isOpen();
-    const bool created = !present && RegistryKey(parentPath).createKey(name) == ERROR_SUCCESS;
+    const bool created = !present && create(parentPath, name);
     emit changed(path, QString());
     if (present)
         reportPresent(path);
@@ -57,6 +61,19 @@ void RegistryEditor::createKey(const QString& parentPath, const QString& name)
         reportChange(m_page, Report::Info, tr("Created %1.").arg(shown));
     else
         m_page.report(Report::Error, tr("%1 could not be created.").arg(shown));
+}
+
+bool RegistryEditor::create(const QString& parentPath, const QString& name)
+{
+    const QString path = RegistryPath::join(parentPath, name);
+    const auto recorder = m_history.recorder();
+    recorder->watch(path);
+    const bool created = RegistryKey(parentPath).createKey(name) == ERROR_SUCCESS;
+    recorder->record();
+    m_history.add({tr("Create the key %1").arg(RegistryPath::shown(path)),
+                   Place{parentPath, QString()}, Place{path, QString()}},
+                  *recorder);
+    return created;
 }
 
 // The service opens a key where there is a value of its name, and does not create it there.
@@ -91,7 +108,7 @@ void RegistryEditor::createValue(const QString& path, const ValueDialog& dialog)
 void RegistryEditor::editValue(const QString& path, const ListedValue& value)
 {
     // Directly under a root a value is set where it is read, whatever its name.
-    if (value.place() == Place::InKey && isRefused(m_page, value.redirection()))
+    if (value.place() == ListedValue::Place::InKey && isRefused(m_page, value.redirection()))
         return;
     const QString why = whyNotEdited(value);
     if (why.isEmpty())
@@ -102,7 +119,7 @@ void RegistryEditor::editValue(const QString& path, const ListedValue& value)
 
 QString RegistryEditor::whyNotEdited(const ListedValue& value) const
 {
-    if (value.place() == Place::ListedAtRoot)
+    if (value.place() == ListedValue::Place::ListedAtRoot)
         return tr("\"%1\" stands in the root itself, where the registry can list it but not set "
                   "it. Nothing was changed.")
             .arg(value.name());
@@ -112,19 +129,25 @@ QString RegistryEditor::whyNotEdited(const ListedValue& value) const
     return {};
 }
 
-// A value that cannot be read can be replaced: the dialog offers an empty text.
 void RegistryEditor::openEditor(const QString& path, const ListedValue& value)
 {
-    const unsigned int type = value.isReadable() ? value.reading().type : REG_SZ;
-    const QByteArray data = value.isReadable() ? value.reading().data : QByteArray();
-    auto* dialog = new ValueDialog(value.name(), type, data, m_window);
-    open(dialog, [this, dialog, path] { write(path, *dialog); });
+    auto* dialog = new ValueDialog(value, m_window);
+    open(dialog, [this, dialog, path] { endEditing(path, *dialog); });
+}
+
+void RegistryEditor::endEditing(const QString& path, const ValueDialog& dialog)
+{
+    if (dialog.isUnchanged())
+        m_page.setStatus(tr("\"%1\" in %2 stays as it is: nothing was typed that would change it.")
+                             .arg(dialog.name(), RegistryPath::shown(path)));
+    else
+        write(path, dialog);
 }
 
 void RegistryEditor::write(const QString& path, const ValueDialog& dialog)
 {
     const QString name = dialog.name();
-    const bool done = RegistryKey(path).set(name, dialog.type(), dialog.data()) == ERROR_SUCCESS;
+    const bool done = set(path, dialog);
     emit changed(path, name);
     if (done)
         reportWritten(path, dialog);
@@ -132,6 +155,19 @@ void RegistryEditor::write(const QString& path, const ValueDialog& dialog)
         m_page.report(Report::Error,
                       tr("The registry refused the value \"%1\" in %2. Nothing was changed.")
                           .arg(name, RegistryPath::shown(path)));
+}
+
+bool RegistryEditor::set(const QString& path, const ValueDialog& dialog)
+{
+    const QString name = dialog.name();
+    const auto recorder = m_history.recorder();
+    recorder->watch(StoreEntry::ofValue(path, name));
+    const bool done = RegistryKey(path).set(name, dialog.type(), dialog.data()) == ERROR_SUCCESS;
+    recorder->record();
+    m_history.add({tr("Set \"%1\" in %2").arg(name, RegistryPath::shown(path)), Place{path, name},
+                   Place{path, name}},
+                  *recorder);
+    return done;
 }
 
 void RegistryEditor::reportWritten(const QString& path, const ValueDialog& dialog)

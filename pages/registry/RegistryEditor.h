@@ -8,6 +8,7 @@ class ListedValue;
 class PageContext;
 class QDialog;
 class QWidget;
+class RegistryHistory;
 class ValueDialog;
 
 /// Creates keys and sets values: asks for what is needed, writes it through the service, and
@@ -17,8 +18,9 @@ class RegistryEditor : public QObject
     Q_OBJECT
 
 public:
-    /// Dialogs open over `window`, which owns this object too.
-    RegistryEditor(PageContext& page, QWidget* window);
+    /// Dialogs open over `window`, which owns this object too. `history` gets what is changed, and
+    /// outlives it.
+    RegistryEditor(PageContext& page, RegistryHistory& history, QWidget* window);
 
     void newKey(const QString& parentPath);
     void newValue(const QString& path, unsigned int type);
@@ -31,13 +33,17 @@ signals:
 private:
     void open(QDialog* dialog, const std::function<void()>& accepted);
     void createKey(const QString& parentPath, const QString& name);
+    bool create(const QString& parentPath, const QString& name);
     void reportPresent(const QString& path);
     void createValue(const QString& path, const ValueDialog& dialog);
     QString whyNotEdited(const ListedValue& value) const;
     void openEditor(const QString& path, const ListedValue& value);
+    void endEditing(const QString& path, const ValueDialog& dialog);
     void write(const QString& path, const ValueDialog& dialog);
+    bool set(const QString& path, const ValueDialog& dialog);
     void reportWritten(const QString& path, const ValueDialog& dialog);
 
     PageContext& m_page;
+    RegistryHistory& m_history;
     QWidget* m_window;
 };

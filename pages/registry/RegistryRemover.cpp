@@ -5,6 +5,8 @@
 #include "inspection/registry/RegistryRemovalJob.h"
 #include "inspection/registry/RemovalText.h"
 #include "pages/registry/ChangeReport.h"
+#include "pages/registry/RegistryHistory.h"
+#include "pages/registry/StoreBackup.h"
 #include "window/Page.h"
 
 #include <QLocale>
@@ -13,6 +15,7 @@
 
 namespace {
 
+using Place = RegistryHistory::Place;
 using Report = PageContext::Report;
 
 QString deletedText(const QString& name, std::size_t count)
@@ -23,8 +26,8 @@ QString deletedText(const QString& name, std::size_t count)
 
 } // namespace
 
-RegistryRemover::RegistryRemover(PageContext& page, QWidget* window)
-    : QObject(window), m_page(page), m_window(window)
+RegistryRemover::RegistryRemover(PageContext& page, RegistryHistory& history, QWidget* window)
+    : QObject(window), m_page(page), m_history(history), m_window(window)
 {
 }
 
@@ -39,9 +42,11 @@ void RegistryRemover::ask(const QString& question, const QString& detail,
     QPushButton* yes = glowing(box->addButton(tr("Delete"), QMessageBox::AcceptRole));
     glowing(qobject_cast<QPushButton*>(box->button(QMessageBox::Cancel)));
     box->setDefaultButton(QMessageBox::Cancel);
-    connect(box, &QMessageBox::buttonClicked, this, [yes, confirmed](QAbstractButton* button) {
+    auto* backup = new BackupBox;
+    box->setCheckBox(backup);
+    connect(box, &QMessageBox::buttonClicked, this, [=](const QAbstractButton* button) {
         if (button == yes)
-            confirmed();
+            changeWithBackup(m_page, backup->isChecked(), confirmed);
     });
     box->open();
 }
@@ -65,13 +70,17 @@ void RegistryRemover::removeValues(const QString& path, const std::vector<Listed
 void RegistryRemover::removeAll(const QString& path, const Values& values)
 {
     const QString first = values.front().name;
-    const auto finished = [this, path, first](const ValueRemovalJob& job, bool complete) {
+    const auto recorder = m_history.recorder();
+    const auto finished = [this, path, first, recorder](const ValueRemovalJob& job, bool complete) {
+        const QString text = tr("Delete %1 from %2")
+                                 .arg(deletedText(first, job.removed()), RegistryPath::shown(path));
+        m_history.add({text, Place{path, first}, Place{path, QString()}}, *recorder);
         emit changed(path);
         reportChange(m_page, complete ? Report::Info : Report::Warning,
                      tr("Deleted from %1: %2.")
                          .arg(RegistryPath::shown(path), deletedText(first, job.removed())));
     };
-    m_page.startJob(tr("Deleting"), std::make_unique<ValueRemovalJob>(values), finished);
+    m_page.startJob(tr("Deleting"), std::make_unique<ValueRemovalJob>(values, recorder), finished);
 }
 
 void RegistryRemover::removeKey(const QString& path)
@@ -98,13 +107,18 @@ void RegistryRemover::confirmKey(const QString& path, const RegistryCountJob& co
 
 void RegistryRemover::removeKeys(const QString& path, const QStringList& keys)
 {
-    const auto finished = [this, path](const RegistryRemovalJob& job, bool complete) {
-        emit changed(RegistryPath::parent(path));
+    const auto recorder = m_history.recorder();
+    const auto finished = [this, path, recorder](const RegistryRemovalJob& job, bool complete) {
+        const QString parent = RegistryPath::parent(path);
+        m_history.add({tr("Delete the key %1").arg(RegistryPath::shown(path)),
+                       Place{path, QString()}, Place{parent, QString()}},
+                      *recorder);
+        emit changed(parent);
         const bool whole = complete && job.succeeded();
         const QString text =
             whole ? tr("Deleted the key %1.") : tr("Deleted a part of the key %1.");
         reportChange(m_page, whole ? Report::Info : Report::Warning,
                      text.arg(RegistryPath::shown(path)));
     };
-    m_page.startJob(tr("Deleting"), std::make_unique<RegistryRemovalJob>(keys), finished);
+    m_page.startJob(tr("Deleting"), std::make_unique<RegistryRemovalJob>(keys, recorder), finished);
 }

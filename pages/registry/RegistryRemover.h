@@ -11,6 +11,7 @@ class ListedValue;
 class PageContext;
 class QWidget;
 class RegistryCountJob;
+class RegistryHistory;
 
 /// Deletes keys and values: asks first, saying what goes along, then deletes through the service.
 class RegistryRemover : public QObject
@@ -18,8 +19,9 @@ class RegistryRemover : public QObject
     Q_OBJECT
 
 public:
-    /// Questions open over `window`, which owns this object too.
-    RegistryRemover(PageContext& page, QWidget* window);
+    /// Questions open over `window`, which owns this object too. `history` gets what is deleted,
+    /// and outlives it.
+    RegistryRemover(PageContext& page, RegistryHistory& history, QWidget* window);
 
     /// Asks once for all. Does not read the values.
     void removeValues(const QString& path, const std::vector<ListedValue>& values);
@@ -40,5 +42,6 @@ private:
     void removeKeys(const QString& path, const QStringList& keys);
 
     PageContext& m_page;
+    RegistryHistory& m_history;
     QWidget* m_window;
 };

@@ -5,9 +5,13 @@
 #include "tests/pages/WindowProbe.h"
 #include "tests/window/EndlessJob.h"
 
+#include "host/HostLibraries.h"
 #include "inspection/profiles/ProfileDryRun.h"
+#include "inspection/registry/ListedValue.h"
 #include "inspection/registry/RegistryImportJob.h"
+#include "inspection/registry/ValueInput.h"
 #include "pages/profiles/ProfileDifferenceDialog.h"
+#include "pages/registry/DataField.h"
 #include "pages/registry/ImportDialog.h"
 #include "pages/registry/NameDialog.h"
 #include "pages/registry/RegistryPage.h"
@@ -16,7 +20,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QLineEdit>
-#include <QPlainTextEdit>
+#include <QSettings>
 #include <QTabWidget>
 #include <QTest>
 
@@ -55,7 +59,7 @@ std::unique_ptr<QWidget> job(const WindowProbe& probe)
     probe.page().startJob(
         QCoreApplication::translate("FontsPage", "Registering the system's fonts"),
         std::make_unique<EndlessJob>(
-            QCoreApplication::translate("FontRegistrationJob", "%L1 families left").arg(1234567)),
+            QCoreApplication::translate("FontRegistrationJob", "Families left: %L1").arg(1234567)),
         [](EndlessJob&, bool) {});
     return nullptr;
 }
@@ -85,14 +89,30 @@ std::unique_ptr<QWidget> value(const WindowProbe& probe)
 {
     auto dialog = std::make_unique<ValueDialog>(Type, &probe.page());
     dialog->findChild<QLineEdit*>()->setText(QStringLiteral("name"));
-    dialog->findChild<QPlainTextEdit*>()->setPlainText(QStringLiteral("65\u4e2d\u6587"));
+    auto* data = dialog->findChild<DataField*>();
+    data->setText(QStringLiteral("65\u4e2d\u6587"));
+    emit data->changed();
+    return dialog;
+}
+
+// A value that cannot be read, and what replaces it.
+std::unique_ptr<QWidget> storedValue(const WindowProbe& probe)
+{
+    g_globalSettings->setValue(QStringLiteral("A/v"), QStringLiteral("12x$Maria Lund, Harbour 7"));
+    auto dialog = std::make_unique<ValueDialog>(
+        ListedValue::ofKey(QStringLiteral("A"), RegistryIndex()).front(), &probe.page());
+    dialog->findChild<DataField*>()->findChild<QLineEdit*>()->setText(
+        QStringLiteral("a new and longer text than a line of the dialog has room for"));
+    g_globalSettings->clear();
     return dialog;
 }
 
 std::unique_ptr<QWidget> name(const WindowProbe& probe)
 {
     auto dialog = std::make_unique<NameDialog>(
-        QStringLiteral("HKEY_CURRENT_USER\\Software\\Maker\\Program\\Settings"), &probe.page());
+        QStringLiteral("New key"),
+        QStringLiteral("HKEY_CURRENT_USER\\Software\\Maker\\Program\\Settings"),
+        &ValueInput::keyNameProblem, &probe.page());
     dialog->findChild<QLineEdit*>()->setText(QStringLiteral("a/b"));
     return dialog;
 }
@@ -126,6 +146,7 @@ const Scene dialogs[] = {
     {"NumberDialog", "registry", value<REG_DWORD>},
     {"LargeNumberDialog", "registry", value<REG_QWORD>},
     {"BinaryDialog", "registry", value<REG_BINARY>},
+    {"StoredValueDialog", "registry", storedValue},
     {"NameDialog", "registry", name},
     {"ImportDialog", "registry", import},
     {"DifferenceNarrow", "profiles", difference<ProfileFamily::Narrow>},

@@ -1,5 +1,5 @@
 #include "inspection/profiles/ReadableLine.h"
-#include "inspection/profiles/FileForm.h"
+#include "inspection/profiles/ProfileForm.h"
 
 #include <gtest/gtest.h>
 
@@ -74,35 +74,36 @@ struct Form
     const char* sentences;
 };
 
-class FileFormTest : public testing::TestWithParam<Form>
+class ProfileFormTest : public testing::TestWithParam<Form>
 {
 };
 
-TEST_P(FileFormTest, TellsWhatHasChanged)
+TEST_P(ProfileFormTest, TellsWhatHasChanged)
 {
     const ByteLines before(GetParam().before);
     const ByteLines after(GetParam().after);
-    EXPECT_EQ(FileForm(before).changesTo(FileForm(after)).join(' ').toStdString(),
+    EXPECT_EQ(ProfileForm::of(before).changesTo(ProfileForm::of(after)).join(' ').toStdString(),
               GetParam().sentences);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Changes, FileFormTest,
-    testing::Values(
-        Form{"None", "a\n", "b\nc\n", ""}, Form{"NewFile", "", "a\n", ""},
-        Form{"Encoding", "\xe4\n", "\xc3\xa4\n", "The encoding changes: not UTF-8, then UTF-8."},
-        Form{"Mark",
-             "\xef\xbb\xbf"
-             "a\n",
-             "a\n", "The byte order mark goes."},
-        Form{"Ends", "a\r\nb\r\nc\n", "a\nb\nc\n",
-             "The line ends change: CRLF in 2, LF in 1, then LF in 3."},
-        Form{"OpenEnd", "a\nb", "a\nb\n", "The last line gets a line end."},
-        Form{"Utf16",
-             QByteArray("\xff\xfe"
-                        "a\0\n\0",
-                        6),
-             "a\n", "The encoding changes: UTF-16LE, then UTF-8. The byte order mark goes."}),
+    Changes, ProfileFormTest,
+    testing::Values(Form{"None", "a\n", "b\nc\n", ""}, Form{"NewFile", "", "a\n", ""},
+                    Form{"Encoding", "\xe4\n", "\xc3\xa4\n",
+                         "The encoding changes: not UTF-8 (lines: 1, the first is 1), then UTF-8."},
+                    Form{"Mark",
+                         "\xef\xbb\xbf"
+                         "a\n",
+                         "a\n", "The byte order mark goes."},
+                    Form{"Ends", "a\r\nb\r\nc\n", "a\nb\nc\n",
+                         "The line ends change: mixed, LF 1, CRLF 2, then LF 3."},
+                    Form{"OpenEnd", "a\nb", "a\nb\n", "The last line gets a line end."},
+                    Form{"Utf16",
+                         QByteArray("\xff\xfe"
+                                    "a\0\n\0",
+                                    6),
+                         "a\n",
+                         "The encoding changes: UTF-16LE, then UTF-8. The byte order mark goes."}),
     [](const auto& row) { return std::string(row.param.name); });
 
 } // namespace

@@ -44,7 +44,7 @@ TEST_F(ProfilesPageTest, AsksBeforeAWideWriteChangesOtherLines)
     EXPECT_EQ(changedLines(), QStringList({"−line end|[Main]", "−escape|Path=C:\\Windows\\System32",
                                            "−|A=1", "−|Section Key=1", "+|[Main]", "+|A=2",
                                            "+|Path=C:indowsystem32", "+|Section%20Key=1"}));
-    EXPECT_EQ(sentence("form"), QStringLiteral("The line ends change: CRLF in 4, then LF in 4."));
+    EXPECT_EQ(sentence("form"), QStringLiteral("The line ends change: CRLF 4, then LF 4."));
     question()->reject();
     EXPECT_EQ(m_file.bytes(), hand);
     EXPECT_EQ(status(), QStringLiteral("Nothing written."));
@@ -75,7 +75,9 @@ TEST_F(ProfilesPageTest, NamesTheLinesWhoseBytesAWriteDestroys)
         EXPECT_EQ(sentence("destroyed"),
                   QStringLiteral("These lines are not in the file's encoding, "
                                  "and their bytes would be lost: 3."));
-        EXPECT_EQ(sentence("form"), QStringLiteral("The encoding changes: not UTF-8, then UTF-8."));
+        EXPECT_EQ(sentence("form"),
+                  QStringLiteral(
+                      "The encoding changes: not UTF-8 (lines: 1, the first is 3), then UTF-8."));
         EXPECT_TRUE(changedLines().contains(QStringLiteral("−not text|\\xBD\\xDA=\\xCE\\xC4")));
         question()->reject();
         EXPECT_EQ(m_file.bytes(), gbk);
@@ -166,18 +168,18 @@ TEST_P(ProfileRewritingTest, IsToldBeforeANarrowWrite)
 
 INSTANTIATE_TEST_SUITE_P(
     Files, ProfileRewritingTest,
-    testing::Values(Rewriting{"All", "[B]\nx = 1\n\n[A]\ny=2\n", true, ""},
-                    Rewriting{"BlankLines", "\n[B]\n \nx=1\n", true, ""},
-                    Rewriting{"Sections", "[B]\nx=1\n[A]\ny=2\n", true, ""},
-                    Rewriting{"Keys", "[A]\ny=2\nx=1\n", true, ""},
-                    Rewriting{"Spaces", "[A]\nx= 1\n", true, ""},
-                    Rewriting{"LineEnds", "[A]\r\nx=1\r\n", true,
-                              "The line ends change: CRLF in 2, then LF in 4."},
-                    Rewriting{"OpenEnd", "[A]\nx=1", true, "The last line gets a line end."},
-                    Rewriting{"Mark", "\xef\xbb\xbf[A]\nx=1\n", true, "The byte order mark goes."},
-                    Rewriting{"Encoding", "[A]\nx=\xe4\n", true,
-                              "The encoding changes: not UTF-8, then UTF-8."},
-                    Rewriting{"None", "[A]\nx=1\ny=2\n[B]\nz=3\n", false, ""}),
+    testing::Values(
+        Rewriting{"All", "[B]\nx = 1\n\n[A]\ny=2\n", true, ""},
+        Rewriting{"BlankLines", "\n[B]\n \nx=1\n", true, ""},
+        Rewriting{"Sections", "[B]\nx=1\n[A]\ny=2\n", true, ""},
+        Rewriting{"Keys", "[A]\ny=2\nx=1\n", true, ""},
+        Rewriting{"Spaces", "[A]\nx= 1\n", true, ""},
+        Rewriting{"LineEnds", "[A]\r\nx=1\r\n", true, "The line ends change: CRLF 2, then LF 4."},
+        Rewriting{"OpenEnd", "[A]\nx=1", true, "The last line gets a line end."},
+        Rewriting{"Mark", "\xef\xbb\xbf[A]\nx=1\n", true, "The byte order mark goes."},
+        Rewriting{"Encoding", "[A]\nx=\xe4\n", true,
+                  "The encoding changes: not UTF-8 (lines: 1, the first is 2), then UTF-8."},
+        Rewriting{"None", "[A]\nx=1\ny=2\n[B]\nz=3\n", false, ""}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(ProfilesPageTest, WritesThroughTheNarrowFamilyAfterABackup)

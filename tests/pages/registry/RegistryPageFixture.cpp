@@ -1,14 +1,20 @@
 #include "tests/pages/registry/RegistryPageFixture.h"
 
+#include "app/ApplicationLog.h"
+#include "host/HostLibraries.h"
+#include "pages/registry/DataField.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QTableView>
 #include <QTest>
 #include <QTreeView>
@@ -59,12 +65,43 @@ void RegistryPageFixture::chooseNew(NewEntry entry)
 
 void RegistryPageFixture::chooseExport()
 {
-    const QList<QAction*> actions = tree().actions();
+    choose(tree(), "Export key...");
+}
+
+void RegistryPageFixture::choose(const QWidget& view, const QString& text)
+{
+    const QList<QAction*> actions = view.actions();
     for (QAction* action : actions) {
-        if (action->text() == "Export key...")
+        if (action->text() == text)
             return action->trigger();
     }
-    qFatal("no action exports");
+    qFatal("no such action: %s", qPrintable(text));
+}
+
+void RegistryPageFixture::undo()
+{
+    m_page.undoStack().undo();
+    settle();
+}
+
+void RegistryPageFixture::redo()
+{
+    m_page.undoStack().redo();
+    settle();
+}
+
+QString RegistryPageFixture::logged()
+{
+    QFile file(ApplicationLog::path());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QMap<QString, QVariant> RegistryPageFixture::entries()
+{
+    QMap<QString, QVariant> all;
+    for (const QString& path : g_globalSettings->allKeys())
+        all.insert(path, g_globalSettings->value(path));
+    return all;
 }
 
 QDialog& RegistryPageFixture::dialog()
@@ -85,8 +122,24 @@ void RegistryPageFixture::type(const QString& name, const QString& data)
     auto* line = dialog().findChild<QLineEdit*>();
     if (!line->isReadOnly())
         line->setText(name);
-    if (auto* edit = dialog().findChild<QPlainTextEdit*>())
-        edit->setPlainText(data);
+    if (!dialog().findChild<DataField*>())
+        return;
+    if (QPlainTextEdit* large = largeField())
+        large->setPlainText(data);
+    else
+        lineField()->setText(data);
+}
+
+QLineEdit* RegistryPageFixture::lineField()
+{
+    auto* field = dialog().findChild<DataField*>()->findChild<QLineEdit*>();
+    return field->isVisible() ? field : nullptr;
+}
+
+QPlainTextEdit* RegistryPageFixture::largeField()
+{
+    auto* field = dialog().findChild<QPlainTextEdit*>();
+    return field->isVisible() ? field : nullptr;
 }
 
 bool RegistryPageFixture::accept() const

@@ -4,9 +4,13 @@
 #include "pages/registry/RegistryTransfer.h"
 #include "tests/inspection/registry/RegistryTest.h"
 
+#include <QMap>
 #include <QTest>
+#include <QUndoStack>
 
 class QDialog;
+class QLineEdit;
+class QPlainTextEdit;
 class QTableView;
 class QTreeView;
 
@@ -37,9 +41,23 @@ protected:
     void chooseNew(NewEntry entry);
     /// Chooses "Export key..." in the tree's menu.
     void chooseExport();
+    /// Chooses an entry of a view's menu.
+    static void choose(const QWidget& view, const QString& text);
+
+    /// Undoes or redoes a change, and waits for the job.
+    void undo();
+    void redo();
+    /// What stands in the log.
+    static QString logged();
+    /// All entries of the store.
+    static QMap<QString, QVariant> entries();
+
     /// The dialog that is open, or opens soon.
     static QDialog& dialog();
     static void type(const QString& name, const QString& data);
+    /// The field for data that is in view; null where that is the other one.
+    static QLineEdit* lineField();
+    static QPlainTextEdit* largeField();
     /// Imports or exports, and waits until the job that reads or writes the file has ended.
     void importFile(const QString& file)
     {
