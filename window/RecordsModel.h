@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/ShownText.h"
+#include "window/RecordCells.h"
 #include "window/SortableTableModel.h"
 
 #include <functional>
@@ -112,24 +112,15 @@ public:
     {
         if (!index.isValid())
             return {};
-        const Column& column = m_columns[static_cast<std::size_t>(index.column())];
-        const Record& each = record(index.row());
-        if (role == Qt::DisplayRole)
-            return column.text(each);
-        QVariant look = column.look ? column.look(each, role) : QVariant();
-        if (role == Qt::ToolTipRole && !look.isValid())
-            return plainToolTip(column.text(each));
-        return look;
+        return cellData(m_columns[static_cast<std::size_t>(index.column())], record(index.row()),
+                        role);
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
         if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
             return {};
-        const Column& column = m_columns[static_cast<std::size_t>(section)];
-        if (role == Qt::ToolTipRole && !column.tip.isEmpty())
-            return plainToolTip(column.tip);
-        return role == Qt::DisplayRole ? column.title : QVariant();
+        return headerCellData(m_columns[static_cast<std::size_t>(section)], role);
     }
 
 protected:
