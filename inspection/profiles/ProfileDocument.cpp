@@ -2,20 +2,17 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSet>
+#include <QLocale>
 
 namespace {
 
-// Far above any profile. The wide family writes the whole file in one call, which cannot be divided
-// into steps: with a larger file it would hold the window up.
-constexpr qint64 largestFile = qint64{128} * 1024;
+// What a text of Qt holds: beyond it the calls of the narrow family would end the program.
+constexpr qint64 largestFile = qint64{1000} * 1024 * 1024;
+
+// Bytes of a line that anybody looks at.
+constexpr int longestText = 8192;
 
 constexpr qint64 largeFile = qint64{16} * 1024;
-
-bool isNamed(LineState state)
-{
-    return state == LineState::Entry || state == LineState::NotFound;
-}
 
 } // namespace
 
@@ -31,8 +28,8 @@ QString ProfileDocument::fault(const QString& path)
     if (file.exists() && !file.isReadable())
         return tr("%1 cannot be read.").arg(file.filePath());
     if (file.size() > largestFile)
-        return tr("%1 is larger than %2 KiB, the most that is opened here.")
-            .arg(file.filePath(), QString::number(largestFile / 1024));
+        return tr("%1 is larger than %2 MiB: no call of either family can read it.")
+            .arg(file.filePath(), QLocale().toString(largestFile / 1024 / 1024));
     return {};
 }
 
@@ -47,30 +44,20 @@ ProfileDocument::ProfileDocument(const QString& path)
 {
 }
 
-std::vector<ProfileDocument::Name> ProfileDocument::names() const
+ProfileDocument::Line ProfileDocument::line(int index, const QTextCodec* codec) const
 {
-    std::vector<Name> names;
-    QSet<Name> seen;
-    const auto add = [&](const LineReading& reading) {
-        const Name name(reading.section, reading.key);
-        if (!isNamed(reading.state) || seen.contains(name))
-            return;
-        seen.insert(name);
-        names.push_back(name);
-    };
-    for (const Line& line : m_lines) {
-        add(line.wide);
-        add(line.narrow);
-    }
-    return names;
+    return {index + 1, m_lines.text(index, codec, longestText),
+            readingOf(m_lines.narrowMark(index)), readingOf(m_lines.wideMark(index)),
+            m_lines.form().isUtf8(index)};
 }
 
 std::vector<int> ProfileDocument::lostLines(ProfileFamily family) const
 {
     std::vector<int> numbers;
-    for (const Line& line : m_lines) {
-        if (isLost(family == ProfileFamily::Narrow ? line.narrow : line.wide))
-            numbers.push_back(line.number);
+    for (int line = 0; line < m_lines.count(); ++line) {
+        if (isLost(family == ProfileFamily::Narrow ? m_lines.narrowMark(line)
+                                                   : m_lines.wideMark(line)))
+            numbers.push_back(line + 1);
     }
     return numbers;
 }

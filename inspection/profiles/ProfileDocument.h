@@ -1,10 +1,10 @@
 #pragma once
 
+#include "inspection/profiles/ProfileNames.h"
 #include "platform/profiles/LineReading.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
-#include <QStringList>
 
 #include <utility>
 #include <vector>
@@ -17,13 +17,15 @@ class ProfileDocument
 public:
     struct Line
     {
-        int number = 0; ///< from 1 on
-        QString text;
-        LineReading narrow;
-        LineReading wide;
+        int number = 0;     ///< from 1 on
+        QString text;       ///< the beginning of a very long line
+        LineReading narrow; ///< without names
+        LineReading wide;   ///< without names
+        /// False where the services lose what the line says.
+        bool isUtf8 = true;
     };
     /// Section and key.
-    using Name = std::pair<QString, QString>;
+    using Name = ProfileNames::Name;
 
     /// Why the path cannot be a profile, or an empty text.
     static QString fault(const QString& path);
@@ -39,11 +41,17 @@ public:
     bool exists() const { return m_exists; }
     /// True where the services take milliseconds for one call.
     bool isLarge() const { return m_isLarge; }
-    std::vector<Line>& lines() { return m_lines; }
-    const std::vector<Line>& lines() const { return m_lines; }
 
+    void setLines(ProfileLines lines) { m_lines = std::move(lines); }
+    const ProfileLines& lines() const { return m_lines; }
+    /// A line, from 0 on; where it is not UTF-8, `codec` decodes its text.
+    Line line(int index, const QTextCodec* codec = nullptr) const;
+
+    void setNames(ProfileNames names) { m_names = std::move(names); }
     /// What lines of the file name for either family, each name once, in the order of the file.
-    std::vector<Name> names() const;
+    const ProfileNames& names() const { return m_names; }
+    Name name(int index) const { return m_names.name(m_lines, index); }
+
     /// The numbers of the lines, from 1 on, that writing through a family loses, or loses a part
     /// of.
     std::vector<int> lostLines(ProfileFamily family) const;
@@ -52,5 +60,6 @@ private:
     QString m_path;
     bool m_exists = false;
     bool m_isLarge = false;
-    std::vector<Line> m_lines;
+    ProfileLines m_lines;
+    ProfileNames m_names;
 };

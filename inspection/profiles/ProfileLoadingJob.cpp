@@ -1,68 +1,58 @@
 #include "inspection/profiles/ProfileLoadingJob.h"
 
-#include "platform/profiles/NarrowLines.h"
-#include "platform/profiles/NarrowProfileFile.h"
-#include "platform/profiles/WideLines.h"
-
 #include <QFileInfo>
+
+#include <utility>
 
 namespace {
 
-// As the narrow family decodes it.
-QString textOf(const QString& path)
-{
-    NarrowProfileFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.text() : QString();
-}
+constexpr qint64 bytesAStep = qint64{512} * 1024;
 
 } // namespace
 
 ProfileLoadingJob::ProfileLoadingJob(const QString& path)
-    : m_document(QFileInfo(path).absoluteFilePath())
+    : m_document(QFileInfo(path).absoluteFilePath()), m_file(m_document.path())
 {
 }
 
 bool ProfileLoadingJob::step()
 {
-    switch (m_stage++) {
-    case 0: readFile(); return true;
-    case 1: readNarrow(); return true;
-    case 2: readWide(); return true;
-    case 3: joinLines(); return true;
-    case 4: collectNames(); return true;
+    switch (m_stage) {
+    case 0: m_stage += readFile() ? 0 : 1; return true;
+    case 1: m_stage += readLines() ? 0 : 1; return true;
+    case 2: m_stage += readNames() ? 0 : 1; return true;
     default: return false;
     }
 }
 
-void ProfileLoadingJob::readFile()
+bool ProfileLoadingJob::readFile()
 {
-    m_text = textOf(m_document.path());
-    m_bytes = ProfileDocument::bytesOf(m_document.path());
-}
-
-void ProfileLoadingJob::readNarrow()
-{
-    m_narrow = NarrowLines(m_text).readings();
-}
-
-void ProfileLoadingJob::readWide()
-{
-    m_wide = WideLines(m_bytes).readings();
-}
-
-void ProfileLoadingJob::joinLines()
-{
-    const QStringList texts = m_text.split(QLatin1Char('\n'));
-    std::vector<ProfileDocument::Line>& lines = m_document.lines();
-    lines.reserve(m_narrow.size());
-    for (std::size_t i = 0; i < m_narrow.size(); ++i) {
-        const int index = static_cast<int>(i);
-        lines.push_back({index + 1, texts.at(index), m_narrow[i],
-                         i < m_wide.size() ? m_wide[i] : LineReading{}});
+    if (!m_file.isOpen()) {
+        if (!m_file.open(QIODevice::ReadOnly))
+            return false;
+        m_bytes.reserve(static_cast<int>(m_file.size()));
     }
+    const QByteArray piece = m_file.read(bytesAStep);
+    m_bytes += piece;
+    if (!piece.isEmpty())
+        return true;
+    m_file.close();
+    m_lines = ProfileLines(std::exchange(m_bytes, {}));
+    return false;
 }
 
-void ProfileLoadingJob::collectNames()
+bool ProfileLoadingJob::readLines()
 {
-    m_names = m_document.names();
+    if (m_lines.step())
+        return true;
+    m_document.setLines(std::move(m_lines));
+    return false;
+}
+
+bool ProfileLoadingJob::readNames()
+{
+    if (m_names.step(m_document.lines()))
+        return true;
+    m_document.setNames(std::move(m_names));
+    return false;
 }

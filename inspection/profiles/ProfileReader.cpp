@@ -6,14 +6,15 @@
 
 namespace {
 
-constexpr std::size_t firstSize = 512; // characters; doubled until the value fits
+constexpr std::size_t firstSize = 4096; // characters
+constexpr std::size_t growth = 16;      // few calls: each one reads the whole file
 
 // Calls `read` with a zeroed buffer that grows until there is room behind the text: one that fills
 // its buffer is cut, and has no terminator of its own.
 template <typename Character, typename Read>
 std::vector<Character> readWhole(Read read)
 {
-    for (std::size_t size = firstSize;; size *= 2) {
+    for (std::size_t size = firstSize;; size *= growth) {
         std::vector<Character> buffer(size);
         const auto length = read(buffer.data(), static_cast<unsigned int>(size));
         if (length + 1 < size) {

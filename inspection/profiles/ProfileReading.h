@@ -13,6 +13,8 @@ struct ProfileReading
     std::optional<QString> wide;
     /// The family does not tell a missing value from an empty one.
     QString narrow;
+    /// False while the families have not been asked: then both readings mean nothing.
+    bool isRead = true;
 
-    bool differs() const { return wide.value_or(QString()) != narrow; }
+    bool differs() const { return isRead && wide.value_or(QString()) != narrow; }
 };

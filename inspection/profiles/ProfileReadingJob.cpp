@@ -1,17 +1,22 @@
 #include "inspection/profiles/ProfileReadingJob.h"
 
-#include "inspection/profiles/ParsedProfileCache.h"
-
-#include <QLocale>
-
 #include <utility>
 
+namespace {
+
+// Each call reads the whole file: so many bytes in all are read in a fraction of a second.
+constexpr qint64 bytesAtOnce = qint64{32} * 1024 * 1024;
+
+bool isAskedAtOnce(const ProfileDocument& document)
+{
+    const qint64 size = document.lines().bytes().size();
+    return size * document.names().count() <= bytesAtOnce;
+}
+
+} // namespace
+
 ProfileReadingJob::ProfileReadingJob(const QString& path, Receiver receiver)
-    : m_loading(std::in_place, path),
-      m_path(m_loading->document().path()),
-      m_isLarge(m_loading->document().isLarge()),
-      m_reader(m_path),
-      m_receiver(std::move(receiver))
+    : m_loading(std::in_place, path), m_receiver(std::move(receiver))
 {
 }
 
@@ -19,36 +24,26 @@ ProfileReadingJob::~ProfileReadingJob() = default;
 
 bool ProfileReadingJob::step()
 {
-    if (m_loading)
-        load();
-    else if (!m_cache)
-        m_cache = std::make_unique<ParsedProfileCache>(m_path);
-    else
-        readNext();
-    return m_loading || m_read < m_names.size();
+    if (!m_loading)
+        return m_asking && m_asking->step();
+    load();
+    return true;
 }
 
 void ProfileReadingJob::load()
 {
     if (m_loading->step())
         return;
-    m_names = std::move(m_loading->names());
-    m_receiver.document(std::move(m_loading->document()));
+    const auto document = std::make_shared<const ProfileDocument>(std::move(m_loading->document()));
     m_loading.reset();
-}
-
-void ProfileReadingJob::readNext()
-{
-    const auto& [section, key] = m_names[m_read++];
-    m_receiver.reading({section, key, m_reader.wide(section, key), m_reader.narrow(section, key)});
+    const int count = document->names().count();
+    if (isAskedAtOnce(*document))
+        m_asking.emplace(
+            document, [this, count] { return m_next < count ? m_next++ : -1; }, m_receiver.reading);
+    m_receiver.document(document, document->names().found());
 }
 
 QString ProfileReadingJob::progress() const
 {
-    return m_loading ? QString() : tr("%1 values").arg(QLocale().toString(qulonglong{m_read}));
-}
-
-bool ProfileReadingJob::isNextStepLong() const
-{
-    return m_isLarge && !m_cache;
+    return m_asking ? m_asking->progress() : QString();
 }

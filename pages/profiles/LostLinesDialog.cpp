@@ -19,7 +19,7 @@ QListWidget* lostLines(const ProfileDocument& document, ProfileFamily family)
     list->setUniformItemSizes(true); // a large file may have thousands
     list->setAccessibleName(LostLinesDialog::tr("Lines that would be lost"));
     for (const int number : document.lostLines(family)) {
-        const ProfileDocument::Line& line = document.lines()[static_cast<std::size_t>(number) - 1];
+        const ProfileDocument::Line line = document.line(number - 1);
         const LineReading& reading = family == ProfileFamily::Narrow ? line.narrow : line.wide;
         auto* item = new QListWidgetItem(
             LostLinesDialog::tr("%1 (%2): %3")

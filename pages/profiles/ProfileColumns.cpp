@@ -2,6 +2,7 @@
 
 #include "pages/profiles/ProfileText.h"
 #include "platform/profiles/LineStateText.h"
+#include "window/GlyphIcon.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -42,9 +43,19 @@ QVariant lineLook(const Line& line, bool isDullText, int role)
 {
     if (role == Qt::ForegroundRole && isDullText)
         return grey();
-    if (role == Qt::ToolTipRole)
-        return ProfileColumns::tr("Narrow: %1\nWide: %2").arg(narrowText(line), wideText(line));
+    if (role == Qt::ToolTipRole) {
+        const QString text =
+            ProfileColumns::tr("Narrow: %1\nWide: %2").arg(narrowText(line), wideText(line));
+        return line.isUtf8 ? text : text + QLatin1Char('\n') + ProfileColumns::otherEncodingText();
+    }
     return {};
+}
+
+QVariant textLook(const Line& line, int role)
+{
+    if (role == Qt::DecorationRole && !line.isUtf8)
+        return glyphIcon(Glyph::Warning);
+    return lineLook(line, isDull(line.narrow) && isDull(line.wide), role);
 }
 
 QVariant stateLook(const LineReading& reading, ProfileFamily family, int role)
@@ -68,8 +79,10 @@ Shown shownName(const QString& name)
     return {shownText(name)};
 }
 
-Shown shownValue(const std::optional<QString>& value)
+Shown shownValue(const ProfileReading& reading, const std::optional<QString>& value)
 {
+    if (!reading.isRead)
+        return {ProfileColumns::tr("(not asked yet)"), true};
     if (!value)
         return {ProfileColumns::tr("(not found)"), true};
     if (value->isEmpty())
@@ -101,6 +114,8 @@ QVariant differenceLook(const ProfileReading& reading, int role)
     switch (role) {
     case Qt::TextAlignmentRole: return Qt::AlignCenter;
     case Qt::ToolTipRole:
+        if (!reading.isRead)
+            return ProfileColumns::tr("The families have not been asked for this value yet.");
         return reading.differs() ? ProfileColumns::tr("The families read different values.")
                                  : ProfileColumns::tr("The families read the same value.");
     default: return look({}, reading.differs(), role);
@@ -109,21 +124,29 @@ QVariant differenceLook(const ProfileReading& reading, int role)
 
 QVariant narrowLook(const ProfileReading& reading, int role)
 {
-    if (role == Qt::ToolTipRole && reading.narrow.isEmpty())
+    if (role == Qt::ToolTipRole && reading.isRead && reading.narrow.isEmpty())
         return ProfileColumns::tr("Empty: the narrow family answers this for missing values too.");
-    return look(shownValue(reading.narrow), reading.differs(), role);
+    return look(shownValue(reading, reading.narrow), reading.differs(), role);
 }
 
 } // namespace
 
+QString ProfileColumns::otherEncodingText()
+{
+    return tr("Not UTF-8: the calls of both families lose what it says.");
+}
+
 std::vector<RecordColumn<Line>> ProfileColumns::ofLines()
 {
-    return {{tr("No.", "number of a line"),
-             [](const Line& line) { return QString::number(line.number); },
-             [](const Line& line, int role) {
-                 return role == Qt::TextAlignmentRole ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                                                      : lineLook(line, true, role);
-             }},
+    return {RecordColumn<Line>(
+                tr("No.", "number of a line"),
+                [](const Line& line) { return QString::number(line.number); },
+                [](const Line& line, int role) {
+                    return role == Qt::TextAlignmentRole
+                               ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                               : lineLook(line, true, role);
+                })
+                .sortedBy([](const Line& line) { return SortKey::number(line.number); }),
             {tr("Narrow"), [](const Line& line) { return shortText(line.narrow); },
              [](const Line& line, int role) {
                  return stateLook(line.narrow, ProfileFamily::Narrow, role);
@@ -132,10 +155,7 @@ std::vector<RecordColumn<Line>> ProfileColumns::ofLines()
              [](const Line& line, int role) {
                  return stateLook(line.wide, ProfileFamily::Wide, role);
              }},
-            {tr("Line (raw)"), [](const Line& line) { return shownText(line.text); },
-             [](const Line& line, int role) {
-                 return lineLook(line, isDull(line.narrow) && isDull(line.wide), role);
-             }}};
+            {tr("Line (raw)"), [](const Line& line) { return shownText(line.text); }, &textLook}};
 }
 
 std::vector<RecordColumn<ProfileReading>> ProfileColumns::ofReadings()
@@ -144,15 +164,18 @@ std::vector<RecordColumn<ProfileReading>> ProfileColumns::ofReadings()
     return {nameColumn(tr("Section"), &Reading::section),
             nameColumn(tr("Key"), &Reading::key),
             {tr("Wide reading"),
-             [](const Reading& reading) { return shownValue(reading.wide).text; },
+             [](const Reading& reading) { return shownValue(reading, reading.wide).text; },
              [](const Reading& reading, int role) {
-                 return look(shownValue(reading.wide), reading.differs(), role);
+                 return look(shownValue(reading, reading.wide), reading.differs(), role);
              }},
             {QString(),
              [](const Reading& reading) {
+                 if (!reading.isRead)
+                     return QString();
                  return QString(reading.differs() ? QChar(u'≠') : QLatin1Char('='));
              },
              &differenceLook},
             {tr("Narrow reading"),
-             [](const Reading& reading) { return shownValue(reading.narrow).text; }, &narrowLook}};
+             [](const Reading& reading) { return shownValue(reading, reading.narrow).text; },
+             &narrowLook}};
 }

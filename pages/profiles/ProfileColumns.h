@@ -13,6 +13,9 @@ class ProfileColumns
     Q_DECLARE_TR_FUNCTIONS(ProfileColumns)
 
 public:
+    /// What is to be said of a line that is not UTF-8.
+    static QString otherEncodingText();
+
     enum OfLines
     {
         NumberColumn,

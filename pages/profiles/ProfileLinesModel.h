@@ -2,17 +2,46 @@
 
 #include "pages/profiles/ProfileColumns.h"
 
-/// The lines of a profile; the header over their numbers stands as the numbers do.
-class ProfileLinesModel : public RecordsModel<ProfileDocument::Line>
+#include <QAbstractTableModel>
+#include <QSet>
+
+#include <memory>
+
+class QTextCodec;
+
+/// The lines of a profile, each made when it is shown; the header over their numbers stands as the
+/// numbers do.
+class ProfileLinesModel : public QAbstractTableModel
 {
 public:
-    explicit ProfileLinesModel(QObject* parent = nullptr)
-        : RecordsModel(ProfileColumns::ofLines(), parent)
-    {
-    }
+    explicit ProfileLinesModel(QObject* parent = nullptr);
 
-    /// Marks the wide entries of this name as not found.
-    void setNotFound(const QString& section, const QString& key);
+    /// Shows another document; null shows none.
+    void setDocument(std::shared_ptr<const ProfileDocument> document);
+    const std::shared_ptr<const ProfileDocument>& document() const { return m_document; }
 
+    /// What decodes the lines that are not UTF-8; null leaves them as the services read them.
+    void setCodec(const QTextCodec* codec);
+    const QTextCodec* codec() const { return m_codec; }
+
+    /// Marks the wide entry of this line as not found.
+    void setNotFound(int line);
+
+    ProfileDocument::Line line(int row) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    const ProfileDocument::Line& cached(int row) const;
+
+    std::vector<RecordColumn<ProfileDocument::Line>> m_columns;
+    std::shared_ptr<const ProfileDocument> m_document;
+    const QTextCodec* m_codec = nullptr;
+    QSet<int> m_notFound;
+    // A view asks for all that a line has, one after the other.
+    mutable ProfileDocument::Line m_line;
+    mutable int m_cachedRow = -1;
 };

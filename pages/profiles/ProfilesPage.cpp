@@ -1,47 +1,27 @@
 #include "pages/profiles/ProfilesPage.h"
 
-#include "inspection/profiles/ProfileReadingJob.h"
+#include "inspection/files/TypedPath.h"
 #include "pages/profiles/ProfileEditPanel.h"
 #include "pages/profiles/ProfileEditor.h"
-#include "pages/profiles/ProfileFindBar.h"
-#include "pages/profiles/ProfileLinesModel.h"
-#include "platform/profiles/LineStateText.h"
-#include "window/EmptyHint.h"
-#include "window/ViewLook.h"
+#include "pages/profiles/ProfileLinesPane.h"
+#include "pages/profiles/ProfileReadingsPane.h"
+#include "window/FileDialog.h"
 
 #include <QAction>
 #include <QDragEnterEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMimeData>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QSplitter>
-#include <QTableView>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
-
-QTableView* makeTable(QAbstractItemModel* model, const QString& name, const char* objectName)
-{
-    auto* table = new QTableView;
-    table->setObjectName(QLatin1String(objectName));
-    table->setAccessibleName(name);
-    table->setModel(model);
-    arrangeTable(*table);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 4 / 3);
-    return table;
-}
 
 // The local file that is dragged, if it is one.
 QString draggedFile(const QMimeData& data)
@@ -55,28 +35,32 @@ QString draggedFile(const QMimeData& data)
 ProfilesPage::ProfilesPage(QWidget* parent)
     : Page(parent),
       m_file(new QLineEdit),
-      m_linesModel(new ProfileLinesModel(this)),
-      m_readingsModel(new RecordsModel<ProfileReading>(ProfileColumns::ofReadings(), this)),
-      m_lines(makeLines()),
-      m_readings(makeReadings()),
+      m_lines(new ProfileLinesPane(*this)),
+      m_readings(new ProfileReadingsPane(*this)),
       m_panel(new ProfileEditPanel),
-      m_find(new ProfileFindBar),
       m_editor(new ProfileEditor(*this, this))
 {
     body()->addLayout(makeFileRow());
-    addFindBar();
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_lines);
     splitter->addWidget(m_readings);
     body()->addWidget(splitter, 1);
     body()->addWidget(m_panel);
+    connect(m_lines, &ProfileLinesPane::lineChosen, this, &ProfilesPage::showLine);
+    connect(m_readings, &ProfileReadingsPane::nameChosen, this, &ProfilesPage::showName);
+    connect(m_readings, &ProfileReadingsPane::answered, this, &ProfilesPage::updateReading);
+    connect(m_readings, &ProfileReadingsPane::editRequested, m_panel, &ProfileEditPanel::editValue);
     connect(m_panel, &ProfileEditPanel::writeRequested, this, &ProfilesPage::write);
     connect(m_editor, &ProfileEditor::written, this, &ProfilesPage::showWritten);
-    addEditAction();
+    connect(&m_rereader, &JobRunner::finished, this, &ProfilesPage::finishReread);
+    addKey(Qt::Key_F3, tr("Find the next line"), &ProfilesPage::findNext);
+    addKey(Qt::Key_F8, tr("Next difference"), &ProfilesPage::nextDifference);
     setAcceptDrops(true);
     setFocusProxy(m_file);
 }
+
+ProfilesPage::~ProfilesPage() = default;
 
 QLayout* ProfilesPage::makeFileRow()
 {
@@ -92,62 +76,33 @@ QLayout* ProfilesPage::makeFileRow()
     row->addWidget(label);
     row->addWidget(m_file, 1);
     row->addWidget(choose);
-    connect(m_file, &QLineEdit::returnPressed, this, [this] { open(m_file->text()); });
+    connect(m_file, &QLineEdit::returnPressed, this, [this] { open(typedPath(m_file->text())); });
     connect(choose, &QPushButton::clicked, this, &ProfilesPage::chooseFile);
     return row;
 }
 
-QTableView* ProfilesPage::makeLines()
+void ProfilesPage::addKey(int key, const QString& text, void (ProfilesPage::*operation)())
 {
-    QTableView* table = makeTable(m_linesModel, tr("Lines of the file"), "lines");
-    const QFontMetrics metrics = table->fontMetrics();
-    const int gap = metrics.height();
-    int margin = 0;
-    const QStringList texts = shortTexts();
-    for (const QString& text : texts)
-        margin = std::max(margin, metrics.horizontalAdvance(text));
-    QHeaderView* header = table->horizontalHeader();
-    header->resizeSection(ProfileColumns::NumberColumn,
-                          metrics.horizontalAdvance(QStringLiteral("99999")) + gap);
-    header->resizeSection(ProfileColumns::NarrowStateColumn, margin + gap);
-    header->resizeSection(ProfileColumns::WideStateColumn, margin + gap);
-    new EmptyHint(table,
-                  tr("Open a profile, or drop one here: each line appears with a margin that "
-                     "tells how either family of calls reads it."));
-    connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &ProfilesPage::showLine);
-    return table;
-}
-
-QTableView* ProfilesPage::makeReadings()
-{
-    QTableView* table = makeTable(m_readingsModel, tr("Readings of both families"), "readings");
-    fitColumns(*table, {QStringLiteral("Name of section"), QStringLiteral("Name of a key")});
-    table->setColumnWidth(ProfileColumns::DifferenceColumn, table->fontMetrics().height() * 2);
-    new ColumnBalancer(table, ProfileColumns::WideColumn, QStringLiteral("255.255.255.0"));
-    new EmptyHint(table, tr("What the wide and the narrow calls read stands here side by side."));
-    connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &ProfilesPage::showReading);
-    return table;
-}
-
-void ProfilesPage::addEditAction()
-{
-    auto* edit = new QAction(tr("Edit value"), m_readings);
-    edit->setShortcut(Qt::Key_F2);
-    edit->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    m_readings->addAction(edit);
-    m_readings->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(edit, &QAction::triggered, m_panel, &ProfileEditPanel::editValue);
-    connect(m_readings, &QTableView::activated, m_panel, &ProfileEditPanel::editValue);
+    auto* action = new QAction(text, this);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(action);
+    connect(action, &QAction::triggered, this, operation);
 }
 
 void ProfilesPage::chooseFile()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open a profile"), m_path,
-                                                      tr("Profiles (*.ini);;All files (*)"));
-    if (!path.isEmpty())
-        open(path);
+    auto* dialog = new FileDialog(this, tr("Open a profile"), "profiles");
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilter(tr("Profiles (*.ini);;All files (*)"));
+    dialog->startAt(m_path);
+    connect(dialog, &QFileDialog::fileSelected, this, &ProfilesPage::open);
+    dialog->open();
+}
+
+void ProfilesPage::openFile(const QString& path)
+{
+    open(path);
 }
 
 void ProfilesPage::open(const QString& path)
@@ -160,89 +115,88 @@ void ProfilesPage::open(const QString& path)
     }
     const QString refused = ProfileDocument::fault(path);
     if (!refused.isEmpty()) {
-        m_file->setText(m_path);
         report(Report::Error, refused);
         return;
     }
     m_summary.clear();
-    m_place = QFileInfo(path).absoluteFilePath() == m_path ? currentPlace() : Place();
-    read(path);
+    const QString whole = QFileInfo(path).absoluteFilePath();
+    m_file->setText(whole);
+    m_place = whole == m_path ? currentPlace() : Place();
+    read(whole);
 }
 
+// What is typed may be a path that has not been opened.
 void ProfilesPage::refresh()
 {
-    if (!m_path.isEmpty())
-        open(m_path);
-}
-
-void ProfilesPage::addFindBar()
-{
-    body()->addWidget(m_find);
-    m_find->hide();
-    auto* next = new QAction(tr("Find the next line"), this);
-    next->setShortcut(Qt::Key_F3);
-    next->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    addAction(next);
-    connect(next, &QAction::triggered, this, &ProfilesPage::findNext);
-    connect(m_find, &ProfileFindBar::nextRequested, this, &ProfilesPage::findNext);
-    connect(m_find, &ProfileFindBar::closed, m_lines, QOverload<>::of(&QWidget::setFocus));
+    if (m_path.isEmpty() || isBusy())
+        return;
+    m_summary.clear();
+    m_place = currentPlace();
+    read(m_path);
 }
 
 void ProfilesPage::find()
 {
-    if (m_linesModel->records().empty()) {
-        setStatus(tr("There are no lines to search. Open a file first."));
-        m_file->setFocus(Qt::ShortcutFocusReason);
+    if (m_lines->hasLines()) {
+        m_lines->find();
         return;
     }
-    m_find->open();
+    setStatus(tr("There are no lines to search. Open a file first."));
+    m_file->setFocus(Qt::ShortcutFocusReason);
 }
 
-// Searches from the line behind the current one to the end, and from the first line on.
 void ProfilesPage::findNext()
 {
-    const QString text = m_find->text();
-    const int count = m_linesModel->rowCount();
-    if (text.isEmpty() || count == 0) {
+    if (m_lines->hasLines() && !isBusy())
+        m_lines->findNext();
+    else
         find();
-        return;
-    }
-    const int first = m_lines->currentIndex().row() + 1;
-    for (int i = 0; i < count; ++i) {
-        const int row = (first + i) % count;
-        if (m_linesModel->record(row).text.contains(text, Qt::CaseInsensitive)) {
-            m_lines->setCurrentIndex(m_linesModel->index(row, ProfileColumns::TextColumn));
-            return;
-        }
-    }
-    setStatus(tr("No line contains “%1”.").arg(text));
 }
 
-// Shows the file and asks both families for all that it names.
+void ProfilesPage::nextDifference()
+{
+    m_readings->nextDifference();
+}
+
+// Shows the file and asks both families for what it names.
 void ProfilesPage::read(const QString& path)
 {
-    ProfileReadingJob::Receiver receiver{
-        [this](ProfileDocument document) { showDocument(std::move(document)); },
-        [this](ProfileReading reading) { addReading(std::move(reading)); }};
-    startJob(tr("Reading through both families"),
-             std::make_unique<ProfileReadingJob>(path, std::move(receiver)),
+    stopReread();
+    startJob(tr("Reading through both families"), makeReadingJob(path),
              [this](const ProfileReadingJob& job, bool complete) { finish(job, complete); });
 }
 
-void ProfilesPage::showDocument(ProfileDocument document)
+std::unique_ptr<ProfileReadingJob> ProfilesPage::makeReadingJob(const QString& path)
 {
-    m_path = document.path();
-    m_exists = document.exists();
-    m_file->setText(m_path);
-    m_readingsModel->setRecords({});
-    m_linesModel->setRecords(std::move(document.lines()));
+    ProfileReadingJob::Receiver receiver{
+        [this](std::shared_ptr<const ProfileDocument> document, int wanted) {
+            showDocument(std::move(document), wanted);
+        },
+        [this](int name, const ProfileReading& reading) { addReading(name, reading); }};
+    m_readingStamp = ProfileStamp::of(path);
+    auto job = std::make_unique<ProfileReadingJob>(path, std::move(receiver));
+    if (m_place.name)
+        job->lookFor(*m_place.name);
+    return job;
 }
 
-void ProfilesPage::addReading(ProfileReading reading)
+void ProfilesPage::showDocument(std::shared_ptr<const ProfileDocument> document, int wanted)
 {
-    if (!reading.wide)
-        m_linesModel->setNotFound(reading.section, reading.key);
-    m_readingsModel->append({std::move(reading)});
+    m_path = document->path();
+    m_stamp = m_readingStamp;
+    m_wanted = wanted;
+    m_document = std::move(document);
+    m_lines->setDocument(m_document);
+    m_readings->setDocument(m_document);
+}
+
+// The answer may tell that a line only looked like an entry of the wide family.
+void ProfilesPage::addReading(int name, const ProfileReading& reading)
+{
+    const ProfileNames::Place place = m_document->names().place(name);
+    if (!reading.wide && place.family == ProfileFamily::Wide)
+        m_lines->setNotFound(place.line);
+    m_readings->setReading(name, reading);
 }
 
 void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
@@ -253,48 +207,58 @@ void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
         return;
     }
     restorePlace(complete);
-    if (!m_exists)
+    markRead();
+    if (!m_document->exists())
         report(Report::Warning, tr("There is no such file: both families read it as empty. Writing "
                                    "a value creates it."));
     else if (!complete)
-        report(Report::Warning, tr("Stopped. %1").arg(counts()));
+        report(Report::Warning, tr("Stopped. %1").arg(m_readings->counts()));
     else if (m_summary.isEmpty())
-        report(Report::Info, counts());
+        report(Report::Info, m_readings->counts());
     else
-        report(Report::Info, m_summary + QLatin1Char(' ') + counts());
+        report(Report::Info, m_summary + QLatin1Char(' ') + m_readings->counts());
 }
 
-QString ProfilesPage::counts() const
+void ProfilesPage::lookForChanges()
 {
-    const std::vector<ProfileReading>& readings = m_readingsModel->records();
-    const auto differences = std::count_if(readings.begin(), readings.end(),
-                                           [](const auto& reading) { return reading.differs(); });
-    return tr("%1 values, %2 of them read differently.")
-        .arg(QLocale().toString(m_readingsModel->rowCount()),
-             QLocale().toString(static_cast<int>(differences)));
+    if (m_path.isEmpty() || m_rereader.isRunning() || ProfileStamp::of(m_path) == m_stamp)
+        return;
+    m_place = currentPlace();
+    m_reread = makeReadingJob(m_path);
+    if (m_rereader.start(*m_reread))
+        finishReread();
 }
 
-int ProfilesPage::rowOf(const ProfileDocument::Name& name) const
+void ProfilesPage::finishReread()
 {
-    for (int row = 0; row < m_readingsModel->rowCount(); ++row) {
-        const ProfileReading& reading = m_readingsModel->record(row);
-        if (reading.section == name.first && reading.key == name.second)
-            return row;
-    }
-    return -1;
+    m_reread.reset();
+    restorePlace(true);
+    markRead();
+    if (m_document->exists())
+        setStatus(tr("The file has been changed by somebody else, and was read again. %1")
+                      .arg(m_readings->counts()));
+    else
+        report(Report::Warning,
+               tr("%1 has been deleted: both families read it as empty.").arg(m_path));
+}
+
+void ProfilesPage::stopReread()
+{
+    m_rereader.cancel();
+    m_reread.reset();
 }
 
 ProfilesPage::Place ProfilesPage::currentPlace() const
 {
     Place place;
-    place.line = m_lines->currentIndex().row();
+    place.line = m_lines->chosenLine();
     if (place.line >= 0)
-        place.text = m_linesModel->record(place.line).text;
-    const int row = m_readings->currentIndex().row();
-    if (row >= 0) {
-        const ProfileReading& reading = m_readingsModel->record(row);
-        place.name.emplace(reading.section, reading.key);
-    }
+        place.text = m_lines->text(place.line);
+    const int name = m_readings->chosenName();
+    if (name >= 0)
+        place.name = m_document->name(name);
+    place.linesPosition = m_lines->scrollPosition();
+    place.readingsPosition = m_readings->scrollPosition();
     return place;
 }
 
@@ -303,53 +267,55 @@ void ProfilesPage::restorePlace(bool complete)
 {
     const QScopedValueRollback<bool> restoring(m_isRestoring, true);
     const int line = m_place.line;
-    if (line >= 0 && line < m_linesModel->rowCount() &&
-        m_linesModel->record(line).text == m_place.text)
-        m_lines->selectRow(line);
-    const int row = m_place.name ? rowOf(*m_place.name) : -1;
-    if (row >= 0)
-        m_readings->selectRow(row);
-    else if (complete && !m_readings->currentIndex().isValid())
+    if (line >= 0 && line < m_document->lines().count() && m_lines->text(line) == m_place.text)
+        m_lines->chooseLine(line);
+    if (m_wanted >= 0) {
+        m_readings->chooseName(m_wanted);
+        if (m_lines->chosenLine() < 0)
+            m_lines->chooseLine(m_document->names().place(m_wanted).line);
+        showReading(m_wanted);
+    } else if (complete && m_readings->chosenName() < 0) {
         m_panel->updateReading({});
+    }
+    m_lines->scrollTo(m_place.linesPosition);
+    m_readings->scrollTo(m_place.readingsPosition);
 }
 
 // Tells of the line in words, for users who see no tool tips.
-void ProfilesPage::showLine()
+void ProfilesPage::showLine(int line)
 {
-    const int row = m_lines->currentIndex().row();
-    if (row < 0)
-        return;
-    const ProfileDocument::Line& line = m_linesModel->record(row);
-    chooseReadingOf(line);
-    setStatus(tr("Line %1. Narrow: %2 Wide: %3")
-                  .arg(QString::number(line.number), longText(line.narrow, ProfileFamily::Narrow),
-                       longText(line.wide, ProfileFamily::Wide)));
-}
-
-void ProfilesPage::chooseReadingOf(const ProfileDocument::Line& line)
-{
-    for (int row = 0; row < m_readingsModel->rowCount(); ++row) {
-        const ProfileReading& reading = m_readingsModel->record(row);
-        const auto gives = [&reading](const LineReading& read) {
-            return read.state == LineState::Entry && read.section == reading.section &&
-                   read.key == reading.key;
-        };
-        if (gives(line.narrow) || gives(line.wide)) {
-            m_readings->selectRow(row);
-            return;
-        }
+    const int name = m_document->names().ofLine(line);
+    if (name >= 0) {
+        m_readings->chooseName(name);
+        showReading(name);
     }
+    setStatus(m_lines->description(line));
 }
 
-void ProfilesPage::showReading()
+// A line that gives the name stays chosen.
+void ProfilesPage::showName(int name)
 {
-    const int row = m_readings->currentIndex().row();
-    if (row < 0)
-        return;
+    const ProfileNames& names = m_document->names();
+    if (m_lines->chosenLine() < 0 || names.ofLine(m_lines->chosenLine()) != name)
+        m_lines->chooseLine(names.place(name).line);
+    setStatus(m_lines->description(m_lines->chosenLine()));
+    showReading(name);
+}
+
+void ProfilesPage::showReading(int name)
+{
     if (m_isRestoring)
-        m_panel->updateReading(m_readingsModel->record(row));
+        m_panel->updateReading(m_readings->reading(name));
     else
-        m_panel->setReading(m_readingsModel->record(row));
+        m_panel->setReading(m_readings->reading(name));
+}
+
+// An answer that comes when the name is shown already.
+void ProfilesPage::updateReading(int name, const ProfileReading& reading)
+{
+    addReading(name, reading);
+    if (name == m_readings->chosenName())
+        m_panel->updateReading(reading);
 }
 
 void ProfilesPage::write()

@@ -1,21 +1,21 @@
 #pragma once
 
+#include "inspection/JobRunner.h"
 #include "inspection/profiles/ProfileDocument.h"
-#include "inspection/profiles/ProfileReading.h"
+#include "inspection/profiles/ProfileReadingJob.h"
+#include "inspection/profiles/ProfileStamp.h"
 #include "window/Page.h"
-#include "window/RecordsModel.h"
 
+#include <memory>
 #include <optional>
 
 class ProfileEditPanel;
 class ProfileEditor;
-class ProfileFindBar;
-class ProfileLinesModel;
-class ProfileReadingJob;
+class ProfileLinesPane;
+class ProfileReadingsPane;
 struct ProfileChange;
 class QLayout;
 class QLineEdit;
-class QTableView;
 
 /// A profile (INI file): how each of the two families of calls reads its lines, and writing through
 /// either of them.
@@ -25,15 +25,21 @@ class ProfilesPage : public Page
 
 public:
     explicit ProfilesPage(QWidget* parent = nullptr);
+    ~ProfilesPage() override;
 
-    /// Opens a file, or refuses it and keeps the one that is open.
+    /// Opens a file, or refuses it, keeps the one that is open and leaves what is typed.
     void open(const QString& path);
+
+    void openFile(const QString& path) override;
 
     /// Reads the file again.
     void refresh() override;
     void find() override;
 
 protected:
+    /// Reads the file again where it is no longer the one that was read.
+    void lookForChanges() override;
+
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -41,43 +47,48 @@ private:
     /// What is chosen again when the file has been read again.
     struct Place
     {
-        int line = -1;                             ///< row of the chosen line, or -1
+        int line = -1;                             ///< the chosen line, from 0 on, or -1
         QString text;                              ///< of that line, which has to read so still
         std::optional<ProfileDocument::Name> name; ///< of the chosen reading
+        int linesPosition = 0;
+        int readingsPosition = 0;
     };
 
     QLayout* makeFileRow();
-    QTableView* makeLines();
-    QTableView* makeReadings();
-    void addEditAction();
-    void addFindBar();
+    void addKey(int key, const QString& text, void (ProfilesPage::*operation)());
     void findNext();
+    void nextDifference();
     void chooseFile();
     void read(const QString& path);
-    void showDocument(ProfileDocument document);
-    void addReading(ProfileReading reading);
+    std::unique_ptr<ProfileReadingJob> makeReadingJob(const QString& path);
+    void showDocument(std::shared_ptr<const ProfileDocument> document, int wanted);
+    void addReading(int name, const ProfileReading& reading);
     void finish(const ProfileReadingJob& job, bool complete);
-    QString counts() const;
-    int rowOf(const ProfileDocument::Name& name) const;
+    void finishReread();
+    void stopReread();
     Place currentPlace() const;
     void restorePlace(bool complete);
-    void showLine();
-    void chooseReadingOf(const ProfileDocument::Line& line);
-    void showReading();
+    void showLine(int line);
+    void showName(int name);
+    void showReading(int name);
+    void updateReading(int name, const ProfileReading& reading);
     void write();
     void showWritten(const ProfileChange& change, const QString& backup);
 
     QLineEdit* m_file;
-    ProfileLinesModel* m_linesModel;
-    RecordsModel<ProfileReading>* m_readingsModel;
-    QTableView* m_lines;
-    QTableView* m_readings;
+    ProfileLinesPane* m_lines;
+    ProfileReadingsPane* m_readings;
     ProfileEditPanel* m_panel;
-    ProfileFindBar* m_find;
     ProfileEditor* m_editor;
     QString m_path; ///< of the open file; empty where none is
-    bool m_exists = false;
+    std::shared_ptr<const ProfileDocument> m_document;
+    ProfileStamp m_stamp;        ///< of the file that is shown
+    ProfileStamp m_readingStamp; ///< of the file that is being read
     Place m_place;
+    int m_wanted = -1;          ///< the name of m_place in the document, or -1
     bool m_isRestoring = false; ///< true while m_place is being chosen again
     QString m_summary;          ///< what was written, to be reported together with the readings
+    // The file has changed, and is read again while the page goes on.
+    std::unique_ptr<ProfileReadingJob> m_reread;
+    JobRunner m_rereader;
 };

@@ -1,5 +1,15 @@
 #include "platform/profiles/LineReading.h"
 
+LineReading readingOf(LineMark mark)
+{
+    LineReading reading;
+    reading.state = mark.state;
+    reading.isList = mark.isList;
+    reading.isCut = mark.isCut;
+    reading.isEscaped = mark.isEscaped;
+    return reading;
+}
+
 bool isLost(LineState state)
 {
     switch (state) {
@@ -16,4 +26,9 @@ bool isLost(LineState state)
 bool isLost(const LineReading& reading)
 {
     return isLost(reading.state) || reading.isCut;
+}
+
+bool isLost(LineMark mark)
+{
+    return isLost(mark.state) || mark.isCut;
 }

@@ -10,7 +10,7 @@ enum class ProfileFamily
 };
 
 /// What a profile family makes of one line of a file.
-enum class LineState
+enum class LineState : unsigned char
 {
     Blank,
     Header,
@@ -39,8 +39,27 @@ struct LineReading
     bool isEscaped = false; ///< holds a backslash, which begins an escape
 };
 
+/// A reading without its names, in one byte: a large file has millions of lines.
+struct LineMark
+{
+    LineMark() : LineMark(LineState::Blank) {}
+    explicit LineMark(LineState lineState)
+        : state(lineState), isList(false), isCut(false), isEscaped(false)
+    {
+    }
+
+    LineState state : 4;
+    bool isList : 1;
+    bool isCut : 1;
+    bool isEscaped : 1;
+};
+
+/// A reading of that mark; the names are empty.
+LineReading readingOf(LineMark mark);
+
 /// True where the line is no longer in the file after the family has written to it. Blank lines,
 /// which go too, are not counted: they hold nothing.
 bool isLost(LineState state);
 /// True where that holds, or a part of the line goes.
 bool isLost(const LineReading& reading);
+bool isLost(LineMark mark);

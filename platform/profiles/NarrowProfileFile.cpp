@@ -1,11 +1,10 @@
 #include "platform/profiles/NarrowProfileFile.h"
 
-#include <QTextCodec>
+#include "platform/profiles/NarrowText.h"
 
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <memory>
 #include <sys/stat.h>
 #include <thread>
 
@@ -13,10 +12,6 @@ namespace {
 
 using std::chrono::milliseconds;
 using namespace std::chrono_literals;
-
-// Other programs read these files with text streams, which decode chunks of this size and take a
-// byte order mark away from the beginning of each chunk that only ASCII precedes. So does this.
-constexpr qint64 chunkSize = 16384;
 
 // The last modification, in the unit in which QSettings compares it; 0 when it cannot be told.
 std::int64_t stampOf(int descriptor)
@@ -62,19 +57,12 @@ bool NarrowProfileFile::open(QIODevice::OpenMode mode)
 
 QString NarrowProfileFile::text()
 {
-    std::array<char, chunkSize> chunk;
-    std::unique_ptr<QTextDecoder> decoder;
-    QString text;
-    text.reserve(static_cast<int>(m_file.size()));
-    for (qint64 size = 0; (size = m_file.read(chunk.data(), chunkSize)) > 0;) {
-        const QByteArray bytes = QByteArray::fromRawData(chunk.data(), static_cast<int>(size));
-        if (!decoder) {
-            QTextCodec* utf8 = QTextCodec::codecForName("utf-8");
-            decoder.reset(QTextCodec::codecForUtfText(bytes, utf8)->makeDecoder());
-        }
-        text += decoder->toUnicode(bytes);
-    }
-    return text.remove(QLatin1Char('\r'));
+    std::array<char, NarrowText::chunkSize> chunk;
+    NarrowText text;
+    text.reserve(m_file.size());
+    for (qint64 size = 0; (size = m_file.read(chunk.data(), NarrowText::chunkSize)) > 0;)
+        text.append(QByteArray::fromRawData(chunk.data(), static_cast<int>(size)));
+    return text.take();
 }
 
 // Overwrites and then cuts: at no time is the file empty, and file systems that flush a file which

@@ -2,11 +2,17 @@
 
 #include "platform/profiles/IniName.h"
 
+#include <QHash>
+
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
 constexpr char byteOrderMark[] = "\xef\xbb\xbf";
+constexpr int bytesAStep = 65536;
+constexpr std::size_t bytesAnEntry = 16; // of a long file that has little else
 
 bool isBlank(char character)
 {
@@ -31,20 +37,39 @@ bool isAskable(const QString& name)
     return !name.startsWith(slash) && !name.endsWith(slash) && !name.contains(QLatin1String("//"));
 }
 
+bool hasNames(LineState state)
+{
+    return state == LineState::Entry || state == LineState::NotFound ||
+           state == LineState::ReplacedKey;
+}
+
 } // namespace
 
-WideLines::WideLines(const QByteArray& bytes) : m_bytes(bytes)
+bool WideLines::step()
 {
-    for (int start = 0; start >= 0 && start < bytes.size();) {
-        m_starts.push_back(start);
-        const int end = bytes.indexOf('\n', start);
-        start = end < 0 ? -1 : end + 1;
+    if (m_lines.step())
+        return true;
+    if (!std::exchange(m_isStarted, true))
+        start();
+    const int stop = m_position + std::min(bytesAStep, m_bytes.size() - m_position);
+    while (m_position < stop) {
+        if (!m_isScanning)
+            begin();
+        if (scan(stop))
+            readLine();
     }
-    m_readings.resize(m_starts.size());
-    if (bytes.startsWith(byteOrderMark))
+    return m_position < m_bytes.size();
+}
+
+void WideLines::start()
+{
+    m_marks.resize(m_lines.size());
+    const std::size_t likely =
+        std::min(m_lines.size(), static_cast<std::size_t>(m_bytes.size()) / bytesAnEntry);
+    m_entries.reserve(likely);
+    m_names = NameTable(likely);
+    if (m_bytes.startsWith(byteOrderMark))
         skipMark();
-    while (next())
-        readLine();
 }
 
 // A byte order mark becomes part of a key that follows it. Intended: so it does in QSettings.
@@ -56,12 +81,17 @@ void WideLines::skipMark()
         ++m_marked;
 }
 
-// Reads one line; false at the end.
-bool WideLines::next()
+// A byte of the file, or 0 behind its end.
+char WideLines::at(int position) const
 {
-    while (m_position < m_bytes.size() &&
-           (isSpace(m_bytes.at(m_position)) || m_bytes.at(m_position) == ';')) {
-        if (m_bytes.at(m_position) == ';')
+    return position < m_bytes.size() ? m_bytes.at(position) : '\0';
+}
+
+// Goes to where the next line begins.
+void WideLines::begin()
+{
+    while (isSpace(at(m_position)) || at(m_position) == ';') {
+        if (at(m_position) == ';')
             skipComment();
         else
             ++m_position;
@@ -70,48 +100,52 @@ bool WideLines::next()
     m_equals = -1;
     m_isList = false;
     m_isEscaped = false;
-    scan();
-    return m_position > m_begin;
+    m_isQuoted = false;
+    m_isScanning = true;
 }
 
 void WideLines::skipComment()
 {
-    LineReading& reading = m_readings[lineOf(m_position)];
-    if (reading.state == LineState::Blank)
-        reading.state = LineState::Comment;
+    LineMark& mark = markAt(m_position);
+    if (mark.state == LineState::Blank)
+        mark.state = LineState::Comment;
     else
-        reading.isCut = true;
+        mark.isCut = true;
     while (m_position < m_bytes.size() && !isLineEnd(m_bytes.at(m_position)))
         ++m_position;
 }
 
-void WideLines::scan()
+// Goes on to the end of the line; false where that lies behind `stop`.
+bool WideLines::scan(int stop)
 {
-    bool quoted = false;
     for (; m_position < m_bytes.size(); ++m_position) {
         const char character = m_bytes.at(m_position);
-        if (!quoted && (isLineEnd(character) || character == ';'))
-            return;
+        if (!m_isQuoted && (isLineEnd(character) || character == ';'))
+            break;
+        if (m_position >= stop)
+            return false;
         if (character == '"')
-            quoted = !quoted;
-        else if (character == '=' && !quoted && m_equals < 0)
+            m_isQuoted = !m_isQuoted;
+        else if (character == '=' && !m_isQuoted && m_equals < 0)
             m_equals = m_position;
-        else if (character == ',' && !quoted && m_equals >= 0)
+        else if (character == ',' && !m_isQuoted && m_equals >= 0)
             m_isList = true;
         else if (character == '\\')
             skipEscape();
     }
     m_position = std::min(m_position, m_bytes.size());
+    m_isScanning = false;
+    return m_position > m_begin;
 }
 
 // Whatever follows a backslash belongs to the line, also a line end, which goes.
 void WideLines::skipEscape()
 {
-    ++m_position;
-    const QByteArray pair = m_bytes.mid(m_position, 2);
-    if (pair == "\r\n" || pair == "\n\r")
+    const char first = at(++m_position);
+    const char second = at(m_position + 1);
+    if (isLineEnd(first) && isLineEnd(second) && first != second)
         ++m_position;
-    const bool joinsLines = m_position + 1 < m_bytes.size() && isLineEnd(pair.at(0));
+    const bool joinsLines = m_position + 1 < m_bytes.size() && isLineEnd(first);
     if (m_equals >= 0 && !joinsLines)
         m_isEscaped = true;
 }
@@ -130,62 +164,92 @@ void WideLines::readLine()
 void WideLines::readHeader()
 {
     m_prefix = IniName::sectionPrefix(m_bytes.mid(m_begin, m_position - m_begin));
-    m_readings[lineOf(m_begin)].state = LineState::Header;
+    m_headers.push_back({m_begin, m_position});
+    markAt(m_begin).state = LineState::Header;
 }
 
 void WideLines::readEntry()
 {
-    const QString key = IniName::unescaped(keyBytes());
-    const QString name = m_prefix + key;
-    LineReading reading;
-    reading.state = isAskable(name) ? LineState::Entry : LineState::NotFound;
+    const Entry entry{m_begin == m_marked ? 0 : m_begin, m_equals,
+                      static_cast<int>(m_headers.size()) - 1};
+    const QString name = m_prefix + keyOf(entry);
+    LineMark mark(isAskable(name) ? LineState::Entry : LineState::NotFound);
     if (isReplaced(name))
-        reading.state = LineState::ReplacedKey;
-    reading.section = m_prefix.chopped(m_prefix.isEmpty() ? 0 : 1);
-    reading.key = key;
-    reading.isList = m_isList;
-    reading.isEscaped = m_isEscaped;
-    m_readings[lineOf(m_begin)] = reading;
+        mark.state = LineState::ReplacedKey;
+    mark.isList = m_isList;
+    mark.isEscaped = m_isEscaped;
+    m_entries.push_back(entry);
+    markAt(m_begin) = mark;
 }
 
 // Of several entries of one name the last one counts. With a slash in a key they may stand in
 // different sections, which QSettings reads in the order of their names: the longer one counts.
+// The entry itself is about to be added.
 bool WideLines::isReplaced(const QString& name)
 {
-    const auto earlier = m_names.find(name);
-    if (earlier != m_names.end()) {
-        if (earlier->prefixSize > m_prefix.size())
+    std::uint32_t& place = m_names.place(qHash(name), [&](std::uint32_t other) {
+        return prefixOf(m_entries[other]) + keyOf(m_entries[other]) == name;
+    });
+    if (place != NameTable::none) {
+        const Entry& earlier = m_entries[place];
+        if (prefixOf(earlier).size() > m_prefix.size())
             return true;
-        m_readings[earlier->line].state = LineState::ReplacedKey;
+        markAt(earlier.begin).state = LineState::ReplacedKey;
     }
-    m_names[name] = {lineOf(m_begin), m_prefix.size()};
+    place = static_cast<std::uint32_t>(m_entries.size());
     return false;
 }
 
 void WideLines::readOther()
 {
-    m_readings[lineOf(m_begin)].state =
-        m_bytes.at(m_begin) == '#' ? LineState::Comment : LineState::NoEquals;
+    markAt(m_begin).state = m_bytes.at(m_begin) == '#' ? LineState::Comment : LineState::NoEquals;
 }
 
 void WideLines::markContinuations()
 {
-    const std::size_t last = lineOf(m_position);
-    for (std::size_t line = lineOf(m_begin) + 1; line <= last; ++line)
-        m_readings[line].state = LineState::Continuation;
+    const std::size_t first = m_lines.lineOf(m_begin);
+    const std::size_t last = m_lines.lineOf(m_position);
+    for (std::size_t line = first + 1; line <= last; ++line)
+        m_marks[line].state = LineState::Continuation;
 }
 
-std::size_t WideLines::lineOf(int position) const
+QString WideLines::prefixOf(const Entry& entry) const
 {
-    const auto next = std::upper_bound(m_starts.begin(), m_starts.end(), position);
-    return static_cast<std::size_t>(next - m_starts.begin()) - 1;
+    if (entry.header < 0)
+        return {};
+    const Header& header = m_headers[static_cast<std::size_t>(entry.header)];
+    return IniName::sectionPrefix(m_bytes.mid(header.begin, header.end - header.begin));
 }
 
-QByteArray WideLines::keyBytes() const
+QString WideLines::keyOf(const Entry& entry) const
 {
-    const int begin = m_begin == m_marked ? 0 : m_begin;
-    int end = m_equals;
-    while (end > begin && isBlank(m_bytes.at(end - 1)))
+    int end = entry.equals;
+    while (end > entry.begin && isBlank(m_bytes.at(end - 1)))
         --end;
-    return m_bytes.mid(begin, end - begin);
+    return IniName::unescaped(m_bytes.mid(entry.begin, end - entry.begin));
+}
+
+// Of several entries in a line the last one counts.
+LineReading WideLines::reading(std::size_t line) const
+{
+    LineReading reading = readingOf(m_marks[line]);
+    const auto behind =
+        std::lower_bound(m_entries.begin(), m_entries.end(), m_lines.end(line),
+                         [](const Entry& entry, int position) { return entry.begin < position; });
+    if (!hasNames(reading.state) || behind == m_entries.begin())
+        return reading;
+    const QString prefix = prefixOf(*std::prev(behind));
+    reading.section = prefix.chopped(prefix.isEmpty() ? 0 : 1);
+    reading.key = keyOf(*std::prev(behind));
+    return reading;
+}
+
+std::vector<LineReading> WideLines::readings()
+{
+    while (step())
+        ;
+    std::vector<LineReading> readings;
+    for (std::size_t line = 0; line < m_lines.size(); ++line)
+        readings.push_back(reading(line));
+    return readings;
 }

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/profiles/LineIndex.h"
 #include "platform/profiles/LineReading.h"
+#include "platform/profiles/NameTable.h"
 
 #include <QByteArray>
-#include <QHash>
 
 #include <vector>
 
@@ -19,24 +20,41 @@
 class WideLines
 {
 public:
-    explicit WideLines(const QByteArray& bytes);
+    /// Reads nothing yet.
+    explicit WideLines(const QByteArray& bytes) : m_bytes(bytes), m_lines(bytes) {}
 
-    /// Of each line of the file. An entry that QSettings keeps under a name that cannot be asked
-    /// for, as one that ends with "/", is not found.
-    const std::vector<LineReading>& readings() const { return m_readings; }
+    /// Reads a small piece; false when all has been read.
+    bool step();
+
+    /// The lines of the file; this and what follows is complete when step() is done.
+    const LineIndex& lines() const { return m_lines; }
+    LineMark mark(std::size_t line) const { return m_marks[line]; }
+    /// A line with its names. An entry that QSettings keeps under a name that cannot be asked for,
+    /// as one that ends with "/", is not found.
+    LineReading reading(std::size_t line) const;
+
+    /// Of each line; reads first what has not been read.
+    std::vector<LineReading> readings();
 
 private:
-    /// Where an entry stands.
-    struct Place
+    struct Header
     {
-        std::size_t line = 0;
-        int prefixSize = 0;
+        int begin = 0;
+        int end = 0;
+    };
+    struct Entry
+    {
+        int begin = 0; ///< of what QSettings takes for the key
+        int equals = 0;
+        int header = -1; ///< index of the section's header, or -1
     };
 
+    void start();
     void skipMark();
-    bool next();
+    char at(int position) const;
+    void begin();
     void skipComment();
-    void scan();
+    bool scan(int stop);
     void skipEscape();
     void readLine();
     void readHeader();
@@ -44,18 +62,25 @@ private:
     void readOther();
     bool isReplaced(const QString& name);
     void markContinuations();
-    QByteArray keyBytes() const;
-    std::size_t lineOf(int position) const;
+    LineMark& markAt(int position) { return m_marks[m_lines.lineOf(position)]; }
+    QString prefixOf(const Entry& entry) const;
+    QString keyOf(const Entry& entry) const;
 
     QByteArray m_bytes;
-    std::vector<int> m_starts; ///< where each line of the file begins
-    std::vector<LineReading> m_readings;
+    LineIndex m_lines;
+    std::vector<LineMark> m_marks;
+    std::vector<Header> m_headers;
+    std::vector<Entry> m_entries; ///< in the order of the file
+    NameTable m_names;            ///< places are indexes of m_entries
+    QString m_prefix;             ///< of the names in the section
+    bool m_isStarted = false;
     int m_position = 0;
     int m_marked = -1; ///< where the first line begins behind a byte order mark, or -1
-    int m_begin = 0;   ///< of the line being read
-    int m_equals = -1; ///< its first unquoted "=", or -1
+    // The line being read.
+    bool m_isScanning = false;
+    bool m_isQuoted = false;
+    int m_begin = 0;
+    int m_equals = -1; ///< the first unquoted "=", or -1
     bool m_isList = false;
     bool m_isEscaped = false;
-    QString m_prefix; ///< of the names in the section
-    QHash<QString, Place> m_names;
 };

@@ -129,14 +129,53 @@ TEST_F(FileDialogs, SaveAsWritesTheLinesShown)
     logInfo("a line for the saved file");
     ApplicationLog::instance().write(Logger::error, "an error for the saved file");
     const WindowProbe probe("log");
+    ASSERT_TRUE(probe.settle());
     probe.page().findChild<QComboBox*>()->setCurrentIndex(3); // errors only
     const FileDialogAnswer dialog(path("saved"));
     answer(probe, "S&ave as...", dialog);
+    ASSERT_TRUE(probe.settle());
     EXPECT_EQ(dialog.proposed().toStdString(), "quayside.log");
     const QByteArray saved = ProfileFixture::bytesOf(path("saved.log"));
     EXPECT_TRUE(saved.contains("an error for the saved file")) << saved.toStdString();
     EXPECT_FALSE(saved.contains("a line for the saved file"));
     EXPECT_TRUE(status(probe).startsWith("Saved to ")) << status(probe).toStdString();
+}
+
+TEST_F(FileDialogs, OpenAtHomeAndThenWhereTheLastOneForTheSamePurposeWasLeft)
+{
+    const WindowProbe probe("log");
+    const FileDialogAnswer first(path("one"));
+    answer(probe, "S&ave as...", first);
+    EXPECT_EQ(first.folder(), QDir::homePath());
+    const FileDialogAnswer second({});
+    answer(probe, "S&ave as...", second);
+    EXPECT_EQ(second.folder(), m_files.folder());
+    const FileDialogAnswer third({});
+    answer(probe, "S&ave as...", third);
+    EXPECT_EQ(third.folder(), m_files.folder()) << "what is cancelled changes nothing";
+}
+
+TEST_F(FileDialogs, OfANewWindowRememberNothing)
+{
+    for (const char* file : {"one", "two"}) {
+        const WindowProbe probe("log");
+        const FileDialogAnswer dialog(path(file));
+        answer(probe, "S&ave as...", dialog);
+        EXPECT_EQ(dialog.folder(), QDir::homePath());
+    }
+}
+
+TEST_F(FileDialogs, OpenWhereTheProfileInViewStands)
+{
+    m_files.write("[Net]\nMask=255\n");
+    const WindowProbe probe("profiles");
+    probe.type("file", u'"' + m_files.path() + u'"');
+    QTest::keyClick(&probe.control<QWidget>("file"), Qt::Key_Return);
+    ASSERT_TRUE(probe.settle());
+    EXPECT_EQ(probe.text("file"), m_files.path());
+    const FileDialogAnswer dialog({});
+    answer(probe, "Ope&n...", dialog);
+    EXPECT_EQ(dialog.folder(), m_files.folder());
 }
 
 struct Dialog

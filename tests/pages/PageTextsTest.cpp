@@ -1,6 +1,7 @@
 #include "tests/pages/PageFixture.h"
 #include "tests/pages/PageNames.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 
 #include <QLabel>
 #include <QTabWidget>
@@ -47,7 +48,8 @@ protected:
         m_window->resize(800, 600);
         m_window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return m_window->currentPage() != nullptr; }));
+        ASSERT_TRUE(waitFor([this] { return m_window->currentPage() != nullptr; }));
+        ASSERT_TRUE(waitForJob(*m_window->currentPage()));
         QApplication::processEvents();
     }
 

@@ -106,8 +106,8 @@ protected:
 
 TEST_F(PageTest, AShortJobEndsAtOnceWithoutCoveringThePage)
 {
-    start(3);
-    EXPECT_EQ(m_done, 3);
+    start(1);
+    EXPECT_EQ(m_done, 1);
     EXPECT_EQ(m_end.toStdString(), "complete");
     EXPECT_FALSE(overlay().isVisible());
     EXPECT_TRUE(m_page.field->hasFocus());
@@ -193,7 +193,7 @@ TEST_F(PageTest, TheEndOfAJobIsToldOnceAndByTheJobItself)
 
 TEST_F(PageTest, AJobIsDestroyedAfterItsEnd)
 {
-    start(3);
+    start(1);
     EXPECT_EQ(m_alive, 0);
     start(60);
     EXPECT_EQ(m_alive, 1);
@@ -216,8 +216,8 @@ TEST_F(PageTest, TheEndOfAJobMayStartTheNextOne)
 {
     int first = 0;
     m_page.startJob("First", std::make_unique<CountingJob>(1, first, m_alive),
-                    [this](CountingJob&, bool) { start(3); });
-    EXPECT_EQ(m_done, 3);
+                    [this](CountingJob&, bool) { start(1); });
+    EXPECT_EQ(m_done, 1);
     EXPECT_EQ(m_end.toStdString(), "complete");
 }
 

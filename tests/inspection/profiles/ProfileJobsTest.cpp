@@ -5,6 +5,10 @@
 
 #include <QDir>
 
+#include <memory>
+#include <utility>
+#include <vector>
+
 namespace {
 
 constexpr int largest = 16 * 1024; // bytes; a file beyond that is large
@@ -34,17 +38,20 @@ class ProfileReadingJobTest : public testing::Test
 protected:
     ProfileReadingJob::Receiver receiver()
     {
-        return {[this](ProfileDocument document) {
-                    m_found << QStringLiteral("document of %1 lines").arg(document.lines().size());
-                },
-                [this](const ProfileReading& reading) {
-                    m_found << reading.section + '.' + reading.key + ": " +
-                                   reading.wide.value_or("not found") + '|' + reading.narrow;
-                }};
+        return {
+            [this](const std::shared_ptr<const ProfileDocument>& document, int wanted) {
+                m_wanted = wanted;
+                m_found << QStringLiteral("document of %1 lines").arg(document->lines().count());
+            },
+            [this](int name, const ProfileReading& reading) {
+                m_found << QString::number(name) + ' ' + reading.section + '.' + reading.key +
+                               ": " + reading.wide.value_or("not found") + '|' + reading.narrow;
+            }};
     }
 
     ProfileFixture m_file;
     QStringList m_found;
+    int m_wanted = -1;
 };
 
 TEST_F(ProfileReadingJobTest, TellsOfTheDocumentAndThenOfEachNameInTheOrderOfTheFile)
@@ -52,8 +59,9 @@ TEST_F(ProfileReadingJobTest, TellsOfTheDocumentAndThenOfEachNameInTheOrderOfThe
     m_file.write("[Net]\nHost=one\nQuery=a=b\nHost=two\n[General]\nSpeed=1\n");
     ProfileReadingJob job(m_file.path(), receiver());
     run(job);
-    EXPECT_EQ(m_found, QStringList({"document of 6 lines", "Net.Query: a=b|", "Net.Host: two|two",
-                                    ".Speed: 1|", "General.Speed: not found|1"}));
+    EXPECT_EQ(m_found,
+              QStringList({"document of 6 lines", "0 Net.Query: a=b|", "1 Net.Host: two|two",
+                           "2 .Speed: 1|", "3 General.Speed: not found|1"}));
 }
 
 TEST_F(ProfileReadingJobTest, AsksForNamesThatQSettingsKeepsButDoesNotFind)
@@ -61,7 +69,7 @@ TEST_F(ProfileReadingJobTest, AsksForNamesThatQSettingsKeepsButDoesNotFind)
     m_file.write("[]\nk=v\n");
     ProfileReadingJob job(m_file.path(), receiver());
     run(job);
-    EXPECT_EQ(m_found, QStringList({"document of 2 lines", ".k: not found|v"}));
+    EXPECT_EQ(m_found, QStringList({"document of 2 lines", "0 .k: not found|v"}));
 }
 
 TEST_F(ProfileReadingJobTest, HasNoNamesToAskForInAMissingFile)
@@ -79,24 +87,93 @@ TEST_F(ProfileReadingJobTest, CountsTheNamesOnceTheFileIsRead)
     EXPECT_EQ(job.progress(), QString());
     EXPECT_FALSE(job.isLoaded());
     run(job);
-    EXPECT_EQ(job.progress(), QStringLiteral("2 values"));
+    EXPECT_EQ(job.progress(), QStringLiteral("Values: 2"));
 }
 
-TEST_F(ProfileReadingJobTest, ExpectsLongStepsUntilALargeFileIsInMemory)
+TEST_F(ProfileReadingJobTest, FindsTheNameThatIsLookedFor)
 {
-    m_file.write("[S]\na=1\nb=2\n" + QByteArray(largest, '\n'));
-    ProfileReadingJob job(m_file.path(), receiver());
-    while (m_found.size() < 2) {
-        EXPECT_TRUE(job.isNextStepLong() || job.isLoaded());
-        ASSERT_TRUE(job.step());
+    m_file.write("[Net]\nHost=one\nQuery=a=b\n");
+    for (const auto& [key, expected] : {std::pair("Query", 1), std::pair("None", -1)}) {
+        ProfileReadingJob job(m_file.path(), receiver());
+        job.lookFor({QStringLiteral("Net"), QLatin1String(key)});
+        run(job);
+        EXPECT_EQ(m_wanted, expected) << key;
     }
+}
+
+TEST_F(ProfileReadingJobTest, AsksForAFewNamesOfALargeFile)
+{
+    m_file.write("[S]\na=1\n" + QByteArray(largest, '\n'));
+    ProfileReadingJob job(m_file.path(), receiver());
+    run(job);
+    EXPECT_EQ(m_found.last(), QStringLiteral("0 S.a: 1|1"));
+}
+
+TEST_F(ProfileReadingJobTest, AsksForNothingWhereThatTakesLong)
+{
+    constexpr int names = 3000;
+    QByteArray bytes = "[S]\n";
+    for (int i = 0; i < names; ++i)
+        bytes += "key" + QByteArray::number(i) + "=value\n";
+    m_file.write(bytes);
+    ProfileReadingJob job(m_file.path(), receiver());
+    run(job);
+    EXPECT_TRUE(job.isLoaded());
+    EXPECT_EQ(m_found, QStringList(QStringLiteral("document of %1 lines").arg(names + 1)));
+}
+
+class ProfileAskingJobTest : public testing::Test
+{
+protected:
+    void load(const QByteArray& bytes)
+    {
+        m_file.write(bytes);
+        ProfileLoadingJob loading(m_file.path());
+        while (loading.step())
+            ;
+        m_document = std::make_shared<const ProfileDocument>(std::move(loading.document()));
+    }
+
+    ProfileFixture m_file;
+    std::shared_ptr<const ProfileDocument> m_document;
+};
+
+TEST_F(ProfileAskingJobTest, AsksForTheNamesThatItIsTold)
+{
+    load("[S]\na=1\nb=2\nc=3\n");
+    std::vector<int> wanted = {0, 2};
+    QStringList answers;
+    ProfileAskingJob job(
+        m_document,
+        [&wanted] {
+            const int next = wanted.empty() ? -1 : wanted.back();
+            if (!wanted.empty())
+                wanted.pop_back();
+            return next;
+        },
+        [&answers](int name, const ProfileReading& reading) {
+            answers << QString::number(name) + reading.key + reading.narrow;
+        });
+    run(job);
+    EXPECT_EQ(answers, QStringList({"2c3", "0a1"}));
+}
+
+TEST_F(ProfileAskingJobTest, ExpectsALongStepUntilALargeFileIsInMemory)
+{
+    load("[S]\na=1\nb=2\n" + QByteArray(largest, '\n'));
+    int name = 0;
+    ProfileAskingJob job(
+        m_document, [&name] { return name++; }, [](int, const ProfileReading&) {});
+    EXPECT_TRUE(job.isNextStepLong());
+    ASSERT_TRUE(job.step());
     EXPECT_FALSE(job.isNextStepLong());
 }
 
-TEST_F(ProfileReadingJobTest, ExpectsNoLongStepsOfASmallFile)
+TEST_F(ProfileAskingJobTest, ExpectsNoLongStepsOfASmallFile)
 {
-    m_file.write("[S]\na=1\n");
-    const ProfileReadingJob job(m_file.path(), receiver());
+    load("[S]\na=1\n");
+    const ProfileAskingJob job(
+        m_document, [] { return 0; }, [](int, const ProfileReading&) {});
     EXPECT_FALSE(job.isNextStepLong());
 }
 

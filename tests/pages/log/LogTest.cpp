@@ -4,7 +4,9 @@
 #include "pages/log/LogPage.h"
 #include "pages/log/LogTable.h"
 #include "tests/pages/ShownToolTip.h"
+#include "tests/support/WaitFor.h"
 #include "window/BusyOverlay.h"
+#include "window/TableCopyJob.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -131,6 +133,39 @@ TEST_F(LogTableTest, FiltersByLevelAndText)
     EXPECT_EQ(filter.rowCount(), 1);
 }
 
+TEST_F(LogTableTest, IsSortedByLevelBehindItsFilter)
+{
+    LogFilter filter(m_model);
+    write(error + info + error);
+    filter.sort(levelColumn);
+    EXPECT_EQ(filter.index(0, textColumn).data().toString().toStdString(), "text");
+    EXPECT_EQ(filter.entry(0).text, "text");
+    filter.setText("fault");
+    EXPECT_EQ(filter.rowCount(), 2);
+    filter.setText({});
+    filter.sort(-1);
+    EXPECT_EQ(filter.entry(0).text, "fault");
+}
+
+// The first line stands last in this order.
+TEST_F(LogTableTest, AppendsAFurtherLineToTheLastEntryInWhateverRowItStands)
+{
+    write(error + info);
+    m_model.sort(levelColumn);
+    write("more\n");
+    EXPECT_EQ(m_model.records().back().text, "text\nmore");
+    EXPECT_EQ(m_model.record(0).text, "text\nmore");
+    EXPECT_EQ(m_model.record(1).text, "fault");
+}
+
+TEST_F(LogTableTest, GivesAllOfALongMessageToBeCopied)
+{
+    const QByteArray message(2000, 'x');
+    write("[INFO] 2026-03-07 09:05:03 : " + message + "\nmore\n");
+    const QModelIndex index = m_model.index(0, textColumn);
+    EXPECT_EQ(index.data(TableCopyJob::wholeTextRole).toString(), QString(message + "\nmore"));
+}
+
 class LogPageTest : public testing::Test
 {
 protected:
@@ -214,6 +249,7 @@ TEST_F(LogPageTest, SavesTheLinesInView)
     m_page.findChild<QLineEdit*>()->setText("to be saved");
     const QString path = m_folder.filePath("saved.log");
     m_page.saveAs(path);
+    ASSERT_TRUE(waitForJob(m_page));
     QFile saved(path);
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     const QByteArray lines = saved.readAll();
@@ -282,6 +318,7 @@ TEST(LogPage, SaysThatTheLogCannotBeWritten)
 TEST_F(LogPageTest, SaysThatAFileCannotBeWritten)
 {
     m_page.saveAs(m_folder.filePath("missing/saved.log"));
+    ASSERT_TRUE(waitForJob(m_page));
     EXPECT_TRUE(m_page.statusText().contains("could not be written"))
         << m_page.statusText().toStdString();
 }

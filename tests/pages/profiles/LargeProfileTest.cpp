@@ -1,10 +1,11 @@
 #include "tests/inspection/profiles/ProfileFixture.h"
 #include "tests/pages/WindowProbe.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QPushButton>
+#include <QLocale>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -13,16 +14,22 @@
 
 namespace {
 
-constexpr int largest = 128 * 1024;
+constexpr int large = 128 * 1024;
+constexpr int veryLarge = 4 * 1024 * 1024;
 
-// A file as large as any that is opened, and the real window.
+// A file that is too large for all of its values to be asked for at once, and the real window.
 class LargeProfile : public testing::Test
 {
 protected:
-    void SetUp() override { m_file.write(content('1')); }
+    // The stamp is one that setStamp() can put back.
+    void SetUp() override
+    {
+        m_file.write(content('1'));
+        m_file.setStamp(m_file.stamp());
+    }
 
     // All files are of the same size.
-    static QByteArray content(char digit, int size = largest)
+    static QByteArray content(char digit, int size = large)
     {
         QByteArray text = "[S]\n";
         for (int i = 0; text.size() + 20 < size; ++i)
@@ -45,6 +52,25 @@ protected:
     void waitForReadings() const
     {
         ASSERT_TRUE(QTest::qWaitFor([this] { return readings().rowCount() > 0; }));
+        ASSERT_TRUE(m_probe.settle());
+    }
+    bool isRead(int row) const { return reading(row, 2) != QStringLiteral("(not asked yet)"); }
+    void waitForRow(int row) const
+    {
+        ASSERT_TRUE(QTest::qWaitFor([this, row] { return isRead(row); }, 60000)) << row;
+    }
+    int last() const { return readings().rowCount() - 1; }
+    // The first row that has not been read while all are being read.
+    int firstUnread() const
+    {
+        int row = 0;
+        while (row < last() && isRead(row))
+            ++row;
+        return row;
+    }
+    void startReadingAll() const
+    {
+        m_probe.click("readAll");
         ASSERT_TRUE(m_probe.page().isBusy());
     }
     // Cancels what runs, and what comes after it.
@@ -70,19 +96,85 @@ protected:
     WindowProbe m_probe{"profiles"};
 };
 
-// Each of the parts may take as long as a turn may: reading the file, parsing its lines for
-// either family, joining them, collecting the names, and parsing the file for the wide calls.
 TEST_F(LargeProfile, IsParsedInManyTurns)
 {
+    m_file.write(content('1', veryLarge));
     start();
     EXPECT_EQ(readings().rowCount(), 0);
     EXPECT_GE(turnsUntil([this] { return readings().rowCount() > 0; }), 5);
-    stop();
+}
+
+TEST_F(LargeProfile, ShowsAllLinesAndAsksForWhatIsInView)
+{
+    m_file.write(content('1', veryLarge));
+    start();
+    waitForReadings();
+    EXPECT_TRUE(m_probe.page().statusText().contains(QStringLiteral("Asked for so far: ")));
+    EXPECT_EQ(m_probe.control<QTableView>("lines").model()->rowCount(), m_file.bytes().count('\n'));
+    waitForRow(0);
+    EXPECT_EQ(reading(0, 2), QStringLiteral("1"));
+    EXPECT_EQ(reading(0, 4), QStringLiteral("1"));
+    EXPECT_FALSE(isRead(last() / 2));
+    EXPECT_FALSE(isRead(last()));
+}
+
+TEST_F(LargeProfile, AsksForTheRowsThatComeIntoView)
+{
+    start();
+    waitForReadings();
+    m_probe.control<QTableView>("readings").scrollToBottom();
+    waitForRow(last());
+    EXPECT_FALSE(isRead(last() / 2));
+}
+
+TEST_F(LargeProfile, AsksForTheChosenNameFirst)
+{
+    start();
+    waitForReadings();
+    m_probe.control<QTableView>("readings").selectRow(last() / 2);
+    EXPECT_EQ(m_probe.text("value"), QString());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_probe.text("value") == QStringLiteral("1"); }));
+}
+
+TEST_F(LargeProfile, KeepsWhatIsTypedWhenTheAnswerComes)
+{
+    start();
+    waitForReadings();
+    m_probe.control<QTableView>("readings").selectRow(last() / 2);
+    QTest::keyClicks(&m_probe.control<QWidget>("value"), QStringLiteral("new"));
+    waitForRow(last() / 2);
+    EXPECT_EQ(m_probe.text("value"), QStringLiteral("new"));
+}
+
+TEST_F(LargeProfile, IsReadWholeOnRequest)
+{
+    m_file.write(content('1', 20 * 1024));
+    start();
+    waitForReadings();
+    ASSERT_FALSE(isRead(last()));
+    startReadingAll();
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_probe.page().statusText(), QStringLiteral("Values: %1. Read differently: 0.")
+                                               .arg(QLocale().toString(readings().rowCount())));
+    EXPECT_FALSE(m_probe.control<QAbstractButton>("readAll").isEnabled());
+}
+
+TEST_F(LargeProfile, CancelKeepsWhatWasReadSoFar)
+{
+    start();
+    waitForReadings();
+    startReadingAll();
+    const int first = firstUnread();
+    waitForRow(first);
+    m_probe.page().cancelJob();
+    EXPECT_TRUE(m_probe.page().statusText().startsWith(QStringLiteral("Stopped. Values: ")));
+    EXPECT_TRUE(isRead(first));
+    EXPECT_FALSE(isRead(last()));
 }
 
 TEST_F(LargeProfile, IsWrittenInManyTurns)
 {
-    m_file.write(content('1', largest - 64)); // room for the value
+    m_file.write(content('1', large - 64)); // room for the value
     start();
     waitForReadings();
     stop();
@@ -100,7 +192,7 @@ TEST_F(LargeProfile, IsWrittenInManyTurns)
 
 TEST_F(LargeProfile, IsTriedInManyTurnsBeforeLinesAreLost)
 {
-    m_file.write(content('1', largest - 64) + "; lost\n");
+    m_file.write(content('1', large - 64) + "; lost\n");
     start();
     waitForReadings();
     stop();
@@ -120,27 +212,27 @@ TEST_F(LargeProfile, IsParsedOnceForAllWideReadings)
     const QDateTime stamp = m_file.stamp();
     start();
     waitForReadings();
+    startReadingAll();
+    waitForRow(firstUnread());
     m_file.write(content('2'));
     m_file.setStamp(stamp);
-    const int before = readings().rowCount();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return readings().rowCount() > before; }));
-    const int last = readings().rowCount() - 1;
-    EXPECT_EQ(reading(last, 2), QStringLiteral("1"));
-    EXPECT_EQ(reading(last, 4), QStringLiteral("2")); // the narrow family's
+    const int next = firstUnread() + 1; // one may have been half asked for
+    waitForRow(next);
+    EXPECT_EQ(reading(next, 2), QStringLiteral("1"));
+    EXPECT_EQ(reading(next, 4), QStringLiteral("2")); // the narrow family's
     stop();
 }
 
-TEST_F(LargeProfile, IsNotKeptInMemoryAfterTheJob)
+TEST_F(LargeProfile, IsNotKeptInMemoryForTheNextReading)
 {
     const QDateTime stamp = m_file.stamp();
     start();
     waitForReadings();
-    stop();
+    waitForRow(0);
     m_file.write(content('2'));
     m_file.setStamp(stamp);
     m_probe.page().refresh();
     EXPECT_TRUE(QTest::qWaitFor([this] { return reading(0, 2) == QStringLiteral("2"); }));
-    stop();
 }
 
 TEST_F(LargeProfile, ChangedMeanwhileIsReadAnew)
@@ -148,11 +240,13 @@ TEST_F(LargeProfile, ChangedMeanwhileIsReadAnew)
     const QDateTime stamp = m_file.stamp();
     start();
     waitForReadings();
+    startReadingAll();
+    waitForRow(firstUnread());
     m_file.write(content('2'));
     m_file.setStamp(stamp.addMSecs(1));
-    const int before = readings().rowCount();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return readings().rowCount() > before; }));
-    EXPECT_EQ(reading(readings().rowCount() - 1, 2), QStringLiteral("2"));
+    const int next = firstUnread() + 1;
+    waitForRow(next);
+    EXPECT_EQ(reading(next, 2), QStringLiteral("2"));
     stop();
 }
 
@@ -163,6 +257,7 @@ TEST_F(LargeProfile, CancelledBeforeItIsParsedLeavesTheFormerOneOpen)
     m_probe.type("file", former.path());
     QTest::keyClick(&m_probe.control<QWidget>("file"), Qt::Key_Return);
     ASSERT_TRUE(m_probe.settle());
+    m_file.write(content('1', veryLarge));
     start();
     ASSERT_TRUE(m_probe.page().isBusy());
     stop();

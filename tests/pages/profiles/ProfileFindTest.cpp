@@ -52,6 +52,18 @@ TEST_F(ProfileFindTest, SaysThatNoLineContainsTheText)
     EXPECT_EQ(line(), 0);
 }
 
+TEST_F(ProfileFindTest, TakesBackThatNoLineContainsTheTextWhereOneDoes)
+{
+    open();
+    m_probe.control<QTableView>("lines").selectRow(1);
+    m_probe.page().find();
+    for (const char* text : {"absent", "Host=one"}) {
+        m_probe.type("find", QLatin1String(text));
+        QTest::keyClick(&field(), Qt::Key_Return);
+    }
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Line 2. "))) << status().toStdString();
+}
+
 TEST_F(ProfileFindTest, SaysThatThereIsNoFile)
 {
     m_probe.page().find();

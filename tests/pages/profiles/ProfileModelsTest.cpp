@@ -1,4 +1,5 @@
 #include "pages/profiles/ProfileLinesModel.h"
+#include "pages/profiles/ProfileReadingsModel.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +8,7 @@ namespace {
 TEST(ProfileModels, HaveNothingToShowWhereThereIsNoCell)
 {
     const ProfileLinesModel lines;
-    const RecordsModel<ProfileReading> readings(ProfileColumns::ofReadings());
+    const ProfileReadingsModel readings;
     for (const int role : {Qt::DisplayRole, Qt::ToolTipRole, Qt::ForegroundRole}) {
         EXPECT_FALSE(lines.data({}, role).isValid());
         EXPECT_FALSE(readings.data({}, role).isValid());

@@ -1,8 +1,8 @@
-#include "inspection/profiles/ProfileDocument.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 
@@ -27,7 +27,7 @@ TEST_F(ProfilesPageTest, ShowsBothReadingsWithTheirDifferences)
     EXPECT_EQ(row("readings", 0), QStringList({"Net", "Host", "one", "≠", "(empty)"}));
     EXPECT_EQ(row("readings", 1), QStringList({"Net", "Query", "a=b", "≠", "(empty)"}));
     EXPECT_EQ(row("readings", 2), QStringList({"Net", "Mask", "255", "=", "255"}));
-    EXPECT_EQ(status(), QStringLiteral("3 values, 2 of them read differently."));
+    EXPECT_EQ(status(), QStringLiteral("Values: 3. Read differently: 2."));
 }
 
 TEST_F(ProfilesPageTest, TellsWhatTheWideFamilyDoesNotFind)
@@ -95,19 +95,29 @@ TEST_F(ProfilesPageTest, RefreshReadsTheFileAgain)
     EXPECT_EQ(row("readings", 0), QStringList({"Net", "Mask", "254", "=", "254"}));
 }
 
-TEST_F(ProfilesPageTest, RefreshKeepsTheChosenLineAndReading)
+TEST_F(ProfilesPageTest, RefreshKeepsTheChosenReadingWithItsLine)
 {
     open();
-    m_probe.control<QTableView>("lines").selectRow(3);
     m_probe.control<QTableView>("readings").selectRow(2);
     m_file.write("[New]\na=1\n[Net]\nQuery=a=b\nMask=254\n");
     m_probe.page().refresh();
     ASSERT_TRUE(m_probe.settle());
-    EXPECT_EQ(m_probe.control<QTableView>("lines").currentIndex().row(), 3);
+    EXPECT_EQ(m_probe.control<QTableView>("lines").currentIndex().row(), 4);
     EXPECT_EQ(m_probe.control<QTableView>("readings").currentIndex().row(), 2);
     EXPECT_EQ(m_probe.text("key"), QStringLiteral("Mask"));
     EXPECT_EQ(m_probe.text("value"), QStringLiteral("254"));
-    EXPECT_EQ(status(), QStringLiteral("3 values, 1 of them read differently."));
+    EXPECT_EQ(status(), QStringLiteral("Values: 3. Read differently: 1."));
+}
+
+TEST_F(ProfilesPageTest, RefreshKeepsAChosenLineThatHasNoReading)
+{
+    open();
+    m_probe.control<QTableView>("lines").selectRow(4);
+    m_file.write("; new\n[Net]\nHost=one\n\n\nMask=255\n");
+    m_probe.page().refresh();
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_probe.control<QTableView>("lines").currentIndex().row(), 4);
+    EXPECT_FALSE(m_probe.control<QTableView>("readings").currentIndex().isValid());
 }
 
 TEST_F(ProfilesPageTest, RefreshKeepsWhatIsBeingTyped)
@@ -179,48 +189,20 @@ TEST_F(ProfilesPageTest, TakesNoDropOfAnAddress)
     EXPECT_FALSE(enter.isAccepted());
 }
 
-TEST_F(ProfilesPageTest, RefusesAFolderAndKeepsTheOpenFile)
+TEST_F(ProfilesPageTest, RefusesAFolderAndLeavesWhatIsTypedToBeMended)
 {
     open();
     open(m_file.folder());
     EXPECT_TRUE(status().endsWith(QStringLiteral("is a folder.")));
     EXPECT_EQ(model("lines").rowCount(), 7);
-    EXPECT_EQ(m_probe.text("file"), m_file.path());
+    EXPECT_EQ(m_probe.text("file"), m_file.folder());
+    EXPECT_TRUE(m_probe.control<QLabel>("form").text().startsWith(QStringLiteral("profile.ini. ")));
 }
 
 TEST_F(ProfilesPageTest, RefusesAFileInAMissingFolder)
 {
     open(m_file.folder() + QStringLiteral("/none/a.ini"));
     EXPECT_TRUE(status().startsWith(QStringLiteral("There is no folder")));
-}
-
-TEST_F(ProfilesPageTest, RefusesAFileThatIsTooLarge)
-{
-    constexpr int largest = 128 * 1024;
-    m_file.write(QByteArray(largest, '\n'));
-    EXPECT_EQ(ProfileDocument::fault(m_file.path()), QString());
-    m_file.write(QByteArray(largest + 1, '\n'));
-    open();
-    EXPECT_TRUE(
-        status().endsWith(QStringLiteral("is larger than 128 KiB, the most that is opened here.")));
-    EXPECT_EQ(model("lines").rowCount(), 0);
-}
-
-TEST_F(ProfilesPageTest, CancelKeepsWhatWasReadSoFar)
-{
-    QByteArray large = "[S]\n";
-    for (int i = 0; i < 5000; ++i)
-        large += "key" + QByteArray::number(i) + "=value\n";
-    m_file.write(large);
-    m_probe.type("file", m_file.path());
-    QTest::keyClick(&m_probe.control<QWidget>("file"), Qt::Key_Return);
-    // The first slice may do no more than parse the file.
-    ASSERT_TRUE(QTest::qWaitFor([this] { return model("readings").rowCount() > 0; }));
-    ASSERT_TRUE(m_probe.page().isBusy());
-    m_probe.page().cancelJob();
-    EXPECT_TRUE(status().startsWith(QStringLiteral("Stopped.")));
-    EXPECT_GT(model("readings").rowCount(), 0);
-    EXPECT_LT(model("readings").rowCount(), 5000);
 }
 
 TEST_F(ProfilesPageTest, F2PutsTheKeyboardOnTheValue)

@@ -1,0 +1,88 @@
+#include "inspection/profiles/ProfileForm.h"
+
+#include <QLocale>
+#include <QStringList>
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int utf8Mib = 106; // the number that is registered for UTF-8
+constexpr char utf8Mark[] = "\xef\xbb\xbf";
+
+bool isAscii(const QByteArray& bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+bool isUtf8Text(const QByteArray& bytes)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    static_cast<void>(
+        QTextCodec::codecForMib(utf8Mib)->toUnicode(bytes.constData(), bytes.size(), &state));
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+} // namespace
+
+ProfileForm::ProfileForm(const QByteArray& beginning)
+    : m_codec(QTextCodec::codecForUtfText(beginning, QTextCodec::codecForMib(utf8Mib))),
+      m_hasMark(m_codec->mibEnum() != utf8Mib || beginning.startsWith(utf8Mark))
+{
+}
+
+bool ProfileForm::isUtf8() const
+{
+    return !m_codec || m_codec->mibEnum() == utf8Mib;
+}
+
+void ProfileForm::addLine(const QByteArray& line)
+{
+    const bool hasFeed = line.endsWith('\n');
+    const bool hasReturn = line.endsWith("\r\n");
+    m_returnsWithFeeds += hasReturn ? 1 : 0;
+    m_lineFeeds += hasFeed && !hasReturn ? 1 : 0;
+    m_returns += line.count('\r') - (hasReturn ? 1 : 0);
+    if (!isAscii(line) && !isUtf8Text(line))
+        m_otherLines.push_back(m_lines);
+    ++m_lines;
+}
+
+bool ProfileForm::isUtf8(int line) const
+{
+    return !std::binary_search(m_otherLines.begin(), m_otherLines.end(), line);
+}
+
+QString ProfileForm::text() const
+{
+    return tr("Encoding: %1. Byte order mark: %2. Line ends: %3.")
+        .arg(encodingText(), m_hasMark ? tr("yes") : tr("no"), lineEndsText());
+}
+
+QString ProfileForm::encodingText() const
+{
+    const QString name = m_codec ? QString::fromLatin1(m_codec->name()) : QStringLiteral("UTF-8");
+    if (m_otherLines.empty())
+        return name;
+    return tr("not UTF-8 (lines: %1, the first is %2)")
+        .arg(QLocale().toString(qulonglong{m_otherLines.size()}),
+             QLocale().toString(m_otherLines.front() + 1));
+}
+
+QString ProfileForm::lineEndsText() const
+{
+    QStringList kinds;
+    const auto add = [&kinds](const char* name, int count) {
+        if (count > 0)
+            kinds << QLatin1String(name) + QLatin1Char(' ') + QLocale().toString(count);
+    };
+    add("LF", m_lineFeeds);
+    add("CRLF", m_returnsWithFeeds);
+    add("CR", m_returns);
+    if (kinds.isEmpty())
+        return tr("none");
+    const QString all = kinds.join(QStringLiteral(", "));
+    return kinds.size() > 1 ? tr("mixed, %1").arg(all) : all;
+}

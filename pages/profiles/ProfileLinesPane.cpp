@@ -1,0 +1,195 @@
+#include "pages/profiles/ProfileLinesPane.h"
+
+#include "inspection/profiles/ProfileFindJob.h"
+#include "pages/profiles/ProfileEncodingBox.h"
+#include "pages/profiles/ProfileFindBar.h"
+#include "pages/profiles/ProfileLinesModel.h"
+#include "pages/profiles/ProfileTable.h"
+#include "platform/profiles/LineStateText.h"
+#include "window/EmptyHint.h"
+#include "window/PageContext.h"
+#include "window/ShownText.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QSignalBlocker>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+ProfileLinesPane::ProfileLinesPane(PageContext& page, QWidget* parent)
+    : QWidget(parent),
+      m_page(page),
+      m_model(new ProfileLinesModel(this)),
+      m_form(new QLabel),
+      m_encodingLabel(new QLabel(tr("Shown as:"))),
+      m_encoding(new ProfileEncodingBox),
+      m_find(new ProfileFindBar),
+      m_table(makeProfileTable(m_model, tr("Lines of the file"), QStringLiteral("lines")))
+{
+    makeLines();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(makeFormRow());
+    layout->addWidget(m_find);
+    layout->addWidget(m_table, 1);
+    m_find->hide();
+    connect(m_find, &ProfileFindBar::nextRequested, this, &ProfileLinesPane::findNext);
+    connect(m_find, &ProfileFindBar::closed, m_table, QOverload<>::of(&QWidget::setFocus));
+    showForm();
+}
+
+QLayout* ProfileLinesPane::makeFormRow()
+{
+    m_form->setObjectName(QStringLiteral("form"));
+    m_form->setTextFormat(Qt::PlainText);
+    m_form->setWordWrap(true);
+    m_form->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_encodingLabel->setBuddy(m_encoding);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_form, 1);
+    row->addWidget(m_encodingLabel);
+    row->addWidget(m_encoding);
+    connect(m_encoding, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &ProfileLinesPane::showCodec);
+    return row;
+}
+
+void ProfileLinesPane::makeLines()
+{
+    const QFontMetrics metrics = m_table->fontMetrics();
+    int margin = 0;
+    const QStringList texts = shortTexts();
+    for (const QString& text : texts)
+        margin = std::max(margin, metrics.horizontalAdvance(text));
+    QHeaderView* header = m_table->horizontalHeader();
+    header->resizeSection(ProfileColumns::NarrowStateColumn, margin + metrics.height());
+    header->resizeSection(ProfileColumns::WideStateColumn, margin + metrics.height());
+    new EmptyHint(m_table,
+                  tr("Open a profile, or drop one here: each line appears with a margin that "
+                     "tells how either family of calls reads it."));
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) {
+                if (current.isValid())
+                    emit lineChosen(current.row());
+            });
+}
+
+void ProfileLinesPane::setDocument(std::shared_ptr<const ProfileDocument> document)
+{
+    m_model->setDocument(std::move(document));
+    showForm();
+}
+
+// The file's name, as the field above it may hold another one that has been refused.
+void ProfileLinesPane::showForm()
+{
+    const ProfileDocument* document = m_model->document().get();
+    const bool isThere = document && document->exists();
+    m_form->setVisible(isThere);
+    const bool hasOtherLines = isThere && !document->lines().form().otherLines().empty();
+    m_encodingLabel->setVisible(hasOtherLines);
+    m_encoding->setVisible(hasOtherLines);
+    if (isThere)
+        m_form->setText(withoutLongWords(
+            tr("%1. %2", "name and form of a file")
+                .arg(QFileInfo(document->path()).fileName(), document->lines().form().text())));
+    showCodec();
+    const QString widest =
+        QString::number(std::max(m_model->rowCount(), 10000)).replace(QLatin1Char('1'), '9');
+    const QFontMetrics metrics = m_table->fontMetrics();
+    m_table->horizontalHeader()->resizeSection(
+        ProfileColumns::NumberColumn, metrics.horizontalAdvance(widest) + metrics.height());
+}
+
+void ProfileLinesPane::showCodec()
+{
+    m_model->setCodec(m_encoding->codec());
+}
+
+void ProfileLinesPane::setNotFound(int line)
+{
+    m_model->setNotFound(line);
+}
+
+int ProfileLinesPane::chosenLine() const
+{
+    return chosenRow(*m_table);
+}
+
+void ProfileLinesPane::chooseLine(int line)
+{
+    const QSignalBlocker blocker(this);
+    if (line < m_model->rowCount())
+        m_table->selectRow(line);
+}
+
+QString ProfileLinesPane::text(int line) const
+{
+    return m_model->line(line).text;
+}
+
+QString ProfileLinesPane::description(int row) const
+{
+    const ProfileDocument::Line line = m_model->line(row);
+    QString text =
+        tr("Line %1. Narrow: %2 Wide: %3")
+            .arg(QLocale().toString(line.number), longText(line.narrow, ProfileFamily::Narrow),
+                 longText(line.wide, ProfileFamily::Wide));
+    if (!line.isUtf8)
+        text += QLatin1Char(' ') + ProfileColumns::otherEncodingText();
+    return text;
+}
+
+int ProfileLinesPane::scrollPosition() const
+{
+    return scrolledRows(*m_table);
+}
+
+void ProfileLinesPane::scrollTo(int position)
+{
+    scrollRows(*m_table, position);
+}
+
+bool ProfileLinesPane::hasLines() const
+{
+    return m_model->rowCount() > 0;
+}
+
+void ProfileLinesPane::find()
+{
+    m_find->open();
+}
+
+// Searches from the line behind the chosen one to the end, and from the first line on.
+void ProfileLinesPane::findNext()
+{
+    const QString text = m_find->text();
+    if (text.isEmpty()) {
+        find();
+        return;
+    }
+    m_page.startJob(tr("Searching the lines"),
+                    std::make_unique<ProfileFindJob>(m_model->document(), text, chosenLine() + 1,
+                                                     m_model->codec()),
+                    [this, text](const ProfileFindJob& job, bool complete) {
+                        finishSearch(job, complete, text);
+                    });
+}
+
+void ProfileLinesPane::finishSearch(const ProfileFindJob& job, bool complete, const QString& text)
+{
+    if (job.found() >= 0) {
+        m_table->setCurrentIndex(m_model->index(job.found(), ProfileColumns::TextColumn));
+        m_page.setStatus(description(job.found()));
+    } else if (complete) {
+        m_page.setStatus(tr("No line contains “%1”.").arg(text));
+    } else {
+        m_page.setStatus(tr("Stopped before all lines were searched."));
+    }
+}

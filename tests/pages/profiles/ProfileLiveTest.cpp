@@ -1,0 +1,94 @@
+#include "tests/pages/profiles/ProfilesPageFixture.h"
+
+#include <QLineEdit>
+#include <QScrollBar>
+
+namespace {
+
+// What others do to the file while the page is in view.
+class ProfileLiveTest : public ProfilesPageTest
+{
+protected:
+    QTableView& table(const char* view) const { return m_probe.control<QTableView>(view); }
+    bool becomes(const char* view, int number, const QStringList& cells) const
+    {
+        return QTest::qWaitFor(
+            [&] { return model(view).rowCount() > number && row(view, number) == cells; });
+    }
+    bool statusBecomes(const QString& part) const
+    {
+        return QTest::qWaitFor([&] { return status().contains(part); });
+    }
+};
+
+TEST_F(ProfileLiveTest, ShowsWhatSomebodyElseWrites)
+{
+    open();
+    m_file.write("[Net]\nMask=1\n");
+    EXPECT_TRUE(becomes("readings", 0, {"Net", "Mask", "1", "=", "1"}));
+    EXPECT_EQ(model("lines").rowCount(), 2);
+    EXPECT_TRUE(statusBecomes(QStringLiteral("changed by somebody else")));
+}
+
+TEST_F(ProfileLiveTest, ShowsAFileThatReplacesIt)
+{
+    open();
+    QFile other(m_file.folder() + QStringLiteral("/other.ini"));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.write("[Other]\nk=v\n");
+    other.close();
+    ASSERT_EQ(rename(qPrintable(other.fileName()), qPrintable(m_file.path())), 0);
+    EXPECT_TRUE(becomes("readings", 0, {"Other", "k", "v", "=", "v"}));
+}
+
+TEST_F(ProfileLiveTest, SaysThatTheFileHasBeenDeletedAndShowsItWhenItIsBack)
+{
+    open();
+    ASSERT_TRUE(QFile::remove(m_file.path()));
+    EXPECT_TRUE(statusBecomes(QStringLiteral("has been deleted")));
+    EXPECT_EQ(model("lines").rowCount(), 0);
+    m_file.write("[Net]\nMask=1\n");
+    EXPECT_TRUE(becomes("readings", 0, {"Net", "Mask", "1", "=", "1"}));
+}
+
+TEST_F(ProfileLiveTest, ShowsAMissingFileWhenItComes)
+{
+    ASSERT_TRUE(QFile::remove(m_file.path()));
+    open();
+    m_file.write("[Net]\nMask=1\n");
+    EXPECT_TRUE(becomes("readings", 0, {"Net", "Mask", "1", "=", "1"}));
+}
+
+TEST_F(ProfileLiveTest, KeepsWhatIsChosenAndTyped)
+{
+    open();
+    table("readings").selectRow(2);
+    table("readings").setFocus();
+    QTest::keyClick(&table("readings"), Qt::Key_F2);
+    QTest::keyClicks(&m_probe.control<QLineEdit>("value"), QStringLiteral("7"));
+    m_probe.type("file", QStringLiteral("/typed"));
+    m_file.write("[Net]\nMask=1\n");
+    ASSERT_TRUE(becomes("readings", 0, {"Net", "Mask", "1", "=", "1"}));
+    EXPECT_EQ(table("readings").currentIndex().row(), 0);
+    EXPECT_EQ(table("lines").currentIndex().row(), 1);
+    EXPECT_EQ(m_probe.text("value"), QStringLiteral("7"));
+    EXPECT_EQ(m_probe.text("file"), QStringLiteral("/typed"));
+    EXPECT_TRUE(m_probe.control<QWidget>("value").hasFocus());
+}
+
+TEST_F(ProfileLiveTest, KeepsTheScrollPosition)
+{
+    QByteArray bytes = "[S]\n";
+    for (int i = 0; i < 500; ++i)
+        bytes += "key" + QByteArray::number(i) + "=1\n";
+    m_file.write(bytes);
+    open();
+    for (const char* view : {"lines", "readings"})
+        table(view).verticalScrollBar()->setValue(100);
+    m_file.write(bytes + "last=1\n");
+    ASSERT_TRUE(becomes("readings", 500, {"S", "last", "1", "=", "1"}));
+    for (const char* view : {"lines", "readings"})
+        EXPECT_EQ(table(view).verticalScrollBar()->value(), 100) << view;
+}
+
+} // namespace

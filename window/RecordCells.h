@@ -1,0 +1,26 @@
+#pragma once
+
+#include "window/ShownText.h"
+
+#include <QVariant>
+
+/// What a cell of a table of records has for a role, as its column describes it: see RecordColumn.
+template <typename Column, typename Record>
+QVariant cellData(const Column& column, const Record& record, int role)
+{
+    if (role == Qt::DisplayRole)
+        return column.text(record);
+    QVariant look = column.look ? column.look(record, role) : QVariant();
+    if (role == Qt::ToolTipRole && !look.isValid())
+        return plainToolTip(column.text(record));
+    return look;
+}
+
+/// The same for the column's header.
+template <typename Column>
+QVariant headerCellData(const Column& column, int role)
+{
+    if (role == Qt::ToolTipRole && !column.tip.isEmpty())
+        return plainToolTip(column.tip);
+    return role == Qt::DisplayRole ? column.title : QVariant();
+}
