@@ -2818,8 +2818,12 @@ Wide: %2</source>
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>The four root keys are one here: what is set under one is found under each.</source>
-        <translation>四个根项在此是同一个：在其中一个下设置的内容，在每一个下都能找到。</translation>
+        <source>All four root keys are one here.</source>
+        <translation>四个根项在此是同一个。</translation>
+    </message>
+    <message>
+        <source>What is set under one of HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE and HKEY_USERS is found under each of them.</source>
+        <translation>在 HKEY_CLASSES_ROOT、HKEY_CURRENT_USER、HKEY_LOCAL_MACHINE 和 HKEY_USERS 其中一个下设置的内容，在每一个下都能找到。</translation>
     </message>
 </context>
 <context>
