@@ -909,18 +909,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>项(&amp;K)</translation>
     </message>
     <message>
-        <source>N&amp;ames of values</source>
-        <translation>值的名称(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Data of &amp;values</source>
-        <translation>值的数据(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Match &amp;upper and lower case</source>
-        <translation>区分大小写(&amp;U)</translation>
-    </message>
-    <message>
         <source>W&amp;hole words</source>
         <translation>全字匹配(&amp;H)</translation>
     </message>
@@ -929,12 +917,36 @@ Put it in the place of the file to bring everything back.</source>
         <translation>返回(&amp;B)</translation>
     </message>
     <message>
-        <source>Choose where to search: in keys, in names, in data, or in several.</source>
-        <translation>请选择查找范围：项、名称、数据，或其中几种。</translation>
-    </message>
-    <message>
         <source>Found place %L1 of %L2 (F3: next, Shift+F3: previous).</source>
         <translation>第 %L1 处，共 %L2 处（F3：下一处，Shift+F3：上一处）。</translation>
+    </message>
+    <message>
+        <source>N&amp;ames</source>
+        <translation>名称(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Values</source>
+        <translation>值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Match &amp;upper/lower case</source>
+        <translation>区分大小写(&amp;U)</translation>
+    </message>
+    <message>
+        <source>In the names of keys</source>
+        <translation>在项的名称中</translation>
+    </message>
+    <message>
+        <source>In the names of values</source>
+        <translation>在值的名称中</translation>
+    </message>
+    <message>
+        <source>In the data of values</source>
+        <translation>在值的数据中</translation>
+    </message>
+    <message>
+        <source>Choose where to search: in keys, in names, in values, or in several.</source>
+        <translation>请选择查找范围：项、名称、值，或其中几种。</translation>
     </message>
 </context>
 <context>
@@ -3528,16 +3540,16 @@ Wide: %2</source>
         <translation>存储的文件</translation>
     </message>
     <message>
-        <source>An export first keeps all that is shown here.</source>
-        <translation>先导出可保留此处显示的全部内容。</translation>
-    </message>
-    <message>
         <source>Write</source>
         <translation>写入</translation>
     </message>
     <message>
         <source>Export first...</source>
         <translation>先导出...</translation>
+    </message>
+    <message>
+        <source>An export first keeps what host libraries can read now.</source>
+        <translation>先导出可保留主机库目前能读取的内容。</translation>
     </message>
 </context>
 <context>
