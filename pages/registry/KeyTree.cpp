@@ -1,5 +1,7 @@
 #include "pages/registry/KeyTree.h"
 
+#include "window/ViewFocus.h"
+
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -16,6 +18,7 @@ KeyTree::KeyTree(QWidget* parent) : QTreeView(parent), m_keys(new RegistryTreeMo
     setAccessibleName(tr("Keys"));
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    new ViewFocus(this);
     setTextElideMode(Qt::ElideMiddle);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     setMinimumWidth(fontMetrics().averageCharWidth() * 20);
