@@ -41,6 +41,7 @@ ProfileReadingsPane::ProfileReadingsPane(PageContext& page, QWidget* parent)
 {
     makeTable();
     addEditAction();
+    addDeleteAction();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_table, 1);
@@ -59,6 +60,7 @@ void ProfileReadingsPane::makeTable()
     new ColumnBalancer(m_table, ProfileColumns::WideColumn, QStringLiteral("255.255.255.0"));
     new EmptyHint(m_table, tr("What the wide and the narrow calls read stands here side by side."));
     m_table->viewport()->installEventFilter(this);
+    connect(m_model, &QAbstractItemModel::layoutChanged, &m_soon, QOverload<>::of(&QTimer::start));
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, &m_soon,
             QOverload<>::of(&QTimer::start));
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -78,6 +80,18 @@ void ProfileReadingsPane::addEditAction()
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(edit, &QAction::triggered, this, &ProfileReadingsPane::editRequested);
     connect(m_table, &QTableView::activated, this, &ProfileReadingsPane::editRequested);
+}
+
+void ProfileReadingsPane::addDeleteAction()
+{
+    auto* remove = new QAction(tr("Delete key"), m_table);
+    remove->setShortcut(Qt::Key_Delete);
+    remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_table->addAction(remove);
+    connect(remove, &QAction::triggered, this, [this] {
+        if (chosenName() >= 0)
+            emit deletionRequested(chosenName());
+    });
 }
 
 QLayout* ProfileReadingsPane::makeButtonRow()

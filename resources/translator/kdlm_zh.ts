@@ -468,6 +468,74 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>DifferenceColumns</name>
+    <message>
+        <source>equal lines left out</source>
+        <translation>省略的相同行</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>end of a line</comment>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>not text</source>
+        <translation>非文本</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>line end</source>
+        <translation>换行符</translation>
+    </message>
+    <message>
+        <source>±</source>
+        <comment>column of signs</comment>
+        <translation>±</translation>
+    </message>
+    <message>
+        <source>− removed, + added, ⋯ equal lines left out</source>
+        <translation>− 删除，+ 添加，⋯ 省略的相同行</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <comment>number of a line</comment>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <comment>number of a line</comment>
+        <translation>之后</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>of a line</comment>
+        <translation>行尾</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+</context>
+<context>
     <name>DigestJob</name>
     <message>
         <source>MD5 padding: %L1 blocks left</source>
@@ -841,18 +909,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>项(&amp;K)</translation>
     </message>
     <message>
-        <source>N&amp;ames of values</source>
-        <translation>值的名称(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Data of &amp;values</source>
-        <translation>值的数据(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Match &amp;upper and lower case</source>
-        <translation>区分大小写(&amp;U)</translation>
-    </message>
-    <message>
         <source>W&amp;hole words</source>
         <translation>全字匹配(&amp;H)</translation>
     </message>
@@ -861,12 +917,36 @@ Put it in the place of the file to bring everything back.</source>
         <translation>返回(&amp;B)</translation>
     </message>
     <message>
-        <source>Choose where to search: in keys, in names, in data, or in several.</source>
-        <translation>请选择查找范围：项、名称、数据，或其中几种。</translation>
-    </message>
-    <message>
         <source>Found place %L1 of %L2 (F3: next, Shift+F3: previous).</source>
         <translation>第 %L1 处，共 %L2 处（F3：下一处，Shift+F3：上一处）。</translation>
+    </message>
+    <message>
+        <source>N&amp;ames</source>
+        <translation>名称(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Values</source>
+        <translation>值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Match &amp;upper/lower case</source>
+        <translation>区分大小写(&amp;U)</translation>
+    </message>
+    <message>
+        <source>In the names of keys</source>
+        <translation>在项的名称中</translation>
+    </message>
+    <message>
+        <source>In the names of values</source>
+        <translation>在值的名称中</translation>
+    </message>
+    <message>
+        <source>In the data of values</source>
+        <translation>在值的数据中</translation>
+    </message>
+    <message>
+        <source>Choose where to search: in keys, in names, in values, or in several.</source>
+        <translation>请选择查找范围：项、名称、值，或其中几种。</translation>
     </message>
 </context>
 <context>
@@ -1850,37 +1930,6 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
-    <name>LostLinesDialog</name>
-    <message>
-        <source>Lines that would be lost</source>
-        <translation>将会丢失的行</translation>
-    </message>
-    <message>
-        <source>%1 (%2): %3</source>
-        <translation>%1（%2）：%3</translation>
-    </message>
-    <message>
-        <source>The narrow family writes the whole file anew, sorted, and only what it has kept. These lines would be lost:</source>
-        <translation>窄字符接口会按排序重写整个文件，且只写入它保留的内容。以下各行将会丢失：</translation>
-    </message>
-    <message>
-        <source>&amp;Write all the same</source>
-        <translation>仍然写入(&amp;W)</translation>
-    </message>
-    <message>
-        <source>Changes to the file</source>
-        <translation>对文件的更改</translation>
-    </message>
-    <message>
-        <source>The narrow family writes the whole file anew. No line that holds anything would be lost, but the file would not stay as it is:</source>
-        <translation>窄字符接口会重写整个文件。不会丢失有内容的行，但文件不会保持原样：</translation>
-    </message>
-    <message>
-        <source>The wide family writes the whole file anew, and only what it has kept. These lines would be lost or cut short:</source>
-        <translation>宽字符接口会重写整个文件，且只写入它保留的内容。以下各行将会丢失或被截断：</translation>
-    </message>
-</context>
-<context>
     <name>MainWindow</name>
     <message>
         <source>Quayside</source>
@@ -1991,25 +2040,6 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
-    </message>
-</context>
-<context>
-    <name>NarrowRewriting</name>
-    <message>
-        <source>Blank lines lost: %1.</source>
-        <translation>丢失的空行：%1。</translation>
-    </message>
-    <message>
-        <source>The order of sections and keys changes.</source>
-        <translation>节和键的顺序会改变。</translation>
-    </message>
-    <message>
-        <source>Spaces and line ends are normalised.</source>
-        <translation>空格和换行符会被规范化。</translation>
-    </message>
-    <message>
-        <source>The encoding becomes UTF-8.</source>
-        <translation>编码将变为 UTF-8。</translation>
     </message>
 </context>
 <context>
@@ -2300,6 +2330,54 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ProfileDifferenceDialog</name>
+    <message>
+        <source>No family of calls can delete: a null value is written as an empty one, and a call without a key is refused. So these lines are taken out of the file, and the others stay as they are.</source>
+        <translation>两种接口都不能删除：空指针值会写成空值，没有键的调用会被拒绝。因此从文件中取出以下各行，其余各行保持原样。</translation>
+    </message>
+    <message>
+        <source>The narrow family writes the whole file anew, sorted, and only what it has kept. The file would change like this:</source>
+        <translation>窄字符接口会按排序重写整个文件，且只写入它保留的内容。文件将有以下变化：</translation>
+    </message>
+    <message>
+        <source>The wide family writes the whole file anew, sorted, and only what it has kept. The file would change like this:</source>
+        <translation>宽字符接口会按排序重写整个文件，且只写入它保留的内容。文件将有以下变化：</translation>
+    </message>
+    <message>
+        <source>Changes to the file</source>
+        <translation>对文件的更改</translation>
+    </message>
+    <message>
+        <source>Lines to be deleted</source>
+        <translation>将要删除的行</translation>
+    </message>
+    <message>
+        <source>&amp;Write all the same</source>
+        <translation>仍然写入(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete these lines</source>
+        <translation>删除这些行(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Lines before and after</source>
+        <translation>更改前后的各行</translation>
+    </message>
+    <message>
+        <source>Lines removed: %1. Lines added: %2.</source>
+        <translation>删除的行：%1。添加的行：%2。</translation>
+    </message>
+    <message>
+        <source>These lines are not in the file&apos;s encoding, and their bytes would be lost: %1.</source>
+        <translation>以下各行不符合文件的编码，其字节将会丢失：%1。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between numbers of lines</comment>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
     <name>ProfileDocument</name>
     <message>
         <source>%1 is a folder.</source>
@@ -2368,6 +2446,22 @@ Wide: %2</source>
         <source>Copies the file beside itself, as .bak, before it is written.</source>
         <translation>写入之前在文件旁复制一份 .bak 备份。</translation>
     </message>
+    <message>
+        <source>Dele&amp;te</source>
+        <translation>删除(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Takes lines out of the file: neither family of calls can delete.</source>
+        <translation>从文件中取出行：两种接口都不能删除。</translation>
+    </message>
+    <message>
+        <source>This &amp;key</source>
+        <translation>此键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The whole &amp;section</source>
+        <translation>整个节(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditor</name>
@@ -2398,6 +2492,54 @@ Wide: %2</source>
     <message>
         <source>The value could not be written to %1.</source>
         <translation>无法将值写入 %1。</translation>
+    </message>
+    <message>
+        <source>Trying the change on a copy of %1</source>
+        <translation>正在 %1 的副本上试写</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation>正在写入 %1</translation>
+    </message>
+    <message>
+        <source>%1 has been deleted since it was read. Writing makes a new file that holds nothing but this value.</source>
+        <translation>%1 在读取之后已被删除。写入会新建一个只含此值的文件。</translation>
+    </message>
+    <message>
+        <source>%1 has been replaced by another file since it was read. Writing changes the file that lies there now.</source>
+        <translation>%1 在读取之后已被另一个文件取代。写入会更改现在的那个文件。</translation>
+    </message>
+    <message>
+        <source>Not the file that was read</source>
+        <translation>已不是所读取的文件</translation>
+    </message>
+    <message>
+        <source>&amp;Write all the same</source>
+        <translation>仍然写入(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Nothing written: the file holds this value already.</source>
+        <translation>未写入：文件中已是此值。</translation>
+    </message>
+    <message>
+        <source>Written.</source>
+        <translation>已写入。</translation>
+    </message>
+    <message>
+        <source>Deleted.</source>
+        <translation>已删除。</translation>
+    </message>
+    <message>
+        <source>Written; the backup copy is %1.</source>
+        <translation>已写入；备份为 %1。</translation>
+    </message>
+    <message>
+        <source>Deleted; the backup copy is %1.</source>
+        <translation>已删除；备份为 %1。</translation>
+    </message>
+    <message>
+        <source>The file is not as the copy was.</source>
+        <translation>文件与试写的副本不同。</translation>
     </message>
 </context>
 <context>
@@ -2460,6 +2602,69 @@ Wide: %2</source>
     <message>
         <source>mixed, %1</source>
         <translation>混合，%1</translation>
+    </message>
+    <message>
+        <source>The encoding changes: %1, then %2.</source>
+        <translation>编码改变：原为 %1，之后为 %2。</translation>
+    </message>
+    <message>
+        <source>The byte order mark goes.</source>
+        <translation>字节顺序标记将消失。</translation>
+    </message>
+    <message>
+        <source>A byte order mark is added.</source>
+        <translation>将添加字节顺序标记。</translation>
+    </message>
+    <message>
+        <source>The line ends change: %1, then %2.</source>
+        <translation>换行符改变：原为 %1，之后为 %2。</translation>
+    </message>
+    <message>
+        <source>The last line gets a line end.</source>
+        <translation>最后一行将加上换行符。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>The file stays as it is.</source>
+        <translation>文件保持原样。</translation>
+    </message>
+    <message>
+        <source>%1 could not be put back.</source>
+        <translation>无法恢复 %1。</translation>
+    </message>
+    <message>
+        <source>Undone: %1.</source>
+        <translation>已撤销：%1。</translation>
+    </message>
+    <message>
+        <source>Made again: %1.</source>
+        <translation>已重做：%1。</translation>
+    </message>
+    <message>
+        <source>%1 is no longer as the change &quot;%2&quot; left it. Putting it back loses what was written to it meanwhile.</source>
+        <translation>%1 已不是更改“%2”之后的样子。恢复它会丢失此后写入的内容。</translation>
+    </message>
+    <message>
+        <source>The file has changed</source>
+        <translation>文件已改变</translation>
+    </message>
+    <message>
+        <source>&amp;Put it back</source>
+        <translation>恢复(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Set &quot;%1&quot; in %2</source>
+        <translation>设置 %2 中的“%1”</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot; from %2</source>
+        <translation>从 %2 删除“%1”</translation>
+    </message>
+    <message>
+        <source>Delete [%1] from %2</source>
+        <translation>从 %2 删除 [%1]</translation>
     </message>
 </context>
 <context>
@@ -2552,6 +2757,10 @@ Wide: %2</source>
         <source>Next difference</source>
         <translation>下一处差异</translation>
     </message>
+    <message>
+        <source>Delete key</source>
+        <translation>删除键</translation>
+    </message>
 </context>
 <context>
     <name>ProfileWriter</name>
@@ -2574,6 +2783,18 @@ Wide: %2</source>
     <message>
         <source>Nothing written: the wide family would not read this back under that name.</source>
         <translation>未写入：宽字符接口将无法按该名称读回此值。</translation>
+    </message>
+    <message>
+        <source>There is no such file: nothing can be deleted from it.</source>
+        <translation>文件不存在：无可删除。</translation>
+    </message>
+    <message>
+        <source>Nothing deleted: the narrow family does not find that.</source>
+        <translation>未删除：窄字符接口找不到该项。</translation>
+    </message>
+    <message>
+        <source>Nothing deleted: the wide family does not find that.</source>
+        <translation>未删除：宽字符接口找不到该项。</translation>
     </message>
 </context>
 <context>
@@ -2617,14 +2838,6 @@ Wide: %2</source>
     <message>
         <source>Stopped. %1</source>
         <translation>已停止。%1</translation>
-    </message>
-    <message>
-        <source>Written.</source>
-        <translation>已写入。</translation>
-    </message>
-    <message>
-        <source>Written; the backup copy is %1.</source>
-        <translation>已写入；备份为 %1。</translation>
     </message>
     <message>
         <source>Find the next line</source>
@@ -2983,8 +3196,12 @@ Wide: %2</source>
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>The four root keys are one here: what is set under one is found under each.</source>
-        <translation>四个根项在此是同一个：在其中一个下设置的内容，在每一个下都能找到。</translation>
+        <source>All four root keys are one here.</source>
+        <translation>四个根项在此是同一个。</translation>
+    </message>
+    <message>
+        <source>What is set under one of HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE and HKEY_USERS is found under each of them.</source>
+        <translation>在 HKEY_CLASSES_ROOT、HKEY_CURRENT_USER、HKEY_LOCAL_MACHINE 和 HKEY_USERS 其中一个下设置的内容，在每一个下都能找到。</translation>
     </message>
 </context>
 <context>
@@ -3323,16 +3540,16 @@ Wide: %2</source>
         <translation>存储的文件</translation>
     </message>
     <message>
-        <source>An export first keeps all that is shown here.</source>
-        <translation>先导出可保留此处显示的全部内容。</translation>
-    </message>
-    <message>
         <source>Write</source>
         <translation>写入</translation>
     </message>
     <message>
         <source>Export first...</source>
         <translation>先导出...</translation>
+    </message>
+    <message>
+        <source>An export first keeps what host libraries can read now.</source>
+        <translation>先导出可保留主机库目前能读取的内容。</translation>
     </message>
 </context>
 <context>
