@@ -41,6 +41,7 @@ ProfileReadingsPane::ProfileReadingsPane(PageContext& page, QWidget* parent)
 {
     makeTable();
     addEditAction();
+    addDeleteAction();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_table, 1);
@@ -79,6 +80,18 @@ void ProfileReadingsPane::addEditAction()
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(edit, &QAction::triggered, this, &ProfileReadingsPane::editRequested);
     connect(m_table, &QTableView::activated, this, &ProfileReadingsPane::editRequested);
+}
+
+void ProfileReadingsPane::addDeleteAction()
+{
+    auto* remove = new QAction(tr("Delete key"), m_table);
+    remove->setShortcut(Qt::Key_Delete);
+    remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_table->addAction(remove);
+    connect(remove, &QAction::triggered, this, [this] {
+        if (chosenName() >= 0)
+            emit deletionRequested(chosenName());
+    });
 }
 
 QLayout* ProfileReadingsPane::makeButtonRow()
