@@ -82,8 +82,7 @@ TEST_F(RegistryMenuTest, HasWhatTheButtonsDo)
     const QStringList ofValues = {"New",       "Edit value", "Rename value...", "Delete value",
                                   "",          "Copy data",  "Copy as .reg",    "",
                                   "Copy path", "Search...",  "Import...",       "Export key..."};
-    // What every table offers may stand around them.
-    EXPECT_EQ(menuOf(table()).mid(menuOf(table()).indexOf("New"), ofValues.size()), ofValues);
+    EXPECT_EQ(menuOf(table()), ofValues);
 }
 
 TEST_F(RegistryMenuTest, CopiesTheDataOfOneValue)
