@@ -461,7 +461,7 @@ Put it in the place of the file to bring everything back.</source>
     </message>
     <message>
         <source>line end</source>
-        <translation>换行符</translation>
+        <translation>行尾</translation>
     </message>
     <message>
         <source>±</source>
@@ -2428,11 +2428,11 @@ Wide: %2</source>
     </message>
     <message>
         <source>The line ends change: %1, then %2.</source>
-        <translation>换行符改变：原为 %1，之后为 %2。</translation>
+        <translation>行尾改变：原为 %1，之后为 %2。</translation>
     </message>
     <message>
         <source>The last line gets a line end.</source>
-        <translation>最后一行将加上换行符。</translation>
+        <translation>最后一行将加上行尾。</translation>
     </message>
 </context>
 <context>
