@@ -4,7 +4,7 @@
 #include <utility>
 
 ProfileReadingsModel::ProfileReadingsModel(QObject* parent)
-    : QAbstractTableModel(parent), m_columns(ProfileColumns::ofReadings())
+    : SortableTableModel(parent), m_columns(ProfileColumns::ofReadings())
 {
 }
 
@@ -15,7 +15,9 @@ void ProfileReadingsModel::setDocument(std::shared_ptr<const ProfileDocument> do
     m_read.clear();
     m_differences.clear();
     m_cachedName = -1;
+    forgetRows();
     endResetModel();
+    sortAgain();
 }
 
 void ProfileReadingsModel::setReading(int name, const ProfileReading& reading)
@@ -34,33 +36,44 @@ void ProfileReadingsModel::addDifference(int name)
     const auto place = std::lower_bound(m_differences.begin(), m_differences.end(), name);
     if (place != m_differences.end() && *place == name)
         return;
-    const int row = static_cast<int>(place - m_differences.begin());
-    if (m_isFiltered)
-        beginInsertRows({}, row, row);
+    const int record = static_cast<int>(place - m_differences.begin());
+    if (!m_isFiltered) {
+        m_differences.insert(place, name);
+        return;
+    }
+    const int row = isSorted() ? differenceCount() : record;
+    beginInsertRows({}, row, row);
     m_differences.insert(place, name);
-    if (m_isFiltered)
-        endInsertRows();
+    recordInserted(record);
+    endInsertRows();
 }
 
 void ProfileReadingsModel::showOnlyDifferences(bool only)
 {
     beginResetModel();
     m_isFiltered = only;
+    forgetRows();
     endResetModel();
+    sortAgain();
+}
+
+int ProfileReadingsModel::nameOf(int record) const
+{
+    return m_isFiltered ? m_differences[static_cast<std::size_t>(record)] : record;
 }
 
 int ProfileReadingsModel::nameAt(int row) const
 {
-    return m_isFiltered ? m_differences[static_cast<std::size_t>(row)] : row;
+    return nameOf(recordAt(row));
 }
 
 int ProfileReadingsModel::rowOf(int name) const
 {
     if (!m_isFiltered)
-        return name;
+        return SortableTableModel::rowOf(name);
     const auto place = std::lower_bound(m_differences.begin(), m_differences.end(), name);
     return place != m_differences.end() && *place == name
-               ? static_cast<int>(place - m_differences.begin())
+               ? SortableTableModel::rowOf(static_cast<int>(place - m_differences.begin()))
                : -1;
 }
 
@@ -93,9 +106,22 @@ const ProfileReading& ProfileReadingsModel::cached(int name) const
 
 int ProfileReadingsModel::rowCount(const QModelIndex& parent) const
 {
-    if (parent.isValid())
-        return 0;
+    return parent.isValid() ? 0 : recordCount();
+}
+
+int ProfileReadingsModel::recordCount() const
+{
     return m_isFiltered ? differenceCount() : nameCount();
+}
+
+SortKey ProfileReadingsModel::sortKey(int record, int column) const
+{
+    const int name = nameOf(record);
+    const bool isName =
+        column == ProfileColumns::SectionColumn || column == ProfileColumns::KeyColumn;
+    if (!isName && !isRead(name))
+        return {};
+    return SortKey::text(m_columns[static_cast<std::size_t>(column)].text(reading(name)));
 }
 
 int ProfileReadingsModel::columnCount(const QModelIndex& parent) const

@@ -1,16 +1,17 @@
 #pragma once
 
 #include "pages/profiles/ProfileColumns.h"
+#include "window/SortableTableModel.h"
 
-#include <QAbstractTableModel>
 #include <QHash>
 
 #include <memory>
 #include <vector>
 
-/// What a profile names, in the order of the file, with what either family reads under each name as
-/// far as it has been asked.
-class ProfileReadingsModel : public QAbstractTableModel
+/// What a profile names, in the order of the file unless it is sorted, with what either family
+/// reads under each name as far as it has been asked. Sorting asks for nothing: what has not been
+/// read comes first.
+class ProfileReadingsModel : public SortableTableModel
 {
 public:
     explicit ProfileReadingsModel(QObject* parent = nullptr);
@@ -45,7 +46,12 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+protected:
+    int recordCount() const override;
+    SortKey sortKey(int record, int column) const override;
+
 private:
+    int nameOf(int record) const;
     void addDifference(int name);
     const ProfileReading& cached(int name) const;
 

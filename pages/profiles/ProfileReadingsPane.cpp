@@ -60,6 +60,7 @@ void ProfileReadingsPane::makeTable()
     new ColumnBalancer(m_table, ProfileColumns::WideColumn, QStringLiteral("255.255.255.0"));
     new EmptyHint(m_table, tr("What the wide and the narrow calls read stands here side by side."));
     m_table->viewport()->installEventFilter(this);
+    connect(m_model, &QAbstractItemModel::layoutChanged, &m_soon, QOverload<>::of(&QTimer::start));
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, &m_soon,
             QOverload<>::of(&QTimer::start));
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1，构建时为 %2</translation>
+    </message>
+    <message>
+        <source>About Quayside</source>
+        <translation>关于 Quayside</translation>
+    </message>
+    <message>
+        <source>Shows what host libraries get from the Windows-style services that run in this program.</source>
+        <translation>显示主机库从本程序中运行的 Windows 风格服务得到什么。</translation>
+    </message>
+    <message>
+        <source>Quayside:</source>
+        <translation>Quayside：</translation>
+    </message>
+    <message>
+        <source>Qt:</source>
+        <translation>Qt：</translation>
+    </message>
+    <message>
+        <source>Host library:</source>
+        <translation>主机库：</translation>
+    </message>
+    <message>
+        <source>Settings store:</source>
+        <translation>设置存储：</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+</context>
+<context>
     <name>AddressBar</name>
     <message>
         <source>&amp;Go to:</source>
@@ -870,18 +909,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>项(&amp;K)</translation>
     </message>
     <message>
-        <source>N&amp;ames of values</source>
-        <translation>值的名称(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Data of &amp;values</source>
-        <translation>值的数据(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Match &amp;upper and lower case</source>
-        <translation>区分大小写(&amp;U)</translation>
-    </message>
-    <message>
         <source>W&amp;hole words</source>
         <translation>全字匹配(&amp;H)</translation>
     </message>
@@ -890,12 +917,36 @@ Put it in the place of the file to bring everything back.</source>
         <translation>返回(&amp;B)</translation>
     </message>
     <message>
-        <source>Choose where to search: in keys, in names, in data, or in several.</source>
-        <translation>请选择查找范围：项、名称、数据，或其中几种。</translation>
-    </message>
-    <message>
         <source>Found place %L1 of %L2 (F3: next, Shift+F3: previous).</source>
         <translation>第 %L1 处，共 %L2 处（F3：下一处，Shift+F3：上一处）。</translation>
+    </message>
+    <message>
+        <source>N&amp;ames</source>
+        <translation>名称(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Values</source>
+        <translation>值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Match &amp;upper/lower case</source>
+        <translation>区分大小写(&amp;U)</translation>
+    </message>
+    <message>
+        <source>In the names of keys</source>
+        <translation>在项的名称中</translation>
+    </message>
+    <message>
+        <source>In the names of values</source>
+        <translation>在值的名称中</translation>
+    </message>
+    <message>
+        <source>In the data of values</source>
+        <translation>在值的数据中</translation>
+    </message>
+    <message>
+        <source>Choose where to search: in keys, in names, in values, or in several.</source>
+        <translation>请选择查找范围：项、名称、值，或其中几种。</translation>
     </message>
 </context>
 <context>
@@ -917,16 +968,20 @@ Put it in the place of the file to bring everything back.</source>
         <translation>立即查找(&amp;N)</translation>
     </message>
     <message>
-        <source>With a class name, the window name is not looked at. Without both, the first window is found.</source>
-        <translation>给出类名时不再看窗口名；两者均未给出时返回第一个窗口。</translation>
-    </message>
-    <message>
         <source>null</source>
         <translation>null</translation>
     </message>
     <message>
         <source>null: no window was found</source>
         <translation>null：未找到窗口</translation>
+    </message>
+    <message>
+        <source>Not looked at where there is a class name. Without both, the first window is found.</source>
+        <translation>有类名时不看窗口名。两者都没有时，找到第一个窗口。</translation>
+    </message>
+    <message>
+        <source>With a class name, the window name is not looked at.</source>
+        <translation>有类名时不看窗口名。</translation>
     </message>
 </context>
 <context>
@@ -1211,6 +1266,96 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>HelpText</name>
+    <message>
+        <source>this help, at the part about the page in view</source>
+        <translation>本帮助，并转到当前页面的部分</translation>
+    </message>
+    <message>
+        <source>read the page again</source>
+        <translation>重新读取页面</translation>
+    </message>
+    <message>
+        <source>search in the page</source>
+        <translation>在页面中查找</translation>
+    </message>
+    <message>
+        <source>to the next one that was found</source>
+        <translation>转到下一个找到的项目</translation>
+    </message>
+    <message>
+        <source>edit what is selected</source>
+        <translation>编辑所选内容</translation>
+    </message>
+    <message>
+        <source>delete what is selected, after a question</source>
+        <translation>询问后删除所选内容</translation>
+    </message>
+    <message>
+        <source>copy what is selected</source>
+        <translation>复制所选内容</translation>
+    </message>
+    <message>
+        <source>undo and redo a change of the page</source>
+        <translation>撤销和重做页面所做的更改</translation>
+    </message>
+    <message>
+        <source>the menu of what is selected</source>
+        <translation>所选内容的菜单</translation>
+    </message>
+    <message>
+        <source>cancel the work that covers a page, or close a dialog</source>
+        <translation>取消覆盖页面的工作，或关闭对话框</translation>
+    </message>
+    <message>
+        <source>close the program</source>
+        <translation>关闭程序</translation>
+    </message>
+    <message>
+        <source>What each page answers</source>
+        <translation>各页面回答什么</translation>
+    </message>
+    <message>
+        <source>Host libraries that were written for Windows run in this program and call its services. Every page asks the same services, and shows what a host library gets from them.</source>
+        <translation>为 Windows 编写的主机库在本程序中运行，并调用它的服务。每个页面都询问同样的服务，显示主机库从中得到的结果。</translation>
+    </message>
+    <message>
+        <source>The wide calls end in W and take names as 4-byte characters: GetPrivateProfileStringW, GetPrivateProfileIntW, GetPrivateProfileSectionW and WritePrivateProfileStringW. They read a profile as a settings file, with escapes, quotes and comments, and write it anew in that form.</source>
+        <translation>宽字符调用以 W 结尾，名称采用 4 字节字符：GetPrivateProfileStringW、GetPrivateProfileIntW、GetPrivateProfileSectionW 和 WritePrivateProfileStringW。它们把配置文件当作带转义、引号和注释的设置文件来读取，并以这种形式重新写入。</translation>
+    </message>
+    <message>
+        <source>The narrow calls end in A and take names as bytes in UTF-8: GetPrivateProfileStringA and WritePrivateProfileStringA. They read a profile line by line, drop every line without exactly one equals sign, and write what is left, sorted.</source>
+        <translation>窄字符调用以 A 结尾，名称采用 UTF-8 字节：GetPrivateProfileStringA 和 WritePrivateProfileStringA。它们逐行读取配置文件，丢弃每个不是恰好含一个等号的行，并把剩下的内容排序后写入。</translation>
+    </message>
+    <message>
+        <source>GetPrivateProfileIntA and GetPrivateProfileSectionNamesW always answer 0. A program that was built for Unicode makes the wide calls, an older one the narrow ones: one program may make both, and see two different values.</source>
+        <translation>GetPrivateProfileIntA 和 GetPrivateProfileSectionNamesW 始终返回 0。按 Unicode 构建的程序使用宽字符调用，较旧的程序使用窄字符调用；同一个程序也可能两者都用，并看到两个不同的值。</translation>
+    </message>
+    <message>
+        <source>Wide and narrow calls</source>
+        <translation>宽字符调用与窄字符调用</translation>
+    </message>
+    <message>
+        <source>from the first page to the last; the letters that are underlined in the rail choose them too</source>
+        <translation>从第一个页面到最后一个页面；也可用侧栏中带下划线的字母选择</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>&amp;About Quayside...</source>
+        <translation>关于 Quayside(&amp;A)...</translation>
+    </message>
+</context>
+<context>
     <name>HostInformation</name>
     <message>
         <source>English</source>
@@ -1443,16 +1588,8 @@ Put it in the place of the file to bring everything back.</source>
 <context>
     <name>KeyPanel</name>
     <message>
-        <source>Key states</source>
-        <translation>按键状态</translation>
-    </message>
-    <message>
         <source>Unknown to the service, as every other code: these always read as up.</source>
         <translation>服务不识别的键，其他代码亦同：始终读作弹起。</translation>
-    </message>
-    <message>
-        <source>Report with setKeyPressed:</source>
-        <translation>用 setKeyPressed 上报：</translation>
     </message>
     <message>
         <source>Re&amp;turn down</source>
@@ -1475,8 +1612,24 @@ Put it in the place of the file to bring everything back.</source>
         <translation>任意代码(&amp;Y)：</translation>
     </message>
     <message>
-        <source>Known to the service, as of the last event from keyboard or mouse. Left and right cannot be told apart, and no toggle state is told:</source>
-        <translation>服务能识别的键，状态以最近一次键盘或鼠标事件为准。左右键无法区分，也不提供切换状态：</translation>
+        <source>Keys known to the service</source>
+        <translation>服务能识别的键</translation>
+    </message>
+    <message>
+        <source>Keys unknown to the service</source>
+        <translation>服务不识别的键</translation>
+    </message>
+    <message>
+        <source>The event of a modifier key itself tells the state before it: the next event of keyboard or mouse tells the new one. No toggle state is told.</source>
+        <translation>修饰键自身的事件给出该事件之前的状态，下一次键盘或鼠标事件才给出新状态。不提供切换状态。</translation>
+    </message>
+    <message>
+        <source>Reports a key to the service, as host libraries do.</source>
+        <translation>向服务上报一个键，与主机库的做法相同。</translation>
+    </message>
+    <message>
+        <source>Keys known to the service, as of the last event; left and right cannot be told apart</source>
+        <translation>服务能识别的键，以最近一次事件为准；左右键无法区分</translation>
     </message>
 </context>
 <context>
@@ -1923,6 +2076,38 @@ Put it in the place of the file to bring everything back.</source>
         <source>&amp;Log</source>
         <translation>日志(&amp;L)</translation>
     </message>
+    <message>
+        <source>Which keys and values a host library finds in the registry, and what it reads from each; entries that it cannot read are marked. Values and keys can be changed, imported from registry files and exported to them.</source>
+        <translation>主机库在注册表中找到哪些项和值，以及从每一个读到什么；无法读取的条目会标出。可以更改值和项，也可以从注册表文件导入或导出到其中。</translation>
+    </message>
+    <message>
+        <source>What the wide and the narrow calls read from a private profile (an INI file), line by line and side by side, and what a write through either of them would make of the file.</source>
+        <translation>宽字符调用和窄字符调用从私有配置文件（INI 文件）读到什么，逐行并排显示，以及通过任一种调用写入会使文件变成什么样。</translation>
+    </message>
+    <message>
+        <source>Which files a search with findFirstFile finds, with which attributes and times, and what the calls for paths and directories answer.</source>
+        <translation>用 findFirstFile 搜索会找到哪些文件及其属性和时间，以及路径和目录的调用返回什么。</translation>
+    </message>
+    <message>
+        <source>Which fonts host libraries have registered, and which of them an enumeration by family and character set finds.</source>
+        <translation>主机库注册了哪些字体，以及按字体族和字符集枚举会找到其中哪些。</translation>
+    </message>
+    <message>
+        <source>Which monitors there are, which of them MonitorFromPoint answers for a point, what the system metrics are, and which graphics handles are alive.</source>
+        <translation>有哪些显示器，MonitorFromPoint 对某一点返回其中哪一个，系统度量是多少，以及有哪些存活的图形句柄。</translation>
+    </message>
+    <message>
+        <source>Which keys and mouse buttons read as down, where the pointer is, which cursor is set, and which window FindWindowW finds.</source>
+        <translation>哪些键和鼠标按钮读作按下，指针在哪里，设置了哪个光标，以及 FindWindowW 找到哪个窗口。</translation>
+    </message>
+    <message>
+        <source>What texts and files become when they are encrypted, decrypted, digested or coded as Base64 in the way of the host libraries.</source>
+        <translation>文本和文件按主机库的方式加密、解密、计算摘要或做 Base64 编码后变成什么。</translation>
+    </message>
+    <message>
+        <source>What has happened since the program was started, with every change that was made from this window.</source>
+        <translation>程序启动以来发生了什么，包括在本窗口中所做的每一处更改。</translation>
+    </message>
 </context>
 <context>
     <name>PageFooter</name>
@@ -2126,6 +2311,10 @@ Wide: %2</source>
     <message>
         <source>Narrow reading</source>
         <translation>窄字符读取</translation>
+    </message>
+    <message>
+        <source>Whether the families read the same value</source>
+        <translation>两种接口读到的值是否相同</translation>
     </message>
     <message>
         <source>(not asked yet)</source>
@@ -3007,8 +3196,12 @@ Wide: %2</source>
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>The four root keys are one here: what is set under one is found under each.</source>
-        <translation>四个根项在此是同一个：在其中一个下设置的内容，在每一个下都能找到。</translation>
+        <source>All four root keys are one here.</source>
+        <translation>四个根项在此是同一个。</translation>
+    </message>
+    <message>
+        <source>What is set under one of HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE and HKEY_USERS is found under each of them.</source>
+        <translation>在 HKEY_CLASSES_ROOT、HKEY_CURRENT_USER、HKEY_LOCAL_MACHINE 和 HKEY_USERS 其中一个下设置的内容，在每一个下都能找到。</translation>
     </message>
 </context>
 <context>
@@ -3309,6 +3502,14 @@ Wide: %2</source>
         <source>Language:</source>
         <translation>语言：</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>F1: what each page answers, what wide and narrow calls are, and keys</source>
+        <translation>F1：各页面回答什么、什么是宽字符调用和窄字符调用，以及按键</translation>
+    </message>
 </context>
 <context>
     <name>StoreFault</name>
@@ -3339,16 +3540,16 @@ Wide: %2</source>
         <translation>存储的文件</translation>
     </message>
     <message>
-        <source>An export first keeps all that is shown here.</source>
-        <translation>先导出可保留此处显示的全部内容。</translation>
-    </message>
-    <message>
         <source>Write</source>
         <translation>写入</translation>
     </message>
     <message>
         <source>Export first...</source>
         <translation>先导出...</translation>
+    </message>
+    <message>
+        <source>An export first keeps what host libraries can read now.</source>
+        <translation>先导出可保留主机库目前能读取的内容。</translation>
     </message>
 </context>
 <context>
