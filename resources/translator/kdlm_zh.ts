@@ -2439,7 +2439,7 @@ Wide: %2</source>
         <translation>写入(&amp;W)</translation>
     </message>
     <message>
-        <source>Keep a &amp;backup copy</source>
+        <source>Keep a &amp;backup</source>
         <translation>保留备份(&amp;B)</translation>
     </message>
     <message>
