@@ -13,6 +13,7 @@
 class PageContext;
 class ProfileAskingJob;
 class ProfileReadingQueue;
+class EmptyHint;
 class ProfileReadingsModel;
 class QCheckBox;
 class QLayout;
@@ -69,10 +70,12 @@ private:
     void showOnlyDifferences(bool only);
     void findDifference(int from, bool isAgain);
     void updateButtons();
+    void updateHint();
 
     PageContext& m_page;
     ProfileReadingsModel* m_model;
     QTableView* m_table;
+    EmptyHint* m_hint;
     QCheckBox* m_onlyDifferences;
     QPushButton* m_next;
     QPushButton* m_all;

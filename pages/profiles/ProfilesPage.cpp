@@ -105,11 +105,8 @@ void ProfilesPage::open(const QString& path)
         report(Report::Error, tr("Type the path of a file first."));
         return;
     }
-    const QString refused = ProfileDocument::fault(path);
-    if (!refused.isEmpty()) {
-        report(Report::Error, refused);
+    if (isRefused(path))
         return;
-    }
     m_summary.clear();
     const QString whole = QFileInfo(path).absoluteFilePath();
     m_file->setText(whole);
@@ -117,10 +114,19 @@ void ProfilesPage::open(const QString& path)
     read(whole);
 }
 
+// Says why where it is.
+bool ProfilesPage::isRefused(const QString& path)
+{
+    const QString reason = ProfileDocument::fault(path);
+    if (!reason.isEmpty())
+        report(Report::Error, reason);
+    return !reason.isEmpty();
+}
+
 // What is typed may be a path that has not been opened.
 void ProfilesPage::refresh()
 {
-    if (m_path.isEmpty() || isBusy())
+    if (m_path.isEmpty() || isBusy() || isRefused(m_path))
         return;
     m_summary.clear();
     m_place = currentPlace();
@@ -213,7 +219,11 @@ void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
 
 void ProfilesPage::lookForChanges()
 {
-    if (m_path.isEmpty() || m_rereader.isRunning() || ProfileStamp::of(m_path) == m_stamp)
+    const ProfileStamp stamp = ProfileStamp::of(m_path);
+    if (m_path.isEmpty() || m_rereader.isRunning() || stamp == m_stamp)
+        return;
+    m_stamp = stamp;
+    if (stamp.exists && isRefused(m_path)) // which is said once
         return;
     m_place = currentPlace();
     m_reread = makeReadingJob(m_path);

@@ -57,6 +57,7 @@ private:
     void findNext();
     void nextDifference();
     void chooseFile();
+    bool isRefused(const QString& path);
     void read(const QString& path);
     std::unique_ptr<ProfileReadingJob> makeReadingJob(const QString& path);
     void showDocument(std::shared_ptr<const ProfileDocument> document, int wanted);

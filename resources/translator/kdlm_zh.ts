@@ -2162,6 +2162,10 @@ Wide: %2</source>
         <source>Next difference</source>
         <translation>下一处差异</translation>
     </message>
+    <message>
+        <source>Of the values that have been asked for, none is read differently.</source>
+        <translation>已读取的值中没有读取结果不同的。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileWriter</name>
