@@ -73,7 +73,7 @@ double longestScroll(QTableView& table)
 
 void searchAll()
 {
-    RegistrySearchJob search(QStringLiteral("no such text"), QString(), true, true);
+    RegistrySearchJob search({QStringLiteral("no such text")});
     while (search.step()) {
     }
 }
@@ -99,7 +99,7 @@ void searchAgainstPlainReading(benchmark::State& state)
 
 double longestSearchStep()
 {
-    RegistrySearchJob search(QStringLiteral("no such text"), QString(), true, true);
+    RegistrySearchJob search({QStringLiteral("no such text")});
     double longest = 0;
     bool more = true;
     while (more)

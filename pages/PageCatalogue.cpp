@@ -61,3 +61,12 @@ std::vector<PageEntry> pageCatalogue()
                            row.create});
     return entries;
 }
+
+QString pageForFile(const QString& path)
+{
+    if (path.endsWith(QLatin1String(".reg"), Qt::CaseInsensitive))
+        return QStringLiteral("registry");
+    if (path.endsWith(QLatin1String(".ini"), Qt::CaseInsensitive))
+        return QStringLiteral("profiles");
+    return {};
+}

@@ -1,5 +1,7 @@
 #include "regfile/RegFileDecoder.h"
 
+#include "regfile/RegFileText.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -18,16 +20,32 @@ constexpr Encoding encodings[] = {
 
 void RegFileDecoder::add(const QByteArray& piece)
 {
-    const int from = m_codec ? 0 : begin(piece);
-    m_text += m_codec->toUnicode(piece.constData() + from, piece.size() - from, &m_state);
+    if (m_codec)
+        return decode(piece);
+    m_head += piece;
+    if (m_head.trimmed().size() >= regFileHeader4.size())
+        begin();
 }
 
-// Finds the encoding; the length of its mark.
-int RegFileDecoder::begin(const QByteArray& file)
+void RegFileDecoder::end()
 {
-    const auto* encoding = std::find_if(
-        std::begin(encodings), std::end(encodings) - 1,
-        [&file](const Encoding& candidate) { return file.startsWith(candidate.mark); });
-    m_codec = QTextCodec::codecForName(encoding->codec);
-    return static_cast<int>(std::strlen(encoding->mark));
+    if (!m_codec)
+        begin();
+}
+
+// Finds the encoding by the mark, or by the first word.
+void RegFileDecoder::begin()
+{
+    const auto* encoding =
+        std::find_if(std::begin(encodings), std::end(encodings) - 1,
+                     [this](const Encoding& each) { return m_head.startsWith(each.mark); });
+    const auto mark = static_cast<int>(std::strlen(encoding->mark));
+    m_isVersion4 = mark == 0 && m_head.trimmed().startsWith(regFileHeader4.data());
+    m_codec = m_isVersion4 ? m_codePage : QTextCodec::codecForName(encoding->codec);
+    decode(std::exchange(m_head, {}).mid(mark));
+}
+
+void RegFileDecoder::decode(const QByteArray& bytes)
+{
+    m_text += m_codec->toUnicode(bytes.constData(), bytes.size(), &m_state);
 }

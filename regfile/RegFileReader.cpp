@@ -20,6 +20,12 @@ std::unique_ptr<QIODevice> opened(const QByteArray& bytes)
     return buffer;
 }
 
+const QTextCodec* codecOf(const QByteArray& codePage)
+{
+    const QTextCodec* codec = codePage.isEmpty() ? nullptr : QTextCodec::codecForName(codePage);
+    return codec ? codec : QTextCodec::codecForLocale();
+}
+
 void refuse(RegFileEntry& entry, const QString& problem)
 {
     entry.action = RegFileEntry::Action::Malformed;
@@ -67,12 +73,16 @@ QString withoutComment(const QString& rest)
 
 } // namespace
 
-RegFileReader::RegFileReader(std::unique_ptr<QIODevice> file) : m_file(std::move(file))
+RegFileReader::RegFileReader(std::unique_ptr<QIODevice> file, const QByteArray& codePage)
+    : m_codePage(codecOf(codePage)), m_file(std::move(file)), m_decoder(m_codePage)
 {
     m_decoder.reserve(m_file->size());
 }
 
-RegFileReader::RegFileReader(const QByteArray& file) : RegFileReader(opened(file)) {}
+RegFileReader::RegFileReader(const QByteArray& file, const QByteArray& codePage)
+    : RegFileReader(opened(file), codePage)
+{
+}
 
 RegFileReader::~RegFileReader() = default;
 
@@ -101,13 +111,14 @@ void RegFileReader::readPiece()
     m_decoder.add(piece);
     if (piece.isEmpty()) {
         m_file = nullptr;
+        m_decoder.end();
         takeText();
     }
 }
 
 void RegFileReader::takeText()
 {
-    if (m_error.isEmpty() && !m_decoder.isValid())
+    if (m_error.isEmpty() && !m_decoder.isValid() && !isVersion4())
         m_error = tr("The file is neither UTF-16 with a byte order mark nor UTF-8.");
     m_text = m_decoder.takeText();
 }
@@ -115,11 +126,7 @@ void RegFileReader::takeText()
 void RegFileReader::readHeader(const QString& line)
 {
     m_hasHeader = true;
-    if (line == regFileHeader)
-        return;
-    if (line == QLatin1String("REGEDIT4"))
-        m_error = tr("The file has version 4. Only version 5.00 is understood.");
-    else
+    if (line != regFileHeader && (line != regFileHeader4 || !isVersion4()))
         m_error = tr("The file does not begin with \"%1\".").arg(regFileHeader);
 }
 
@@ -276,5 +283,14 @@ void RegFileReader::readHex(const QString& rest, RegFileEntry& entry)
     if (!valid || !parseHexBytes(rest.mid(colon + 1), entry.data))
         return refuse(entry, tr("\"hex:\" needs bytes of two digits, separated by commas."));
     if (entry.type == REG_SZ)
-        entry.text = textOfUtf16(std::exchange(entry.data, {}));
+        entry.text = textOf(std::exchange(entry.data, {}));
+}
+
+// The bytes of a text are in the code page too where the file is.
+QString RegFileReader::textOf(const QByteArray& bytes) const
+{
+    if (!isVersion4())
+        return textOfUtf16(bytes);
+    const int end = bytes.indexOf('\0');
+    return m_codePage->toUnicode(end < 0 ? bytes : bytes.left(end));
 }

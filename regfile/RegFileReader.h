@@ -9,11 +9,11 @@
 
 class QIODevice;
 
-/// Reads a registry file in the Windows text format, version 5.00, in small steps, so that a large
-/// file can be read in slices: first its bytes piece by piece, then line by line.
+/// Reads a registry file in the Windows text format, version 5.00 or 4, in small steps, so that a
+/// large file can be read in slices: first its bytes piece by piece, then line by line.
 ///
-/// UTF-16 with a byte order mark, and UTF-8 with or without one, are understood; line ends may be
-/// LF or CR LF.
+/// UTF-16 with a byte order mark, and UTF-8 with or without one, are understood, and for version 4
+/// a code page; line ends may be LF or CR LF.
 class RegFileReader
 {
     Q_DECLARE_TR_FUNCTIONS(RegFileReader)
@@ -26,15 +26,25 @@ public:
         End
     };
 
-    /// `file` is open for reading.
-    explicit RegFileReader(std::unique_ptr<QIODevice> file);
+    /// `file` is open for reading. `codePage` names the code page of a file of version 4 as
+    /// QTextCodec does; empty or unknown, it is that of the system.
+    explicit RegFileReader(std::unique_ptr<QIODevice> file, const QByteArray& codePage = {});
     /// A file that is in memory already, as those of the tests are.
-    explicit RegFileReader(const QByteArray& file);
+    explicit RegFileReader(const QByteArray& file, const QByteArray& codePage = {});
     ~RegFileReader();
 
     /// Why the whole file is refused, translated; empty when it can be read, as far as it is known
     /// yet.
     QString error() const { return m_error; }
+
+    /// True for a file of version 4, whose text depends on the code page; known when the first
+    /// statement has been read.
+    bool isVersion4() const { return m_decoder.isVersion4(); }
+    /// The name of the code page with which such a file is read.
+    QByteArray codePage() const { return m_codePage->name(); }
+    /// False where the bytes of such a file are none of that code page: it is read all the same,
+    /// with signs in their place.
+    bool isOfCodePage() const { return m_decoder.isValid(); }
 
     /// Takes a small step, which fills `entry` where it reads a statement. Comes to the end also
     /// when there is an error. A line that makes no sense is a Malformed entry, after which reading
@@ -57,7 +67,9 @@ private:
     void readDword(const QString& digits, RegFileEntry& entry);
     void readHex(const QString& rest, RegFileEntry& entry);
     QString joined(QString rest);
+    QString textOf(const QByteArray& bytes) const;
 
+    const QTextCodec* m_codePage;
     std::unique_ptr<QIODevice> m_file; ///< null when it has been read
     RegFileDecoder m_decoder;
     QString m_text;

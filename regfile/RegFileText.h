@@ -9,6 +9,9 @@
 /// a constant.
 inline constexpr QLatin1String regFileHeader("Windows Registry Editor Version 5.00", 36);
 
+/// The first line of a file of version 4, whose texts are in a code page instead of Unicode.
+inline constexpr QLatin1String regFileHeader4("REGEDIT4", 8);
+
 /// A text in quotes, with backslashes before quotes and backslashes.
 QString quoteRegText(const QString& text);
 

@@ -3,6 +3,7 @@
 #include "app/ApplicationLog.h"
 #include "app/HostInformation.h"
 #include "inspection/registry/RawStore.h"
+#include "window/FileOpener.h"
 #include "window/Page.h"
 #include "window/PageRail.h"
 #include "window/PageStack.h"
@@ -65,6 +66,7 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     connect(m_rail, &PageRail::chosen, this, &MainWindow::choose);
     connect(m_stack, &PageStack::entered, this, &MainWindow::logPage);
     addShortcuts(static_cast<int>(pages.size()));
+    new FileOpener(this, m_rail, m_stack);
     setMinimumSize(smallestSize(*this));
     resize(firstSize(*this).expandedTo(minimumSize()));
 }

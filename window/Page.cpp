@@ -50,6 +50,8 @@ void Page::refresh() {}
 
 void Page::find() {}
 
+void Page::openFile(const QString& /*path*/) {}
+
 void Page::entered() {}
 
 void Page::takeFocus()

@@ -53,6 +53,10 @@ public:
     /// Starts a search: shows or focuses what takes the text. Does nothing by default.
     virtual void find();
 
+    /// Opens a file of the kind that the catalogue gives to the page. Called while the page is in
+    /// view and no job runs. Does nothing by default.
+    virtual void openFile(const QString& path);
+
     /// Told by the window whenever the page has become the one in view, first after its
     /// construction. Does nothing by default.
     virtual void entered();

@@ -23,3 +23,6 @@ struct PageEntry
 
 /// All pages. Declared here for the window and defined above it, beside the pages.
 std::vector<PageEntry> pageCatalogue();
+
+/// The name of the page that opens files of the kind of this one; empty where there is none.
+QString pageForFile(const QString& path);

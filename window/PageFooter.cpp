@@ -24,6 +24,17 @@ QPixmap statusPixmap(const QWidget& widget, PageContext::Report kind)
     return glyphIcon(glyph).pixmap(widget.windowHandle(), QSize(side, side));
 }
 
+constexpr double warningShare = 0.2; // of the highlight in the ground of the text; a text that can
+constexpr double errorShare = 0.4;   // be read on both can be read on what lies between them
+
+QColor mixed(const QColor& ground, const QColor& highlight, double share)
+{
+    const auto mix = [share](double a, double b) { return a * (1 - share) + b * share; };
+    return QColor::fromRgbF(mix(ground.redF(), highlight.redF()),
+                            mix(ground.greenF(), highlight.greenF()),
+                            mix(ground.blueF(), highlight.blueF()));
+}
+
 QToolButton* iconButton(Glyph glyph, const QString& name)
 {
     auto* button = new QToolButton;
@@ -65,7 +76,6 @@ PageFooter::PageFooter(QUndoStack& changes, QWidget* parent)
     m_status->setWordWrap(true);
     m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_read->setTextFormat(Qt::PlainText);
-    m_read->setForegroundRole(QPalette::PlaceholderText);
     m_read->hide();
     connect(m_reread, &QToolButton::clicked, this, &PageFooter::rereadRequested);
     addUndo(changes);
@@ -92,7 +102,7 @@ void PageFooter::addUndo(QUndoStack& changes)
 void PageFooter::show(PageContext::Report kind, const QString& text)
 {
     m_kind = kind;
-    paintIcon();
+    paintReport();
     m_icon->setVisible(kind != PageContext::Report::Info);
     m_text = text;
     m_status->setText(withoutLongWords(text));
@@ -111,14 +121,23 @@ void PageFooter::markRead()
     m_reread->show();
 }
 
-void PageFooter::paintIcon()
+// What was refused stands on a ground of its own, besides its sign.
+void PageFooter::paintReport()
 {
     m_icon->setPixmap(statusPixmap(*this, m_kind));
+    QPalette colors;
+    if (m_kind != PageContext::Report::Info)
+        colors.setColor(QPalette::Window,
+                        mixed(palette().color(QPalette::Window),
+                              palette().color(QPalette::Highlight),
+                              m_kind == PageContext::Report::Error ? errorShare : warningShare));
+    m_status->setPalette(colors);
+    m_status->setAutoFillBackground(m_kind != PageContext::Report::Info);
 }
 
 void PageFooter::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        paintIcon();
+        paintReport();
 }

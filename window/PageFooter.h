@@ -34,7 +34,7 @@ protected:
 
 private:
     void addUndo(QUndoStack& changes);
-    void paintIcon();
+    void paintReport();
 
     QLabel* m_icon;
     PageContext::Report m_kind = PageContext::Report::Info; ///< of the last report

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "window/RecordCells.h"
-
-#include <QAbstractTableModel>
+#include "window/SortableTableModel.h"
 
 #include <functional>
 #include <iterator>
@@ -15,6 +14,7 @@ struct RecordColumn
 {
     using Text = std::function<QString(const Record& record)>;
     using Look = std::function<QVariant(const Record& record, int role)>;
+    using Key = std::function<SortKey(const Record& record)>;
 
     // Not an aggregate with default values: GCC 12 cannot compile that with `look` left out.
     RecordColumn(QString columnTitle, Text cellText, Look cellLook = {}, QString headerTip = {})
@@ -23,6 +23,14 @@ struct RecordColumn
           look(std::move(cellLook)),
           tip(std::move(headerTip))
     {
+    }
+
+    /// The same column, sorted by something else than its text.
+    RecordColumn sortedBy(Key sortKey) const
+    {
+        RecordColumn column = *this;
+        column.key = std::move(sortKey);
+        return column;
     }
 
     /// The header, translated.
@@ -34,30 +42,40 @@ struct RecordColumn
     Look look;
     /// The tool tip of the header. May be empty.
     QString tip;
+    /// What a cell is sorted by; empty: its text.
+    Key key;
 };
 
 /// A table of records, one a row, that is described by its columns: the one model of all flat lists
-/// of the window.
+/// of the window. Records keep the order in which they came, rows that of the column they are
+/// sorted by.
 template <typename Record>
-class RecordsModel : public QAbstractTableModel
+class RecordsModel : public SortableTableModel
 {
 public:
     using Column = RecordColumn<Record>;
 
     explicit RecordsModel(std::vector<Column> columns, QObject* parent = nullptr)
-        : QAbstractTableModel(parent), m_columns(std::move(columns))
+        : SortableTableModel(parent), m_columns(std::move(columns))
     {
     }
 
+    /// All records, in the order in which they came.
     const std::vector<Record>& records() const { return m_records; }
-    const Record& record(int row) const { return m_records[static_cast<std::size_t>(row)]; }
+    /// The record that stands in this row.
+    const Record& record(int row) const
+    {
+        return m_records[static_cast<std::size_t>(recordAt(row))];
+    }
 
     /// Replaces all records.
     void setRecords(std::vector<Record> records)
     {
         beginResetModel();
         m_records = std::move(records);
+        forgetRows();
         endResetModel();
+        sortAgain();
     }
 
     /// Adds records at the end.
@@ -68,6 +86,7 @@ public:
         const int first = rowCount();
         beginInsertRows({}, first, first + static_cast<int>(records.size()) - 1);
         std::move(records.begin(), records.end(), std::back_inserter(m_records));
+        recordsAppended();
         endInsertRows();
     }
 
@@ -75,7 +94,7 @@ public:
     template <typename Change>
     void update(int row, Change change)
     {
-        change(m_records[static_cast<std::size_t>(row)]);
+        change(m_records[static_cast<std::size_t>(recordAt(row))]);
         emit dataChanged(index(row, 0), index(row, columnCount() - 1));
     }
 
@@ -102,6 +121,16 @@ public:
         if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
             return {};
         return headerCellData(m_columns[static_cast<std::size_t>(section)], role);
+    }
+
+protected:
+    int recordCount() const override { return static_cast<int>(m_records.size()); }
+
+    SortKey sortKey(int record, int column) const override
+    {
+        const Column& described = m_columns[static_cast<std::size_t>(column)];
+        const Record& each = m_records[static_cast<std::size_t>(record)];
+        return described.key ? described.key(each) : SortKey::text(described.text(each));
     }
 
 private:

@@ -1,5 +1,7 @@
 #include "window/ViewLook.h"
 
+#include "window/TableTools.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QLayout>
@@ -30,6 +32,7 @@ void arrangeTable(QTableView& table)
     table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    new TableTools(&table);
 }
 
 int sampleWidth(const QTableView& table, const QString& sample)

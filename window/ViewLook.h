@@ -11,7 +11,8 @@ class QTabWidget;
 void arrangeTabs(QTabWidget& tabs);
 
 /// Gives a table the look and the keyboard of every list in the window: whole rows are selected,
-/// rows are one line high, Tab leaves the table, and the last column takes the space that is left.
+/// rows are one line high, Tab leaves the table, the last column takes the space that is left, and
+/// what TableTools says. Call it when the table has its model.
 void arrangeTable(QTableView& table);
 
 /// How wide a column is that shows this text.

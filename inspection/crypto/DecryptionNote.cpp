@@ -31,14 +31,22 @@ QString DecryptionNote::fault() const
                                                  : tr("the clear text is not valid UTF-8.");
 }
 
+QString DecryptionNote::notWholeBlocks() const
+{
+    if (m_decryption.cipherSize == 1)
+        return tr("Damaged cipher text: one byte is no whole block of 16. The library gets it "
+                  "undecrypted.");
+    return tr("Damaged cipher text: %L1 bytes are not whole blocks of 16. The library gets them "
+              "undecrypted.")
+        .arg(m_decryption.cipherSize);
+}
+
 QString DecryptionNote::outcome() const
 {
     if (m_decryption.reason() == DecryptionReason::NothingDecoded)
         return Base64Note::nothingDecoded();
     if (m_decryption.reason() == DecryptionReason::NotWholeBlocks)
-        return tr("Damaged cipher text: %L1 bytes are not whole blocks of 16. The library gets "
-                  "them undecrypted.")
-            .arg(m_decryption.cipherSize);
+        return notWholeBlocks();
     if (isFailure())
         return joinSentences({suspicion(), fault()});
     return tr("Bytes decrypted: %L1.").arg(m_answer.text.size());

@@ -26,6 +26,7 @@ public:
 private:
     /// What is wrong with text or padding; empty when nothing.
     QString fault() const;
+    QString notWholeBlocks() const;
     QString suspicion() const;
 
     const Decryption& m_decryption;

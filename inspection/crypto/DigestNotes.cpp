@@ -26,7 +26,9 @@ QString DigestNotes::of(const Digests& digests)
         lines += tr("The library's MD5 departs from RFC 1321 here, which gives %1, because of the "
                     "text: %2.")
                      .arg(digests.rfcMd5, departures(digests).join(tr(", ", "between reasons")));
-    if (digests.zeroByte >= 0)
+    if (digests.zeroByte == 1)
+        lines += tr("Sha256Encode and KdEncode read only the one byte before the first zero byte.");
+    else if (digests.zeroByte >= 0)
         lines += tr("Sha256Encode and KdEncode read only the %L1 bytes before the first zero byte.")
                      .arg(digests.zeroByte);
     if (digests.length == 0)

@@ -27,7 +27,7 @@ TypedKey::TypedKey(Kind kind, const QString& typed, bool hexadecimal)
 QString TypedKey::count() const
 {
     if (m_bytes.size() > keySize)
-        return tr("%1 bytes: only the first %2 are used").arg(m_bytes.size()).arg(keySize);
+        return tr("%L1 bytes: only the first %2 are used").arg(m_bytes.size()).arg(keySize);
     return tr("%1 of %2 bytes").arg(m_bytes.size()).arg(keySize);
 }
 

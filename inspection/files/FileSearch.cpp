@@ -4,13 +4,35 @@
 
 #include <algorithm>
 #include <iterator>
+#include <tuple>
 
 namespace {
 
 // The service writes 0 to the upper words of the times: with this value in it a time is untouched.
 constexpr DWORD unwritten = 0xFFFFFFFF;
 
+quint64 number(const FILETIME& time)
+{
+    return quint64{time.dwHighDateTime} << 32U | time.dwLowDateTime;
+}
+
+auto fields(const FoundDetails& details)
+{
+    return std::tuple(details.size, number(details.creation), number(details.lastAccess),
+                      number(details.lastWrite));
+}
+
 } // namespace
+
+bool operator==(const FoundDetails& a, const FoundDetails& b)
+{
+    return fields(a) == fields(b);
+}
+
+bool operator==(const FoundEntry& a, const FoundEntry& b)
+{
+    return a.name == b.name && a.attributes == b.attributes && a.details == b.details;
+}
 
 FileSearch::~FileSearch()
 {

@@ -15,6 +15,8 @@ struct FoundDetails
     FILETIME lastWrite{};
 };
 
+bool operator==(const FoundDetails& a, const FoundDetails& b);
+
 /// What one call wrote to the find record.
 struct FoundEntry
 {
@@ -23,6 +25,8 @@ struct FoundEntry
     /// Nothing where the call left size and times as they were.
     std::optional<FoundDetails> details;
 };
+
+bool operator==(const FoundEntry& a, const FoundEntry& b);
 
 /// One directory search through the services. Closes its handle when it is destroyed.
 class FileSearch

@@ -1,5 +1,7 @@
 #include "inspection/files/FileSearchJob.h"
 
+#include "inspection/files/WindowsPath.h"
+
 #include <utility>
 
 namespace {
@@ -18,6 +20,9 @@ QString FileSearchJob::fault(const QString& pattern)
 {
     if (pattern.isEmpty())
         return tr("Type a pattern first, such as /etc/*.conf.");
+    if (!pattern.contains(u'/') && WindowsPath::isIn(pattern))
+        return tr("The service finds nothing for %1. %2 With slashes it reads %3.")
+            .arg(pattern, WindowsPath::note(), WindowsPath::asMeantHere(pattern));
     if (!pattern.contains(u'/'))
         return tr("The service finds nothing for a pattern without a directory, whatever "
                   "the working directory holds. Put one before it, such as ./%1.")
@@ -62,10 +67,18 @@ bool FileSearchJob::isNextStepLong() const
 
 QString FileSearchJob::remark() const
 {
+    QStringList remarks;
+    if (WindowsPath::isIn(m_pattern))
+        remarks += WindowsPath::note();
     if (!m_readAhead.error().isEmpty())
-        return tr("The folder cannot be opened: %1.").arg(m_readAhead.error());
-    if (m_readAhead.undecodableNames() == 0)
-        return {};
+        remarks += tr("The folder cannot be opened: %1.").arg(m_readAhead.error());
+    if (m_readAhead.undecodableNames() > 0)
+        remarks += leftOutNames();
+    return remarks.join(u' ');
+}
+
+QString FileSearchJob::leftOutNames() const
+{
     return tr("Names in the folder that are no text in the locale's encoding, and that the service "
               "leaves out: %L1.")
         .arg(m_readAhead.undecodableNames());

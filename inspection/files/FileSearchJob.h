@@ -34,12 +34,14 @@ public:
     const QString& pattern() const { return m_pattern; }
     /// How many entries have been found so far.
     int found() const { return m_found; }
-    /// What the service does not tell, but the directory itself: that it cannot be opened, or how
-    /// many names it holds that the service leaves out. Empty when there is nothing to be said.
+    /// What the service does not tell: that the directory cannot be opened, how many names it holds
+    /// that the service leaves out, and what a pattern in the form of Windows is to it. Empty when
+    /// there is nothing to be said.
     QString remark() const;
 
 private:
     std::optional<FoundEntry> next();
+    QString leftOutNames() const;
 
     QString m_pattern;
     Receiver m_receiver;

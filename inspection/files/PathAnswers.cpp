@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t longestPath = 4096; // what the service writes at most
 constexpr std::size_t zeroedExtension = 256;
+constexpr std::size_t zeroedPath = 256;
 
 } // namespace
 
@@ -54,4 +55,13 @@ QString PathAnswers::temporaryFolder() const
     const unsigned int length =
         m_service.GetTempPathW(static_cast<unsigned int>(buffer.size()), buffer.data());
     return QString::fromWCharArray(buffer.data(), static_cast<int>(length));
+}
+
+// The service zeroes the beginning of the buffer, and writes one character more than it finds.
+QString PathAnswers::withSeparator(const QString& path) const
+{
+    const std::wstring text = path.toStdWString();
+    std::vector<wchar_t> buffer(std::max(zeroedPath, text.size() + 2));
+    std::copy(text.begin(), text.end(), buffer.begin());
+    return QString::fromWCharArray(m_service.AddBackslash(buffer.data()));
 }

@@ -27,6 +27,8 @@ public:
     bool isUrl(const QString& text) const;
     QString relativePath(const QString& from, const QString& to) const;
     QString temporaryFolder() const;
+    /// What `AddBackslash` makes of a path.
+    QString withSeparator(const QString& path) const;
 
 private:
     IPlatformDirectoryManager& m_service;

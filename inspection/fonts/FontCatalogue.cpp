@@ -39,6 +39,14 @@ int append(const tagLOGFONTW* font, const tagTEXTMETRICW* /*metrics*/, unsigned 
     return 0;
 }
 
+// The same for a procedure that only counts.
+int countOne(const tagLOGFONTW* /*font*/, const tagTEXTMETRICW* /*metrics*/, unsigned int /*type*/,
+             long counter)
+{
+    ++*reinterpret_cast<int*>(counter);
+    return 0;
+}
+
 } // namespace
 
 std::vector<RegisteredFont> FontCatalogue::records(const QString& face, BYTE charSet)
@@ -50,6 +58,16 @@ std::vector<RegisteredFont> FontCatalogue::records(const QString& face, BYTE cha
     g_PlatformServices.fontManager()->enumFontFamiliesEx(nullptr, &filter, &append,
                                                          reinterpret_cast<long>(&records), 0);
     return records;
+}
+
+int FontCatalogue::count()
+{
+    LOGFONTW all{};
+    all.lfCharSet = DEFAULT_CHARSET;
+    int count = 0;
+    g_PlatformServices.fontManager()->enumFontFamiliesEx(nullptr, &all, &countOne,
+                                                         reinterpret_cast<long>(&count), 0);
+    return count;
 }
 
 QString FontCatalogue::globalName(const QString& localName)

@@ -25,6 +25,9 @@ namespace FontCatalogue {
 /// stands for all families, DEFAULT_CHARSET for all sets.
 std::vector<RegisteredFont> records(const QString& face = {}, BYTE charSet = DEFAULT_CHARSET);
 
+/// How many records there are; asking for that is cheap.
+int count();
+
 /// The global name that stands for a local one; empty where the service knows none.
 QString globalName(const QString& localName);
 

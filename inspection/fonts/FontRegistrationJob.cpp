@@ -47,14 +47,14 @@ bool FontRegistrationJob::step()
 
 QString FontRegistrationJob::progress() const
 {
-    return tr("%L1 families left").arg(m_families.size());
+    return tr("Families left: %L1").arg(m_families.size());
 }
 
 QString FontRegistrationJob::summary() const
 {
     if (m_registeredFamilies == 0)
         return tr("All families were registered before.");
-    return tr("Registered: %L1 records of %L2 families.")
+    return tr("Registered records: %L1. Families: %L2.")
         .arg(m_registeredRecords)
         .arg(m_registeredFamilies);
 }

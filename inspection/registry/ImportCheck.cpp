@@ -7,6 +7,15 @@
 
 using Action = RegFileEntry::Action;
 
+namespace {
+
+bool isWithoutData(const RegFileEntry& entry)
+{
+    return entry.type == REG_NONE && entry.data.isEmpty();
+}
+
+} // namespace
+
 ImportCheck::ImportCheck(const RegFileEntry& entry) : m_entry(entry)
 {
     if (entry.action == Action::Malformed)
@@ -19,8 +28,12 @@ ImportCheck::ImportCheck(const RegFileEntry& entry) : m_entry(entry)
         checkData();
 }
 
+// Intended: Windows writes a value without a type and without data as an empty list of bytes. The
+// service takes REG_NONE for a number, and stores nothing without a byte.
 QByteArray ImportCheck::dataToSet(const RegFileEntry& entry)
 {
+    if (isWithoutData(entry))
+        return QByteArray(sizeof(quint32), '\0');
     return entry.type == REG_SZ ? registryTextData(entry.text) : entry.data;
 }
 
@@ -99,4 +112,6 @@ void ImportCheck::checkData()
         return refuse(remarks.join(QLatin1Char(' ')));
     for (const QString& what : remarks)
         remark(what);
+    if (isWithoutData(m_entry))
+        remark(tr("It has no data and becomes the number 0."));
 }

@@ -27,7 +27,7 @@ public:
     QString remark() const { return m_remarks.join(QLatin1Char(' ')); }
 
     /// The data that RegSetValueExW gets for a statement that sets a value; a text has its
-    /// terminator.
+    /// terminator, and a value without type and data is the number 0.
     static QByteArray dataToSet(const RegFileEntry& entry);
 
 private:

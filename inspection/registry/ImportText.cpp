@@ -16,11 +16,18 @@ struct ImportTexts
     Q_DECLARE_TR_FUNCTIONS(ImportText)
 };
 
-QString deed(Action action)
+QString deed(const ImportPlan::Statement& statement)
 {
-    switch (action) {
-    case Action::CreateKey: return ImportTexts::tr("Creates the key");
-    case Action::SetValue: return ImportTexts::tr("Sets the value");
+    const bool isThere = statement.isThere;
+    switch (statement.entry.action) {
+    case Action::CreateKey:
+        return isThere ? ImportTexts::tr("The key is there already")
+                       : ImportTexts::tr("Creates the key");
+    case Action::SetValue:
+        if (statement.before.isNull())
+            return ImportTexts::tr("Sets the value");
+        return isThere ? ImportTexts::tr("The value is there already")
+                       : ImportTexts::tr("Overwrites the value");
     default: return ImportTexts::tr("Deletes the value");
     }
 }
@@ -31,26 +38,36 @@ QString ImportText::outcome(const ImportPlan::Statement& statement)
 {
     switch (statement.outcome) {
     case Outcome::Refused: return ImportTexts::tr("Refused: %1").arg(statement.remark);
-    case Outcome::Altered: return statement.remark;
+    case Outcome::Altered:
+        return statement.isOverwriting()
+                   ? ImportTexts::tr("Overwrites the value. %1").arg(statement.remark)
+                   : statement.remark;
     case Outcome::Done: break;
     }
-    return deed(statement.entry.action);
+    return deed(statement);
 }
 
 QString ImportText::data(const RegFileEntry& entry)
 {
     if (entry.action != Action::SetValue)
         return QString();
-    QByteArray data = ImportCheck::dataToSet(entry);
-    if (entry.type == REG_SZ)
+    QByteArray data = entry.data;
+    if (entry.type == REG_SZ) {
+        data = ImportCheck::dataToSet(entry);
         data.chop(static_cast<int>(sizeof(wchar_t)));
+    }
     return registryTypeName(entry.type) + QLatin1Char(' ') + RegistryFormat::data(entry.type, data);
 }
 
 QString ImportText::summary(const ImportPlan& plan)
 {
-    return ImportTexts::tr("As written in the file: %1. Altered: %2. Refused: %3.")
-        .arg(plan.count(Outcome::Done))
-        .arg(plan.count(Outcome::Altered))
-        .arg(plan.count(Outcome::Refused));
+    const QString text = ImportTexts::tr("As written in the file: %L1. Altered: %L2. Refused: %L3.")
+                             .arg(plan.count(Outcome::Done))
+                             .arg(plan.count(Outcome::Altered))
+                             .arg(plan.count(Outcome::Refused));
+    const int overwritten = plan.overwritten();
+    if (overwritten == 0)
+        return text;
+    return text + QLatin1Char(' ') +
+           ImportTexts::tr("Values that are overwritten: %L1.").arg(overwritten);
 }

@@ -11,7 +11,7 @@ QString outcome(const ImportPlan::Statement& statement);
 /// Type and data of the value that the statement sets; empty for any other statement.
 QString data(const RegFileEntry& entry);
 
-/// How many statements have which outcome.
+/// How many statements have which outcome, and how many values are overwritten.
 QString summary(const ImportPlan& plan);
 
 } // namespace ImportText

@@ -28,6 +28,13 @@ QObject* RawStore::receiver()
     return g_globalSettings;
 }
 
+std::unique_ptr<QSettings> RawStore::opened(const QString& file)
+{
+    auto other = std::make_unique<QSettings>(file, g_globalSettings->format());
+    other->setIniCodec(g_globalSettings->iniCodec());
+    return other;
+}
+
 QStringList RawStore::allEntries() const
 {
     return m_store ? m_store->allKeys() : QStringList();

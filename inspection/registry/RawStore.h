@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <memory>
 #include <optional>
 
 /// One group of the host library's settings store as it stands there, past the registry service:
@@ -31,6 +32,10 @@ public:
     static bool isWritable();
     /// The object that gets the store's events; null without a store. Owned by the host library.
     static QObject* receiver();
+
+    /// Opens another file as the store's own is opened, in the same format and encoding. There must
+    /// be a store.
+    static std::unique_ptr<QSettings> opened(const QString& file);
 
     /// Names of all entries below the group, with their levels, sorted.
     QStringList allEntries() const;

@@ -3,9 +3,15 @@
 #include <QIODevice>
 #include <QLocale>
 
-RegistryImportJob::RegistryImportJob(std::unique_ptr<QIODevice> file) : m_reader(std::move(file)) {}
+RegistryImportJob::RegistryImportJob(std::unique_ptr<QIODevice> file, const QByteArray& codePage)
+    : m_reader(std::move(file), codePage)
+{
+}
 
-RegistryImportJob::RegistryImportJob(const QByteArray& file) : m_reader(file) {}
+RegistryImportJob::RegistryImportJob(const QByteArray& file, const QByteArray& codePage)
+    : m_reader(file, codePage)
+{
+}
 
 bool RegistryImportJob::step()
 {

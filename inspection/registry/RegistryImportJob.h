@@ -11,10 +11,10 @@
 class RegistryImportJob : public Job
 {
 public:
-    /// `file` is open for reading.
-    explicit RegistryImportJob(std::unique_ptr<QIODevice> file);
+    /// `file` is open for reading; `codePage` is that of a file of version 4, see RegFileReader.
+    explicit RegistryImportJob(std::unique_ptr<QIODevice> file, const QByteArray& codePage = {});
     /// A file that is in memory already, as those of the tests are.
-    explicit RegistryImportJob(const QByteArray& file);
+    explicit RegistryImportJob(const QByteArray& file, const QByteArray& codePage = {});
 
     /// Reads one statement or a small piece of the file.
     bool step() override;
@@ -24,6 +24,8 @@ public:
     /// Why the whole file is refused, in words; empty when it can be read, as far as it is known
     /// yet.
     QString error() const { return m_reader.error(); }
+    /// What the file says of its encoding; complete once the job is done.
+    const RegFileReader& reader() const { return m_reader; }
     /// Shared with who shows it and who carries it out; complete once the job is done.
     std::shared_ptr<const ImportPlan> plan() const { return m_plan; }
 

@@ -6,13 +6,18 @@
 
 #include <QLocale>
 
-RegistrySearchJob::RegistrySearchJob(const QString& text, const QString& path, bool inNames,
-                                     bool inData)
-    : m_text(text),
-      m_digits(text.toLower().toLatin1()),
-      m_inNames(inNames),
-      m_inData(inData),
-      m_walk(path)
+namespace {
+
+bool isPartOfWord(const QString& text, int at)
+{
+    return at >= 0 && at < text.size() &&
+           (text.at(at).isLetterOrNumber() || text.at(at) == QLatin1Char('_'));
+}
+
+} // namespace
+
+RegistrySearchJob::RegistrySearchJob(const Query& query, const QString& path)
+    : m_query(query), m_digits(query.text.toLower().toLatin1()), m_walk(path)
 {
 }
 
@@ -38,8 +43,18 @@ QString RegistrySearchJob::progress() const
 
 void RegistrySearchJob::lookAtKey()
 {
-    if (m_inNames && matches(RegistryPath::name(m_walk.path())))
+    if (m_query.inKeys && matches(RegistryPath::name(m_walk.path())))
         m_hits.push_back({m_walk.path(), {}, {}});
+}
+
+bool RegistrySearchJob::matches(const QString& text) const
+{
+    const auto sensitivity = m_query.mindsCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    int at = text.indexOf(m_query.text, 0, sensitivity);
+    while (m_query.wholeWords && at >= 0 &&
+           (isPartOfWord(text, at - 1) || isPartOfWord(text, at + m_query.text.size())))
+        at = text.indexOf(m_query.text, at + 1, sensitivity);
+    return at >= 0;
 }
 
 bool RegistrySearchJob::matches(const RegistryReading& reading) const
@@ -70,8 +85,8 @@ void RegistrySearchJob::lookAtValue()
                                         : m_walk.key().read(m_walk.name());
     const QString data =
         reading.readable ? RegistryFormat::data(reading.type, reading.data) : QString();
-    const bool found =
-        (m_inNames && matches(m_walk.name())) || (m_inData && reading.readable && matches(reading));
+    const bool found = (m_query.inNames && matches(m_walk.name())) ||
+                       (m_query.inData && reading.readable && matches(reading));
     if (found)
         m_hits.push_back({m_walk.path(), m_walk.name(), data});
 }

@@ -7,14 +7,24 @@
 
 #include <vector>
 
-/// Looks for a text, ignoring case, in the names of keys and values and in the data of values, from
-/// one key downwards. Texts and bytes are searched whole, numbers as they are shown; hexadecimal
-/// digits of bytes are found with and without blanks.
+/// Looks for a text in the names of keys and values and in the data of values, from one key
+/// downwards. Texts and bytes are searched whole, numbers as they are shown; hexadecimal digits of
+/// bytes are found in either case, with and without blanks.
 class RegistrySearchJob : public Job
 {
     Q_DECLARE_TR_FUNCTIONS(RegistrySearchJob)
 
 public:
+    struct Query
+    {
+        QString text;
+        bool inKeys = true;  ///< in the names of keys
+        bool inNames = true; ///< in the names of values
+        bool inData = true;
+        bool mindsCase = false;  ///< upper and lower case letters differ
+        bool wholeWords = false; ///< with no letter, digit or "_" right before or behind it
+    };
+
     struct Hit
     {
         QString path;
@@ -25,7 +35,7 @@ public:
     /// The search ends by itself after so many hits.
     static constexpr std::size_t mostHits = 1000;
 
-    RegistrySearchJob(const QString& text, const QString& path, bool inNames, bool inData);
+    explicit RegistrySearchJob(const Query& query, const QString& path = {});
 
     bool step() override;
     /// How many values have been looked at and how many places found.
@@ -38,14 +48,12 @@ public:
 private:
     void lookAtKey();
     void lookAtValue();
-    bool matches(const QString& text) const { return text.contains(m_text, Qt::CaseInsensitive); }
+    bool matches(const QString& text) const;
     bool matches(const RegistryReading& reading) const;
     bool matchesBytes(const QByteArray& data) const;
 
-    QString m_text;
+    Query m_query;
     QByteArray m_digits; ///< in lower case, as bytes are written
-    bool m_inNames;
-    bool m_inData;
     RegistryWalk m_walk;
     std::vector<Hit> m_hits;
 };

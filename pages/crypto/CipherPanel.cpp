@@ -95,11 +95,25 @@ void CipherPanel::decrypt()
     const DecryptionNote note(decryption, answer);
     if (decryption.reason() == DecryptionReason::NothingDecoded)
         return refuse(note.outcome());
-    m_plain->setText(DecodedText::of(answer.text).text);
-    const QString remarks =
-        joinSentences({note.remarks(), Base64Note::of(cipherText), m_keys->note()});
+    const QString text = DecodedText::of(answer.text).text;
+    const QString remarks = joinSentences({Base64Note::of(cipherText), m_keys->note()});
     if (note.isFailure())
-        m_context.report(PageContext::Report::Error, joinSentences({note.outcome(), remarks}));
-    else
-        reportDone(note.outcome(), remarks);
+        return showFailure(note, text, remarks);
+    m_plain->setText(text);
+    reportDone(note.outcome(), joinSentences({note.remarks(), remarks}));
+}
+
+// What a failure gives takes the place of nothing but what a failure gave before.
+void CipherPanel::showFailure(const DecryptionNote& note, const QString& text,
+                              const QString& remarks)
+{
+    const QString before = m_plain->text();
+    QString remark = note.remarks();
+    if (before.isEmpty() || before == m_failed) {
+        m_plain->setText(text);
+        m_failed = text;
+    } else {
+        remark = text.isEmpty() ? QString() : tr("They are not shown: the clear text is kept.");
+    }
+    m_context.report(PageContext::Report::Error, joinSentences({note.outcome(), remark, remarks}));
 }

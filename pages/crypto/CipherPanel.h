@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class DecryptionNote;
 class KeyInput;
 class PageContext;
 class TextPane;
@@ -22,9 +23,12 @@ private:
     void refuse(const QString& problem);
     /// Reports a success, as a warning where there are remarks on it.
     void reportDone(const QString& outcome, const QString& remarks);
+    /// Reports a failure; shows what the library gets where nothing else stands in the clear text.
+    void showFailure(const DecryptionNote& note, const QString& text, const QString& remarks);
 
     PageContext& m_context;
     KeyInput* m_keys;
     TextPane* m_plain;
     TextPane* m_cipher;
+    QString m_failed; ///< what the last failure has put into the clear text
 };

@@ -25,7 +25,9 @@ void CryptoPage::find()
     m_tabs->currentWidget()->setFocus(Qt::ShortcutFocusReason);
 }
 
+// What was said of one tab is no news of another one.
 void CryptoPage::followTab()
 {
+    setStatus({});
     setFocusProxy(m_tabs->currentWidget());
 }

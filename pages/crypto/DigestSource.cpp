@@ -1,12 +1,14 @@
 #include "pages/crypto/DigestSource.h"
 
 #include "inspection/crypto/DigestJob.h"
+#include "inspection/files/TypedPath.h"
 #include "pages/crypto/TextPane.h"
+#include "window/FileDialog.h"
+#include "window/FileOpener.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
 
 #include <QDragEnterEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -43,6 +45,7 @@ DigestSource::DigestSource(PageContext& context, QWidget* parent)
     });
     fromText->setChecked(true);
     setAcceptDrops(true);
+    setProperty(FileOpener::takesAnyFile, true);
     setFocusProxy(m_text);
 }
 
@@ -63,9 +66,11 @@ QWidget* DigestSource::makeFile()
 
 void DigestSource::browse()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Choose a file"), m_path->text());
-    if (!path.isEmpty())
-        setFile(path);
+    auto* dialog = new FileDialog(this, tr("Choose a file"), "digest");
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->startAt(path());
+    connect(dialog, &QFileDialog::fileSelected, this, &DigestSource::setFile);
+    dialog->open();
 }
 
 void DigestSource::setFile(const QString& path)
@@ -88,9 +93,14 @@ void DigestSource::dropEvent(QDropEvent* event)
     event->acceptProposedAction();
 }
 
+QString DigestSource::path() const
+{
+    return typedPath(m_path->text());
+}
+
 QString DigestSource::description() const
 {
-    return m_fromFile->isChecked() ? QFileInfo(m_path->text()).fileName() : tr("the text");
+    return m_fromFile->isChecked() ? QFileInfo(path()).fileName() : tr("the text");
 }
 
 std::unique_ptr<DigestJob> DigestSource::makeJob(const QByteArray& second)
@@ -98,7 +108,7 @@ std::unique_ptr<DigestJob> DigestSource::makeJob(const QByteArray& second)
     if (!m_fromFile->isChecked())
         return std::make_unique<DigestJob>(textOf(*m_text).toUtf8(), second);
     QString problem;
-    std::unique_ptr<DigestJob> job = DigestJob::ofFile(m_path->text(), second, &problem);
+    std::unique_ptr<DigestJob> job = DigestJob::ofFile(path(), second, &problem);
     if (!job) {
         m_path->setFocus();
         m_context.report(PageContext::Report::Warning, problem);

@@ -36,6 +36,7 @@ private:
     QWidget* makeFile();
     void setFile(const QString& path);
     void browse();
+    QString path() const;
 
     PageContext& m_context;
     QRadioButton* m_fromFile;

@@ -67,10 +67,21 @@ KeyInput::KeyInput(PageContext& context, QWidget* parent)
     setFocusProxy(m_passPhrase);
 }
 
+QWidget* KeyInput::makeReveal(const std::vector<QLineEdit*>& fields)
+{
+    auto* reveal = new QCheckBox(tr("Show what is typ&ed"));
+    connect(reveal, &QCheckBox::toggled, this, [fields](bool shown) {
+        for (QLineEdit* field : fields)
+            field->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);
+    });
+    return reveal;
+}
+
 QWidget* KeyInput::makePassPhrase()
 {
     QGridLayout* grid = makeGrid();
     addSecret(tr("Pass phra&se:"), m_passPhrase, grid);
+    grid->addWidget(makeReveal({m_passPhrase}), grid->rowCount() - 1, 2);
     return grid->parentWidget();
 }
 
@@ -79,7 +90,11 @@ QWidget* KeyInput::makeKeys()
     QGridLayout* grid = makeGrid();
     addKey(tr("&Key:"), m_key, grid);
     addKey(tr("I&V:"), m_iv, grid);
-    grid->addWidget(m_hexadecimal, grid->rowCount(), 1, 1, 2);
+    auto* boxes = new QHBoxLayout;
+    boxes->addWidget(m_hexadecimal);
+    boxes->addWidget(makeReveal({m_key, m_iv}));
+    boxes->addStretch();
+    grid->addLayout(boxes, grid->rowCount(), 1, 1, 2);
     return grid->parentWidget();
 }
 

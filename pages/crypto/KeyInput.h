@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 class PageContext;
 class QCheckBox;
@@ -14,7 +15,7 @@ class QGridLayout;
 class QLineEdit;
 class QRadioButton;
 
-/// Takes a pass phrase, or key and IV. What is typed is masked.
+/// Takes a pass phrase, or key and IV. What is typed is masked until the user wants to see it.
 class KeyInput : public QWidget
 {
     Q_OBJECT
@@ -35,6 +36,8 @@ public:
     QString note() const;
 
 private:
+    /// A box that shows what is typed into these fields.
+    QWidget* makeReveal(const std::vector<QLineEdit*>& fields);
     QWidget* makePassPhrase();
     QWidget* makeKeys();
     /// A key with a count of its bytes behind.

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QTextCursor>
 #include <QVBoxLayout>
 
 QPlainTextEdit* makeTextEdit(const QString& accessibleName, const QString& hint)
@@ -48,7 +49,10 @@ QString TextPane::text() const
 
 void TextPane::setText(const QString& text)
 {
-    m_edit->setPlainText(text);
+    QTextCursor all(m_edit->document()); // setPlainText would forget what can be undone
+    all.select(QTextCursor::Document);
+    all.insertText(text);
+    m_edit->moveCursor(QTextCursor::Start);
     m_set = text;
     m_setAsShown = textOf(*m_edit);
 }

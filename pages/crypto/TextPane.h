@@ -25,6 +25,7 @@ public:
 
     /// What was typed or pasted, or what was set for as long as the user leaves it alone.
     QString text() const;
+    /// Replaces everything in one step, which undo takes back.
     void setText(const QString& text);
     QPlainTextEdit* edit() const { return m_edit; }
 

@@ -55,6 +55,7 @@ void DisplaysPage::makeTabs()
     arrangeTabs(*m_tabs);
     body()->addWidget(m_tabs, 2);
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
+        setStatus({}); // what was said of one tab is no news of another one
         if (m_tabs->currentWidget() == m_handles)
             m_handles->refresh();
     });

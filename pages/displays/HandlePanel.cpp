@@ -35,7 +35,10 @@ QString handleName(const GraphicsObject& handle)
 
 std::vector<RecordColumn<GraphicsObject>> columns()
 {
-    return {{HandlePanel::tr("Handle"), &handleName},
+    const auto number = [](const GraphicsObject& handle) {
+        return SortKey::number(static_cast<double>(reinterpret_cast<quintptr>(handle.handle)));
+    };
+    return {RecordColumn<GraphicsObject>(HandlePanel::tr("Handle"), &handleName).sortedBy(number),
             {HandlePanel::tr("Type"), &typeText},
             {HandlePanel::tr("Object"), &objectText}};
 }
@@ -115,7 +118,7 @@ void HandlePanel::refresh()
     const auto made = std::find_if(handles.begin(), handles.end(),
                                    [this](const auto& handle) { return handle.handle == m_made; });
     if (made != handles.end())
-        m_view->selectRow(static_cast<int>(made - handles.begin()));
+        m_view->selectRow(m_model.rowOf(static_cast<int>(made - handles.begin())));
 }
 
 void HandlePanel::createImage()

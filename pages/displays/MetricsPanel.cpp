@@ -14,11 +14,15 @@ constexpr int lastIndex = 65535;
 
 std::vector<RecordColumn<SystemMetric>> columns()
 {
-    return {{MetricsPanel::tr("Index"),
-             [](const auto& metric) { return QString::number(metric.index); }},
+    using Column = RecordColumn<SystemMetric>;
+    return {Column(MetricsPanel::tr("Index"),
+                   [](const auto& metric) { return QString::number(metric.index); })
+                .sortedBy([](const auto& metric) { return SortKey::number(metric.index); }),
             {MetricsPanel::tr("Name"),
              [](const auto& metric) { return QString::fromLatin1(metric.name); }},
-            {MetricsPanel::tr("Value"), &valueText}};
+            Column(MetricsPanel::tr("Value"), &valueText).sortedBy([](const auto& metric) {
+                return SortKey::number(metric.value);
+            })};
 }
 
 } // namespace

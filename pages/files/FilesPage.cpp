@@ -1,61 +1,23 @@
 #include "pages/files/FilesPage.h"
 
-#include "inspection/files/FileAttributes.h"
 #include "inspection/files/FileSearchJob.h"
-#include "inspection/files/FoundEntryText.h"
+#include "inspection/files/TypedPath.h"
+#include "pages/files/FoundTable.h"
 #include "pages/files/PathPanel.h"
+#include "pages/files/SearchFollower.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
-#include "window/ViewLook.h"
+#include "window/FileDialog.h"
 
 #include <QDir>
-#include <QFileDialog>
-#include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPalette>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTableView>
 #include <QVBoxLayout>
 
 namespace {
-
-using Column = RecordColumn<FoundEntry>;
-using Text = std::function<QString(const FoundEntry& entry)>;
-
-// A column of what the service writes for some entries only; its tool tip shows the record's
-// fields.
-Column detail(const QString& title, const Text& text, const Text& raw)
-{
-    return {title, text, [raw](const FoundEntry& entry, int role) -> QVariant {
-                if (role == Qt::ToolTipRole)
-                    return plainToolTip(raw(entry));
-                if (role == Qt::ForegroundRole && !entry.details)
-                    return QGuiApplication::palette().placeholderText();
-                return {};
-            }};
-}
-
-Column time(const QString& title, FoundEntryText::Time field)
-{
-    return detail(
-        title, [field](const FoundEntry& entry) { return FoundEntryText::time(entry, field); },
-        [field](const FoundEntry& entry) { return FoundEntryText::rawTime(entry, field); });
-}
-
-std::vector<Column> columns()
-{
-    return {{FilesPage::tr("Name"), [](const FoundEntry& entry) { return entry.name; }},
-            {FilesPage::tr("Attributes"),
-             [](const FoundEntry& entry) { return attributesText(entry.attributes); }},
-            detail(FilesPage::tr("Size"), &FoundEntryText::size, &FoundEntryText::rawSize),
-            time(FilesPage::tr("Last written"), &FoundDetails::lastWrite),
-            time(FilesPage::tr("Created"), &FoundDetails::creation),
-            time(FilesPage::tr("Last accessed"), &FoundDetails::lastAccess)};
-}
 
 QString joined(const QString& sentence, const QString& remark)
 {
@@ -67,9 +29,9 @@ QString joined(const QString& sentence, const QString& remark)
 FilesPage::FilesPage(QWidget* parent)
     : Page(parent),
       m_pattern(new QLineEdit),
-      m_entries(new RecordsModel<FoundEntry>(columns(), this)),
-      m_table(makeTable()),
-      m_paths(new PathPanel(*g_PlatformServices.directoryManager()))
+      m_table(new FoundTable),
+      m_paths(new PathPanel(*g_PlatformServices.directoryManager())),
+      m_follower(new SearchFollower(this))
 {
     m_hint = new EmptyHint(m_table, tr("Type a pattern, such as /etc/*.conf, and press Enter: here "
                                        "stands what findFirstFile and findNextFile report."));
@@ -80,6 +42,7 @@ FilesPage::FilesPage(QWidget* parent)
     splitter->addWidget(m_paths);
     splitter->setStretchFactor(0, 1);
     body()->addWidget(splitter, 1);
+    connectTable();
     setFocusProxy(m_pattern);
 }
 
@@ -101,36 +64,32 @@ QLayout* FilesPage::makeSearchRow()
     row->addWidget(search);
     row->addWidget(browse);
     connect(m_pattern, &QLineEdit::returnPressed, this, &FilesPage::search);
+    connect(m_pattern, &QLineEdit::textChanged, this, &FilesPage::followPattern);
     connect(search, &QPushButton::clicked, this, &FilesPage::search);
     connect(browse, &QPushButton::clicked, this, &FilesPage::browse);
     return row;
 }
 
-QTableView* FilesPage::makeTable()
+void FilesPage::connectTable()
 {
-    auto* table = new QTableView;
-    table->setObjectName(QStringLiteral("entries"));
-    table->setAccessibleName(tr("Found entries"));
-    table->setModel(m_entries);
-    arrangeTable(*table);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    const QString time = QStringLiteral("2000-00-00 00:00:00");
-    fitColumns(*table,
-               {QStringLiteral("Name of a file with date.ext"), QStringLiteral("0x10 DIRECTORY"),
-                QStringLiteral("999,999,999"), time, time, time});
-    connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &FilesPage::showCurrent);
-    return table;
+    connect(m_table, &FoundTable::chosen, this,
+            [this](const QString& name) { m_paths->setPath(folder() + name); });
+    connect(m_table, &FoundTable::folderOpened, this, &FilesPage::openFolder);
+    connect(m_table, &FoundTable::parentRequested, this, &FilesPage::openParent);
+    connect(m_follower, &SearchFollower::found, this, &FilesPage::showAgain);
 }
 
 void FilesPage::refresh()
 {
     m_paths->ask();
-    if (!m_searched.isEmpty()) {
-        m_pattern->setText(m_searched);
-        search();
-    }
+    if (!m_searched.isEmpty())
+        searchFor(m_searched);
+}
+
+void FilesPage::lookForChanges()
+{
+    m_paths->lookForChanges();
+    m_follower->look();
 }
 
 void FilesPage::find()
@@ -141,55 +100,116 @@ void FilesPage::find()
 
 void FilesPage::browse()
 {
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Folder to search"), m_pattern->text().section(QLatin1Char('/'), 0, -2));
-    if (folder.isEmpty())
-        return;
-    m_pattern->setText(QDir(folder).filePath(QStringLiteral("*")));
-    search();
+    auto* dialog = new FileDialog(this, tr("Folder to search"), "files");
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->startAt(typedPath(m_pattern->text()).section(QLatin1Char('/'), 0, -2));
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& folder) {
+        m_pattern->setText(QDir(folder).filePath(QStringLiteral("*")));
+        search();
+    });
+    dialog->open();
 }
 
 void FilesPage::search()
 {
-    if (isBusy())
-        return;
-    const QString refused = FileSearchJob::fault(m_pattern->text());
-    if (!refused.isEmpty()) {
-        report(Report::Error, refused);
-        return;
-    }
-    m_searched = m_pattern->text();
-    m_entries->setRecords({});
-    startJob(tr("Searching %1").arg(m_searched),
-             std::make_unique<FileSearchJob>(m_searched,
-                                             [this](std::vector<FoundEntry> entries) {
-                                                 m_entries->append(std::move(entries));
-                                             }),
-             [this](const FileSearchJob& job, bool complete) { finish(job, complete); });
+    const QString pattern = typedPath(m_pattern->text());
+    const QString refused = FileSearchJob::fault(pattern);
+    if (!refused.isEmpty())
+        return report(Report::Error, refused);
+    m_typed = m_pattern->text();
+    searchFor(pattern);
 }
 
+void FilesPage::searchFor(const QString& pattern, const QString& chosen)
+{
+    if (isBusy())
+        return;
+    m_searched = pattern;
+    m_table->clear();
+    followPattern();
+    m_follower->begin(pattern);
+    startJob(tr("Searching %1").arg(pattern),
+             std::make_unique<FileSearchJob>(
+                 pattern,
+                 [this](std::vector<FoundEntry> entries) { m_table->append(std::move(entries)); }),
+             [this, chosen](const FileSearchJob& job, bool complete) {
+                 finish(job, complete);
+                 m_table->choose(chosen);
+             });
+}
+
+// Of a search that was stopped, the rest is not read by itself later on.
 void FilesPage::finish(const FileSearchJob& job, bool complete)
 {
     if (!complete) {
-        report(Report::Warning, tr("Stopped: %L1 found so far.").arg(job.found()));
-    } else if (job.found() == 0) {
-        m_hint->setText(tr("The service finds nothing for %1.").arg(m_searched));
-        report(Report::Warning, joined(tr("Nothing found for %1.").arg(m_searched), job.remark()));
-    } else {
-        const QString found =
-            tr("%L1 found. Size and times are reported for the first one only, and "
-               "only if it is a file; dwReserved0, dwReserved1 and cAlternateFileName "
-               "never are.")
-                .arg(job.found());
-        report(Report::Info, joined(found, job.remark()));
+        m_follower->stop();
+        return report(Report::Warning, tr("Stopped: %L1 found so far.").arg(job.found()));
     }
+    report(job.found() == 0 ? Report::Warning : Report::Info, foundText(job));
+    if (job.found() > 0)
+        m_follower->setFirst(folder() + m_table->entries().front().name);
+    markRead();
 }
 
-void FilesPage::showCurrent()
+QString FilesPage::foundText(const FileSearchJob& job)
 {
-    const QModelIndex current = m_table->currentIndex();
-    if (!current.isValid())
+    if (job.found() == 0) {
+        m_hint->setText(tr("The service finds nothing for %1.").arg(m_searched));
+        return joined(tr("Nothing found for %1.").arg(m_searched), job.remark());
+    }
+    return joined(tr("%L1 found. Size and times are reported for the first one only, and only if "
+                     "it is a file; dwReserved0, dwReserved1 and cAlternateFileName never are.")
+                      .arg(job.found()),
+                  job.remark());
+}
+
+// What stands below is kept while another pattern is being typed, and is told of it.
+void FilesPage::showAgain(const FileSearchJob& job, const std::vector<FoundEntry>& entries)
+{
+    markRead();
+    m_follower->setFirst(entries.empty() ? QString() : folder() + entries.front().name);
+    if (entries == m_table->entries())
         return;
-    const QString folder = m_searched.left(m_searched.lastIndexOf(QLatin1Char('/')) + 1);
-    m_paths->setPath(folder + m_entries->record(current.row()).name);
+    m_table->replace(entries);
+    m_paths->ask();
+    const QString text = foundText(job);
+    if (m_pattern->text() == m_typed)
+        setStatus(text);
+}
+
+QString FilesPage::folder() const
+{
+    return m_searched.left(m_searched.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+void FilesPage::openFolder(const QString& name)
+{
+    m_pattern->setText(folder() + name + QStringLiteral("/*"));
+    search();
+}
+
+// The folder that one comes from is chosen there.
+void FilesPage::openParent()
+{
+    if (isBusy() || folder().isEmpty())
+        return;
+    const QString path = QDir::cleanPath(QDir(folder()).absolutePath());
+    const int separator = path.lastIndexOf(QLatin1Char('/'));
+    m_typed = path.left(separator + 1) + QLatin1Char('*');
+    m_pattern->setText(m_typed);
+    searchFor(m_typed, path.mid(separator + 1));
+}
+
+// The rows stay until something else has been found, but nobody shall take them for the answer to
+// what stands above them.
+void FilesPage::followPattern()
+{
+    const bool isOutdated = !m_searched.isEmpty() && m_pattern->text() != m_typed;
+    m_table->setOutdated(isOutdated);
+    if (isOutdated)
+        setStatus(tr("The rows are still those of %1: press Enter to search for the new pattern.")
+                      .arg(m_searched));
+    else
+        setStatus({});
 }

@@ -2,14 +2,14 @@
 
 #include "inspection/files/FileSearch.h"
 #include "window/Page.h"
-#include "window/RecordsModel.h"
 
 class EmptyHint;
 class FileSearchJob;
+class FoundTable;
 class PathPanel;
 class QLayout;
 class QLineEdit;
-class QTableView;
+class SearchFollower;
 
 /// Directory searches, and what the directory service says of single paths.
 class FilesPage : public Page
@@ -23,18 +23,29 @@ public:
     void refresh() override;
     void find() override;
 
+protected:
+    void lookForChanges() override;
+
 private:
     QLayout* makeSearchRow();
-    QTableView* makeTable();
+    void connectTable();
     void browse();
     void search();
+    /// `chosen` is the entry to be chosen when it is found.
+    void searchFor(const QString& pattern, const QString& chosen = {});
     void finish(const FileSearchJob& job, bool complete);
-    void showCurrent();
+    void showAgain(const FileSearchJob& job, const std::vector<FoundEntry>& entries);
+    QString foundText(const FileSearchJob& job);
+    QString folder() const;
+    void openFolder(const QString& name);
+    void openParent();
+    void followPattern();
 
     QLineEdit* m_pattern;
-    RecordsModel<FoundEntry>* m_entries;
-    QTableView* m_table;
+    FoundTable* m_table;
     EmptyHint* m_hint;
     PathPanel* m_paths;
+    SearchFollower* m_follower;
     QString m_searched; ///< the pattern of the rows in the table
+    QString m_typed;    ///< as it was typed
 };

@@ -1,9 +1,13 @@
 #include "pages/files/PathPanel.h"
 
 #include "inspection/files/FileAttributes.h"
+#include "inspection/files/TypedPath.h"
+#include "inspection/files/WindowsPath.h"
 #include "window/AnswerField.h"
+#include "window/ShownText.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,7 +19,7 @@ constexpr int pauseMilliseconds = 300; // longer than between two keys of one wo
 } // namespace
 
 PathPanel::PathPanel(IPlatformDirectoryManager& service, QWidget* parent)
-    : QGroupBox(tr("One path"), parent), m_answers(service)
+    : QGroupBox(tr("One path"), parent), m_answers(service), m_note(new QLabel)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
@@ -35,6 +39,11 @@ PathPanel::PathPanel(IPlatformDirectoryManager& service, QWidget* parent)
     m_extension = addAnswer(grid, 3, 2, tr("Extension:"), "extension");
     m_temporary = addAnswer(grid, 4, 0, tr("Temporary folder:"), "temporary");
     m_url = addAnswer(grid, 4, 2, tr("Is a URL:"), "url");
+    m_note->setObjectName(QStringLiteral("note"));
+    m_note->setTextFormat(Qt::PlainText);
+    m_note->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_note->setWordWrap(true);
+    grid->addWidget(m_note, 5, 0, 1, 4);
     connect(m_path, &QLineEdit::textChanged, this, &PathPanel::askSoon);
     connect(m_from, &QLineEdit::textChanged, this, &PathPanel::askSoon);
     ask();
@@ -67,6 +76,27 @@ void PathPanel::setPath(const QString& path)
     m_path->setText(path);
 }
 
+QString PathPanel::path() const
+{
+    return typedPath(m_path->text());
+}
+
+void PathPanel::takeStamps()
+{
+    m_pathStamp = FileStamp::of(path());
+    m_folderStamp = FileStamp::of(QFileInfo(path()).path());
+}
+
+// While a path is being typed, the question that is to come is enough.
+void PathPanel::lookForChanges()
+{
+    if (m_pause.isActive() || path().isEmpty())
+        return;
+    if (m_pathStamp != FileStamp::of(path()) ||
+        m_folderStamp != FileStamp::of(QFileInfo(path()).path()))
+        ask();
+}
+
 void PathPanel::ask()
 {
     m_pause.stop();
@@ -85,22 +115,40 @@ void PathPanel::askSoon()
 void PathPanel::showCheapAnswers()
 {
     m_temporary->setAnswer(m_answers.temporaryFolder());
-    const QString path = m_path->text();
+    showNote();
+    const QString path = this->path();
     if (path.isEmpty()) {
         for (AnswerField* answer : {m_attributes, m_relative, m_extension, m_url})
             answer->setAnswer({});
         return;
     }
     m_attributes->setAnswer(attributesText(m_answers.attributes(path)));
-    m_relative->setAnswer(m_answers.relativePath(m_from->text(), path));
+    m_relative->setAnswer(m_answers.relativePath(typedPath(m_from->text()), path));
     const QString extension = m_answers.extension(path);
     m_extension->setAnswer(extension.isEmpty() ? tr("None") : extension);
-    m_url->setAnswer(m_answers.isUrl(path) ? tr("Yes") : tr("No"));
+    m_url->setAnswer(m_answers.isUrl(m_path->text()) ? tr("Yes") : tr("No"));
+}
+
+// The services know nothing of quotation marks and of "~": the page does, and says so.
+void PathPanel::showNote()
+{
+    const QString path = this->path();
+    QStringList notes;
+    if (path != m_path->text())
+        notes += tr("Asked about %1.").arg(path);
+    if (WindowsPath::isIn(path))
+        notes += tr("%1 AddBackslash makes %2 of it.")
+                     .arg(WindowsPath::note(), m_answers.withSeparator(path));
+    const QString text = notes.join(QLatin1Char(' '));
+    m_note->setText(withoutLongWords(text));
+    m_note->setToolTip(plainToolTip(text));
+    m_note->setVisible(!notes.isEmpty());
 }
 
 void PathPanel::showExistence()
 {
-    const QString path = m_path->text();
+    takeStamps();
+    const QString path = this->path();
     if (path.isEmpty()) {
         m_exists->setAnswer({});
         return;

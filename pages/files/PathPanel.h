@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inspection/files/FileStamp.h"
 #include "inspection/files/PathAnswers.h"
 
 #include <QGroupBox>
@@ -7,6 +8,7 @@
 
 class AnswerField;
 class QGridLayout;
+class QLabel;
 class QLineEdit;
 
 /// What the directory service answers about one path, while it is typed.
@@ -20,13 +22,18 @@ public:
     void setPath(const QString& path);
     /// Asks the service anew, for everything at once.
     void ask();
+    /// Asks anew where the path, or the folder that holds it, has changed.
+    void lookForChanges();
 
 private:
     QLineEdit* addInput(QGridLayout* grid, const QString& label, const QString& hint);
     AnswerField* addAnswer(QGridLayout* grid, int row, int column, const QString& label,
                            const char* objectName);
+    QString path() const;
     void askSoon();
+    void takeStamps();
     void showCheapAnswers();
+    void showNote();
     void showExistence();
 
     PathAnswers m_answers;
@@ -39,4 +46,7 @@ private:
     AnswerField* m_extension;
     AnswerField* m_url;
     AnswerField* m_temporary;
+    QLabel* m_note; ///< in which way the services take what was typed
+    FileStamp m_pathStamp;
+    FileStamp m_folderStamp;
 };

@@ -5,6 +5,7 @@
 #include "inspection/fonts/FontRegistrationJob.h"
 #include "window/AnswerField.h"
 #include "window/EmptyHint.h"
+#include "window/KeptPlace.h"
 #include "window/ViewLook.h"
 
 #include <QAbstractItemView>
@@ -17,6 +18,7 @@
 #include <QLineEdit>
 #include <QPalette>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -117,7 +119,6 @@ QTableView* FontsPage::makeTable()
     table->setAccessibleName(tr("Registered fonts"));
     table->setModel(m_records);
     arrangeTable(*table);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 7 / 4);
     fitColumns(*table,
@@ -126,7 +127,7 @@ QTableView* FontsPage::makeTable()
     new ColumnBalancer(table, 0, QStringLiteral("WenQuanYi Micro"));
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
-                if (current.isValid())
+                if (current.isValid() && !m_isRestoring)
                     m_localName->setText(m_records->record(current.row()).face);
             });
     return table;
@@ -168,8 +169,19 @@ void FontsPage::entered()
         refresh();
 }
 
+void FontsPage::lookForChanges()
+{
+    if (FontCatalogue::count() != m_count)
+        refresh();
+}
+
 void FontsPage::showRecords()
 {
+    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
+    const KeptPlace place(*m_table, [this](int row) {
+        const RegisteredFont& font = m_records->record(row);
+        return QStringLiteral("%1\n%2\n%3").arg(font.face, font.style).arg(font.charSet);
+    });
     const auto charSet = static_cast<BYTE>(m_charSet->currentData().toUInt());
     const bool all = m_family->text().isEmpty() && charSet == DEFAULT_CHARSET;
     m_hint->setText(
@@ -178,8 +190,11 @@ void FontsPage::showRecords()
             : tr("The service reports no record of this family and character set. Names "
                  "are compared exactly, upper and lower case included."));
     *m_preview = {};
+    m_count = FontCatalogue::count();
     m_records->setRecords(FontCatalogue::records(m_family->text(), charSet));
-    setStatus(tr("%L1 records").arg(m_records->rowCount()));
+    place.restore();
+    setStatus(tr("Records: %L1").arg(m_records->rowCount()));
+    markRead();
 }
 
 void FontsPage::showGlobalName()

@@ -28,6 +28,9 @@ public:
     void find() override;
     void entered() override;
 
+protected:
+    void lookForChanges() override;
+
 private:
     QLayout* makeFilterRow();
     QLayout* makeButtonRow();
@@ -46,4 +49,6 @@ private:
     EmptyHint* m_hint;
     QLineEdit* m_localName;
     AnswerField* m_globalName;
+    int m_count = 0; ///< of all records, when they were read
+    bool m_isRestoring = false;
 };

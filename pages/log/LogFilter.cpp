@@ -23,6 +23,11 @@ const LogEntry& LogFilter::entry(int row) const
     return m_table.record(mapToSource(index(row, 0)).row());
 }
 
+void LogFilter::sort(int column, Qt::SortOrder order)
+{
+    m_table.sort(column, order);
+}
+
 bool LogFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const
 {
     const LogEntry& entry = m_table.record(row);

@@ -7,15 +7,12 @@
 #include "pages/log/LogTable.h"
 #include "pages/log/TailFollower.h"
 #include "window/EmptyHint.h"
+#include "window/FileDialog.h"
 #include "window/PathLabel.h"
 #include "window/ViewLook.h"
 
-#include <QAction>
-#include <QClipboard>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -70,12 +67,6 @@ void LogPage::makeTable()
     m_table->setAccessibleName(tr("Log"));
     fitColumns(*m_table,
                {QStringLiteral("2000-00-00 00:00:00"), QStringLiteral("[x] Information")});
-    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
-    auto* copyAction = new QAction(tr("Copy"), m_table);
-    copyAction->setShortcut(QKeySequence::Copy);
-    copyAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(copyAction, &QAction::triggered, this, &LogPage::copy);
-    m_table->addAction(copyAction);
     new EmptyHint(m_table, ApplicationLog::isWritable()
                                ? tr("No line of the log has this level and this text.")
                                : lostText());
@@ -149,8 +140,7 @@ void LogPage::showCount()
 
 void LogPage::askSave()
 {
-    auto* dialog = new QFileDialog(this, tr("Save the lines shown"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    auto* dialog = new FileDialog(this, tr("Save the lines shown"), "log");
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setNameFilters({tr("Log files (*.log)"), tr("All files (*)")});
     dialog->setDefaultSuffix(QStringLiteral("log"));
@@ -179,13 +169,4 @@ void LogPage::reportSaving(const LogSavingJob& job, const QString& file, bool co
         report(Report::Info, tr("Saved to %2. Lines: %L1.").arg(job.written()).arg(file));
     else
         report(Report::Error, tr("%1 could not be written: %2").arg(file, job.error()));
-}
-
-void LogPage::copy()
-{
-    QStringList lines;
-    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    for (const QModelIndex& index : rows)
-        lines.append(m_filter->entry(index.row()).line);
-    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }

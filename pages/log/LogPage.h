@@ -33,7 +33,6 @@ private:
     void showCount();
     void askSave();
     void reportSaving(const LogSavingJob& job, const QString& file, bool complete);
-    void copy();
 
     LogTable* m_entries;
     LogReader m_reader;

@@ -1,6 +1,7 @@
 #include "pages/log/LogTable.h"
 
 #include "window/GlyphIcon.h"
+#include "window/TableCopyJob.h"
 
 #include <utility>
 
@@ -22,6 +23,17 @@ QVariant levelLook(const LogEntry& entry, int role)
     }
 }
 
+// Of a long message only the beginning is shown, but all of it is copied.
+QVariant messageLook(const LogEntry& entry, int role)
+{
+    return role == TableCopyJob::wholeTextRole ? QVariant(entry.text) : textLook(entry, role);
+}
+
+SortKey severity(const LogEntry& entry)
+{
+    return SortKey::number(static_cast<int>(entry.level));
+}
+
 } // namespace
 
 LogTable::LogTable(QObject* parent) : RecordsModel(columns(), parent) {}
@@ -29,9 +41,11 @@ LogTable::LogTable(QObject* parent) : RecordsModel(columns(), parent) {}
 std::vector<LogTable::Column> LogTable::columns()
 {
     return {{tr("Time"), [](const LogEntry& entry) { return entry.time; }, textLook},
-            {tr("Level"), [](const LogEntry& entry) { return entry.levelName(); }, levelLook},
+            Column(
+                tr("Level"), [](const LogEntry& entry) { return entry.levelName(); }, levelLook)
+                .sortedBy(severity),
             {tr("Message"), [](const LogEntry& entry) { return entry.beginningInOneLine(); },
-             textLook}};
+             messageLook}};
 }
 
 void LogTable::add(LogPiece piece)
@@ -39,6 +53,7 @@ void LogTable::add(LogPiece piece)
     if (piece.startsAnew)
         setRecords({});
     if (!piece.continuation.isEmpty())
-        update(rowCount() - 1, [&piece](LogEntry& last) { last.append(piece.continuation); });
+        update(rowOf(rowCount() - 1),
+               [&piece](LogEntry& last) { last.append(piece.continuation); });
     append(std::move(piece.entries));
 }

@@ -138,12 +138,15 @@ QString ProfileColumns::otherEncodingText()
 
 std::vector<RecordColumn<Line>> ProfileColumns::ofLines()
 {
-    return {{tr("No.", "number of a line"),
-             [](const Line& line) { return QString::number(line.number); },
-             [](const Line& line, int role) {
-                 return role == Qt::TextAlignmentRole ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                                                      : lineLook(line, true, role);
-             }},
+    return {RecordColumn<Line>(
+                tr("No.", "number of a line"),
+                [](const Line& line) { return QString::number(line.number); },
+                [](const Line& line, int role) {
+                    return role == Qt::TextAlignmentRole
+                               ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                               : lineLook(line, true, role);
+                })
+                .sortedBy([](const Line& line) { return SortKey::number(line.number); }),
             {tr("Narrow"), [](const Line& line) { return shortText(line.narrow); },
              [](const Line& line, int role) {
                  return stateLook(line.narrow, ProfileFamily::Narrow, role);

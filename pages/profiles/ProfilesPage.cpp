@@ -1,13 +1,14 @@
 #include "pages/profiles/ProfilesPage.h"
 
+#include "inspection/files/TypedPath.h"
 #include "pages/profiles/ProfileEditPanel.h"
 #include "pages/profiles/ProfileEditor.h"
 #include "pages/profiles/ProfileLinesPane.h"
 #include "pages/profiles/ProfileReadingsPane.h"
+#include "window/FileDialog.h"
 
 #include <QAction>
 #include <QDragEnterEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -75,7 +76,7 @@ QLayout* ProfilesPage::makeFileRow()
     row->addWidget(label);
     row->addWidget(m_file, 1);
     row->addWidget(choose);
-    connect(m_file, &QLineEdit::returnPressed, this, [this] { open(m_file->text()); });
+    connect(m_file, &QLineEdit::returnPressed, this, [this] { open(typedPath(m_file->text())); });
     connect(choose, &QPushButton::clicked, this, &ProfilesPage::chooseFile);
     return row;
 }
@@ -91,10 +92,17 @@ void ProfilesPage::addKey(int key, const QString& text, void (ProfilesPage::*ope
 
 void ProfilesPage::chooseFile()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open a profile"), m_path,
-                                                      tr("Profiles (*.ini);;All files (*)"));
-    if (!path.isEmpty())
-        open(path);
+    auto* dialog = new FileDialog(this, tr("Open a profile"), "profiles");
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilter(tr("Profiles (*.ini);;All files (*)"));
+    dialog->startAt(m_path);
+    connect(dialog, &QFileDialog::fileSelected, this, &ProfilesPage::open);
+    dialog->open();
+}
+
+void ProfilesPage::openFile(const QString& path)
+{
+    open(path);
 }
 
 void ProfilesPage::open(const QString& path)

@@ -30,6 +30,8 @@ public:
     /// Opens a file, or refuses it, keeps the one that is open and leaves what is typed.
     void open(const QString& path);
 
+    void openFile(const QString& path) override;
+
     /// Reads the file again.
     void refresh() override;
     void find() override;

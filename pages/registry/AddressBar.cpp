@@ -2,37 +2,83 @@
 
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/TypedAddress.h"
+#include "pages/registry/PathEdit.h"
 #include "pages/registry/RegistryTreeModel.h"
-#include "window/PageContext.h"
+#include "window/Page.h"
+#include "window/ShownText.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
+#include <QPushButton>
+#include <QStringListModel>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
 using Report = PageContext::Report;
 
+namespace {
+
+constexpr int mostCompletions = 100;
+
+} // namespace
+
 AddressBar::AddressBar(PageContext& page, RegistryTreeModel& keys, QWidget* parent)
     : QWidget(parent),
       m_page(page),
       m_keys(keys),
-      m_layout(new QHBoxLayout(this)),
-      m_line(new QLineEdit)
+      m_layout(new QHBoxLayout),
+      m_line(new PathEdit),
+      m_completer(new QCompleter(new QStringListModel(this), this)),
+      m_offerText(new QLabel),
+      m_offer(makeOffer())
 {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(makeLine());
+    layout->addWidget(m_offer);
+    m_offer->hide();
+    m_completer->setCaseSensitivity(Qt::CaseInsensitive);
+    m_line->setCompleter(m_completer);
+    connect(m_line, &QLineEdit::textEdited, this, &AddressBar::complete);
+    connect(m_line, &QLineEdit::returnPressed, this, &AddressBar::submit);
+}
+
+QWidget* AddressBar::makeLine()
+{
+    auto* line = new QWidget;
     auto* caption = new QLabel(tr("&Go to:"));
     caption->setBuddy(m_line);
     m_line->setObjectName(QStringLiteral("address"));
     m_line->setAccessibleName(tr("Path of the key"));
+    line->setLayout(m_layout);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->addWidget(caption);
     m_layout->addWidget(m_line, 1);
-    connect(m_line, &QLineEdit::returnPressed, this, &AddressBar::open);
+    return line;
+}
+
+QWidget* AddressBar::makeOffer()
+{
+    auto* offer = new QWidget;
+    auto* layout = new QHBoxLayout(offer);
+    m_offerText->setTextFormat(Qt::PlainText);
+    m_offerText->setWordWrap(true);
+    auto* go = glowing(new QPushButton(tr("&Jump there")));
+    go->setObjectName(QStringLiteral("jump"));
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_offerText, 1);
+    layout->addWidget(go);
+    connect(go, &QPushButton::clicked, this, [this] { emit entered(QString(m_offered)); });
+    return offer;
 }
 
 void AddressBar::setPath(const QString& path)
 {
     m_line->setText(RegistryPath::shown(path));
+    m_offer->hide();
 }
 
 void AddressBar::addButton(QWidget* button)
@@ -40,24 +86,63 @@ void AddressBar::addButton(QWidget* button)
     m_layout->addWidget(button);
 }
 
+void AddressBar::complete(const QString& typed)
+{
+    m_offer->hide();
+    auto& model = static_cast<QStringListModel&>(*m_completer->model());
+    model.setStringList(completionsOf(m_keys.names(), typed, mostCompletions));
+    m_completer->complete();
+}
+
+// With a completion chosen the completer puts that into the line afterwards.
+void AddressBar::submit()
+{
+    if (m_completer->popup()->isVisible())
+        QMetaObject::invokeMethod(this, &AddressBar::open, Qt::QueuedConnection);
+    else
+        open();
+}
+
+bool AddressBar::isThere(const QString& path) const
+{
+    return m_keys.path(m_keys.find(path)) == path;
+}
+
 void AddressBar::open()
 {
     const QStringList paths = pathsOfAddress(m_line->text());
-    const auto isThere = [this](const QString& path) {
-        return m_keys.path(m_keys.find(path)) == path;
-    };
-    const auto found = std::find_if(paths.begin(), paths.end(), isThere);
+    const auto found = std::find_if(paths.begin(), paths.end(),
+                                    [this](const QString& path) { return isThere(path); });
     if (found != paths.end())
         emit entered(*found);
     else if (!paths.isEmpty())
-        openNearest(paths.last());
+        openNearest(paths);
     else
         m_page.report(Report::Error,
                       tr("%1 begins with none of the four root keys.").arg(m_line->text()));
 }
 
-void AddressBar::openNearest(const QString& path)
+// The tree shows the nearest key, but what has been typed stays to be mended.
+void AddressBar::openNearest(const QStringList& paths)
 {
-    emit missed(path);
-    m_page.report(Report::Warning, tr("There is no key %1.").arg(RegistryPath::shown(path)));
+    const QString typed = m_line->text();
+    emit missed(paths.last());
+    m_line->setText(typed);
+    QString other;
+    for (const QString& path : paths) {
+        if (other.isEmpty())
+            other = keyInOtherCase(m_keys.names(), path);
+    }
+    m_page.report(Report::Warning,
+                  tr("There is no key %1.").arg(RegistryPath::shown(paths.last())));
+    if (!other.isEmpty())
+        offer(other);
+}
+
+void AddressBar::offer(const QString& path)
+{
+    m_offered = path;
+    m_offerText->setText(
+        withoutLongWords(tr("Names are case-sensitive here: %1?").arg(RegistryPath::shown(path))));
+    m_offer->show();
 }

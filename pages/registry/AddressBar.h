@@ -3,11 +3,14 @@
 #include <QWidget>
 
 class PageContext;
+class PathEdit;
+class QCompleter;
 class QHBoxLayout;
-class QLineEdit;
+class QLabel;
 class RegistryTreeModel;
 
-/// The line with the path of the key in view, in which another one can be typed.
+/// The line with the path of the key in view, in which another one can be typed. It completes what
+/// is typed, keeps it where it leads nowhere, and offers the key that differs in case only.
 class AddressBar : public QWidget
 {
     Q_OBJECT
@@ -28,11 +31,21 @@ signals:
     void missed(const QString& path);
 
 private:
+    QWidget* makeLine();
+    QWidget* makeOffer();
+    void complete(const QString& typed);
+    void submit();
     void open();
-    void openNearest(const QString& path);
+    bool isThere(const QString& path) const;
+    void openNearest(const QStringList& paths);
+    void offer(const QString& path);
 
     PageContext& m_page;
     RegistryTreeModel& m_keys;
     QHBoxLayout* m_layout;
-    QLineEdit* m_line;
+    PathEdit* m_line;
+    QCompleter* m_completer;
+    QLabel* m_offerText;
+    QWidget* m_offer; ///< in view while there is a key to offer
+    QString m_offered;
 };

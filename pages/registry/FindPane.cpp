@@ -43,18 +43,22 @@ FindPane::FindPane(PageContext& page, QWidget* parent)
       m_page(page),
       m_hits(new RecordsModel<Hit>(columns(), this)),
       m_text(new QLineEdit),
-      m_inNames(new QCheckBox(tr("N&ames"))),
-      m_inData(new QCheckBox(tr("&Values"))),
+      m_inKeys(new QCheckBox(tr("&Keys"))),
+      m_inNames(new QCheckBox(tr("N&ames of values"))),
+      m_inData(new QCheckBox(tr("Data of &values"))),
+      m_mindsCase(new QCheckBox(tr("Match &upper and lower case"))),
+      m_wholeWords(new QCheckBox(tr("W&hole words"))),
       m_table(new QTableView)
 {
     m_text->setAccessibleName(tr("Text to find"));
     m_text->setPlaceholderText(tr("Text to find"));
-    m_inNames->setChecked(true);
-    m_inData->setChecked(true);
+    for (QCheckBox* place : {m_inKeys, m_inNames, m_inData})
+        place->setChecked(true);
     makeTable();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makeLine());
+    layout->addWidget(makeOptions());
     layout->addWidget(m_table, 1);
 }
 
@@ -62,6 +66,7 @@ void FindPane::makeTable()
 {
     m_table->setModel(m_hits);
     arrangeTable(*m_table);
+    m_table->setTextElideMode(Qt::ElideMiddle);
     m_table->setObjectName(QStringLiteral("found"));
     m_table->setAccessibleName(tr("Found"));
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -76,16 +81,37 @@ QWidget* FindPane::makeLine()
     auto* layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* searchButton = glowing(new QPushButton(tr("Find no&w")));
-    auto* closeButton = glowing(new QPushButton(tr("&Hide")));
+    auto* closeButton = glowing(new QPushButton(tr("&Back")));
     layout->addWidget(m_text, 1);
-    layout->addWidget(m_inNames);
-    layout->addWidget(m_inData);
     layout->addWidget(searchButton);
     layout->addWidget(closeButton);
     connect(m_text, &QLineEdit::returnPressed, this, &FindPane::search);
     connect(searchButton, &QPushButton::clicked, this, &FindPane::search);
     connect(closeButton, &QPushButton::clicked, this, &FindPane::close);
     return line;
+}
+
+QWidget* FindPane::makeOptions()
+{
+    auto* line = new QWidget;
+    auto* layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QCheckBox* option : {m_inKeys, m_inNames, m_inData, m_mindsCase, m_wholeWords})
+        layout->addWidget(option);
+    layout->addStretch();
+    return line;
+}
+
+RegistrySearchJob::Query FindPane::query() const
+{
+    RegistrySearchJob::Query query;
+    query.text = m_text->text();
+    query.inKeys = m_inKeys->isChecked();
+    query.inNames = m_inNames->isChecked();
+    query.inData = m_inData->isChecked();
+    query.mindsCase = m_mindsCase->isChecked();
+    query.wholeWords = m_wholeWords->isChecked();
+    return query;
 }
 
 void FindPane::open()
@@ -103,26 +129,26 @@ void FindPane::close()
 
 void FindPane::search()
 {
-    if (m_text->text().isEmpty())
+    const RegistrySearchJob::Query asked = query();
+    if (asked.text.isEmpty())
         m_page.report(Report::Error, tr("Type the text to find first."));
-    else if (!m_inNames->isChecked() && !m_inData->isChecked())
+    else if (!asked.inKeys && !asked.inNames && !asked.inData)
         m_page.report(Report::Error,
-                      tr("Choose where to search: in names, in values, or in both."));
+                      tr("Choose where to search: in keys, in names, in data, or in several."));
     else
         start();
 }
 
 void FindPane::start()
 {
-    m_page.startJob(tr("Searching"),
-                    std::make_unique<RegistrySearchJob>(
-                        m_text->text(), QString(), m_inNames->isChecked(), m_inData->isChecked()),
+    m_page.startJob(tr("Searching"), std::make_unique<RegistrySearchJob>(query()),
                     [this](RegistrySearchJob& job, bool complete) { showFound(job, complete); });
 }
 
 void FindPane::showFound(const RegistrySearchJob& search, bool complete)
 {
     m_hits->setRecords(search.hits());
+    m_shown = -1;
     m_hint->setText(tr("Nothing was found."));
     if (!search.hits().empty()) {
         m_table->setCurrentIndex(m_hits->index(0, 0));
@@ -133,8 +159,32 @@ void FindPane::showFound(const RegistrySearchJob& search, bool complete)
 
 void FindPane::choose(const QModelIndex& index)
 {
-    const Hit& hit = m_hits->record(index.row());
+    m_shown = index.row();
+    const Hit& hit = m_hits->record(m_shown);
     emit chosen(hit.path, hit.name);
+}
+
+void FindPane::showNext()
+{
+    step(1);
+}
+
+void FindPane::showPrevious()
+{
+    step(-1);
+}
+
+void FindPane::step(int by)
+{
+    const int count = m_hits->rowCount();
+    if (count == 0)
+        return open();
+    const int from = m_shown < 0 && by < 0 ? 0 : m_shown;
+    const QModelIndex next = m_hits->index((from + by + count) % count, 0);
+    m_table->setCurrentIndex(next);
+    choose(next);
+    m_page.setStatus(
+        tr("Found place %L1 of %L2 (F3: next, Shift+F3: previous).").arg(m_shown + 1).arg(count));
 }
 
 void FindPane::keyPressEvent(QKeyEvent* event)

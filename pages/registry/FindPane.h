@@ -11,7 +11,7 @@ class QCheckBox;
 class QLineEdit;
 class QTableView;
 
-/// The search: a line for the text, where to look, and the table of what was found.
+/// The search: a line for the text, where to look and how, and the table of what was found.
 class FindPane : public QWidget
 {
     Q_OBJECT
@@ -21,6 +21,10 @@ public:
 
     /// Shows itself and takes the keyboard, with the text selected.
     void open();
+    /// Goes to the place that was found behind the one that was shown last, or before it; at the
+    /// end it begins again. Opens itself where nothing has been found.
+    void showNext();
+    void showPrevious();
 
 signals:
     /// A place that was found is to be shown: a value, or the key where `name` is empty.
@@ -32,7 +36,10 @@ protected:
 
 private:
     QWidget* makeLine();
+    QWidget* makeOptions();
     void makeTable();
+    RegistrySearchJob::Query query() const;
+    void step(int by);
     void search();
     void start();
     void showFound(const RegistrySearchJob& search, bool complete);
@@ -42,8 +49,12 @@ private:
     PageContext& m_page;
     RecordsModel<RegistrySearchJob::Hit>* m_hits;
     QLineEdit* m_text;
+    QCheckBox* m_inKeys;
     QCheckBox* m_inNames;
     QCheckBox* m_inData;
+    QCheckBox* m_mindsCase;
+    QCheckBox* m_wholeWords;
     QTableView* m_table;
     EmptyHint* m_hint;
+    int m_shown = -1; ///< the row that was gone to last
 };

@@ -1,12 +1,16 @@
 #include "pages/registry/ImportDialog.h"
 
+#include "inspection/registry/CodePages.h"
 #include "inspection/registry/ImportText.h"
+#include "pages/registry/StoreBackup.h"
 #include "window/GlyphIcon.h"
 #include "window/Page.h"
 #include "window/ViewLook.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
@@ -18,9 +22,14 @@ namespace {
 using Outcome = ImportPlan::Outcome;
 using Row = const ImportPlan::Statement*;
 
+bool isRemarkable(const ImportPlan::Statement& statement)
+{
+    return statement.outcome != Outcome::Done || statement.isOverwriting();
+}
+
 QVariant outcomeLook(const Row& row, int role)
 {
-    if (role != Qt::DecorationRole || row->outcome == Outcome::Done)
+    if (role != Qt::DecorationRole || !isRemarkable(*row))
         return {};
     return glyphIcon(row->outcome == Outcome::Refused ? Glyph::Error : Glyph::Warning);
 }
@@ -31,38 +40,78 @@ std::vector<RecordColumn<Row>> columns()
              [](const Row& row) { return ImportText::outcome(*row); }, outcomeLook},
             {ImportDialog::tr("Key"), [](const Row& row) { return row->entry.key; }, {}},
             {ImportDialog::tr("Name"), [](const Row& row) { return row->entry.name; }, {}},
+            {ImportDialog::tr("In the store now"), [](const Row& row) { return row->before; }, {}},
             {ImportDialog::tr("Type and data"),
              [](const Row& row) { return ImportText::data(row->entry); },
              {}},
-            {ImportDialog::tr("Line"),
-             [](const Row& row) { return QLocale().toString(row->entry.line); },
-             {}}};
+            RecordColumn<Row>(ImportDialog::tr("Line"), [](const Row& row) {
+                return QLocale().toString(row->entry.line);
+            }).sortedBy([](const Row& row) { return SortKey::number(row->entry.line); })};
 }
 
 } // namespace
 
 ImportDialog::ImportDialog(const QString& file, std::shared_ptr<const ImportPlan> plan,
-                           QWidget* parent)
-    : QDialog(parent), m_plan(std::move(plan)), m_statements(new RecordsModel<Row>(columns(), this))
+                           QWidget* parent, const std::optional<Decoding>& decoding)
+    : QDialog(parent),
+      m_plan(std::move(plan)),
+      m_statements(new RecordsModel<Row>(columns(), this)),
+      m_backup(new BackupBox)
 {
     setWindowTitle(tr("Import %1").arg(file));
-    auto* only = new QCheckBox(tr("&Only what is altered or refused"));
+    auto* only = new QCheckBox(tr("&Only what is altered, refused or overwritten"));
     connect(only, &QCheckBox::toggled, this, &ImportDialog::showStatements);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(ImportText::summary(*m_plan)));
+    if (decoding)
+        layout->addLayout(makeCodePages(*decoding));
     layout->addWidget(makeTable(), 1);
     layout->addWidget(only);
-    layout->addWidget(makeButtons());
+    layout->addWidget(m_backup);
+    layout->addWidget(makeButtons(!decoding || decoding->fits));
     const QSize wanted(fontMetrics().height() * 68, fontMetrics().lineSpacing() * 26);
     resize(parent ? wanted.boundedTo(parent->window()->size() * 0.95) : wanted);
     showStatements(false);
+}
+
+bool ImportDialog::isBackupWanted() const
+{
+    return m_backup->isChecked();
+}
+
+QLayout* ImportDialog::makeCodePages(const Decoding& decoding)
+{
+    auto* choice = new QComboBox;
+    for (const CodePage& each : offeredCodePages()) {
+        choice->addItem(each.title, each.name);
+        if (choice->currentIndex() <= 0 && isSameCodePage(each.name, decoding.codePage))
+            choice->setCurrentIndex(choice->count() - 1);
+    }
+    choice->setAccessibleName(tr("Code page of the file"));
+    auto* caption = new QLabel(tr("&Code page of this file of version 4:"));
+    caption->setBuddy(choice);
+    auto* line = new QHBoxLayout;
+    line->addWidget(caption);
+    line->addWidget(choice);
+    if (!decoding.fits)
+        line->addWidget(new QLabel(tr("Some of its bytes are no text in this one.")));
+    line->addStretch();
+    connect(choice, QOverload<int>::of(&QComboBox::activated), this,
+            [this, choice] { chooseCodePage(choice->currentData().toByteArray()); });
+    return line;
+}
+
+void ImportDialog::chooseCodePage(const QByteArray& codePage)
+{
+    reject();
+    emit codePageChosen(codePage);
 }
 
 void ImportDialog::showStatements(bool onlyRemarkable)
 {
     std::vector<Row> rows;
     for (const ImportPlan::Statement& statement : m_plan->statements()) {
-        if (!onlyRemarkable || statement.outcome != Outcome::Done)
+        if (!onlyRemarkable || isRemarkable(statement))
             rows.push_back(&statement);
     }
     m_statements->setRecords(std::move(rows));
@@ -78,17 +127,19 @@ QWidget* ImportDialog::makeTable()
         *table,
         {QStringLiteral("[x] Refused: a sentence of some length that says why it cannot be set"),
          QStringLiteral("HKEY_CURRENT_USER\\Software"), QStringLiteral("Name of a value"),
-         QStringLiteral("12345 (0x00003039)")});
+         QStringLiteral("REG_DWORD 123 (0x0000007b)"),
+         QStringLiteral("REG_DWORD 123 (0x0000007b)")});
     return table;
 }
 
-QWidget* ImportDialog::makeButtons()
+// A file whose text is not known for certain is not imported.
+QWidget* ImportDialog::makeButtons(bool isReadable)
 {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     QPushButton* ok = glowing(buttons->addButton(tr("I&mport"), QDialogButtonBox::AcceptRole));
     glowing(buttons->button(QDialogButtonBox::Cancel));
     const auto refused = static_cast<std::size_t>(m_plan->count(Outcome::Refused));
-    ok->setEnabled(refused < m_plan->statements().size());
+    ok->setEnabled(isReadable && refused < m_plan->statements().size());
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     return buttons;

@@ -7,6 +7,7 @@ KeyTree::KeyTree(QWidget* parent) : QTreeView(parent), m_keys(new RegistryTreeMo
     setAccessibleName(tr("Keys"));
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    setTextElideMode(Qt::ElideMiddle);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     setMinimumWidth(fontMetrics().averageCharWidth() * 20);
     setCurrentIndex(m_keys->rootItem());

@@ -11,6 +11,7 @@
 #include "pages/registry/RegistryRemover.h"
 #include "pages/registry/RegistryRenamer.h"
 #include "pages/registry/RegistryTransfer.h"
+#include "pages/registry/StoreGate.h"
 #include "pages/registry/ValueTable.h"
 #include "window/Page.h"
 
@@ -57,8 +58,8 @@ QString goneText(const QString& name, std::size_t count, const QString& path)
 
 } // namespace
 
-RegistryActions::RegistryActions(PageContext& page, KeyTree& tree, ValueTable& table,
-                                 QWidget* window)
+RegistryActions::RegistryActions(PageContext& page, StoreWatch& watch, KeyTree& tree,
+                                 ValueTable& table, QWidget* window)
     : QObject(window),
       m_page(page),
       m_tree(tree),
@@ -69,7 +70,10 @@ RegistryActions::RegistryActions(PageContext& page, KeyTree& tree, ValueTable& t
       m_renamer(new RegistryRenamer(page, *m_history, window)),
       m_remover(new RegistryRemover(page, *m_history, window)),
       m_transfer(new RegistryTransfer(page, *m_history, window)),
-      m_clipboard(new RegistryClipboard(page, window))
+      m_clipboard(new RegistryClipboard(page, window)),
+      m_gate(new StoreGate(
+          page, watch, [this](const auto& exported) { m_transfer->askExport({}, exported); },
+          window))
 {
     makeActions();
     enable(false);
@@ -82,7 +86,8 @@ void RegistryActions::connectParts()
 {
     connect(qApp, &QApplication::focusChanged, this, &RegistryActions::rememberView);
     connect(&m_table, &ValueTable::selectedChanged, this, &RegistryActions::enable);
-    connect(&m_table, &QTableView::activated, this, &RegistryActions::editValue);
+    connect(&m_table, &QTableView::activated, this,
+            [this] { change(&RegistryActions::editValue); });
     connect(m_history, &RegistryHistory::changed, this, &RegistryActions::changed);
     connect(m_history, &RegistryHistory::outdated, this, &RegistryActions::outdated);
     connect(m_editor, &RegistryEditor::changed, this, &RegistryActions::changed);
@@ -97,7 +102,7 @@ void RegistryActions::makeActions()
     makeKeyActions();
     makeValueActions();
     m_search = make(tr("Search..."), &RegistryActions::searchRequested);
-    m_import = make(tr("Import..."), &RegistryActions::importFile);
+    m_import = makeChange(tr("Import..."), &RegistryActions::importFile);
     m_export = make(tr("Export key..."), &RegistryActions::exportKey);
     fillMenus();
 }
@@ -106,9 +111,9 @@ void RegistryActions::makeActions()
 void RegistryActions::makeKeyActions()
 {
     const QKeySequence shiftF2(Qt::SHIFT + Qt::Key_F2);
-    m_renameKey = make(tr("Rename key..."), &RegistryActions::renameKey);
+    m_renameKey = makeChange(tr("Rename key..."), &RegistryActions::renameKey);
     m_renameKey->setShortcuts({QKeySequence(Qt::Key_F2), shiftF2});
-    m_removeKey = make(tr("Delete key"), &RegistryActions::removeKey);
+    m_removeKey = makeChange(tr("Delete key"), &RegistryActions::removeKey);
     m_removeKey->setShortcut(Qt::Key_Delete);
     m_copyPath = make(tr("Copy path"), &RegistryActions::copyPath);
     m_copyPath->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
@@ -117,11 +122,11 @@ void RegistryActions::makeKeyActions()
 
 void RegistryActions::makeValueActions()
 {
-    m_edit = make(tr("Edit value"), &RegistryActions::editValue);
+    m_edit = makeChange(tr("Edit value"), &RegistryActions::editValue);
     m_edit->setShortcut(Qt::Key_F2);
-    m_renameValue = make(tr("Rename value..."), &RegistryActions::renameValue);
+    m_renameValue = makeChange(tr("Rename value..."), &RegistryActions::renameValue);
     m_renameValue->setShortcut(Qt::SHIFT + Qt::Key_F2);
-    m_removeValue = make(tr("Delete value"), &RegistryActions::removeValues);
+    m_removeValue = makeChange(tr("Delete value"), &RegistryActions::removeValues);
     m_removeValue->setShortcut(Qt::Key_Delete);
     m_copyData = make(tr("Copy data"), &RegistryActions::copyData);
     m_copyData->setShortcut(QKeySequence::Copy);
@@ -138,19 +143,37 @@ void RegistryActions::fillMenus()
                         m_copyValues, separator(this), m_copyPath, m_search, m_import, m_export});
 }
 
-QAction* RegistryActions::make(const QString& text, void (RegistryActions::*slot)())
+QAction* RegistryActions::make(const QString& text)
 {
     auto* action = new QAction(text, this);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    return action;
+}
+
+QAction* RegistryActions::make(const QString& text, void (RegistryActions::*slot)())
+{
+    QAction* action = make(text);
     connect(action, &QAction::triggered, this, slot);
     return action;
+}
+
+QAction* RegistryActions::makeChange(const QString& text, void (RegistryActions::*slot)())
+{
+    QAction* action = make(text);
+    connect(action, &QAction::triggered, this, [this, slot] { change(slot); });
+    return action;
+}
+
+void RegistryActions::change(void (RegistryActions::*slot)())
+{
+    m_gate->pass([this, slot] { (this->*slot)(); });
 }
 
 QMenu* RegistryActions::makeNewMenu()
 {
     auto* menu = new QMenu(tr("New"), m_window);
     connect(menu->addAction(tr("&Key...")), &QAction::triggered, this,
-            [this] { m_editor->newKey(m_tree.path()); });
+            [this] { m_gate->pass([this] { m_editor->newKey(m_tree.path()); }); });
     menu->addSeparator();
     const std::pair<QString, unsigned int> types[] = {
         {tr("&String (REG_SZ)..."), REG_SZ},
@@ -158,8 +181,9 @@ QMenu* RegistryActions::makeNewMenu()
         {tr("&Large number (REG_QWORD)..."), REG_QWORD},
         {tr("&Binary (REG_BINARY)..."), REG_BINARY}};
     for (const auto& [text, number] : types) {
-        connect(menu->addAction(text), &QAction::triggered, this,
-                [this, type = number] { m_editor->newValue(m_tree.path(), type); });
+        connect(menu->addAction(text), &QAction::triggered, this, [this, type = number] {
+            m_gate->pass([this, type] { m_editor->newValue(m_tree.path(), type); });
+        });
     }
     return menu;
 }
@@ -174,7 +198,8 @@ QLayout* RegistryActions::makeButtons()
     auto* create = glowing(new QPushButton(tr("&New")));
     create->setMenu(m_newMenu);
     auto* remove = glowing(new QPushButton(tr("Dele&te")));
-    connect(remove, &QPushButton::clicked, this, &RegistryActions::removeChosen);
+    connect(remove, &QPushButton::clicked, this,
+            [this] { change(&RegistryActions::removeChosen); });
     QPushButton* search = buttonFor(m_search, tr("&Search..."));
     search->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
     auto* line = new QHBoxLayout;
@@ -291,6 +316,11 @@ void RegistryActions::exportKey()
 void RegistryActions::importFile()
 {
     m_transfer->askImport();
+}
+
+void RegistryActions::importFrom(const QString& file)
+{
+    m_gate->pass([this, file] { m_transfer->importFile(file); });
 }
 
 // A host library may have deleted what the page still shows.

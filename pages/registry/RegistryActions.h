@@ -16,6 +16,8 @@ class RegistryHistory;
 class RegistryRemover;
 class RegistryRenamer;
 class RegistryTransfer;
+class StoreGate;
+class StoreWatch;
 class ValueTable;
 
 /// What can be done with the key that is selected and with its values: the actions of the two
@@ -25,11 +27,14 @@ class RegistryActions : public QObject
     Q_OBJECT
 
 public:
-    /// Dialogs open over `window`, which owns this object too. The views outlive it.
-    RegistryActions(PageContext& page, KeyTree& tree, ValueTable& table, QWidget* window);
+    /// Dialogs open over `window`, which owns this object too. The watch and the views outlive it.
+    RegistryActions(PageContext& page, StoreWatch& watch, KeyTree& tree, ValueTable& table,
+                    QWidget* window);
 
     QPushButton* makeCopyButton() const;
     QLayout* makeButtons();
+    /// Shows what importing this file would do.
+    void importFrom(const QString& file);
 
 signals:
     /// The store has changed; this key, and this value of it unless empty, is to be looked at.
@@ -44,10 +49,13 @@ private:
     void makeValueActions();
     void fillMenus();
     void connectParts();
+    QAction* make(const QString& text);
     QAction* make(const QString& text, void (RegistryActions::*slot)());
+    QAction* makeChange(const QString& text, void (RegistryActions::*slot)());
     QMenu* makeNewMenu();
     void enable(bool anySelected);
     void rememberView(const QWidget* before, QWidget* now);
+    void change(void (RegistryActions::*slot)());
     void editValue();
     void renameValue();
     void removeChosen();
@@ -74,6 +82,7 @@ private:
     RegistryRemover* m_remover;
     RegistryTransfer* m_transfer;
     RegistryClipboard* m_clipboard;
+    StoreGate* m_gate;             ///< every action that changes the store goes through it
     QWidget* m_lastView = nullptr; ///< the view that had the keyboard last
     QMenu* m_newMenu = nullptr;
     QAction* m_renameKey = nullptr;

@@ -8,9 +8,12 @@
 #include "pages/registry/FindPane.h"
 #include "pages/registry/KeyTree.h"
 #include "pages/registry/RegistryActions.h"
+#include "pages/registry/StoreFollower.h"
+#include "pages/registry/TablePlace.h"
 #include "pages/registry/ValueTable.h"
 
 #include <QLabel>
+#include <QAction>
 #include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
@@ -52,8 +55,9 @@ RegistryPage::RegistryPage(QWidget* parent)
       m_tree(new KeyTree),
       m_table(new ValueTable),
       m_address(new AddressBar(*this, m_tree->keys())),
-      m_actions(new RegistryActions(*this, *m_tree, *m_table, this)),
-      m_find(new FindPane(*this))
+      m_actions(new RegistryActions(*this, m_watch, *m_tree, *m_table, this)),
+      m_find(new FindPane(*this)),
+      m_follower(new StoreFollower(*this, m_watch, this))
 {
     m_address->addButton(m_actions->makeCopyButton());
     body()->addWidget(m_address);
@@ -65,6 +69,7 @@ RegistryPage::RegistryPage(QWidget* parent)
     m_find->hide();
     setFocusProxy(m_tree);
     connectParts();
+    addSearchKeys();
     if (!RawStore::exists())
         reportStore();
 }
@@ -83,7 +88,21 @@ void RegistryPage::connectParts()
     connect(m_actions, &RegistryActions::searchRequested, this, &RegistryPage::find);
     connect(m_find, &FindPane::chosen, this, &RegistryPage::goTo);
     connect(m_find, &FindPane::closed, m_tree, QOverload<>::of(&QWidget::setFocus));
+    connect(m_follower, &StoreFollower::changed, this, &RegistryPage::follow);
     connect(&m_openingRunner, &JobRunner::finished, this, &RegistryPage::refreshEntered);
+}
+
+void RegistryPage::addSearchKeys()
+{
+    const std::pair<QKeySequence, void (FindPane::*)()> keys[] = {
+        {Qt::Key_F3, &FindPane::showNext}, {Qt::SHIFT | Qt::Key_F3, &FindPane::showPrevious}};
+    for (const auto& [key, slot] : keys) {
+        auto* action = new QAction(this);
+        action->setShortcut(key);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        connect(action, &QAction::triggered, m_find, slot);
+        addAction(action);
+    }
 }
 
 void RegistryPage::showKey()
@@ -94,27 +113,70 @@ void RegistryPage::showKey()
     m_table->showKey(path, m_tree->keys().names());
     m_address->setPath(path);
     if (isRedirected(path))
-        return setStatus(redirectedKeyText(path));
+        setStatus(redirectedKeyText(path));
+    else
+        showCounts();
+}
+
+void RegistryPage::showCounts()
+{
     const QLocale locale;
-    setStatus(tr("Values: %1. Sub-keys: %2.")
-                  .arg(locale.toString(m_table->count()),
-                       locale.toString(m_tree->keys().subKeyCount(m_tree->currentIndex()))));
+    m_counts = tr("Values: %1. Sub-keys: %2.")
+                   .arg(locale.toString(m_table->count()),
+                        locale.toString(m_tree->keys().subKeyCount(m_tree->currentIndex())));
+    setStatus(m_counts);
 }
 
 void RegistryPage::showRemark(const ListedValue& value)
 {
-    if (!value.remark().isEmpty())
+    if (!value.remark().isEmpty() && !m_isFollowing)
         setStatus(tr("%1: %2").arg(value.name(), value.remark()));
 }
 
 void RegistryPage::refresh()
 {
     const QString name = m_table->current() ? m_table->current()->name() : QString();
-    m_tree->keys().refresh();
+    readKeys();
     if (!std::exchange(m_isListed, true))
         m_tree->expand(m_tree->keys().rootItem());
     showKey();
     m_table->choose(name);
+}
+
+void RegistryPage::readKeys()
+{
+    m_tree->keys().refresh();
+    m_follower->markRead();
+    markRead();
+}
+
+void RegistryPage::lookForChanges()
+{
+    if (m_isListed)
+        m_follower->look();
+}
+
+// As a refresh that nobody has asked for: what is selected, typed and told stays. Where the key has
+// gone, the tree has selected another one by itself, which is shown already.
+void RegistryPage::follow()
+{
+    m_isFollowing = true;
+    const QString path = m_tree->path();
+    const bool hadCounts = statusText() == m_counts;
+    readKeys();
+    if (m_tree->path() == path) {
+        const TablePlace place(*m_table);
+        m_table->showKey(path, m_tree->keys().names());
+        place.restore();
+    }
+    if (hadCounts)
+        showCounts();
+    m_isFollowing = false;
+}
+
+void RegistryPage::openFile(const QString& path)
+{
+    m_actions->importFrom(path);
 }
 
 // While a job runs nothing is read: a job that changes anything ends with a refresh.
@@ -133,6 +195,7 @@ void RegistryPage::refreshEntered()
 {
     refresh();
     reportStore();
+    m_follower->look();
 }
 
 // Opening a large store takes long. It begins after the page has been painted, and the page is
@@ -186,7 +249,7 @@ void RegistryPage::openKey(const QString& path)
 
 void RegistryPage::showChange(const QString& path, const QString& name)
 {
-    m_tree->keys().refresh();
+    readKeys();
     goTo(path);
     showKey();
     m_table->choose(name);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inspection/registry/StoreWatch.h"
 #include "window/Page.h"
 
 class AddressBar;
@@ -7,6 +8,7 @@ class FindPane;
 class KeyTree;
 class ListedValue;
 class RegistryActions;
+class StoreFollower;
 class StoreOpeningJob;
 class ValueTable;
 
@@ -23,14 +25,23 @@ public:
     void refresh() override;
     void find() override;
     void entered() override;
+    /// Shows what importing the file would do.
+    void openFile(const QString& path) override;
 
     /// Selects a key, or the nearest one above it, and a value of it unless `name` is empty.
     void goTo(const QString& path, const QString& name = QString());
 
+protected:
+    void lookForChanges() override;
+
 private:
     QWidget* makeViews();
     void connectParts();
+    void addSearchKeys();
+    void readKeys();
     void showKey();
+    void showCounts();
+    void follow();
     void showRemark(const ListedValue& value);
     void openKey(const QString& path);
     void showChange(const QString& path, const QString& name);
@@ -38,11 +49,15 @@ private:
     void refreshEntered();
     void reportStore();
 
+    StoreWatch m_watch;
     KeyTree* m_tree;
     ValueTable* m_table;
     AddressBar* m_address;
     RegistryActions* m_actions;
     FindPane* m_find;
+    StoreFollower* m_follower;
+    QString m_counts; ///< what was told of the key when it was shown
+    bool m_isFollowing = false;
     std::unique_ptr<StoreOpeningJob> m_opening; ///< null until the store is opened
     JobRunner m_openingRunner;
     bool m_isListed = false; ///< the store has been listed

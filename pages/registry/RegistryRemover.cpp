@@ -6,6 +6,7 @@
 #include "inspection/registry/RemovalText.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/RegistryHistory.h"
+#include "pages/registry/StoreBackup.h"
 #include "window/Page.h"
 
 #include <QLocale>
@@ -41,9 +42,11 @@ void RegistryRemover::ask(const QString& question, const QString& detail,
     QPushButton* yes = glowing(box->addButton(tr("Delete"), QMessageBox::AcceptRole));
     glowing(qobject_cast<QPushButton*>(box->button(QMessageBox::Cancel)));
     box->setDefaultButton(QMessageBox::Cancel);
-    connect(box, &QMessageBox::buttonClicked, this, [yes, confirmed](QAbstractButton* button) {
+    auto* backup = new BackupBox;
+    box->setCheckBox(backup);
+    connect(box, &QMessageBox::buttonClicked, this, [=](const QAbstractButton* button) {
         if (button == yes)
-            confirmed();
+            changeWithBackup(m_page, backup->isChecked(), confirmed);
     });
     box->open();
 }

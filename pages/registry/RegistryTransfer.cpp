@@ -7,9 +7,10 @@
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/ImportDialog.h"
 #include "pages/registry/RegistryHistory.h"
+#include "pages/registry/StoreBackup.h"
+#include "window/FileDialog.h"
 
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -41,13 +42,12 @@ RegistryTransfer::RegistryTransfer(PageContext& page, RegistryHistory& history, 
 
 QFileDialog* RegistryTransfer::fileDialog(const QString& title) const
 {
-    auto* dialog = new QFileDialog(m_window, title);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    auto* dialog = new FileDialog(m_window, title, "registry");
     dialog->setDefaultSuffix(QStringLiteral("reg"));
     return dialog;
 }
 
-void RegistryTransfer::askExport(const QString& path)
+void RegistryTransfer::askExport(const QString& path, const std::function<void()>& exported)
 {
     QFileDialog* dialog = fileDialog(tr("Export %1").arg(RegistryPath::shown(path)));
     const QString utf8 = tr("Registry file, UTF-8 (*.reg)");
@@ -56,27 +56,32 @@ void RegistryTransfer::askExport(const QString& path)
     dialog->selectFile(path.isEmpty() ? QStringLiteral("registry.reg")
                                       : RegistryPath::name(path) + QStringLiteral(".reg"));
     connect(dialog, &QFileDialog::fileSelected, this,
-            [this, dialog, path, utf8](const QString& file) {
+            [this, dialog, path, utf8, exported](const QString& file) {
                 const bool isUtf8 = dialog->selectedNameFilter() == utf8;
-                exportKey(path, file, isUtf8 ? Encoding::Utf8 : Encoding::Utf16);
+                exportKey(path, file, isUtf8 ? Encoding::Utf8 : Encoding::Utf16, exported);
             });
     dialog->open();
 }
 
-void RegistryTransfer::exportKey(const QString& path, const QString& file, Encoding encoding)
+void RegistryTransfer::exportKey(const QString& path, const QString& file, Encoding encoding,
+                                 const std::function<void()>& exported)
 {
-    m_page.startJob(
-        tr("Exporting"), std::make_unique<RegistryExportJob>(path, file, encoding),
-        [this, file](RegistryExportJob& job, bool complete) { reportExport(job, file, complete); });
+    m_page.startJob(tr("Exporting"), std::make_unique<RegistryExportJob>(path, file, encoding),
+                    [this, file, exported](RegistryExportJob& job, bool complete) {
+                        if (reportExport(job, file, complete) && exported)
+                            exported();
+                    });
 }
 
-void RegistryTransfer::reportExport(RegistryExportJob& job, const QString& file, bool complete)
+// True where the file is complete.
+bool RegistryTransfer::reportExport(RegistryExportJob& job, const QString& file, bool complete)
 {
     const QLocale locale;
     const QString values = locale.toString(job.values());
+    const bool done = complete && job.commit();
     if (!complete)
         m_page.report(Report::Warning, tr("The export was cancelled."));
-    else if (!job.commit())
+    else if (!done)
         m_page.report(Report::Error, tr("%1 could not be written: %2").arg(file, job.error()));
     else if (job.leftOut() > 0)
         m_page.report(Report::Warning,
@@ -84,6 +89,7 @@ void RegistryTransfer::reportExport(RegistryExportJob& job, const QString& file,
                           .arg(values, file, locale.toString(job.leftOut())));
     else
         m_page.report(Report::Info, tr("Exported to %2. Values: %1.").arg(values, file));
+    return done;
 }
 
 void RegistryTransfer::askImport()
@@ -91,11 +97,12 @@ void RegistryTransfer::askImport()
     QFileDialog* dialog = fileDialog(tr("Import a registry file"));
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters({tr("Registry files (*.reg)"), tr("All files (*)")});
-    connect(dialog, &QFileDialog::fileSelected, this, &RegistryTransfer::importFile);
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString& file) { importFile(file); });
     dialog->open();
 }
 
-void RegistryTransfer::importFile(const QString& file)
+void RegistryTransfer::importFile(const QString& file, const QByteArray& codePage)
 {
     const QString why = fault(QFileInfo(file));
     if (!why.isEmpty())
@@ -107,7 +114,7 @@ void RegistryTransfer::importFile(const QString& file)
         return;
     }
     m_page.startJob(
-        tr("Reading the file"), std::make_unique<RegistryImportJob>(std::move(input)),
+        tr("Reading the file"), std::make_unique<RegistryImportJob>(std::move(input), codePage),
         [this, file](RegistryImportJob& job, bool complete) { endReading(job, file, complete); });
 }
 
@@ -121,16 +128,25 @@ void RegistryTransfer::endReading(const RegistryImportJob& job, const QString& f
     if (!job.error().isEmpty())
         refuse(file, job.error());
     else if (complete)
-        preview(file, job.plan());
+        preview(file, job);
     else
         m_page.setStatus(tr("Cancelled: nothing was imported."));
 }
 
-void RegistryTransfer::preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
+void RegistryTransfer::preview(const QString& file, const RegistryImportJob& job)
 {
-    auto* dialog = new ImportDialog(QFileInfo(file).fileName(), plan, m_window);
+    std::optional<ImportDialog::Decoding> decoding;
+    if (job.reader().isVersion4())
+        decoding = {job.reader().codePage(), job.reader().isOfCodePage()};
+    const std::shared_ptr<const ImportPlan> plan = job.plan();
+    auto* dialog = new ImportDialog(QFileInfo(file).fileName(), plan, m_window, decoding);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, file, plan] { apply(file, plan); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog, file, plan] {
+        changeWithBackup(m_page, dialog->isBackupWanted(),
+                         [this, file, plan] { apply(file, plan); });
+    });
+    connect(dialog, &ImportDialog::codePageChosen, this,
+            [this, file](const QByteArray& codePage) { importFile(file, codePage); });
     dialog->open();
 }
 

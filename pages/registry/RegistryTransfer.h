@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class ImportPlan;
@@ -25,13 +26,16 @@ public:
     /// outlives it.
     RegistryTransfer(PageContext& page, RegistryHistory& history, QWidget* window);
 
-    /// Asks for a file, then writes the key with everything below it.
-    void askExport(const QString& path);
-    void exportKey(const QString& path, const QString& file, RegFileWriter::Encoding encoding);
+    /// Asks for a file, then writes the key with everything below it. `exported` is called when
+    /// that has succeeded.
+    void askExport(const QString& path, const std::function<void()>& exported = {});
+    void exportKey(const QString& path, const QString& file, RegFileWriter::Encoding encoding,
+                   const std::function<void()>& exported = {});
 
     /// Asks for a file, then shows what importing it would do.
     void askImport();
-    void importFile(const QString& file);
+    /// `codePage` is that of a file of version 4, the system's where it is empty.
+    void importFile(const QString& file, const QByteArray& codePage = {});
 
 signals:
     /// The store has changed.
@@ -39,9 +43,9 @@ signals:
 
 private:
     QFileDialog* fileDialog(const QString& title) const;
-    void reportExport(RegistryExportJob& job, const QString& file, bool complete);
+    bool reportExport(RegistryExportJob& job, const QString& file, bool complete);
     void endReading(const RegistryImportJob& job, const QString& file, bool complete);
-    void preview(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
+    void preview(const QString& file, const RegistryImportJob& job);
     void apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
     void reportImport(const QString& file, int applied, int refused, bool complete);
     void refuse(const QString& file, const QString& why);

@@ -1,6 +1,8 @@
 #include "pages/registry/RegistryValueModel.h"
 
+#include "inspection/registry/RegistryFormat.h"
 #include "window/GlyphIcon.h"
+#include "window/TableCopyJob.h"
 
 #include <QFont>
 #include <QFontDatabase>
@@ -35,8 +37,15 @@ QVariant nameLook(const ListedValue& value, int role)
     return role == Qt::DecorationRole ? glyphIcon(glyphOf(value)) : look(value, role);
 }
 
+bool isNumber(const ListedValue& value)
+{
+    return value.reading().type == REG_DWORD || value.reading().type == REG_QWORD;
+}
+
 QVariant dataLook(const ListedValue& value, int role)
 {
+    if (role == TableCopyJob::wholeTextRole)
+        return isNumber(value) ? value.dataText() : value.wholeData();
     const bool isOdd =
         role == Qt::DecorationRole && value.isReadable() && !value.remark().isEmpty();
     return isOdd ? glyphIcon(Glyph::Warning) : look(value, role);
@@ -48,13 +57,22 @@ QVariant rawLook(const ListedValue& value, int role)
                                 : look(value, role);
 }
 
+SortKey dataKey(const ListedValue& value)
+{
+    if (!value.isReadable() || !isNumber(value))
+        return SortKey::text(value.dataText());
+    return SortKey::number(static_cast<double>(RegistryFormat::number(value.reading().data)));
+}
+
 std::vector<RecordColumn<ListedValue>> columns()
 {
-    return {{RegistryValueModel::tr("Name"), &ListedValue::name, nameLook},
-            {RegistryValueModel::tr("Type"), &ListedValue::typeText, look},
-            {RegistryValueModel::tr("Data"), &ListedValue::dataText, dataLook},
-            {RegistryValueModel::tr("Stored text (raw)"), &ListedValue::raw, rawLook,
-             RegistryValueModel::tr("Raw: the text in the store, which no host library sees")}};
+    return {
+        {RegistryValueModel::tr("Name"), &ListedValue::name, nameLook},
+        {RegistryValueModel::tr("Type"), &ListedValue::typeText, look},
+        RecordColumn<ListedValue>(RegistryValueModel::tr("Data"), &ListedValue::dataText, dataLook)
+            .sortedBy(dataKey),
+        {RegistryValueModel::tr("Stored text (raw)"), &ListedValue::raw, rawLook,
+         RegistryValueModel::tr("Raw: the text in the store, which no host library sees")}};
 }
 
 } // namespace

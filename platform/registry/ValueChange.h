@@ -27,6 +27,8 @@ public:
     Outcome outcome() const;
     /// What will be altered, or why the value is refused, in sentences; empty for Kept.
     QStringList remarks() const;
+    /// The text under which it will be kept in the store; empty where it is refused.
+    const QString& storedText() const { return m_encoded.text(); }
 
 private:
     bool comesBackWhole(const QByteArray& read) const;

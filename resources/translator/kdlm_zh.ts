@@ -19,6 +19,47 @@
         <source>There is no key %1.</source>
         <translation>没有项 %1。</translation>
     </message>
+    <message>
+        <source>&amp;Jump there</source>
+        <translation>跳转到该处(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Names are case-sensitive here: %1?</source>
+        <translation>此处的名称区分大小写：是否为 %1？</translation>
+    </message>
+</context>
+<context>
+    <name>BackupBox</name>
+    <message>
+        <source>&amp;Back the store up first, to %1</source>
+        <translation>先备份存储到 %1(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Nothing to &amp;back up: the store has no file that could change</source>
+        <translation>无需备份：存储没有会被更改的文件(&amp;B)</translation>
+    </message>
+    <message>
+        <source>A copy of the store&apos;s file as it is: %1
+Put it in the place of the file to bring everything back.</source>
+        <translation>存储文件当前内容的副本：%1
+用它替换该文件即可恢复全部内容。</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was changed.</source>
+        <translation>已取消：未作任何更改。</translation>
+    </message>
+    <message>
+        <source>The store could not be backed up: %1 Nothing was changed.</source>
+        <translation>无法备份存储：%1未作任何更改。</translation>
+    </message>
+    <message>
+        <source>Backed the store up to %1.</source>
+        <translation>已将存储备份到 %1。</translation>
+    </message>
+    <message>
+        <source>Backing the store up</source>
+        <translation>正在备份存储</translation>
+    </message>
 </context>
 <context>
     <name>Base64Note</name>
@@ -157,6 +198,53 @@
     <message>
         <source>Enter the cipher text first.</source>
         <translation>请先输入密文。</translation>
+    </message>
+    <message>
+        <source>They are not shown: the clear text is kept.</source>
+        <translation>这些字节未显示：明文保持不变。</translation>
+    </message>
+</context>
+<context>
+    <name>CodePages</name>
+    <message>
+        <source>Simplified Chinese</source>
+        <translation>简体中文</translation>
+    </message>
+    <message>
+        <source>Traditional Chinese</source>
+        <translation>繁体中文</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日语</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>朝鲜语</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>西欧</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>中欧</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>西里尔</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>希腊语</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>土耳其语</translation>
+    </message>
+    <message>
+        <source>The system&apos;s: %1</source>
+        <translation>系统：%1</translation>
     </message>
 </context>
 <context>
@@ -335,6 +423,10 @@
         <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
         <translation>库的文本止于第一个零字节之前。略去 %L1 字节。</translation>
     </message>
+    <message>
+        <source>Damaged cipher text: one byte is no whole block of 16. The library gets it undecrypted.</source>
+        <translation>密文已损坏：1 字节不是 16 字节的整数倍。库得到的是未经解密的字节。</translation>
+    </message>
 </context>
 <context>
     <name>DigestJob</name>
@@ -389,6 +481,10 @@
     <message>
         <source>Sha256Encode and KdEncode read only the %L1 bytes before the first zero byte.</source>
         <translation>Sha256Encode 和 KdEncode 只读取第一个零字节之前的 %L1 字节。</translation>
+    </message>
+    <message>
+        <source>Sha256Encode and KdEncode read only the one byte before the first zero byte.</source>
+        <translation>Sha256Encode 和 KdEncode 只读取第一个零字节之前的 1 字节。</translation>
     </message>
     <message>
         <source>SHA-256 and the fingerprint of an empty text are empty.</source>
@@ -583,6 +679,10 @@
         <source>Names in the folder that are no text in the locale&apos;s encoding, and that the service leaves out: %L1.</source>
         <translation>该文件夹中不符合区域设置编码、被服务略去的名称：%L1 个。</translation>
     </message>
+    <message>
+        <source>The service finds nothing for %1. %2 With slashes it reads %3.</source>
+        <translation>服务找不到与 %1 匹配的内容。%2用斜杠书写则为 %3。</translation>
+    </message>
 </context>
 <context>
     <name>FilesPage</name>
@@ -615,10 +715,6 @@
         <translation>查找</translation>
     </message>
     <message>
-        <source>Found entries</source>
-        <translation>找到的条目</translation>
-    </message>
-    <message>
         <source>Folder to search</source>
         <translation>要搜索的文件夹</translation>
     </message>
@@ -643,28 +739,8 @@
         <translation>找到 %L1 项。只有第一项带有大小和时间，而且仅当它是文件时才有；dwReserved0、dwReserved1 和 cAlternateFileName 从不写入。</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Attributes</source>
-        <translation>属性</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>大小</translation>
-    </message>
-    <message>
-        <source>Last written</source>
-        <translation>修改时间</translation>
-    </message>
-    <message>
-        <source>Created</source>
-        <translation>创建时间</translation>
-    </message>
-    <message>
-        <source>Last accessed</source>
-        <translation>访问时间</translation>
+        <source>The rows are still those of %1: press Enter to search for the new pattern.</source>
+        <translation>这些行仍是 %1 的结果：按回车键搜索新的模式。</translation>
     </message>
 </context>
 <context>
@@ -682,28 +758,12 @@
         <translation>查找结果将列在这里，按 Enter 键可转到该处。</translation>
     </message>
     <message>
-        <source>&amp;Hide</source>
-        <translation>隐藏(&amp;H)</translation>
-    </message>
-    <message>
         <source>Nothing was found.</source>
         <translation>未找到任何内容。</translation>
     </message>
     <message>
-        <source>N&amp;ames</source>
-        <translation>名称(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Values</source>
-        <translation>值(&amp;V)</translation>
-    </message>
-    <message>
         <source>Type the text to find first.</source>
         <translation>请先输入要查找的文本。</translation>
-    </message>
-    <message>
-        <source>Choose where to search: in names, in values, or in both.</source>
-        <translation>请选择查找范围：名称、值或两者。</translation>
     </message>
     <message>
         <source>Find no&amp;w</source>
@@ -736,6 +796,38 @@
     <message>
         <source>Searching</source>
         <translation>正在查找</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>项(&amp;K)</translation>
+    </message>
+    <message>
+        <source>N&amp;ames of values</source>
+        <translation>值的名称(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Data of &amp;values</source>
+        <translation>值的数据(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Match &amp;upper and lower case</source>
+        <translation>区分大小写(&amp;U)</translation>
+    </message>
+    <message>
+        <source>W&amp;hole words</source>
+        <translation>全字匹配(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>返回(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Choose where to search: in keys, in names, in data, or in several.</source>
+        <translation>请选择查找范围：项、名称、数据，或其中几种。</translation>
+    </message>
+    <message>
+        <source>Found place %L1 of %L2 (F3: next, Shift+F3: previous).</source>
+        <translation>第 %L1 处，共 %L2 处（F3：下一处，Shift+F3：上一处）。</translation>
     </message>
 </context>
 <context>
@@ -779,7 +871,7 @@
 <context>
     <name>FontRegistrationJob</name>
     <message>
-        <source>%L1 families left</source>
+        <source>Families left: %L1</source>
         <translation>还剩 %L1 个字体族</translation>
     </message>
     <message>
@@ -787,8 +879,8 @@
         <translation>所有字体族此前均已注册。</translation>
     </message>
     <message>
-        <source>Registered: %L1 records of %L2 families.</source>
-        <translation>已注册 %L2 个字体族的 %L1 条记录。</translation>
+        <source>Registered records: %L1. Families: %L2.</source>
+        <translation>已注册 %L1 条记录，共 %L2 个字体族。</translation>
     </message>
     <message>
         <source>Left out, because their names do not fit a record: %1.</source>
@@ -874,7 +966,7 @@
         <translation>尚未注册任何字体。主机库会在启动时注册自己的字体；使用下方的按钮可以注册本系统的字体。</translation>
     </message>
     <message>
-        <source>%L1 records</source>
+        <source>Records: %L1</source>
         <translation>%L1 条记录</translation>
     </message>
     <message>
@@ -903,6 +995,45 @@
     <message>
         <source>The service has not written this field: a caller finds in it what its record held before the call.</source>
         <translation>服务没有写入这个字段：调用者看到的是其记录在调用之前的内容。</translation>
+    </message>
+</context>
+<context>
+    <name>FoundTable</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Last written</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Last accessed</source>
+        <translation>访问时间</translation>
+    </message>
+    <message>
+        <source>Found entries</source>
+        <translation>找到的条目</translation>
+    </message>
+    <message>
+        <source>Open the folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Folder above</source>
+        <translation>上一级文件夹</translation>
     </message>
 </context>
 <context>
@@ -1069,6 +1200,10 @@
         <source>The separators in the name lead to a value of a sub-key.</source>
         <translation>名称中含有分隔符，所指的是子项中的值。</translation>
     </message>
+    <message>
+        <source>It has no data and becomes the number 0.</source>
+        <translation>该值没有数据，将变为数值 0。</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -1079,10 +1214,6 @@
     <message>
         <source>Import %1</source>
         <translation>导入 %1</translation>
-    </message>
-    <message>
-        <source>&amp;Only what is altered or refused</source>
-        <translation>仅显示有改动或被拒绝的语句(&amp;O)</translation>
     </message>
     <message>
         <source>I&amp;mport</source>
@@ -1108,6 +1239,60 @@
         <source>Line</source>
         <translation>行</translation>
     </message>
+    <message>
+        <source>In the store now</source>
+        <translation>存储中现有</translation>
+    </message>
+    <message>
+        <source>&amp;Only what is altered, refused or overwritten</source>
+        <translation>仅显示有改动、被拒绝或会覆盖的语句(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Code page of the file</source>
+        <translation>文件的代码页</translation>
+    </message>
+    <message>
+        <source>&amp;Code page of this file of version 4:</source>
+        <translation>此第 4 版文件的代码页(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Some of its bytes are no text in this one.</source>
+        <translation>按此代码页，文件中有些字节不是文本。</translation>
+    </message>
+</context>
+<context>
+    <name>ImportOverlaps</name>
+    <message>
+        <source>The same key as under %1 in line %2: all root keys are one.</source>
+        <translation>与第 %2 行 %1 下的项相同：所有根项是同一个项。</translation>
+    </message>
+    <message>
+        <source>Deletes what line %2 puts under %1: all root keys are one.</source>
+        <translation>将删除第 %2 行放在 %1 下的内容：所有根项是同一个项。</translation>
+    </message>
+    <message>
+        <source>The same value as under %1 in line %2: all root keys are one, and the later statement wins.</source>
+        <translation>与第 %2 行 %1 下的值相同：所有根项是同一个项，以后面的语句为准。</translation>
+    </message>
+    <message>
+        <source>%1 differs from &quot;%2&quot; in case only: two keys here, one on Windows.</source>
+        <translation>%1 与“%2”仅大小写不同：此处是两个项，在 Windows 上是一个。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; differs from &quot;%2&quot; in case only: two values here, one on Windows.</source>
+        <translation>“%1”与“%2”仅大小写不同：此处是两个值，在 Windows 上是一个。</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPlan</name>
+    <message>
+        <source>Line %1 comes later and wins: all root keys are one.</source>
+        <translation>以后面的第 %1 行为准：所有根项是同一个项。</translation>
+    </message>
+    <message>
+        <source>unreadable: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
 </context>
 <context>
     <name>ImportText</name>
@@ -1128,8 +1313,28 @@
         <translation>拒绝：%1</translation>
     </message>
     <message>
-        <source>As written in the file: %1. Altered: %2. Refused: %3.</source>
-        <translation>与文件一致：%1。有改动：%2。被拒绝：%3。</translation>
+        <source>The key is there already</source>
+        <translation>该项已存在</translation>
+    </message>
+    <message>
+        <source>The value is there already</source>
+        <translation>该值已存在且相同</translation>
+    </message>
+    <message>
+        <source>Overwrites the value</source>
+        <translation>覆盖该值</translation>
+    </message>
+    <message>
+        <source>Overwrites the value. %1</source>
+        <translation>覆盖该值。%1</translation>
+    </message>
+    <message>
+        <source>As written in the file: %L1. Altered: %L2. Refused: %L3.</source>
+        <translation>与文件一致：%L1。有改动：%L2。被拒绝：%L3。</translation>
+    </message>
+    <message>
+        <source>Values that are overwritten: %L1.</source>
+        <translation>被覆盖的值：%L1。</translation>
     </message>
 </context>
 <context>
@@ -1161,6 +1366,10 @@
     <message>
         <source>&amp;Key:</source>
         <translation>密钥(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>Show what is typ&amp;ed</source>
+        <translation>显示输入内容(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -1398,10 +1607,6 @@
     <message>
         <source>Log</source>
         <translation>日志</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>复制</translation>
     </message>
     <message>
         <source>No line of the log has this level and this text.</source>
@@ -1803,6 +2008,14 @@
     <message>
         <source>%1 (path is missing)</source>
         <translation>%1（路径不存在）</translation>
+    </message>
+    <message>
+        <source>Asked about %1.</source>
+        <translation>查询的是 %1。</translation>
+    </message>
+    <message>
+        <source>%1 AddBackslash makes %2 of it.</source>
+        <translation>%1AddBackslash 将其变为 %2。</translation>
     </message>
 </context>
 <context>
@@ -2288,10 +2501,6 @@ Wide: %2</source>
     <message>
         <source>The file is neither UTF-16 with a byte order mark nor UTF-8.</source>
         <translation>该文件既不是带字节顺序标记的 UTF-16，也不是 UTF-8。</translation>
-    </message>
-    <message>
-        <source>The file has version 4. Only version 5.00 is understood.</source>
-        <translation>该文件为第 4 版，仅支持 5.00 版。</translation>
     </message>
     <message>
         <source>The file does not begin with &quot;%1&quot;.</source>
@@ -2912,6 +3121,59 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>StoreFollower</name>
+    <message>
+        <source>The store is in step with its file %1 again.</source>
+        <translation>存储与其文件 %1 再次一致。</translation>
+    </message>
+</context>
+<context>
+    <name>StoreGate</name>
+    <message>
+        <source>Comparing the store with its file</source>
+        <translation>正在比较存储与其文件</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was changed.</source>
+        <translation>已取消：未作任何更改。</translation>
+    </message>
+    <message>
+        <source>The store&apos;s file</source>
+        <translation>存储的文件</translation>
+    </message>
+    <message>
+        <source>An export first keeps all that is shown here.</source>
+        <translation>先导出可保留此处显示的全部内容。</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <source>Export first...</source>
+        <translation>先导出...</translation>
+    </message>
+</context>
+<context>
+    <name>StoreWatch</name>
+    <message>
+        <source>The store still holds what it had read. Its next change makes it read the file, and what the file lacks is gone.</source>
+        <translation>存储中仍是先前读取的内容。下一次更改会使其重新读取该文件，文件中没有的内容将会丢失。</translation>
+    </message>
+    <message>
+        <source>The store&apos;s file %1 is gone: another program has deleted or moved it. The store still holds what it had read. Its next change makes a new file that holds nothing but that change.</source>
+        <translation>存储的文件 %1 已不存在：其他程序已将其删除或移走。存储中仍是先前读取的内容。下一次更改将生成一个只含该更改的新文件。</translation>
+    </message>
+    <message>
+        <source>Another program has replaced the store&apos;s file %1.</source>
+        <translation>其他程序已替换存储的文件 %1。</translation>
+    </message>
+    <message>
+        <source>Another program has changed the store&apos;s file %1.</source>
+        <translation>其他程序已更改存储的文件 %1。</translation>
+    </message>
+</context>
+<context>
     <name>StoredValue</name>
     <message>
         <source>Bad number: &quot;%1&quot; is read as 0</source>
@@ -2954,6 +3216,25 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>TableTools</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy with header</source>
+        <translation>连同表头复制</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>排序依据</translation>
+    </message>
+    <message>
+        <source>Original order</source>
+        <translation>原始顺序</translation>
+    </message>
+</context>
+<context>
     <name>TextLimits</name>
     <message>
         <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
@@ -2983,8 +3264,8 @@ Wide: %2</source>
         <translation>初始向量过短：该密码算法需要 %1 字节。</translation>
     </message>
     <message>
-        <source>%1 bytes: only the first %2 are used</source>
-        <translation>%1 字节：仅使用前 %2 字节</translation>
+        <source>%L1 bytes: only the first %2 are used</source>
+        <translation>%L1 字节：仅使用前 %2 字节</translation>
     </message>
     <message>
         <source>Only the first %1 bytes of the key are used.</source>
@@ -3136,6 +3417,13 @@ Wide: %2</source>
     <message>
         <source>No window was found. Names must match exactly, upper and lower case included.</source>
         <translation>未找到窗口。名称必须完全一致，区分大小写。</translation>
+    </message>
+</context>
+<context>
+    <name>WindowsPath</name>
+    <message>
+        <source>The services know no drives, and a backslash is a character of a name to them: only / separates folders.</source>
+        <translation>服务没有盘符的概念，反斜杠对它们只是名称中的一个字符：只有 / 分隔文件夹。</translation>
     </message>
 </context>
 </TS>

@@ -23,6 +23,8 @@ public:
     QString title() const { return m_title; }
     /// The file name that it proposed.
     QString proposed() const { return m_proposed; }
+    /// The folder that it opened in.
+    QString folder() const { return m_folder; }
 
 private:
     void look()
@@ -34,6 +36,7 @@ private:
         m_title = dialog->windowTitle();
         auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         m_proposed = name->text();
+        m_folder = dialog->directory().absolutePath();
         dialog->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->setCurrentIndex(m_type);
         if (m_path.isEmpty()) {
             dialog->reject();
@@ -52,4 +55,5 @@ private:
     int m_type;
     QString m_title;
     QString m_proposed;
+    QString m_folder;
 };

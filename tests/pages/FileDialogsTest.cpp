@@ -141,6 +141,43 @@ TEST_F(FileDialogs, SaveAsWritesTheLinesShown)
     EXPECT_TRUE(status(probe).startsWith("Saved to ")) << status(probe).toStdString();
 }
 
+TEST_F(FileDialogs, OpenAtHomeAndThenWhereTheLastOneForTheSamePurposeWasLeft)
+{
+    const WindowProbe probe("log");
+    const FileDialogAnswer first(path("one"));
+    answer(probe, "S&ave as...", first);
+    EXPECT_EQ(first.folder(), QDir::homePath());
+    const FileDialogAnswer second({});
+    answer(probe, "S&ave as...", second);
+    EXPECT_EQ(second.folder(), m_files.folder());
+    const FileDialogAnswer third({});
+    answer(probe, "S&ave as...", third);
+    EXPECT_EQ(third.folder(), m_files.folder()) << "what is cancelled changes nothing";
+}
+
+TEST_F(FileDialogs, OfANewWindowRememberNothing)
+{
+    for (const char* file : {"one", "two"}) {
+        const WindowProbe probe("log");
+        const FileDialogAnswer dialog(path(file));
+        answer(probe, "S&ave as...", dialog);
+        EXPECT_EQ(dialog.folder(), QDir::homePath());
+    }
+}
+
+TEST_F(FileDialogs, OpenWhereTheProfileInViewStands)
+{
+    m_files.write("[Net]\nMask=255\n");
+    const WindowProbe probe("profiles");
+    probe.type("file", u'"' + m_files.path() + u'"');
+    QTest::keyClick(&probe.control<QWidget>("file"), Qt::Key_Return);
+    ASSERT_TRUE(probe.settle());
+    EXPECT_EQ(probe.text("file"), m_files.path());
+    const FileDialogAnswer dialog({});
+    answer(probe, "Ope&n...", dialog);
+    EXPECT_EQ(dialog.folder(), m_files.folder());
+}
+
 struct Dialog
 {
     const char* page;

@@ -60,7 +60,7 @@ std::unique_ptr<QWidget> job(const WindowProbe& probe)
     probe.page().startJob(
         QCoreApplication::translate("FontsPage", "Registering the system's fonts"),
         std::make_unique<EndlessJob>(
-            QCoreApplication::translate("FontRegistrationJob", "%L1 families left").arg(1234567)),
+            QCoreApplication::translate("FontRegistrationJob", "Families left: %L1").arg(1234567)),
         [](EndlessJob&, bool) {});
     return nullptr;
 }

@@ -4,6 +4,7 @@
 #include "regfile/RegFileText.h"
 
 #include <QBuffer>
+#include <QTextCodec>
 
 #include <gtest/gtest.h>
 
@@ -352,6 +353,65 @@ TEST(RegFileReader, TakesALargeFileInPiecesAndItsLinesOneByOne)
     EXPECT_LE(Trickle::s_largest, 1024 * 1024);
 }
 
+// Of version 4; the code page is GBK, where the second byte of a character may be a backslash.
+const QByteArray version4 = "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\\xB8\xDB]\r\n"
+                            "\"\xB8\xDB\"=\"\x81\x5C\\\\\xB8\xDB\"\r\n"
+                            "\"h\"=hex(1):b8,db,00\r\n\"b\"=hex:b8,db\r\n";
+
+void expectChinese(RegFileReader& reader)
+{
+    const QString harbour(QChar(0x6E2F));
+    const auto entries = entriesOf(reader);
+    ASSERT_EQ(entries.size(), 4U) << reader.error().toStdString();
+    EXPECT_EQ(entries[0].key, "HKEY_CURRENT_USER\\" + harbour);
+    EXPECT_EQ(entries[1].name, harbour);
+    EXPECT_EQ(entries[1].text, QString(QChar(0x4E57)) + '\\' + harbour);
+    EXPECT_EQ(entries[2].text, harbour);
+    EXPECT_EQ(entries[3].data.toHex().toStdString(), "b8db");
+}
+
+TEST(RegFileReader, ReadsVersion4InItsCodePage)
+{
+    RegFileReader reader(version4, "GBK");
+    expectChinese(reader);
+    EXPECT_TRUE(reader.isVersion4());
+    EXPECT_TRUE(reader.isOfCodePage());
+    EXPECT_EQ(reader.codePage().toStdString(),
+              QTextCodec::codecForName("GBK")->name().toStdString());
+}
+
+TEST(RegFileReader, ReadsVersion4WhereverItIsDivided)
+{
+    for (qint64 most = 1; most < 8; ++most) {
+        RegFileReader reader(std::make_unique<Trickle>("\r\n" + version4, most), "GBK");
+        expectChinese(reader);
+    }
+}
+
+TEST(RegFileReader, TakesTheSystemsCodePageWhereNoneIsNamed)
+{
+    RegFileReader reader(version4);
+    EXPECT_EQ(entriesOf(reader).size(), 4U);
+    EXPECT_EQ(reader.codePage().toStdString(), QTextCodec::codecForLocale()->name().toStdString());
+    EXPECT_FALSE(reader.isOfCodePage());
+    RegFileReader unknown(version4, "no such code page");
+    EXPECT_EQ(unknown.codePage(), reader.codePage());
+}
+
+TEST(RegFileReader, KnowsThatVersion5NeedsNoCodePage)
+{
+    RegFileReader reader(chinese.toUtf8(), "GBK");
+    const auto entries = entriesOf(reader);
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(entries[0].key, QString("HKEY_CURRENT_USER\\") + QChar(0x6E2F));
+    EXPECT_FALSE(reader.isVersion4());
+}
+
+QByteArray utf16Marked(const QString& text)
+{
+    return "\xFF\xFE" + utf16Of(text);
+}
+
 class RefusedFile : public testing::TestWithParam<QByteArray>
 {
 };
@@ -366,7 +426,8 @@ TEST_P(RefusedFile, SaysWhyAndHoldsNoEntry)
 }
 
 INSTANTIATE_TEST_SUITE_P(RegFileReader, RefusedFile,
-                         testing::Values("", "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\K]\r\n",
+                         testing::Values("", "REGEDIT4 \xFF more\r\n\r\n[HKEY_CURRENT_USER\\K]\r\n",
+                                         utf16Marked("REGEDIT4\r\n[HKEY_CURRENT_USER\\K]\r\n"),
                                          "[HKEY_CURRENT_USER\\K]\r\n",
                                          "Windows Registry Editor Version 6.00\r\n",
                                          header + "[HKEY_CURRENT_USER\\\xFF\xFF]\r\n",

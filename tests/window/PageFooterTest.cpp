@@ -91,6 +91,27 @@ TEST_F(PageFooterTest, TheButtonsNameTheChangeAndAreDisabledWithoutOne)
     EXPECT_EQ(redo().toolTip().toStdString(), "Redo (Ctrl+Shift+Z): Count one more");
 }
 
+TEST_F(PageFooterTest, ARefusalStandsOnAGroundOfItsOwn)
+{
+    const auto ground = [this](PageContext::Report kind) {
+        m_footer.show(kind, "What was said.");
+        QTest::qWait(20);
+        for (const QLabel* label : m_footer.findChildren<QLabel*>()) {
+            if (label->text() == "What was said.") {
+                const QPoint corner = label->geometry().bottomRight() - QPoint(2, 2);
+                return m_footer.grab().toImage().pixelColor(corner);
+            }
+        }
+        return QColor();
+    };
+    const QColor plain = ground(PageContext::Report::Info);
+    EXPECT_EQ(plain, m_footer.palette().color(QPalette::Window));
+    EXPECT_NE(ground(PageContext::Report::Warning), plain);
+    EXPECT_NE(ground(PageContext::Report::Error), plain);
+    EXPECT_NE(ground(PageContext::Report::Error), ground(PageContext::Report::Warning));
+    EXPECT_EQ(ground(PageContext::Report::Info), plain);
+}
+
 TEST_F(PageFooterTest, TellsWhenThePageWasReadAndReadsItAgainOnRequest)
 {
     int requests = 0;
@@ -103,6 +124,22 @@ TEST_F(PageFooterTest, TellsWhenThePageWasReadAndReadsItAgainOnRequest)
         << texts.join('|').toStdString();
     button("Read again (F5)").click();
     EXPECT_EQ(requests, 1);
+}
+
+// A role that a palette only derives has a brush that paints nothing.
+TEST_F(PageFooterTest, TheTimeOfReadingCanBeSeen)
+{
+    m_footer.markRead();
+    QTest::qWait(20);
+    for (const QLabel* label : m_footer.findChildren<QLabel*>()) {
+        if (!label->text().startsWith("Read at"))
+            continue;
+        const QImage picture = m_footer.grab(label->geometry()).toImage();
+        bool isPainted = false;
+        for (int x = 0; x < picture.width(); ++x)
+            isPainted |= picture.pixel(x, picture.height() / 2) != picture.pixel(0, 0);
+        EXPECT_TRUE(isPainted);
+    }
 }
 
 } // namespace

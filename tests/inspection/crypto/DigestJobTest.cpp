@@ -125,6 +125,8 @@ TEST(DigestNotes, SayWhereDigestsAreNotAsExpected)
     EXPECT_EQ(notesOf(""), "SHA-256 and the fingerprint of an empty text are empty.");
     EXPECT_EQ(notesOf(std::string("ab\0c", 4)),
               "Sha256Encode and KdEncode read only the 2 bytes before the first zero byte.");
+    EXPECT_EQ(notesOf(std::string("a\0c", 3)),
+              "Sha256Encode and KdEncode read only the one byte before the first zero byte.");
 }
 
 TEST(DigestNotes, NameEveryDepartureOfTheMd5)

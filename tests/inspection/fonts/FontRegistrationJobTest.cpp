@@ -53,9 +53,9 @@ TEST_F(FontRegistrationJobTest, RegistersAFamilyAStep)
     const int families = QFontDatabase().families().size();
     ASSERT_GT(families, 1);
     FontRegistrationJob job;
-    EXPECT_EQ(job.progress(), QStringLiteral("%1 families left").arg(families));
+    EXPECT_EQ(job.progress(), QStringLiteral("Families left: %1").arg(families));
     EXPECT_TRUE(job.step());
-    EXPECT_EQ(job.progress(), QStringLiteral("%1 families left").arg(families - 1));
+    EXPECT_EQ(job.progress(), QStringLiteral("Families left: %1").arg(families - 1));
     EXPECT_EQ(job.families() + job.tooLong().size(), 1);
 }
 
@@ -75,7 +75,7 @@ TEST_F(FontRegistrationJobTest, TellsWhatItHasRegistered)
 {
     FontRegistrationJob job;
     run(job);
-    EXPECT_EQ(job.summary(), QStringLiteral("Registered: %L1 records of %L2 families.")
+    EXPECT_EQ(job.summary(), QStringLiteral("Registered records: %L1. Families: %L2.")
                                  .arg(job.records())
                                  .arg(job.families()));
     FontRegistrationJob again;

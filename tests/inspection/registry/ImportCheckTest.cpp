@@ -99,6 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{value(REG_QWORD, "ff00000000000000"), Outcome::Done, ""},
                     Row{value(REG_QWORD, "ff01000000000000"), Outcome::Altered, "511"},
                     Row{value(REG_NONE, "01000000"), Outcome::Altered, "REG_DWORD"},
+                    Row{value(REG_NONE, ""), Outcome::Altered, "the number 0"},
                     Row{value(REG_EXPAND_SZ, "2500"), Outcome::Refused, "REG_EXPAND_SZ"},
                     Row{value(REG_MULTI_SZ, "0000"), Outcome::Refused, "REG_MULTI_SZ"},
                     Row{value(REG_DWORD_BIG_ENDIAN, "00000001"), Outcome::Refused, "BIG_ENDIAN"},

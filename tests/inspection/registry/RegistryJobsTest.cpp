@@ -54,7 +54,7 @@ TEST_F(RegistryJobs, TellHowFarASearchHasCome)
 {
     store("A/blue", "1$1");
     store("A/red", "1$1");
-    RegistrySearchJob job("blue", QString(), true, true);
+    RegistrySearchJob job({"blue"});
     finish(job);
     EXPECT_EQ(job.progress().toStdString(), "Values: 2. Found: 1.");
 }

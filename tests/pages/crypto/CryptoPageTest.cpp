@@ -130,7 +130,7 @@ TEST_F(CryptoPageTest, SaysThatThePassPhraseIsWrong)
     }
 }
 
-TEST_F(CryptoPageTest, ShowsTheEmptyTextThatWrongPaddingGives)
+TEST_F(CryptoPageTest, KeepsTheClearTextWhereWrongPaddingGivesAnEmptyOne)
 {
     // 15 bytes of padding, the first of them spoilt: the last byte announces what is not there.
     const std::string key = "0123456789abcdef";
@@ -146,7 +146,7 @@ TEST_F(CryptoPageTest, ShowsTheEmptyTextThatWrongPaddingGives)
     pressDecrypt();
     EXPECT_EQ(status(), "Wrong key or IV, or damaged cipher text: the padding does not match, and "
                         "the library gets an empty text.");
-    EXPECT_EQ(clear()->toPlainText(), "");
+    EXPECT_EQ(clear()->toPlainText(), "older");
 }
 
 // The function writes of padding that does not match to standard output, which shows that the page
@@ -181,6 +181,97 @@ TEST_F(CryptoPageTest, SaysThatTheCipherIsNotWholeBlocks)
     EXPECT_EQ(status(), "Damaged cipher text: 3 bytes are not whole blocks of 16. The library gets "
                         "them undecrypted.");
     EXPECT_EQ(clear()->toPlainText(), "ABC");
+}
+
+TEST_F(CryptoPageTest, KeepsATypedTextWhereAFailureGivesBytes)
+{
+    enterPassPhrase(passPhrase);
+    QTest::keyClicks(clear(), "typed");
+    cipher()->setPlainText("QUJD");
+    pressDecrypt();
+    EXPECT_EQ(clear()->toPlainText(), "typed");
+    EXPECT_EQ(status(), "Damaged cipher text: 3 bytes are not whole blocks of 16. The library gets "
+                        "them undecrypted. They are not shown: the clear text is kept.");
+}
+
+TEST_F(CryptoPageTest, KeepsADecryptedTextWhenTheNextPassPhraseIsWrong)
+{
+    cipher()->setPlainText(QString::fromStdString(encrypted(passPhrase, "hello")));
+    enterPassPhrase(passPhrase);
+    pressDecrypt();
+    enterPassPhrase("wrong");
+    pressDecrypt();
+    EXPECT_EQ(clear()->toPlainText(), "hello");
+}
+
+TEST_F(CryptoPageTest, PutsTheNextFailureInThePlaceOfTheLastOne)
+{
+    enterPassPhrase(passPhrase);
+    for (const auto& [text, shown] : {std::pair("QUJD", "ABC"), std::pair("REVG", "DEF")}) {
+        cipher()->setPlainText(text);
+        pressDecrypt();
+        EXPECT_EQ(clear()->toPlainText(), shown);
+    }
+}
+
+TEST_F(CryptoPageTest, UndoBringsBackTheClearTextThatDecryptingReplaced)
+{
+    enterPassPhrase(passPhrase);
+    QTest::keyClicks(clear(), "typed");
+    cipher()->setPlainText(QString::fromStdString(encrypted(passPhrase, "hello\nworld")));
+    pressDecrypt();
+    ASSERT_EQ(clear()->toPlainText(), "hello\nworld");
+    clear()->setFocus();
+    QTest::keyClick(clear(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(clear()->toPlainText(), "typed");
+}
+
+TEST_F(CryptoPageTest, UndoBringsBackTheCipherTextThatEncryptingReplaced)
+{
+    enterPassPhrase(passPhrase);
+    clear()->setPlainText("text");
+    QTest::keyClicks(cipher(), "typed");
+    pressEncrypt();
+    ASSERT_NE(cipher()->toPlainText(), "typed");
+    cipher()->setFocus();
+    QTest::keyClick(cipher(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cipher()->toPlainText(), "typed");
+}
+
+TEST_F(CryptoPageTest, ShowsSecretsForAsLongAsTheUserWants)
+{
+    const std::function<QList<QLineEdit*>()> fields[] = {
+        [this] { return QList<QLineEdit*>{control<QLineEdit>("Pass phrase:")}; },
+        [this] {
+            enterKeys("0123456789abcdef", "fedcba9876543210");
+            return QList<QLineEdit*>{control<QLineEdit>("Key:"), control<QLineEdit>("IV:")};
+        }};
+    for (const auto& visible : fields) {
+        for (QLineEdit* field : visible()) {
+            auto* reveal = button<QCheckBox>("Show what is typ&ed");
+            reveal->setChecked(true);
+            EXPECT_EQ(field->echoMode(), QLineEdit::Normal);
+            reveal->setChecked(false);
+            EXPECT_EQ(field->echoMode(), QLineEdit::Password);
+        }
+    }
+}
+
+TEST_F(CryptoPageTest, SaysNothingOfOneTabInAnother)
+{
+    pressEncrypt();
+    ASSERT_EQ(status(), "Enter the pass phrase first.");
+    chooseTab(1);
+    EXPECT_EQ(status(), "");
+}
+
+TEST_F(CryptoPageTest, SaysOfASingleByteThatItIsNoWholeBlock)
+{
+    enterPassPhrase(passPhrase);
+    cipher()->setPlainText("QQ==");
+    pressDecrypt();
+    EXPECT_EQ(status(), "Damaged cipher text: one byte is no whole block of 16. The library gets "
+                        "it undecrypted.");
 }
 
 TEST_F(CryptoPageTest, SaysWhatOfTheCipherTextIsIgnored)

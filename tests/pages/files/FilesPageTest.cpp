@@ -1,7 +1,9 @@
 #include "tests/pages/ShownToolTip.h"
 #include "tests/pages/WindowProbe.h"
 
+#include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -192,6 +194,182 @@ TEST_F(FilesPageTest, AnswersAboutTheChosenRow)
     search(path("*"));
     m_probe.control<QTableView>("entries").selectRow(1);
     EXPECT_EQ(m_probe.text("path"), path("b"));
+}
+
+TEST_F(FilesPageTest, ShowsWhatIsCreatedMeanwhileAndKeepsTheChosenRow)
+{
+    makeFile(QStringLiteral("b"));
+    makeFile(QStringLiteral("c"));
+    search(path("*"));
+    auto& table = m_probe.control<QTableView>("entries");
+    table.selectRow(1);
+    m_probe.type("path", QStringLiteral("/typed"));
+    makeFile(QStringLiteral("a"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return model().rowCount() == 3; }));
+    EXPECT_EQ(table.currentIndex().data().toString(), QStringLiteral("c"));
+    EXPECT_EQ(table.selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(m_probe.text("path"), QStringLiteral("/typed"));
+    EXPECT_TRUE(m_probe.page().statusText().startsWith(QLatin1String("3 found.")));
+    ASSERT_TRUE(QFile::remove(path("c")));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return model().rowCount() == 2; }));
+}
+
+TEST_F(FilesPageTest, ShowsTheSizeOfAFileThatIsWrittenMeanwhile)
+{
+    makeFile(QStringLiteral("a"));
+    search(path("*"));
+    makeFile(QStringLiteral("a"), "1234567");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return cell(0, 2) == QLatin1String("7"); }));
+}
+
+TEST_F(FilesPageTest, ReadsNothingAnewWhileNothingChanges)
+{
+    makeFile(QStringLiteral("a"));
+    search(path("*"));
+    QTest::qWait(600); // the time stamps are sure by then
+    const QPersistentModelIndex kept = model().index(0, 0);
+    QTest::qWait(1200);
+    EXPECT_TRUE(kept.isValid()) << "the rows were replaced";
+}
+
+TEST_F(FilesPageTest, AnswersAnewAboutAPathThatIsCreatedMeanwhile)
+{
+    m_probe.type("path", path("late"));
+    expectAnswer("exists", QStringLiteral("No"));
+    makeFile(QStringLiteral("late"));
+    expectAnswer("exists", QStringLiteral("Yes: ") + path("late"));
+}
+
+TEST_F(FilesPageTest, MarksRowsThatAnswerToAnotherPatternThanTheOneTyped)
+{
+    makeFile(QStringLiteral("a"));
+    search(path("*"));
+    const QModelIndex name = model().index(0, 0);
+    EXPECT_FALSE(name.data(Qt::ForegroundRole).isValid());
+    m_probe.type("pattern", path("b*"));
+    EXPECT_TRUE(name.data(Qt::ForegroundRole).isValid());
+    EXPECT_EQ(m_probe.page().statusText(),
+              QStringLiteral("The rows are still those of %1: press Enter to search for the new "
+                             "pattern.")
+                  .arg(path("*")));
+    m_probe.type("pattern", path("*"));
+    EXPECT_FALSE(name.data(Qt::ForegroundRole).isValid());
+    m_probe.type("pattern", path("b*"));
+    search(path("a*"));
+    EXPECT_FALSE(model().index(0, 0).data(Qt::ForegroundRole).isValid());
+}
+
+TEST_F(FilesPageTest, RefreshLeavesWhatIsTyped)
+{
+    makeFile(QStringLiteral("a"));
+    search(path("*"));
+    m_probe.type("pattern", path("b*"));
+    m_probe.page().refresh();
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_probe.text("pattern"), path("b*"));
+    EXPECT_EQ(model().rowCount(), 1);
+}
+
+TEST_F(FilesPageTest, EntersAFolderByDoubleClickAndLeavesItByBackspace)
+{
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath(QStringLiteral("one/two")));
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath(QStringLiteral("zero")));
+    search(path("*"));
+    auto& table = m_probe.control<QTableView>("entries");
+    const QPoint first = table.visualRect(model().index(0, 0)).center();
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, first);
+    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, first);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_probe.text("pattern"), path("one/*"));
+    ASSERT_EQ(model().rowCount(), 1);
+    EXPECT_EQ(cell(0, 0), QStringLiteral("two"));
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Backspace);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_probe.text("pattern"), path("*"));
+    EXPECT_EQ(table.currentIndex().data().toString(), QStringLiteral("one"));
+}
+
+TEST_F(FilesPageTest, TheTopFolderHasNoneAbove)
+{
+    search(QStringLiteral("/*"));
+    auto& table = m_probe.control<QTableView>("entries");
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Backspace);
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_probe.text("pattern"), QStringLiteral("/*"));
+    EXPECT_GT(model().rowCount(), 0);
+}
+
+TEST_F(FilesPageTest, AFileIsNotEntered)
+{
+    makeFile(QStringLiteral("a"));
+    search(path("*"));
+    auto& table = m_probe.control<QTableView>("entries");
+    table.selectRow(0);
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Return);
+    EXPECT_EQ(m_probe.text("pattern"), path("*"));
+}
+
+TEST_F(FilesPageTest, TakesHomeQuotationMarksAndAddressesInThePattern)
+{
+    makeFile(QStringLiteral("a"));
+    for (const QString& pattern :
+         {QString(u'"' + path("*") + u'"'), QString(QStringLiteral("file://") + path("*"))}) {
+        search(pattern);
+        EXPECT_EQ(model().rowCount(), 1) << pattern.toStdString();
+        EXPECT_EQ(m_probe.text("pattern"), pattern);
+        search(path("none*"));
+    }
+    QFile file(QDir::home().filePath(QStringLiteral("at home.x")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    search(QStringLiteral("~/*.x"));
+    EXPECT_EQ(cell(0, 0), QStringLiteral("at home.x"));
+    file.remove();
+}
+
+TEST_F(FilesPageTest, ExplainsAWindowsPath)
+{
+    search(QStringLiteral("C:\\Users\\*"));
+    EXPECT_EQ(m_probe.page().statusText().toStdString(),
+              "The service finds nothing for C:\\Users\\*. The services know no drives, and a "
+              "backslash is a character of a name to them: only / separates folders. With slashes "
+              "it reads /Users/*.");
+    EXPECT_EQ(m_probe.text("pattern"), QStringLiteral("C:\\Users\\*")) << "to be mended";
+    m_probe.type("path", QStringLiteral("C:\\Users"));
+    EXPECT_EQ(m_probe.control<QLabel>("note").text().toStdString(),
+              "The services know no drives, and a backslash is a character of a name to them: only "
+              "/ separates folders. AddBackslash makes C:/Users/ of it.");
+}
+
+TEST_F(FilesPageTest, SaysWhichPathItHasAskedAbout)
+{
+    makeFile(QStringLiteral("a"));
+    m_probe.type("path", u'"' + path("a") + u'"');
+    expectAnswer("exists", QStringLiteral("Yes: ") + path("a"));
+    EXPECT_EQ(m_probe.control<QLabel>("note").toolTip(),
+              QStringLiteral("Asked about %1.").arg(path("a")));
+    m_probe.type("path", path("a"));
+    EXPECT_FALSE(m_probe.control<QLabel>("note").isVisible());
+}
+
+TEST_F(FilesPageTest, AsksAboutAnAddressAsItIsTyped)
+{
+    makeFile(QStringLiteral("a"));
+    m_probe.type("path", QStringLiteral("file://") + path("a"));
+    EXPECT_EQ(m_probe.text("url"), QStringLiteral("Yes"));
+    expectAnswer("exists", QStringLiteral("Yes: ") + path("a"));
+}
+
+TEST_F(FilesPageTest, SortsSizesByTheirNumber)
+{
+    for (const char* name : {"a", "b"})
+        makeFile(QLatin1String(name), QByteArray(1234, 'x'));
+    search(path("*"));
+    m_probe.control<QTableView>("entries").model()->sort(2);
+    EXPECT_EQ(cell(0, 2), QStringLiteral("–")) << "no size comes before every size";
+    EXPECT_EQ(cell(1, 2), QStringLiteral("1,234"));
 }
 
 // A very long extension comes back without a terminator.

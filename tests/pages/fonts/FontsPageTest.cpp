@@ -132,6 +132,20 @@ TEST_F(FontsPageTest, ShowsFontsThatWereRegisteredMeanwhileWhenItIsEnteredAgain)
     EXPECT_EQ(model().rowCount(), 1);
 }
 
+TEST_F(FontsPageTest, ShowsFontsThatAreRegisteredWhileItIsInView)
+{
+    add("Global B", "B", ANSI_CHARSET);
+    m_probe.page().refresh();
+    auto& table = m_probe.control<QTableView>("records");
+    table.selectRow(0);
+    m_probe.type("localName", QStringLiteral("typed"));
+    add("Global A", "A", ANSI_CHARSET);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return model().rowCount() == 2; }));
+    EXPECT_EQ(table.currentIndex().data().toString(), QStringLiteral("B"));
+    EXPECT_EQ(m_probe.text("localName"), QStringLiteral("typed"));
+    EXPECT_EQ(status(), QStringLiteral("Records: 2"));
+}
+
 TEST_F(FontsPageTest, TellsThatAFontIsNotInstalled)
 {
     add("Global A", "No such font", ANSI_CHARSET);
@@ -155,7 +169,7 @@ TEST_F(FontsPageTest, RegistersTheFontsOfTheSystem)
     EXPECT_FALSE(expected.isEmpty());
     EXPECT_EQ(shown, expected);
     EXPECT_EQ(static_cast<std::size_t>(model().rowCount()), FontCatalogue::records().size());
-    EXPECT_TRUE(status().startsWith(QStringLiteral("Registered:")));
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Registered records:")));
 }
 
 TEST_F(FontsPageTest, IsNotReadAnewWhileAJobRuns)

@@ -6,6 +6,7 @@
 #include "tests/pages/ShownToolTip.h"
 #include "tests/support/WaitFor.h"
 #include "window/BusyOverlay.h"
+#include "window/TableCopyJob.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -130,6 +131,39 @@ TEST_F(LogTableTest, FiltersByLevelAndText)
     filter.setLowest(Level::Debug);
     filter.setText("FAULT");
     EXPECT_EQ(filter.rowCount(), 1);
+}
+
+TEST_F(LogTableTest, IsSortedByLevelBehindItsFilter)
+{
+    LogFilter filter(m_model);
+    write(error + info + error);
+    filter.sort(levelColumn);
+    EXPECT_EQ(filter.index(0, textColumn).data().toString().toStdString(), "text");
+    EXPECT_EQ(filter.entry(0).text, "text");
+    filter.setText("fault");
+    EXPECT_EQ(filter.rowCount(), 2);
+    filter.setText({});
+    filter.sort(-1);
+    EXPECT_EQ(filter.entry(0).text, "fault");
+}
+
+// The first line stands last in this order.
+TEST_F(LogTableTest, AppendsAFurtherLineToTheLastEntryInWhateverRowItStands)
+{
+    write(error + info);
+    m_model.sort(levelColumn);
+    write("more\n");
+    EXPECT_EQ(m_model.records().back().text, "text\nmore");
+    EXPECT_EQ(m_model.record(0).text, "text\nmore");
+    EXPECT_EQ(m_model.record(1).text, "fault");
+}
+
+TEST_F(LogTableTest, GivesAllOfALongMessageToBeCopied)
+{
+    const QByteArray message(2000, 'x');
+    write("[INFO] 2026-03-07 09:05:03 : " + message + "\nmore\n");
+    const QModelIndex index = m_model.index(0, textColumn);
+    EXPECT_EQ(index.data(TableCopyJob::wholeTextRole).toString(), QString(message + "\nmore"));
 }
 
 class LogPageTest : public testing::Test

@@ -309,7 +309,7 @@ TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
     store("Other/none", "5$red");
     store("Other/broken", "blue");
     const auto found = [](bool names, bool data) {
-        RegistrySearchJob search("BLUE", "", names, data);
+        RegistrySearchJob search({"BLUE", names, names, data});
         while (search.step()) {
         }
         QStringList hits;
@@ -322,6 +322,45 @@ TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
     EXPECT_EQ(found(false, true), QStringList("Vendor/Product/Path"));
 }
 
+TEST_F(RegistryModels, SearchKeysNamesAndDataEachByItself)
+{
+    store("blue/v", "1$1");
+    store("K/blue", "1$1");
+    store("K/w", "5$blue");
+    const struct
+    {
+        RegistrySearchJob::Query query;
+        const char* hit;
+    } rows[] = {{{"blue", true, false, false}, "blue/"},
+                {{"blue", false, true, false}, "K/blue"},
+                {{"blue", false, false, true}, "K/w"}};
+    for (const auto& row : rows) {
+        RegistrySearchJob search(row.query);
+        while (search.step()) {
+        }
+        ASSERT_EQ(search.hits().size(), 1U) << row.hit;
+        const auto& hit = search.hits().front();
+        EXPECT_EQ(RegistryPath::join(hit.path, hit.name).toStdString(), row.hit);
+    }
+}
+
+TEST_F(RegistryModels, SearchForWholeWordsAndWithRegardToCaseWhereAsked)
+{
+    for (const char* text :
+         {"Blue", "blue", "blueish", "sky_blue", "a (blue) one", "blueblue blue"})
+        store(QString("K/") + QString(text).remove('/'), "1$1");
+    const auto count = [](bool mindsCase, bool wholeWords) {
+        RegistrySearchJob search({"blue", true, true, true, mindsCase, wholeWords});
+        while (search.step()) {
+        }
+        return search.hits().size();
+    };
+    EXPECT_EQ(count(false, false), 6U);
+    EXPECT_EQ(count(true, false), 5U);
+    EXPECT_EQ(count(false, true), 4U);
+    EXPECT_EQ(count(true, true), 3U);
+}
+
 TEST_F(RegistryModels, SearchAllBytesOfBinaryData)
 {
     store("k/v", "4$" + QString("00").repeated(80) + "0abcd0" + "abCD");
@@ -332,7 +371,7 @@ TEST_F(RegistryModels, SearchAllBytesOfBinaryData)
     } rows[] = {{"ab cd", true}, {"ABCD", true},  {"d0abc", true}, {"0 ab", true},
                 {"bcd0", true},  {"cd0a", false}, {"bc", true},    {"cd00", false}};
     for (const auto& row : rows) {
-        RegistrySearchJob search(row.text, "", false, true);
+        RegistrySearchJob search({row.text, false, false, true});
         while (search.step()) {
         }
         EXPECT_EQ(!search.hits().empty(), row.found) << row.text;
@@ -342,7 +381,7 @@ TEST_F(RegistryModels, SearchAllBytesOfBinaryData)
 TEST_F(RegistryModels, SearchTheDataOfWhatTheRootLists)
 {
     store("loose", "5$blue");
-    RegistrySearchJob search("BLUE", "", false, true);
+    RegistrySearchJob search({"BLUE", false, false, true});
     while (search.step()) {
     }
     ASSERT_EQ(search.hits().size(), 1U);
@@ -354,7 +393,7 @@ TEST_F(RegistryModels, EndASearchThatFindsTooMuch)
 {
     for (int i = 0; i < 1100; ++i)
         store(QString("k/v%1").arg(i), "1$1");
-    RegistrySearchJob search("v", "", true, false);
+    RegistrySearchJob search({"v", true, true, false});
     while (search.step()) {
     }
     EXPECT_TRUE(search.isFull());

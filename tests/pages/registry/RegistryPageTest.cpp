@@ -1,11 +1,15 @@
 #include "host/HostLibraries.h"
+#include "pages/registry/PathEdit.h"
 #include "pages/registry/RegistryValueModel.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
+#include "tests/support/MessageGuard.h"
 #include "tests/window/EndlessJob.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -177,6 +181,119 @@ TEST_F(RegistryPageTest, FindsAndGoesToAHit)
     EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "colour");
 }
 
+TEST_F(RegistryPageTest, GoesFromHitToHitByKeys)
+{
+    store("A/blue", "1$1");
+    store("B/blue", "1$1");
+    store("C/blue", "1$1");
+    show();
+    QTest::keyClick(&tree(), Qt::Key_F3); // nothing has been found yet
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_TRUE(field);
+    QTest::keyClicks(field, "blue");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(status().toStdString(), "Found: 3.");
+    const struct
+    {
+        Qt::KeyboardModifier modifier;
+        const char* key;
+    } rows[] = {{Qt::NoModifier, "A"}, {Qt::NoModifier, "B"},    {Qt::NoModifier, "C"},
+                {Qt::NoModifier, "A"}, {Qt::ShiftModifier, "C"}, {Qt::ShiftModifier, "B"}};
+    for (const auto& row : rows) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3, row.modifier);
+        EXPECT_EQ(address().toStdString(), std::string("HKEY_CURRENT_USER\\") + row.key);
+        EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "blue");
+    }
+    EXPECT_EQ(status().toStdString(), "Found place 2 of 3 (F3: next, Shift+F3: previous).");
+}
+
+TEST_F(RegistryPageTest, KeepsWhatIsTypedWhereItLeadsNowhere)
+{
+    store("A/v", "1$1");
+    show();
+    for (const char* typed : {"HKLM\\A\\missing", "HKEY_CURRENT_CONFIG\\A"}) {
+        enterAddress(typed);
+        EXPECT_EQ(address().toStdString(), typed);
+    }
+    m_page.goTo("A"); // where the first one has led
+    EXPECT_EQ(tree().currentIndex().data().toString().toStdString(), "A");
+}
+
+TEST_F(RegistryPageTest, OffersTheKeyThatDiffersInCaseOnly)
+{
+    store("Software/Maker 06/v", "1$1");
+    show();
+    auto* jump = m_page.findChild<QPushButton*>("jump");
+    EXPECT_FALSE(jump->isVisible());
+    enterAddress("hklm\\software\\maker 06");
+    EXPECT_EQ(status().toStdString(), "There is no key HKEY_CURRENT_USER\\software\\maker 06.");
+    ASSERT_TRUE(jump->isVisible());
+    QStringList labels;
+    for (const QLabel* label : m_page.findChildren<QLabel*>())
+        labels.append(label->text());
+    EXPECT_TRUE(
+        labels.contains("Names are case-sensitive here: HKEY_CURRENT_USER\\Software\\Maker 06?"))
+        << labels.join('|').toStdString();
+    jump->click();
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\Software\\Maker 06");
+    EXPECT_FALSE(jump->isVisible());
+    enterAddress("HKLM\\nothing like it");
+    EXPECT_FALSE(jump->isVisible());
+}
+
+TEST_F(RegistryPageTest, GoesToWhatWindowsShowsBelowTheComputer)
+{
+    store("A/B/v", "1$1");
+    store("Computer/x/v", "1$1");
+    show();
+    for (const char* typed : {"Computer\\HKEY_LOCAL_MACHINE\\A\\B", "computer\\hklm\\A\\B"}) {
+        enterAddress(typed);
+        EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
+        m_page.goTo("");
+    }
+    enterAddress("Computer\\x"); // a key of that name comes first
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\Computer\\x");
+}
+
+TEST_F(RegistryPageTest, CompletesTheKeyThatIsTyped)
+{
+    store("Software/Maker/v", "1$1");
+    store("Software/Model/v", "1$1");
+    const ExpectMessage list("This plugin does not support"); // it is a window of its own
+    show();
+    auto* line = m_page.findChild<QLineEdit*>("address");
+    line->setFocus();
+    line->clear();
+    QTest::keyClicks(line, "HKLM\\Software\\m");
+    auto* offered = line->completer()->completionModel();
+    ASSERT_EQ(offered->rowCount(), 2);
+    EXPECT_EQ(offered->index(0, 0).data().toString().toStdString(), "HKLM\\Software\\Maker");
+    QWidget* popup = line->completer()->popup();
+    EXPECT_TRUE(popup->isVisible());
+    QTest::keyClick(popup, Qt::Key_Down);
+    QTest::keyClick(popup, Qt::Key_Return);
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return address() == "HKEY_CURRENT_USER\\Software\\Maker"; }));
+    EXPECT_FALSE(popup->isVisible());
+}
+
+TEST_F(RegistryPageTest, ShowsBothEndsOfAPathThatDoesNotFit)
+{
+    const QString path = QString("A/B").replace("B", QString(200, 'b')) + "/the end";
+    store(path + "/v", "1$1");
+    show();
+    m_page.goTo(path);
+    auto* line = m_page.findChild<PathEdit*>("address");
+    EXPECT_TRUE(line->shown().startsWith("HKEY_CURRENT_USER")) << line->shown().toStdString();
+    EXPECT_TRUE(line->shown().endsWith("the end"));
+    EXPECT_NE(line->shown(), line->text());
+    EXPECT_TRUE(line->toolTip().contains("the end"));
+    m_page.goTo("A");
+    EXPECT_EQ(line->shown(), line->text());
+    EXPECT_EQ(tree().textElideMode(), Qt::ElideMiddle);
+    EXPECT_EQ(m_page.findChild<QTableView*>("found")->textElideMode(), Qt::ElideMiddle);
+}
+
 TEST_F(RegistryPageTest, SaysWhatASearchLacks)
 {
     show();
@@ -188,7 +305,8 @@ TEST_F(RegistryPageTest, SaysWhatASearchLacks)
     for (QCheckBox* box : m_page.findChildren<QCheckBox*>())
         box->setChecked(false);
     QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(status().toStdString(), "Choose where to search: in names, in values, or in both.");
+    EXPECT_EQ(status().toStdString(),
+              "Choose where to search: in keys, in names, in data, or in several.");
 }
 
 TEST_F(RegistryPageTest, IsNotReadAnewWhileAJobRuns)
@@ -219,7 +337,7 @@ TEST_F(RegistryPageTest, GivesEachButtonAMnemonicOfItsOwn)
         EXPECT_FALSE(mnemonics.contains(mnemonic)) << button->text().toStdString();
         mnemonics.append(mnemonic);
     }
-    EXPECT_EQ(mnemonics.size(), 11);
+    EXPECT_EQ(mnemonics.size(), 14);
 }
 
 TEST_F(RegistryPageTest, EscapeHidesTheSearch)

@@ -1,14 +1,17 @@
-#include "host/HostLibraries.h"
+#include "inspection/registry/StoreBackupJob.h"
+#include "tests/inspection/registry/StoreFileFixture.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QFile>
 #include <QLabel>
 #include <QSettings>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 namespace {
 
@@ -70,12 +73,95 @@ TEST_F(RegistryTransferTest, ImportOfNothingButRefusalsCannotBeConfirmed)
 TEST_F(RegistryTransferTest, AFileThatIsNoRegistryFileIsRefusedWithItsReason)
 {
     show();
-    importFile(written("REGEDIT4\r\n"));
-    EXPECT_TRUE(status().contains("version 4")) << status().toStdString();
     importFile(written("hello"));
     EXPECT_TRUE(status().contains("does not begin with")) << status().toStdString();
     importFile(m_folder.filePath("missing.reg"));
     EXPECT_TRUE(status().contains("could not be read")) << status().toStdString();
+}
+
+TEST_F(RegistryTransferTest, ImportShowsOldAndNewSideBySide)
+{
+    store("A/v", "5$old");
+    show();
+    importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"new\"\r\n\"w\"=dword:1\r\n"));
+    auto* rows = dialog().findChild<QTableView*>()->model();
+    EXPECT_EQ(rows->index(1, 0).data().toString().toStdString(), "Overwrites the value");
+    EXPECT_EQ(rows->index(1, 3).data().toString().toStdString(), "REG_SZ old");
+    EXPECT_EQ(rows->index(1, 4).data().toString().toStdString(), "REG_SZ new");
+    EXPECT_EQ(rows->index(2, 3).data().toString().toStdString(), "");
+    dialog().findChild<QCheckBox*>()->setChecked(true);
+    EXPECT_EQ(rows->rowCount(), 1);
+    reject();
+}
+
+TEST_F(RegistryTransferTest, ImportBacksTheStoreUpFirst)
+{
+    store("A/v", "5$old");
+    QCoreApplication::processEvents();
+    const QByteArray before = StoreFile::bytes();
+    show();
+    importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"new\"\r\n"));
+    const QString file = StoreBackupJob::nextFile();
+    EXPECT_TRUE(dialog().findChild<QCheckBox*>("backup")->isChecked());
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/v").toStdString(), "5$new");
+    QFile copy(file);
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+    EXPECT_EQ(copy.readAll().toStdString(), before.toStdString());
+}
+
+TEST_F(RegistryTransferTest, ImportMakesNoBackupThatIsNotWanted)
+{
+    store("A/v", "5$old");
+    QCoreApplication::processEvents();
+    show();
+    importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"new\"\r\n"));
+    const QString file = StoreBackupJob::nextFile();
+    dialog().findChild<QCheckBox*>("backup")->setChecked(false);
+    ASSERT_TRUE(accept());
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_F(RegistryTransferTest, DeletionBacksTheStoreUpFirst)
+{
+    store("A/v", "5$old");
+    QCoreApplication::processEvents();
+    show();
+    m_page.goTo("A");
+    const QString file = StoreBackupJob::nextFile();
+    pressDelete(tree());
+    EXPECT_TRUE(dialog().findChild<QCheckBox*>("backup")->isChecked());
+    ASSERT_TRUE(accept());
+    EXPECT_FALSE(holds("A/v"));
+    EXPECT_TRUE(QFile::exists(file));
+}
+
+TEST_F(RegistryTransferTest, AFileOfVersion4IsReadInTheCodePageThatIsChosen)
+{
+    show();
+    importFile(written("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"\xB8\xDB\"\r\n"));
+    EXPECT_TRUE(words().contains("no text in this one")) << words().toStdString();
+    EXPECT_FALSE(accept()); // the system's code page is UTF-8
+    auto* choice = dialog().findChild<QComboBox*>();
+    QDialog* first = &dialog();
+    const int chinese = choice->findText("Simplified Chinese (GB18030)");
+    ASSERT_GT(chinese, 0);
+    choice->setCurrentIndex(chinese);
+    emit choice->activated(chinese);
+    settle();
+    EXPECT_NE(&dialog(), first);
+    EXPECT_EQ(dialog().findChild<QComboBox*>()->currentIndex(), chinese);
+    EXPECT_FALSE(words().contains("no text in this one")) << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/v"), "5$" + QString(QChar(0x6E2F)));
+}
+
+TEST_F(RegistryTransferTest, AFileOfVersion5AsksForNoCodePage)
+{
+    show();
+    importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n"));
+    EXPECT_FALSE(dialog().findChild<QComboBox*>());
+    reject();
 }
 
 TEST_F(RegistryTransferTest, AFileThatIsTooLargeIsNotRead)

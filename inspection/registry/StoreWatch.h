@@ -1,0 +1,59 @@
+#pragma once
+
+#include "inspection/registry/StoreComparisonJob.h"
+
+#include <QObject>
+#include <QPointer>
+
+/// Watches the store and its file, at the cost of a `stat` a look: whether this process has changed
+/// the store, and whether another program has changed the file behind it.
+///
+/// Each change of the store in this process ends with the store saving itself, for which it asks
+/// itself by an event; that is the sign of it. The store reads its file only when it saves itself,
+/// or when the host library tells it to: until then it does not know what another program has done
+/// to the file. A file that has changed without that event is compared with the store, because the
+/// host library may save it by itself, too.
+class StoreWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class State
+    {
+        InStep,   ///< the store holds what its file says, or will be saved soon
+        Unknown,  ///< to be found out by a comparison
+        Vanished, ///< the file is gone
+        Replaced, ///< another file stands in its place, and the store has not read it
+        Changed   ///< the file has been written to, and the store has not read it
+    };
+
+    /// Takes the store to be in step with its file.
+    StoreWatch();
+
+    State state();
+    /// Takes over what a comparison that has been finished has found out.
+    void settle(const StoreComparisonJob& comparison);
+
+    /// Grows with everything that may have changed the store.
+    int revision();
+
+    /// What has happened to the file and what that means, in words; empty where it is in step.
+    QString text();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void attach();
+    void takeSaving();
+    void takeSaved();
+    State changedState();
+    bool hasReadDifference() const;
+
+    QPointer<QObject> m_store;
+    FileIdentity m_saved; ///< when the store and it were in step last
+    FileIdentity m_seen;  ///< the one that the state is about
+    State m_state = State::InStep;
+    std::optional<StoreComparisonJob::Difference> m_difference;
+    bool m_isSaving = false; ///< the store has saved itself, which is still to be taken over
+    int m_revision = 0;
+};

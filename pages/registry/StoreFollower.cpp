@@ -1,0 +1,49 @@
+#include "pages/registry/StoreFollower.h"
+
+#include "inspection/registry/RawStore.h"
+#include "window/PageContext.h"
+
+using Report = PageContext::Report;
+using State = StoreWatch::State;
+
+StoreFollower::StoreFollower(PageContext& page, StoreWatch& watch, QObject* parent)
+    : QObject(parent), m_page(page), m_watch(watch)
+{
+    connect(&m_runner, &JobRunner::finished, this, &StoreFollower::endComparison);
+}
+
+void StoreFollower::look()
+{
+    if (m_runner.isRunning())
+        return;
+    if (m_watch.state() == State::Unknown) {
+        m_comparison = std::make_unique<StoreComparisonJob>();
+        if (m_runner.start(*m_comparison))
+            endComparison();
+        return;
+    }
+    if (m_watch.revision() != m_shown)
+        emit changed();
+    tell();
+}
+
+void StoreFollower::endComparison()
+{
+    m_watch.settle(*m_comparison);
+    m_comparison.reset();
+    if (m_watch.state() != State::Unknown)
+        look();
+}
+
+void StoreFollower::tell()
+{
+    const State state = m_watch.state();
+    if (state == m_told || state == State::Unknown)
+        return;
+    m_told = state;
+    if (state == State::InStep)
+        m_page.report(Report::Info,
+                      tr("The store is in step with its file %1 again.").arg(RawStore::fileName()));
+    else
+        m_page.report(Report::Warning, m_watch.text());
+}

@@ -1,0 +1,216 @@
+#include "pages/registry/RegistryValueModel.h"
+#include "tests/inspection/registry/StoreFileFixture.h"
+#include "tests/pages/FileDialogAnswer.h"
+#include "tests/pages/registry/RegistryPageFixture.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTreeView>
+
+namespace {
+
+// What happens to the store and to its file while the page is open.
+class StoreFileTest : public RegistryPageFixture
+{
+protected:
+    void open()
+    {
+        store("A/v", "1$1");
+        store("B/w", "5$text");
+        QCoreApplication::processEvents();
+        show();
+        m_page.goTo("A");
+    }
+
+    testing::AssertionResult tells(const QString& words)
+    {
+        if (QTest::qWaitFor([&] { return status().contains(words); }, 10000))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << status().toStdString();
+    }
+
+    static QMessageBox& question() { return dynamic_cast<QMessageBox&>(dialog()); }
+
+    static void press(const QString& caption)
+    {
+        for (QAbstractButton* button : question().buttons()) {
+            if (button->text() == caption)
+                return button->click();
+        }
+        FAIL() << "no button " << caption.toStdString();
+    }
+
+    int rows() const { return table().model()->rowCount(); }
+};
+
+TEST_F(StoreFileTest, AFileThatHasGoneIsTold)
+{
+    open();
+    StoreFile::remove();
+    EXPECT_TRUE(tells("is gone: another program has deleted or moved it"));
+    EXPECT_EQ(rows(), 1); // what a host library still reads
+}
+
+TEST_F(StoreFileTest, AChangeOfAStoreWhoseFileHasGoneAsksAndCancelIsTheDefault)
+{
+    open();
+    StoreFile::remove();
+    chooseNew(NewDword);
+    EXPECT_TRUE(words().contains("is gone")) << words().toStdString();
+    EXPECT_EQ(question().defaultButton(), question().button(QMessageBox::Cancel));
+    reject();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_FALSE(QFile::exists(StoreFile::path()));
+}
+
+TEST_F(StoreFileTest, AChangeIsMadeWhenTheUserWantsIt)
+{
+    open();
+    StoreFile::remove();
+    chooseNew(NewDword);
+    press("Write");
+    type("n", "7");
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/n").toStdString(), "1$7");
+}
+
+TEST_F(StoreFileTest, EveryActionThatChangesTheStoreAsks)
+{
+    open();
+    m_page.goTo("A", "v");
+    StoreFile::remove();
+    const std::function<void()> actions[] = {[this] { chooseNew(NewKey); },
+                                             [this] { chooseNew(NewString); },
+                                             [this] {
+                                                 focus(table());
+                                                 QTest::keyClick(&table(), Qt::Key_F2);
+                                             },
+                                             [this] { pressDelete(table()); },
+                                             [this] { pressDelete(tree()); },
+                                             [this] {
+                                                 for (QAction* action : tree().actions()) {
+                                                     if (action->text() == "Import...")
+                                                         action->trigger();
+                                                 }
+                                             }};
+    for (const auto& action : actions) {
+        action();
+        EXPECT_TRUE(words().contains("is gone")) << words().toStdString();
+        reject();
+        ASSERT_TRUE(QTest::qWaitFor([] { return !QApplication::activeModalWidget(); }));
+    }
+}
+
+TEST_F(StoreFileTest, AnExportComesFirstWhereTheUserWantsIt)
+{
+    QTemporaryDir folder;
+    open();
+    StoreFile::remove();
+    chooseNew(NewDword);
+    const FileDialogAnswer answer(folder.filePath("kept.reg"), 1);
+    press("Export first...");
+    ASSERT_TRUE(QTest::qWaitFor([&folder] { return QFile::exists(folder.filePath("kept.reg")); }));
+    settle();
+    EXPECT_TRUE(words().contains("is gone")) << words().toStdString(); // asked again
+    reject();
+    QFile kept(folder.filePath("kept.reg"));
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(kept.readAll().contains("\"v\"=dword:00000001"));
+}
+
+TEST_F(StoreFileTest, AReplacedFileIsToldAndShownOnceTheStoreHasReadIt)
+{
+    open();
+    StoreFile::replace("[A]\nv=1$7\nother=1$8\n");
+    EXPECT_TRUE(tells("Another program has replaced the store's file"));
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(cell(0, RegistryValueModel::Data).toStdString(), "1 (0x00000001)");
+    g_globalSettings->sync();
+    EXPECT_TRUE(tells("is in step with its file"));
+    EXPECT_EQ(rows(), 2);
+    EXPECT_EQ(cell(1, RegistryValueModel::Data).toStdString(), "7 (0x00000007)");
+}
+
+TEST_F(StoreFileTest, AFileThatTheHostLibrarySavesIsNoCauseForQuestions)
+{
+    open();
+    store("A/w", "1$1");
+    g_globalSettings->sync();
+    chooseNew(NewDword);
+    type("n", "7");
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(status().toStdString(), "Set \"n\" in HKEY_CURRENT_USER\\A.");
+}
+
+TEST_F(StoreFileTest, WhatAHostLibraryWritesIsShownByItself)
+{
+    open();
+    m_page.setStatus("Told before.");
+    store("A/w", "1$2");
+    store("C/x", "1$2");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == 2; }, 1000));
+    EXPECT_EQ(tree().model()->rowCount(tree().model()->index(0, 0)), 3);
+    EXPECT_EQ(status().toStdString(), "Told before.");
+}
+
+TEST_F(StoreFileTest, TheCountOfWhatIsShownFollows)
+{
+    open();
+    EXPECT_EQ(status().toStdString(), "Values: 1. Sub-keys: 0.");
+    store("A/w", "1$2");
+    EXPECT_TRUE(tells("Values: 2. Sub-keys: 0."));
+}
+
+TEST_F(StoreFileTest, AnEmptyRegistryDoesNotStayOne)
+{
+    show();
+    EXPECT_EQ(tree().model()->rowCount(tree().model()->index(0, 0)), 0);
+    store("C/x", "1$2");
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return tree().model()->rowCount(tree().model()->index(0, 0)) == 1; }, 1000));
+}
+
+TEST_F(StoreFileTest, WhatIsSelectedTypedAndScrolledToStaysWhenOthersWrite)
+{
+    for (int i = 0; i < 200; ++i)
+        store(QString("A/n%1").arg(i, 3, 10, QChar('0')), "1$1");
+    open();
+    m_page.goTo("A", "n100");
+    table().selectionModel()->select(table().model()->index(120, 0),
+                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    const int scrolled = table().verticalScrollBar()->maximum() / 2;
+    table().verticalScrollBar()->setValue(scrolled);
+    auto* line = m_page.findChild<QLineEdit*>("address");
+    line->setFocus();
+    QTest::keyClicks(line, "typed");
+    const QString typed = line->text();
+    store("A/zz", "1$2");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return rows() == 202; }, 5000));
+    EXPECT_EQ(table().selectionModel()->selectedRows().size(), 2);
+    EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "n100");
+    EXPECT_EQ(table().verticalScrollBar()->value(), scrolled);
+    EXPECT_EQ(line->text().toStdString(), typed.toStdString());
+    EXPECT_TRUE(line->hasFocus());
+}
+
+TEST_F(StoreFileTest, NothingIsReadAnewWithoutASign)
+{
+    open();
+    QTest::qWait(1200); // the changes of the test itself are shown
+    int resets = 0;
+    QObject::connect(table().model(), &QAbstractItemModel::modelReset, [&resets] { ++resets; });
+    QTest::qWait(1200);
+    EXPECT_EQ(resets, 0);
+    store("A/w", "1$2");
+    EXPECT_TRUE(QTest::qWaitFor([&resets] { return resets == 1; }, 1000));
+}
+
+} // namespace

@@ -1,0 +1,98 @@
+#include "window/FileOpener.h"
+
+#include "window/Page.h"
+#include "window/PageCatalogue.h"
+#include "window/PageRail.h"
+#include "window/PageStack.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int waitMilliseconds = 50; // between two looks whether the page is ready
+
+// The local file that is dragged, if it is one.
+QString draggedFile(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+bool isDrag(const QEvent& event)
+{
+    return event.type() == QEvent::DragEnter || event.type() == QEvent::DragMove ||
+           event.type() == QEvent::Drop;
+}
+
+} // namespace
+
+FileOpener::FileOpener(QWidget* window, PageRail* rail, PageStack* stack)
+    : QObject(window), m_window(window), m_rail(rail), m_stack(stack)
+{
+    window->setAcceptDrops(true);
+    qApp->installEventFilter(this);
+    m_waiting.setInterval(waitMilliseconds);
+    connect(&m_waiting, &QTimer::timeout, this, &FileOpener::deliver);
+}
+
+int FileOpener::pageFor(const QString& path) const
+{
+    const QString name = pageForFile(path);
+    const std::vector<PageEntry> pages = pageCatalogue();
+    const auto found = std::find_if(pages.begin(), pages.end(),
+                                    [&name](const PageEntry& page) { return page.name == name; });
+    return found == pages.end() ? -1 : static_cast<int>(found - pages.begin());
+}
+
+void FileOpener::open(const QString& path)
+{
+    const int page = pageFor(path);
+    if (page < 0)
+        return;
+    m_path = path;
+    m_rail->setChosen(page);
+    m_stack->slideTo(page);
+    m_waiting.start();
+    deliver();
+}
+
+// The page may have to be made first, or be at work.
+void FileOpener::deliver()
+{
+    const int index = pageFor(m_path);
+    Page* page = m_stack->current() == index ? m_stack->page(index) : nullptr;
+    if (!page || page->isBusy() || QApplication::activeModalWidget())
+        return;
+    m_waiting.stop();
+    page->openFile(m_path);
+}
+
+bool FileOpener::isForWindow(const QMimeData& data) const
+{
+    const QString path = draggedFile(data);
+    return !path.isEmpty() && pageFor(path) >= 0;
+}
+
+// A drag that a widget does not take is offered to the one around it, and so to the window. A text
+// field would take the file for a text.
+bool FileOpener::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* widget = isDrag(*event) ? qobject_cast<QWidget*>(watched) : nullptr;
+    if (!widget || widget->window() != m_window || widget->property(takesAnyFile).toBool())
+        return false;
+    auto& drag = static_cast<QDropEvent&>(*event);
+    if (!isForWindow(*drag.mimeData()))
+        return false;
+    if (widget == m_window)
+        drag.acceptProposedAction();
+    else
+        drag.ignore();
+    if (widget == m_window && event->type() == QEvent::Drop)
+        open(draggedFile(*drag.mimeData()));
+    return true;
+}
