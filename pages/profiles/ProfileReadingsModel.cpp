@@ -4,7 +4,7 @@
 #include <utility>
 
 ProfileReadingsModel::ProfileReadingsModel(QObject* parent)
-    : QAbstractTableModel(parent), m_columns(ProfileColumns::ofReadings())
+    : SortableTableModel(parent), m_columns(ProfileColumns::ofReadings())
 {
 }
 
@@ -14,8 +14,11 @@ void ProfileReadingsModel::setDocument(std::shared_ptr<const ProfileDocument> do
     m_document = std::move(document);
     m_read.clear();
     m_differences.clear();
+    m_shown.clear();
     m_cachedName = -1;
+    forgetRows();
     endResetModel();
+    sortAgain();
 }
 
 void ProfileReadingsModel::setReading(int name, const ProfileReading& reading)
@@ -24,7 +27,7 @@ void ProfileReadingsModel::setReading(int name, const ProfileReading& reading)
     m_read.insert(name, reading);
     if (reading.differs())
         addDifference(name);
-    const int row = rowOf(name);
+    const int row = rowOfName(name);
     if (row >= 0)
         emit dataChanged(index(row, 0), index(row, columnCount() - 1));
 }
@@ -34,34 +37,50 @@ void ProfileReadingsModel::addDifference(int name)
     const auto place = std::lower_bound(m_differences.begin(), m_differences.end(), name);
     if (place != m_differences.end() && *place == name)
         return;
-    const int row = static_cast<int>(place - m_differences.begin());
-    if (m_isFiltered)
-        beginInsertRows({}, row, row);
     m_differences.insert(place, name);
-    if (m_isFiltered)
-        endInsertRows();
+    if (!m_isFiltered)
+        return;
+    const int row = rowCount();
+    beginInsertRows({}, row, row);
+    m_shown.push_back(name);
+    recordsAppended();
+    endInsertRows();
 }
 
 void ProfileReadingsModel::showOnlyDifferences(bool only)
 {
     beginResetModel();
     m_isFiltered = only;
+    m_shown = only ? m_differences : std::vector<int>();
+    forgetRows();
     endResetModel();
+    sortAgain();
+}
+
+void ProfileReadingsModel::arrangeAgain()
+{
+    if (m_isFiltered && m_shown != m_differences)
+        showOnlyDifferences(true);
+    else
+        sortAgain();
+}
+
+int ProfileReadingsModel::nameOf(int record) const
+{
+    return m_isFiltered ? m_shown[static_cast<std::size_t>(record)] : record;
 }
 
 int ProfileReadingsModel::nameAt(int row) const
 {
-    return m_isFiltered ? m_differences[static_cast<std::size_t>(row)] : row;
+    return nameOf(recordAt(row));
 }
 
-int ProfileReadingsModel::rowOf(int name) const
+int ProfileReadingsModel::rowOfName(int name) const
 {
-    if (!m_isFiltered)
-        return name;
-    const auto place = std::lower_bound(m_differences.begin(), m_differences.end(), name);
-    return place != m_differences.end() && *place == name
-               ? static_cast<int>(place - m_differences.begin())
-               : -1;
+    if (!m_isFiltered || name < 0)
+        return name < 0 ? -1 : rowOf(name);
+    const auto place = std::find(m_shown.begin(), m_shown.end(), name);
+    return place != m_shown.end() ? rowOf(static_cast<int>(place - m_shown.begin())) : -1;
 }
 
 ProfileReading ProfileReadingsModel::reading(int name) const
@@ -91,11 +110,22 @@ const ProfileReading& ProfileReadingsModel::cached(int name) const
     return m_reading;
 }
 
+int ProfileReadingsModel::recordCount() const
+{
+    return m_isFiltered ? static_cast<int>(m_shown.size()) : nameCount();
+}
+
+SortKey ProfileReadingsModel::sortKey(int record, int column) const
+{
+    const ProfileReading reading = this->reading(nameOf(record));
+    if (!reading.isRead && column >= ProfileColumns::WideColumn)
+        return {};
+    return cellSortKey(m_columns[static_cast<std::size_t>(column)], reading);
+}
+
 int ProfileReadingsModel::rowCount(const QModelIndex& parent) const
 {
-    if (parent.isValid())
-        return 0;
-    return m_isFiltered ? differenceCount() : nameCount();
+    return parent.isValid() ? 0 : recordCount();
 }
 
 int ProfileReadingsModel::columnCount(const QModelIndex& parent) const

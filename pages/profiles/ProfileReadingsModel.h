@@ -1,8 +1,8 @@
 #pragma once
 
 #include "pages/profiles/ProfileColumns.h"
+#include "window/SortableTableModel.h"
 
-#include <QAbstractTableModel>
 #include <QHash>
 
 #include <memory>
@@ -10,7 +10,7 @@
 
 /// What a profile names, in the order of the file, with what either family reads under each name as
 /// far as it has been asked.
-class ProfileReadingsModel : public QAbstractTableModel
+class ProfileReadingsModel : public SortableTableModel
 {
 public:
     explicit ProfileReadingsModel(QObject* parent = nullptr);
@@ -29,11 +29,13 @@ public:
 
     /// Shows the names alone that are known to be read differently.
     void showOnlyDifferences(bool only);
+    /// Puts the rows in their order again when many answers have come.
+    void arrangeAgain();
 
     /// Which name of the document stands in a row.
     int nameAt(int row) const;
     /// Where a name stands; -1 where it is not shown.
-    int rowOf(int name) const;
+    int rowOfName(int name) const;
     /// A reading; without answers, and not `isRead`, where the families have not been asked.
     ProfileReading reading(int name) const;
     /// The first name behind this one, -1 for none, that is read differently or has not been read;
@@ -45,7 +47,12 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+protected:
+    int recordCount() const override;
+    SortKey sortKey(int record, int column) const override;
+
 private:
+    int nameOf(int record) const;
     void addDifference(int name);
     const ProfileReading& cached(int name) const;
 
@@ -54,6 +61,7 @@ private:
     QHash<int, ProfileReading> m_read;
     std::vector<int> m_differences; ///< names, in their order
     bool m_isFiltered = false;
+    std::vector<int> m_shown; ///< where that is so: names, those that came last at the end
     // A view asks for all that a row has, one after the other.
     mutable ProfileReading m_reading;
     mutable int m_cachedName = -1;

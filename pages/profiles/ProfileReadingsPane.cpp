@@ -146,7 +146,7 @@ int ProfileReadingsPane::chosenName() const
 void ProfileReadingsPane::chooseName(int name)
 {
     const QSignalBlocker blocker(this);
-    const int row = m_model->rowOf(name);
+    const int row = m_model->rowOfName(name);
     if (row >= 0)
         m_table->selectRow(row);
     else
@@ -234,12 +234,20 @@ void ProfileReadingsPane::readAll()
         return;
     m_page.startJob(tr("Asking both families for all values"), makeAsking(next),
                     [this](const ProfileAskingJob&, bool complete) {
+                        arrangeAgain();
                         if (complete)
                             m_page.report(PageContext::Report::Info, counts());
                         else
                             m_page.report(PageContext::Report::Warning,
                                           tr("Stopped. %1").arg(counts()));
                     });
+}
+
+void ProfileReadingsPane::arrangeAgain()
+{
+    const int chosen = chosenName();
+    m_model->arrangeAgain();
+    chooseName(chosen);
 }
 
 void ProfileReadingsPane::showOnlyDifferences(bool only)
@@ -276,7 +284,7 @@ void ProfileReadingsPane::findDifference(int from, bool isAgain)
                     [this, at, isAgain](const ProfileAskingJob&, bool complete) {
                         const int found = complete ? m_model->nextCandidate(*at) : -1;
                         if (found >= 0)
-                            m_table->selectRow(m_model->rowOf(found));
+                            m_table->selectRow(m_model->rowOfName(found));
                         else if (complete && !isAgain)
                             findDifference(-1, true);
                         else

@@ -47,6 +47,9 @@ public:
     int scrollPosition() const;
     void scrollTo(int position);
 
+    /// Puts the rows in their order again when many answers have come.
+    void arrangeAgain();
+
     /// Asks the families for all names.
     void readAll();
     /// Goes to the next name that the families read differently, asking for those before it.

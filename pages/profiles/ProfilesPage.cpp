@@ -276,6 +276,7 @@ ProfilesPage::Place ProfilesPage::currentPlace() const
 void ProfilesPage::restorePlace(bool complete)
 {
     const QScopedValueRollback<bool> restoring(m_isRestoring, true);
+    m_readings->arrangeAgain();
     const int line = m_place.line;
     if (line >= 0 && line < m_document->lines().count() && m_lines->text(line) == m_place.text)
         m_lines->chooseLine(line);
