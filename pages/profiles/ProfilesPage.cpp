@@ -179,7 +179,7 @@ std::unique_ptr<ProfileReadingJob> ProfilesPage::makeReadingJob(const QString& p
             showDocument(std::move(document), wanted);
         },
         [this](int name, const ProfileReading& reading) { addReading(name, reading); }};
-    m_readingStamp = ProfileStamp::of(path);
+    m_readingStamp = FileStamp::of(path);
     auto job = std::make_unique<ProfileReadingJob>(path, std::move(receiver));
     if (m_place.name)
         job->lookFor(*m_place.name);
@@ -225,13 +225,20 @@ void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
         report(Report::Info, m_summary + QLatin1Char(' ') + m_readings->counts());
 }
 
+// A change right behind the reading may have left the time as it was.
+bool ProfilesPage::hasChanged()
+{
+    const FileStamp former = std::exchange(m_stamp, FileStamp::of(m_path));
+    if (former != m_stamp)
+        return true;
+    return !former.isSure() && ProfileDocument::bytesOf(m_path) != m_document->lines().bytes();
+}
+
 void ProfilesPage::lookForChanges()
 {
-    const ProfileStamp stamp = ProfileStamp::of(m_path);
-    if (m_path.isEmpty() || m_rereader.isRunning() || stamp == m_stamp)
+    if (m_path.isEmpty() || m_rereader.isRunning() || !hasChanged())
         return;
-    m_stamp = stamp;
-    if (stamp.exists && isRefused(m_path)) // which is said once
+    if (QFileInfo::exists(m_path) && isRefused(m_path)) // which is said once
         return;
     m_place = currentPlace();
     m_reread = makeReadingJob(m_path);
