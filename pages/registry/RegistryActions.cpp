@@ -79,7 +79,6 @@ RegistryActions::RegistryActions(PageContext& page, StoreWatch& watch, KeyTree& 
     enable(false);
     connectParts();
     new MenuKey(&m_tree);
-    new MenuKey(&m_table);
 }
 
 void RegistryActions::connectParts()

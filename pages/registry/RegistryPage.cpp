@@ -12,8 +12,8 @@
 #include "pages/registry/TablePlace.h"
 #include "pages/registry/ValueTable.h"
 
-#include <QLabel>
 #include <QAction>
+#include <QLabel>
 #include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
