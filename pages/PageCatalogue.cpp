@@ -34,20 +34,48 @@ struct Row
     const char* title;
     GlyphDrawing glyph;
     Page* (*create)(QWidget* parent);
+    const char* answers;
 };
 
 constexpr Row rows[] = {
     {"registry", QT_TRANSLATE_NOOP("PageCatalogue", "&Registry"), &drawRegistryGlyph,
-     &made<RegistryPage>},
+     &made<RegistryPage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "Which keys and values a host library finds in the registry, and what it "
+                       "reads from each; entries that it cannot read are marked. Values and keys "
+                       "can be changed, imported from registry files and exported to them.")},
     {"profiles", QT_TRANSLATE_NOOP("PageCatalogue", "&Profiles"), &drawProfilesGlyph,
-     &made<ProfilesPage>},
-    {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), &drawFilesGlyph, &made<FilesPage>},
-    {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), &drawFontsGlyph, &made<FontsPage>},
+     &made<ProfilesPage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "What the wide and the narrow calls read from a private profile (an INI "
+                       "file), line by line and side by side, and what a write through either of "
+                       "them would make of the file.")},
+    {"files", QT_TRANSLATE_NOOP("PageCatalogue", "&Files"), &drawFilesGlyph, &made<FilesPage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "Which files a search with findFirstFile finds, with which attributes and "
+                       "times, and what the calls for paths and directories answer.")},
+    {"fonts", QT_TRANSLATE_NOOP("PageCatalogue", "F&onts"), &drawFontsGlyph, &made<FontsPage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "Which fonts host libraries have registered, and which of them an "
+                       "enumeration by family and character set finds.")},
     {"displays", QT_TRANSLATE_NOOP("PageCatalogue", "&Displays"), &drawDisplaysGlyph,
-     &made<DisplaysPage>},
-    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), &drawInputGlyph, &made<InputPage>},
-    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), &drawCryptoGlyph, &made<CryptoPage>},
-    {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), &drawLogGlyph, &made<LogPage>},
+     &made<DisplaysPage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "Which monitors there are, which of them MonitorFromPoint answers for a "
+                       "point, what the system metrics are, and which graphics handles are "
+                       "alive.")},
+    {"input", QT_TRANSLATE_NOOP("PageCatalogue", "&Input"), &drawInputGlyph, &made<InputPage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "Which keys and mouse buttons read as down, where the pointer is, which "
+                       "cursor is set, and which window FindWindowW finds.")},
+    {"crypto", QT_TRANSLATE_NOOP("PageCatalogue", "&Crypto"), &drawCryptoGlyph, &made<CryptoPage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "What texts and files become when they are encrypted, decrypted, digested "
+                       "or coded as Base64 in the way of the host libraries.")},
+    {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), &drawLogGlyph, &made<LogPage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "What has happened since the program was started, with every change that "
+                       "was made from this window.")},
 };
 
 } // namespace
@@ -58,7 +86,7 @@ std::vector<PageEntry> pageCatalogue()
     for (const Row& row : rows)
         entries.push_back({QString::fromLatin1(row.name),
                            QCoreApplication::translate("PageCatalogue", row.title), row.glyph,
-                           row.create});
+                           row.create, QCoreApplication::translate("PageCatalogue", row.answers)});
     return entries;
 }
 

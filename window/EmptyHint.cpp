@@ -40,7 +40,7 @@ void EmptyHint::update()
 void EmptyHint::arrange()
 {
     const int margin = m_view->fontMetrics().height();
-    m_label->setGeometry(m_view->viewport()->rect().adjusted(margin, margin, -margin, -margin));
+    m_label->setGeometry(m_view->viewport()->rect().adjusted(margin, 0, -margin, 0));
 }
 
 bool EmptyHint::eventFilter(QObject* watched, QEvent* event)

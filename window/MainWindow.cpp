@@ -3,12 +3,20 @@
 #include "app/ApplicationLog.h"
 #include "app/HostInformation.h"
 #include "inspection/registry/RawStore.h"
+#include "window/AccessibleRole.h"
+#include "window/FaintText.h"
 #include "window/FileOpener.h"
+#include "window/GlyphIcon.h"
+#include "window/HelpWindow.h"
 #include "window/Page.h"
 #include "window/PageRail.h"
 #include "window/PageStack.h"
 #include "window/StatusLine.h"
+#include "window/TabOrder.h"
+#include "window/WindowGlyph.h"
+#include "window/WindowSize.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
@@ -18,27 +26,16 @@
 
 namespace {
 
-// Comfortable for two columns of text, and never larger than the screen.
+// Comfortable for two columns of text where the screen has room for that.
 QSize firstSize(const QWidget& window)
 {
     const int unit = window.fontMetrics().height();
     const QSize wanted(unit * 66, unit * 44);
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? wanted.boundedTo(screen->availableSize() * 0.9) : wanted;
-}
-
-// What the pages need, but no more than the smallest of screens. A minimum of its own keeps a page
-// that is built later from enlarging the window, which start-up has centred by then.
-QSize smallestSize(const QWidget& window)
-{
-    const int unit = window.fontMetrics().height();
-    return QSize(unit * 46, unit * 34).boundedTo({800, 600}).expandedTo(window.minimumSizeHint());
-}
-
-bool takesTab(const QWidget& widget, const QWidget& window)
-{
-    return (widget.focusPolicy() & Qt::TabFocus) != 0 && !widget.focusProxy() &&
-           widget.isEnabled() && widget.window() == &window && widget.isVisibleTo(&window);
+    // Window managers take about that much for a title bar, and for the other edges.
+    return screen ? firstWindowSize(wanted, screen->virtualGeometry(),
+                                    screen->availableVirtualGeometry(), unit * 2, unit / 3)
+                  : wanted;
 }
 
 } // namespace
@@ -47,7 +44,10 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
 {
     logInfo(QStringLiteral("Host library %1, settings store %2")
                 .arg(HostInformation::libraryPath(), RawStore::fileName()));
+    setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(tr("Quayside"));
+    makePlaceholdersFaint(*this);
+    setWindowIcon(glyphIcon(&drawWindowGlyph));
     const std::vector<PageEntry> pages = pageCatalogue();
     for (const PageEntry& page : pages)
         m_names.push_back(page.name);
@@ -61,13 +61,19 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addLayout(middle, 1);
-    layout->addWidget(new StatusLine);
+    auto* status = new StatusLine;
+    layout->addWidget(status);
     m_rail->setChosen(0);
-    connect(m_rail, &PageRail::chosen, this, &MainWindow::choose);
+    connect(m_rail, &PageRail::chosen, this, [this](int page) { m_stack->slideTo(page); });
+    connect(m_rail, &PageRail::browsed, this,
+            [this](int page) { m_stack->slideTo(page, PageStack::Keyboard::Stays); });
     connect(m_stack, &PageStack::entered, this, &MainWindow::logPage);
+    connect(status, &StatusLine::helpRequested, this, &MainWindow::showHelp);
     addShortcuts(static_cast<int>(pages.size()));
     new FileOpener(this, m_rail, m_stack);
-    setMinimumSize(smallestSize(*this));
+    // A minimum of its own keeps a page that is built later from enlarging the window, which
+    // start-up has centred by then.
+    setMinimumSize(smallestWindow.expandedTo(minimumSizeHint()));
     resize(firstSize(*this).expandedTo(minimumSize()));
 }
 
@@ -75,8 +81,14 @@ void MainWindow::addShortcuts(int pages)
 {
     for (int page = 0; page < pages; ++page) {
         auto* shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(page + 1)), this);
-        connect(shortcut, &QShortcut::activated, this, [this, page] { choose(page); });
+        connect(shortcut, &QShortcut::activated, this, [this, page] {
+            m_rail->setChosen(page);
+            m_stack->slideTo(page);
+        });
     }
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &MainWindow::showHelp);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this,
+            &QWidget::close);
     addShortcut(Qt::Key_F5, [](Page& page) { page.refresh(); });
     addShortcut(QKeySequence::Find, [](Page& page) { page.find(); });
     // A field that is being typed into takes these two for itself.
@@ -98,17 +110,17 @@ void MainWindow::addShortcut(const QKeySequence& keys, void (*operation)(Page& p
 // controls before that one.
 bool MainWindow::focusNextPrevChild(bool next)
 {
-    const auto after = [next](const QWidget& widget) {
-        return next ? widget.nextInFocusChain() : widget.previousInFocusChain();
-    };
-    const QWidget* from = focusWidget() ? focusWidget() : this;
-    for (QWidget* widget = after(*from); widget != from; widget = after(*widget)) {
-        if (!takesTab(*widget, *this))
-            continue;
-        widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        return true;
-    }
-    return false;
+    QWidget* to = tabNeighbour(*this, next);
+    if (to)
+        to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return to != nullptr;
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        makePlaceholdersFaint(*this);
 }
 
 void MainWindow::showPage(const QString& name)
@@ -126,10 +138,11 @@ Page* MainWindow::currentPage() const
     return m_stack->page(m_stack->current());
 }
 
-void MainWindow::choose(int page)
+void MainWindow::showHelp()
 {
-    m_rail->setChosen(page);
-    m_stack->slideTo(page);
+    if (!m_help)
+        m_help = new HelpWindow(pageCatalogue(), this);
+    m_help->showAt(m_names[static_cast<std::size_t>(m_stack->current())]);
 }
 
 void MainWindow::logPage(int page)

@@ -5,6 +5,7 @@
 
 #include <vector>
 
+class HelpWindow;
 class Page;
 class PageRail;
 class PageStack;
@@ -28,14 +29,16 @@ public:
 
 protected:
     bool focusNextPrevChild(bool next) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void addShortcuts(int pages);
     void addShortcut(const QKeySequence& keys, void (*operation)(Page& page));
-    void choose(int page);
+    void showHelp();
     void logPage(int page);
 
     std::vector<QString> m_names;
     PageRail* m_rail;
     PageStack* m_stack;
+    HelpWindow* m_help = nullptr; ///< made when it is asked for
 };

@@ -4,6 +4,7 @@
 #include "widgets/ButtonMonitor.h"
 #include "window/BusyOverlay.h"
 #include "window/PageFooter.h"
+#include "window/ScrolledBody.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -38,7 +39,7 @@ Page::Page(QWidget* parent)
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(m_content);
     auto* content = new QVBoxLayout(m_content);
-    content->addLayout(m_body, 1);
+    content->addWidget(new ScrolledBody(m_body), 1);
     content->addWidget(m_footer);
     connect(m_footer, &PageFooter::rereadRequested, this, [this] { refresh(); });
     connect(m_overlay, &BusyOverlay::cancelRequested, this, &Page::cancelJob);

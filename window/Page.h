@@ -18,10 +18,10 @@ class QVBoxLayout;
 ///  1. Derive from Page in a folder of its own, `pages/<name>/`, beside a function that draws the
 ///     page's glyph.
 ///  2. Add a row to the table of `pages/PageCatalogue.cpp`: the page's name, its title with a
-///     letter for Alt that no other title has, its glyph and its class. That is all that the window
-///     needs: the rail, the shortcuts, the option "/page", the pictures and the tests of all pages
-///     follow the catalogue. The window makes the page on the first visit, as a child of its place
-///     in the stack.
+///     letter for Alt that no other title has, its glyph, its class and what it answers. That is
+///     all that the window needs: the rail, the shortcuts, the option "/page", the help, the
+///     pictures and the tests of all pages follow the catalogue. The window makes the page on the
+///     first visit, as a child of its place in the stack.
 ///  3. In the constructor build the widgets into `body()`, set a focus proxy (`setFocusProxy`) to
 ///     the control that gets the keyboard when the page is opened, give every control an accessible
 ///     name, and install `g_buttonMonitor` on every push button (`glowing` does it).
@@ -39,7 +39,8 @@ class QVBoxLayout;
 ///    Qt::WidgetWithChildrenShortcut, added to the view).
 ///  - The mnemonics of the catalogue's titles choose pages: its own controls use other letters.
 ///  - Sizes come from the font (QFontMetrics, style metrics), colours from the palette, and every
-///    text through tr(). A page must fit 640 x 520 pixels with a 9 point font.
+///    text through tr(). With a 9 point font a page must fit the smallest window; where it does
+///    not, as with a larger font, it scrolls.
 ///  - What happened, and what was refused and why, is told with `report`.
 class Page : public QWidget, public PageContext
 {

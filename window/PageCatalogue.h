@@ -19,6 +19,8 @@ struct PageEntry
     GlyphDrawing glyph;
     /// Makes the page; `parent` owns it.
     Page* (*create)(QWidget* parent);
+    /// Translated: what the page answers, for the help.
+    QString answers{};
 };
 
 /// All pages. Declared here for the window and defined above it, beside the pages.

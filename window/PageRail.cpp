@@ -1,10 +1,12 @@
 #include "window/PageRail.h"
 
 #include "widgets/ButtonMonitor.h"
+#include "window/AccessibleRole.h"
 #include "window/GlyphIcon.h"
 #include "window/RailButton.h"
 #include "window/ShownText.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QKeySequence>
 #include <QVBoxLayout>
@@ -12,6 +14,7 @@
 PageRail::PageRail(const std::vector<PageEntry>& pages, QWidget* parent)
     : QWidget(parent), m_buttons(new QButtonGroup(this))
 {
+    setAccessibleRole(*this, QAccessible::PageTabList);
     setAccessibleName(tr("Pages"));
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
@@ -24,11 +27,22 @@ PageRail::PageRail(const std::vector<PageEntry>& pages, QWidget* parent)
         button->setToolTip(QKeySequence(QStringLiteral("Alt+%1").arg(index + 1))
                                .toString(QKeySequence::NativeText));
         button->installEventFilter(&g_buttonMonitor);
-        connect(button, &QPushButton::clicked, this, [this, index] { emit chosen(index); });
+        connect(button, &QPushButton::clicked, this, [this, index] { tell(index); });
         m_buttons->addButton(button, index);
         layout->addWidget(button);
     }
     layout->addStretch();
+}
+
+// An arrow key presses the next button while the one before it still has the keyboard.
+void PageRail::tell(int page)
+{
+    const auto buttons = m_buttons->buttons();
+    auto* focus = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+    if (focus && focus != m_buttons->button(page) && buttons.contains(focus))
+        emit browsed(page);
+    else
+        emit chosen(page);
 }
 
 void PageRail::setChosen(int page)

@@ -20,7 +20,11 @@ public:
 signals:
     /// The user has pressed the button of this page, which may be the one in view.
     void chosen(int page);
+    /// The user has come to the button of this page with an arrow key, and is still in the rail.
+    void browsed(int page);
 
 private:
+    void tell(int page);
+
     QButtonGroup* m_buttons;
 };

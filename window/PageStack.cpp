@@ -1,7 +1,9 @@
 #include "window/PageStack.h"
 
 #include "widgets/QAnimationStackedWidget.h"
+#include "window/AccessibleRole.h"
 #include "window/Page.h"
+#include "window/ShownText.h"
 
 #include <QApplication>
 #include <QVBoxLayout>
@@ -9,6 +11,13 @@
 namespace {
 
 constexpr int slideMilliseconds = 250;
+
+// An assistive tool reads out the page's name.
+void announce(Page& page)
+{
+    QAccessibleEvent alert(&page, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
 
 } // namespace
 
@@ -50,6 +59,8 @@ Page* PageStack::made(int index)
         return page;
     QWidget* holder = place(index);
     Page* page = m_pages[static_cast<std::size_t>(index)].create(holder);
+    setAccessibleRole(*page, QAccessible::PropertyPage);
+    page->setAccessibleName(withoutMnemonic(m_pages[static_cast<std::size_t>(index)].title));
     holder->layout()->addWidget(page);
     page->show(); // left to the layout it would come too late for the keyboard focus
     return page;
@@ -61,16 +72,20 @@ void PageStack::open(int page)
 }
 
 // The stack itself must never be asked for the page in view: a slide to it never ends.
-void PageStack::slideTo(int page)
+void PageStack::slideTo(int page, Keyboard keyboard)
 {
+    if (!place(page))
+        return;
+    m_keyboard = keyboard;
     if (m_sliding) {
         m_next = page;
         return;
     }
-    if (page == current() || !place(page))
+    if (page == current()) {
+        giveKeyboard();
         return;
+    }
     made(page);
-    m_focusFollows = m_stack->isAncestorOf(window()->focusWidget());
     m_sliding = true;
     if (page > current())
         m_stack->nextTo(page);
@@ -85,17 +100,22 @@ void PageStack::slid()
     m_sliding = false;
     enter();
     if (m_next >= 0)
-        slideTo(std::exchange(m_next, -1));
+        slideTo(std::exchange(m_next, -1), m_keyboard);
 }
 
-// A choice by keyboard from inside a page leads into the next one; the rail keeps the focus that it
-// has.
+void PageStack::giveKeyboard()
+{
+    Page* page = this->page(current());
+    if (page && m_keyboard == Keyboard::IntoPage)
+        page->takeFocus();
+}
+
 void PageStack::enter()
 {
     Page* page = made(current());
     page->entered();
-    if (m_focusFollows)
-        page->takeFocus();
+    giveKeyboard();
+    announce(*page);
     emit entered(current());
 }
 
@@ -106,6 +126,5 @@ void PageStack::paintEvent(QPaintEvent* event)
     if (m_opened)
         return;
     m_opened = true;
-    m_focusFollows = true;
     QMetaObject::invokeMethod(this, &PageStack::enter, Qt::QueuedConnection);
 }

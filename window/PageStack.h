@@ -18,9 +18,16 @@ public:
 
     /// Puts a page in view without sliding; for the time before the window is shown.
     void open(int page);
+    /// Whether the control of a page that comes first gets the keyboard.
+    enum class Keyboard
+    {
+        IntoPage,
+        Stays
+    };
+
     /// Slides to a page. While a slide runs the choice is remembered, the last one wins, and the
-    /// slide to it follows.
-    void slideTo(int page);
+    /// slide to it follows. The page in view only gets the keyboard.
+    void slideTo(int page, Keyboard keyboard = Keyboard::IntoPage);
 
     /// The page in view; the leaving one while a slide runs.
     int current() const;
@@ -39,12 +46,13 @@ protected:
 private:
     QWidget* place(int index) const;
     void slid();
+    void giveKeyboard();
     void enter();
 
     std::vector<PageEntry> m_pages;
     QAnimationStackedWidget* m_stack;
     bool m_opened = false; ///< the window has been painted
     bool m_sliding = false;
-    bool m_focusFollows = false;
+    Keyboard m_keyboard = Keyboard::IntoPage;
     int m_next = -1; ///< what was chosen while a slide ran, or -1
 };

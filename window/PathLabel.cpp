@@ -1,5 +1,7 @@
 #include "window/PathLabel.h"
 
+#include "window/AccessibleRole.h"
+#include "window/FocusFrame.h"
 #include "window/ShownText.h"
 
 #include <QAction>
@@ -8,8 +10,6 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOption>
 
 namespace {
 
@@ -26,6 +26,7 @@ QString shown(const QString& path, PathLabel::Form form)
 PathLabel::PathLabel(const QString& path, Form form, QWidget* parent)
     : QFrame(parent), m_path(path), m_text(shown(path, form))
 {
+    setAccessibleRole(*this, QAccessible::StaticText);
     setToolTip(plainToolTip(path));
     setAccessibleName(path);
     setFocusPolicy(Qt::StrongFocus);
@@ -63,9 +64,6 @@ void PathLabel::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      fontMetrics().elidedText(m_text, Qt::ElideMiddle, width()));
-    if (!hasFocus())
-        return;
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    if (hasFocus())
+        paintFocusFrame(painter, *this, rect());
 }

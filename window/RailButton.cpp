@@ -1,13 +1,18 @@
 #include "window/RailButton.h"
 
+#include "window/AccessibleRole.h"
+
 #include <QEvent>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
 RailButton::RailButton(const QIcon& icon, const QString& text, QWidget* parent)
-    : QPushButton(icon, text, parent)
+    : QPushButton(parent)
 {
+    setAccessibleRole(*this, QAccessible::PageTab);
+    setIcon(icon);
+    setText(text);
     setCheckable(true);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

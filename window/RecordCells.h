@@ -30,5 +30,7 @@ QVariant headerCellData(const Column& column, int role)
 {
     if (role == Qt::ToolTipRole && !column.tip.isEmpty())
         return plainToolTip(column.tip);
+    if (role == Qt::AccessibleTextRole) // a sign alone heads some columns, or nothing
+        return column.title.isEmpty() ? column.tip : column.title;
     return role == Qt::DisplayRole ? column.title : QVariant();
 }

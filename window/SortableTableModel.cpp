@@ -67,6 +67,17 @@ void SortableTableModel::recordsAppended()
         m_soon.start();
 }
 
+void SortableTableModel::recordInserted(int record)
+{
+    m_runner.cancel(); // it sorts numbers that have moved
+    for (int& each : m_rows)
+        each += each >= record ? 1 : 0;
+    if (!m_rows.empty())
+        m_rows.push_back(record);
+    if (m_column >= 0)
+        m_soon.start();
+}
+
 void SortableTableModel::startSorting()
 {
     m_runner.cancel();

@@ -41,6 +41,10 @@ protected:
     /// To be called between the beginning and the end of an insertion at the end. The new rows
     /// stay there for a moment: sorting for each of many insertions would take long.
     void recordsAppended();
+    /// The same for one record that was inserted with this number: the numbers from it on have
+    /// grown by one. Where the rows are sorted its row is the last one, else the one of its number.
+    void recordInserted(int record);
+    bool isSorted() const { return !m_rows.empty(); }
 
 private:
     void startSorting();

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
+#include <QToolButton>
 
 namespace {
 
@@ -34,6 +35,18 @@ StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent)
     else
         addPath(tr("Settings store:"), new PathLabel(store), 1);
     addText(tr("Language:"), HostInformation::language(), 0);
+    addHelp();
+}
+
+void StatusLine::addHelp()
+{
+    auto* button = new QToolButton;
+    button->setText(tr("Help"));
+    button->setToolTip(tr("F1: what each page answers, what wide and narrow calls are, and keys"));
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    connect(button, &QToolButton::clicked, this, &StatusLine::helpRequested);
+    addPermanentWidget(button);
 }
 
 void StatusLine::addText(const QString& caption, const QString& text, int stretch)

@@ -12,7 +12,12 @@ class StatusLine : public QStatusBar
 public:
     explicit StatusLine(QWidget* parent = nullptr);
 
+signals:
+    /// The button for the help has been pressed.
+    void helpRequested();
+
 private:
+    void addHelp();
     void addText(const QString& caption, const QString& text, int stretch);
     void addPath(const QString& caption, PathLabel* path, int stretch);
     void add(const QString& caption, QWidget* value, int stretch);

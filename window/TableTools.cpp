@@ -34,21 +34,9 @@ bool isSortable(const QAbstractItemModel* model)
            qobject_cast<const QSortFilterProxyModel*>(model);
 }
 
-bool isMenuKey(const QEvent& event)
-{
-    if (event.type() != QEvent::KeyPress)
-        return false;
-    const auto& press = static_cast<const QKeyEvent&>(event);
-    return press.key() == Qt::Key_F10 && press.modifiers() == Qt::ShiftModifier;
-}
-
 } // namespace
 
-TableTools::TableTools(QTableView* table)
-    : QObject(table),
-      m_table(table),
-      m_copy(addCopy(tr("Copy"), TableCopyJob::WithoutHeader)),
-      m_copyWithHeader(addCopy(tr("Copy with header"), TableCopyJob::WithHeader))
+TableTools::TableTools(QTableView* table) : QObject(table), m_table(table)
 {
     QHeaderView* header = table->horizontalHeader();
     header->setSectionsClickable(isSortable(table->model()));
@@ -60,16 +48,6 @@ TableTools::TableTools(QTableView* table)
     connect(model, &QAbstractItemModel::layoutAboutToBeChanged, &m_runner, &JobRunner::cancel);
     table->installEventFilter(this);
     table->viewport()->installEventFilter(this);
-    yieldShortcut();
-}
-
-QAction* TableTools::addCopy(const QString& text, TableCopyJob::Header header)
-{
-    auto* action = new QAction(text, this);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(action, &QAction::triggered, this, [this, header] { copy(header); });
-    m_table->addAction(action);
-    return action;
 }
 
 void TableTools::copy(TableCopyJob::Header header)
@@ -87,18 +65,6 @@ void TableTools::endCopying()
 {
     QGuiApplication::clipboard()->setText(m_copying->text());
     m_copying.reset();
-}
-
-// Two actions of one shortcut would take it from each other.
-void TableTools::yieldShortcut()
-{
-    const QList<QAction*> actions = m_table->actions();
-    const bool isTaken = std::any_of(actions.begin(), actions.end(), [this](const QAction* action) {
-        return action != m_copy && action->shortcuts().contains(QKeySequence::Copy);
-    });
-    const QKeySequence wanted = isTaken ? QKeySequence() : QKeySequence(QKeySequence::Copy);
-    if (m_copy->shortcut() != wanted)
-        m_copy->setShortcut(wanted);
 }
 
 void TableTools::sortByNext(int column)
@@ -131,52 +97,57 @@ bool TableTools::takesContextMenu() const
 
 bool TableTools::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_table && isMenuKey(*event)) {
-        showMenu(currentPlace());
+    if (event->type() == QEvent::KeyPress && watched == m_table)
+        return takesKey(static_cast<const QKeyEvent&>(*event));
+    if (event->type() != QEvent::ContextMenu || !takesContextMenu())
+        return QObject::eventFilter(watched, event);
+    const auto& request = static_cast<const QContextMenuEvent&>(*event);
+    showMenu(request.reason() == QContextMenuEvent::Keyboard ? currentPlace()
+                                                             : request.globalPos());
+    return true;
+}
+
+// Where an action of the page has one of these keys, the key does not come here.
+bool TableTools::takesKey(const QKeyEvent& press)
+{
+    if (press.matches(QKeySequence::Copy)) {
+        copy(TableCopyJob::WithoutHeader);
         return true;
     }
-    switch (event->type()) {
-    case QEvent::ContextMenu: {
-        const auto& request = static_cast<const QContextMenuEvent&>(*event);
-        if (!takesContextMenu())
-            break;
-        showMenu(request.reason() == QContextMenuEvent::Keyboard ? currentPlace()
-                                                                 : request.globalPos());
-        return true;
-    }
-    case QEvent::ActionAdded:
-    case QEvent::ActionChanged:
-    case QEvent::ActionRemoved:
-        if (watched == m_table)
-            yieldShortcut();
-        break;
-    default: break;
-    }
-    return QObject::eventFilter(watched, event);
+    if (press.key() != Qt::Key_F10 || press.modifiers() != Qt::ShiftModifier)
+        return false;
+    showMenu(currentPlace());
+    return true;
 }
 
 void TableTools::showMenu(const QPoint& place)
 {
     auto* menu = new QMenu(m_table);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QList<QAction*> actions = m_table->actions();
-    for (QAction* action : actions) {
-        if (action != m_copy && action != m_copyWithHeader)
-            menu->addAction(action);
-    }
+    menu->addActions(m_table->actions());
     menu->addSeparator();
-    for (QAction* action : {m_copy, m_copyWithHeader}) {
-        action->setEnabled(m_table->selectionModel()->hasSelection());
-        menu->addAction(action);
-    }
-    // Enabled again for the shortcut, which finds out by itself whether anything is selected.
-    connect(menu, &QMenu::aboutToHide, this, [this] {
-        m_copy->setEnabled(true);
-        m_copyWithHeader->setEnabled(true);
-    });
+    addCopy(menu, tr("Copy"), TableCopyJob::WithoutHeader);
+    addCopy(menu, tr("Copy with header"), TableCopyJob::WithHeader);
     if (isSortable(m_table->model()))
         menu->addMenu(makeSortMenu(menu));
     menu->popup(place);
+}
+
+void TableTools::addCopy(QMenu* menu, const QString& text, TableCopyJob::Header header)
+{
+    QAction* action = menu->addAction(text);
+    action->setEnabled(m_table->selectionModel()->hasSelection());
+    if (header == TableCopyJob::WithoutHeader && !isCopyTaken())
+        action->setShortcut(QKeySequence::Copy); // to be seen
+    connect(action, &QAction::triggered, this, [this, header] { copy(header); });
+}
+
+bool TableTools::isCopyTaken() const
+{
+    const QList<QAction*> actions = m_table->actions();
+    return std::any_of(actions.begin(), actions.end(), [](const QAction* action) {
+        return action->shortcuts().contains(QKeySequence::Copy);
+    });
 }
 
 QMenu* TableTools::makeSortMenu(QMenu* menu)

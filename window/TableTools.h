@@ -7,7 +7,7 @@
 
 #include <memory>
 
-class QAction;
+class QKeyEvent;
 class QMenu;
 class QPoint;
 class QTableView;
@@ -30,10 +30,11 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QAction* addCopy(const QString& text, TableCopyJob::Header header);
+    bool takesKey(const QKeyEvent& press);
+    void addCopy(QMenu* menu, const QString& text, TableCopyJob::Header header);
     void copy(TableCopyJob::Header header);
     void endCopying();
-    void yieldShortcut();
+    bool isCopyTaken() const;
     void sortByNext(int column);
     void sortBy(int column, Qt::SortOrder order);
     bool takesContextMenu() const;
@@ -43,8 +44,6 @@ private:
     QPoint currentPlace() const;
 
     QTableView* m_table;
-    QAction* m_copy;
-    QAction* m_copyWithHeader;
     int m_column = -1; ///< that the table is sorted by; -1: none
     Qt::SortOrder m_order = Qt::AscendingOrder;
     std::unique_ptr<TableCopyJob> m_copying;

@@ -1,6 +1,7 @@
 #include "window/ViewLook.h"
 
 #include "window/TableTools.h"
+#include "window/ViewFocus.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -32,6 +33,7 @@ void arrangeTable(QTableView& table)
     table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    new ViewFocus(&table);
     new TableTools(&table);
 }
 
@@ -79,8 +81,10 @@ void ColumnBalancer::share()
     int rest = m_table->viewport()->width();
     for (int column = 0; column < m_table->model()->columnCount() - 1; ++column)
         rest -= column == m_column ? 0 : m_table->columnWidth(column);
+    const QHeaderView* header = m_table->horizontalHeader();
+    const int titled = rest - header->sectionSizeHint(header->count() - 1);
     m_sharing = true;
-    m_table->setColumnWidth(m_column, std::max(rest / 2, m_least));
+    m_table->setColumnWidth(m_column, std::max(std::min(rest / 2, titled), m_least));
     m_sharing = false;
 }
 

@@ -34,7 +34,7 @@ class ColumnBalancer : public QObject
 
 public:
     /// Make it when the other columns have their width; it belongs to the table. The column never
-    /// gets too narrow for the sample.
+    /// gets too narrow for the sample, and the last one has the title's width where there is room.
     ColumnBalancer(QTableView* table, int column, const QString& sample);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

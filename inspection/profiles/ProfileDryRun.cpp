@@ -1,52 +1,86 @@
 #include "inspection/profiles/ProfileDryRun.h"
 
-#include "inspection/profiles/NarrowRewriting.h"
+#include "inspection/profiles/ProfileBytes.h"
 
 #include <QFile>
 
-#include <utility>
+using namespace std::chrono_literals;
+
+namespace {
+
+bool makeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+} // namespace
 
 ProfileDryRun::ProfileDryRun(const QString& file, const ProfileChange& change)
-    : m_change(change), m_loading(file), m_writing(copiedFile(), change)
+    : m_file(file),
+      m_change(change),
+      m_folder(std::make_shared<QTemporaryDir>()),
+      m_writing(writtenFile(), change, ProfileDocument(file).isLarge())
 {
 }
 
-QString ProfileDryRun::copiedFile() const
+ProfileDryRun::~ProfileDryRun() = default;
+
+QString ProfileDryRun::formerFile() const
 {
-    return m_folder.filePath(QStringLiteral("written.ini"));
+    return m_folder->filePath(QStringLiteral("former.ini"));
+}
+
+QString ProfileDryRun::writtenFile() const
+{
+    return m_folder->filePath(QStringLiteral("written.ini"));
 }
 
 bool ProfileDryRun::step()
 {
-    if (!std::exchange(m_isCopied, true))
-        return copy();
-    if (m_writing.step())
+    switch (m_stage++) {
+    case 0: m_bytes = ProfileBytes::of(m_file); return true;
+    case 1: return copyTo(formerFile());
+    case 2: return copyTo(writtenFile());
+    default: return tryOut();
+    }
+}
+
+bool ProfileDryRun::tryOut()
+{
+    if (!m_comparison && m_writing.step())
         return true;
     if (!isReadBack())
         return false;
-    if (m_loading.step())
-        return true;
-    if (std::exchange(m_isCompared, true))
-        return false;
-    compare();
-    return true;
+    if (m_comparison)
+        takeDifference();
+    else
+        compare();
+    return !m_difference;
 }
 
-bool ProfileDryRun::copy()
+bool ProfileDryRun::copyTo(const QString& path) const
 {
-    if (!document().exists())
-        return true;
-    return QFile::copy(file(), copiedFile()) &&
-           QFile::setPermissions(copiedFile(), QFile::ReadOwner | QFile::WriteOwner);
+    return !m_bytes || makeFile(path, *m_bytes);
 }
 
+// Files of megabytes take longer than a step may.
 void ProfileDryRun::compare()
 {
-    if (m_change.family == ProfileFamily::Narrow)
-        m_changes = NarrowRewriting(file()).changes();
+    m_comparison = std::make_unique<Computation<ProfileDifference>>(
+        [folder = m_folder, former = formerFile(), written = writtenFile(), change = m_change] {
+            return ProfileDifference(former, written, change);
+        });
 }
 
-bool ProfileDryRun::isHarmless() const
+void ProfileDryRun::takeDifference()
 {
-    return document().lostLines(m_change.family).empty() && m_changes.isEmpty();
+    if (m_comparison->isDone(4ms))
+        m_difference = std::make_shared<const ProfileDifference>(m_comparison->take());
+}
+
+// The narrow family answers an empty text for a missing value too.
+QString ProfileDryRun::former() const
+{
+    return m_difference->hadEntry() ? m_writing.former() : QString();
 }

@@ -1,42 +1,46 @@
 #pragma once
 
-#include "inspection/profiles/ProfileLoadingJob.h"
+#include "inspection/Computation.h"
+#include "inspection/profiles/ProfileDifference.h"
 #include "inspection/profiles/ProfileWritingJob.h"
 
-/// Tries a change on a copy of the file, and finds out what else the family would change in it.
+#include <optional>
+
+/// Tries a change on a copy of the file, and compares the copy with the file.
 class ProfileDryRun : public Job
 {
 public:
     ProfileDryRun(const QString& file, const ProfileChange& change);
+    ~ProfileDryRun() override;
 
     bool step() override;
     /// True for each step on a large file.
-    bool isNextStepLong() const override { return document().isLarge(); }
+    bool isNextStepLong() const override { return m_writing.isNextStepLong(); }
 
-    const QString& file() const { return m_loading.document().path(); }
-    const ProfileChange& change() const { return m_change; }
-
-    /// True where the family finds the value in the copy that it has written. Like everything below
-    /// this is known when the job is done; where it is false, the rest is not looked at.
+    /// True where the family finds the value in the copy that it has written, or no longer finds
+    /// what was deleted. Like everything below this is known when the job is done; where it is
+    /// false, the rest is not looked at.
     bool isReadBack() const { return m_writing.isReadBack(); }
-    /// The file as it was found.
-    const ProfileDocument& document() const { return m_loading.document(); }
-    const QByteArray& bytes() const { return m_loading.bytes(); }
-    /// See NarrowRewriting::changes; empty for the wide family.
-    const QString& changes() const { return m_changes; }
-    /// True where the write loses no line and changes nothing but the value.
-    bool isHarmless() const;
+    /// The file as it was found; nothing where there was none.
+    const std::optional<QByteArray>& bytes() const { return m_bytes; }
+    /// What the family read before; null where it found nothing.
+    QString former() const;
+    const std::shared_ptr<const ProfileDifference>& difference() const { return m_difference; }
 
 private:
-    QString copiedFile() const;
-    bool copy();
+    QString formerFile() const;
+    QString writtenFile() const;
+    bool copyTo(const QString& path) const;
+    bool tryOut();
     void compare();
+    void takeDifference();
 
+    QString m_file;
     ProfileChange m_change;
-    QTemporaryDir m_folder;
-    ProfileLoadingJob m_loading;
+    std::shared_ptr<QTemporaryDir> m_folder; ///< shared with the comparison
     ProfileWritingJob m_writing;
-    QString m_changes;
-    bool m_isCopied = false;
-    bool m_isCompared = false;
+    std::optional<QByteArray> m_bytes;
+    std::unique_ptr<Computation<ProfileDifference>> m_comparison;
+    std::shared_ptr<const ProfileDifference> m_difference;
+    int m_stage = 0;
 };

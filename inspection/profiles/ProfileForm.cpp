@@ -1,5 +1,8 @@
 #include "inspection/profiles/ProfileForm.h"
 
+#include "inspection/profiles/ByteLines.h"
+#include "inspection/profiles/ReadableLine.h"
+
 #include <QLocale>
 #include <QStringList>
 #include <QTextCodec>
@@ -25,12 +28,35 @@ bool isUtf8Text(const QByteArray& bytes)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
+// A line in UTF-8, or in what is not UTF-8 although it should be, with its end.
+QByteArray plainLine(const ByteLines& lines, int number)
+{
+    const std::string_view bytes = lines.at(number);
+    if (lines.unit() == ByteLines::Unit::Byte)
+        return QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size()));
+    const ReadableLine line(lines, number);
+    switch (line.end()) {
+    case ReadableLine::End::None: return line.textWithoutMark().toUtf8();
+    case ReadableLine::End::LineFeed: return line.textWithoutMark().toUtf8() + '\n';
+    case ReadableLine::End::CarriageReturnLineFeed: break;
+    }
+    return line.textWithoutMark().toUtf8() + "\r\n";
+}
+
 } // namespace
 
 ProfileForm::ProfileForm(const QByteArray& beginning)
     : m_codec(QTextCodec::codecForUtfText(beginning, QTextCodec::codecForMib(utf8Mib))),
       m_hasMark(m_codec->mibEnum() != utf8Mib || beginning.startsWith(utf8Mark))
 {
+}
+
+ProfileForm ProfileForm::of(const ByteLines& lines)
+{
+    ProfileForm form(lines.bytes());
+    for (int line = 0; line < lines.count(); ++line)
+        form.addLine(plainLine(lines, line));
+    return form;
 }
 
 bool ProfileForm::isUtf8() const
@@ -85,4 +111,38 @@ QString ProfileForm::lineEndsText() const
         return tr("none");
     const QString all = kinds.join(QStringLiteral(", "));
     return kinds.size() > 1 ? tr("mixed, %1").arg(all) : all;
+}
+
+QStringList ProfileForm::changesTo(const ProfileForm& other) const
+{
+    QStringList sentences;
+    if (m_lines == 0 || other.m_lines == 0)
+        return sentences;
+    if (encodingText() != other.encodingText())
+        sentences
+            << tr("The encoding changes: %1, then %2.").arg(encodingText(), other.encodingText());
+    if (m_hasMark && !other.m_hasMark)
+        sentences << tr("The byte order mark goes.");
+    if (!m_hasMark && other.m_hasMark)
+        sentences << tr("A byte order mark is added.");
+    if (!hasKindsOfEndsOf(other))
+        sentences
+            << tr("The line ends change: %1, then %2.").arg(lineEndsText(), other.lineEndsText());
+    if (isOpen() && !other.isOpen())
+        sentences << tr("The last line gets a line end.");
+    return sentences;
+}
+
+// However many lines there are. A first line end where there was none is told apart.
+bool ProfileForm::hasKindsOfEndsOf(const ProfileForm& other) const
+{
+    const bool hasNone = m_lineFeeds + m_returnsWithFeeds + m_returns == 0;
+    return hasNone || ((m_lineFeeds > 0) == (other.m_lineFeeds > 0) &&
+                       (m_returnsWithFeeds > 0) == (other.m_returnsWithFeeds > 0) &&
+                       (m_returns > 0) == (other.m_returns > 0));
+}
+
+bool ProfileForm::isOpen() const
+{
+    return m_lineFeeds + m_returnsWithFeeds < m_lines;
 }

@@ -2,9 +2,11 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QStringList>
 
 #include <vector>
 
+class ByteLines;
 class QTextCodec;
 
 /// The form in which a profile lies on disk: its encoding, its byte order mark and its line ends.
@@ -16,6 +18,8 @@ public:
     ProfileForm() = default;
     /// Told by how the file begins.
     explicit ProfileForm(const QByteArray& beginning);
+    /// Of a whole file.
+    static ProfileForm of(const ByteLines& lines);
 
     /// True where the bytes are taken for UTF-8; otherwise a byte order mark tells what they are.
     bool isUtf8() const;
@@ -33,7 +37,13 @@ public:
     /// In words: "Encoding: UTF-8. Byte order mark: no. Line ends: LF 12."
     QString text() const;
 
+    /// In sentences, what the other form has changed, numbers of lines apart; empty where either
+    /// file has no lines.
+    QStringList changesTo(const ProfileForm& other) const;
+
 private:
+    bool hasKindsOfEndsOf(const ProfileForm& other) const;
+    bool isOpen() const;
     QString encodingText() const;
     QString lineEndsText() const;
 

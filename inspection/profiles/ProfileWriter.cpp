@@ -20,19 +20,26 @@ ProfileWriter::ProfileWriter(const QString& file) : m_file(file) {}
 
 QString ProfileWriter::fault(const ProfileChange& change) const
 {
-    if (change.key.isEmpty())
+    const bool needsKey = change.action != ProfileChange::Action::DeleteSection;
+    if (change.key.isEmpty() && needsKey)
         return tr("Type a key first.");
     // Without a name stands what the wide family finds under [General] or before the first header.
-    if (change.section.isEmpty() && change.family == ProfileFamily::Narrow)
+    if (change.section.isEmpty() && (change.family == ProfileFamily::Narrow || !needsKey))
         return tr("Type a section first.");
+    if (change.action != ProfileChange::Action::Set && !QFileInfo::exists(m_file))
+        return tr("There is no such file: nothing can be deleted from it.");
     if (!isWritable(QFileInfo(m_file), change.family))
         return tr("%1 cannot be written.").arg(m_file);
     return {};
 }
 
-QString ProfileWriter::unreadable(ProfileFamily family)
+QString ProfileWriter::unreadable(const ProfileChange& change)
 {
-    return family == ProfileFamily::Narrow
+    if (change.action != ProfileChange::Action::Set)
+        return change.family == ProfileFamily::Narrow
+                   ? tr("Nothing deleted: the narrow family does not find that.")
+                   : tr("Nothing deleted: the wide family does not find that.");
+    return change.family == ProfileFamily::Narrow
                ? tr("Nothing written: the narrow family would not read this back. A line with more "
                     "than one “=” is dropped, and spaces at the ends of names and values are lost.")
                : tr("Nothing written: the wide family would not read this back under that name.");

@@ -4,13 +4,20 @@
 
 #include <QCoreApplication>
 
-/// One value to be written through one family.
+/// One value to be written through one family, or what the family reads to be deleted.
 struct ProfileChange
 {
+    enum class Action
+    {
+        Set,
+        DeleteKey,
+        DeleteSection
+    };
     ProfileFamily family = ProfileFamily::Wide;
     QString section;
-    QString key;
-    QString value;
+    QString key;   ///< unused where a section is deleted
+    QString value; ///< used where a value is set
+    Action action = Action::Set;
 };
 
 /// Tells what stands against a change, and copies the file before it.
@@ -21,13 +28,13 @@ class ProfileWriter
 public:
     explicit ProfileWriter(const QString& file);
 
-    /// Why the change must not be tried, or an empty text: a name is missing, or the file cannot be
-    /// written.
+    /// Why the change must not be tried, or an empty text: a name is missing, there is nothing to
+    /// be deleted from, or the file cannot be written.
     QString fault(const ProfileChange& change) const;
 
     /// Why a change must not be made where a dry run has shown that the family would not read it
-    /// back.
-    static QString unreadable(ProfileFamily family);
+    /// back, or would still find what was deleted.
+    static QString unreadable(const ProfileChange& change);
 
     /// Copies the file beside itself under a name that is free; returns it. Empty where that fails.
     QString backUp() const;

@@ -1,15 +1,13 @@
 #include "inspection/registry/RegistryPath.h"
 
-#include <QStringList>
-
 namespace {
 
-constexpr const char* rootNames[] = {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE", "HKEY_CLASSES_ROOT",
-                                     "HKEY_USERS"};
+constexpr const char* names[] = {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE", "HKEY_CLASSES_ROOT",
+                                 "HKEY_USERS"};
 
 bool isRoot(const QString& level)
 {
-    for (const char* root : rootNames) {
+    for (const char* root : names) {
         if (level.compare(QLatin1String(root), Qt::CaseInsensitive) == 0)
             return true;
     }
@@ -18,11 +16,19 @@ bool isRoot(const QString& level)
 
 } // namespace
 
+QStringList RegistryPath::rootNames()
+{
+    QStringList roots;
+    for (const char* root : names)
+        roots.append(QLatin1String(root));
+    return roots;
+}
+
 QString RegistryPath::shown(const QString& path)
 {
     QString text = path;
     text.replace(QLatin1Char('/'), QLatin1Char('\\'));
-    const QString root = QLatin1String(rootNames[0]);
+    const QString root = QLatin1String(names[0]);
     return text.isEmpty() ? root : root + QLatin1Char('\\') + text;
 }
 

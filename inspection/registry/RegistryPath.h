@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 /// Paths of keys, as the store has them: levels separated by "/", empty for the root that all
 /// predefined root keys share. Shown to people they begin with a root's name and have backslashes.
@@ -8,6 +8,9 @@ namespace RegistryPath {
 
 /// HKEY_CURRENT_USER\Vendor\Product for Vendor/Product.
 QString shown(const QString& path);
+
+/// The names of the four roots, that of `shown` first.
+QStringList rootNames();
 
 /// A name or a path as the store takes it: "\" separates as "/" does, and no level is empty.
 QString slashed(QString text);

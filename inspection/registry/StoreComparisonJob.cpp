@@ -1,6 +1,7 @@
 #include "inspection/registry/StoreComparisonJob.h"
 
 #include "inspection/registry/RawStore.h"
+#include "inspection/registry/StoreSections.h"
 
 #include <QFile>
 
@@ -22,6 +23,8 @@ bool StoreComparisonJob::step()
         return false;
     if (!m_copy)
         open();
+    else if (!m_sections.isEmpty())
+        static_cast<void>(m_copy->contains(nameInSection(m_sections.takeLast())));
     else if (!m_isListed)
         list();
     else
@@ -35,6 +38,7 @@ void StoreComparisonJob::open()
     if (m_file.exists)
         QFile::copy(RawStore::fileName(), copy);
     m_copy = RawStore::opened(copy);
+    m_sections = storeSections(copy);
 }
 
 // The shorter list may be the beginning of the longer one.

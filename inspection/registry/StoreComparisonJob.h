@@ -45,6 +45,7 @@ private:
     FileIdentity m_file;
     QTemporaryDir m_folder; ///< of the copy; nobody else can read it
     std::unique_ptr<QSettings> m_copy;
+    QStringList m_sections; ///< of the copy, still to be parsed
     bool m_isListed = false;
     QStringList m_names;
     int m_at = 0;

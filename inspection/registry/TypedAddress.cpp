@@ -25,9 +25,28 @@ bool isComputer(const QString& level)
     return names.contains(level, Qt::CaseInsensitive);
 }
 
-QString withoutFirstLevel(const QString& path)
+// A line of a registry file, or a path that somebody has put into quotes.
+QString withoutBrackets(const QString& address)
 {
-    return path.section(QLatin1Char('/'), 1);
+    for (const QLatin1String pair : {QLatin1String("[]"), QLatin1String("\"\"")}) {
+        if (address.size() > 2 && address.startsWith(pair.front()) && address.endsWith(pair.back()))
+            return address.mid(1, address.size() - 2);
+    }
+    return {};
+}
+
+// The address that is meant by this one; null where it means what it says.
+QString meantBy(const QString& address)
+{
+    const QString inner = withoutBrackets(address);
+    if (!inner.isEmpty())
+        return inner;
+    const QString path = RegistryPath::slashed(address);
+    const QString first = path.section(QLatin1Char('/'), 0, 0).trimmed();
+    if (!isAbbreviatedRoot(first) && !isComputer(first))
+        return {};
+    const int rest = path.indexOf(QLatin1Char('/')) + 1;
+    return rest == 0 ? QStringLiteral("") : path.mid(rest);
 }
 
 // The key below `parent` that the levels from `at` on lead to in any case, the exact one first.
@@ -53,20 +72,18 @@ QString foundBelow(const RegistryIndex& index, const QString& parent, const QStr
 
 QStringList pathsOfAddress(const QString& address)
 {
-    QStringList paths;
+    const QString trimmed = address.trimmed();
     QString path;
-    if (!RegistryPath::parse(address.trimmed(), path))
-        return paths;
-    paths.append(path);
-    const QString first = path.section(QLatin1Char('/'), 0, 0);
-    if (isAbbreviatedRoot(first))
-        paths.append(withoutFirstLevel(path));
+    if (!RegistryPath::parse(trimmed, path))
+        return {};
+    QStringList paths = {path};
     if (RegistryPath::parse(address, path))
         paths.prepend(path);
-    if (!isComputer(first.trimmed()))
+    const QString meant = meantBy(trimmed);
+    if (meant.isNull())
         return paths;
-    const QStringList below = pathsOfAddress(withoutFirstLevel(paths.first()));
-    return below.isEmpty() ? below : paths + below;
+    const QStringList others = pathsOfAddress(meant);
+    return others.isEmpty() ? others : paths + others;
 }
 
 QString keyInOtherCase(const RegistryIndex& index, const QString& path)
@@ -81,14 +98,14 @@ QStringList completionsOf(const RegistryIndex& index, const QString& typed, int 
     const int separator = typed.lastIndexOf(QRegularExpression(QStringLiteral("[\\\\/]")));
     const QString before = typed.left(separator + 1);
     const QString rest = typed.mid(separator + 1);
+    QStringList names = before.isEmpty() ? RegistryPath::rootNames() : QStringList();
+    for (const QString& path : pathsOfAddress(before))
+        names += listRegistryKey(index, path).allKeys();
+    names.removeDuplicates();
     QStringList completions;
-    for (const QString& path : pathsOfAddress(before)) {
-        const QStringList names = listRegistryKey(index, path).allKeys();
-        for (const QString& name : names) {
-            if (completions.size() < most && name.startsWith(rest, Qt::CaseInsensitive))
-                completions.append(before + name);
-        }
+    for (const QString& name : qAsConst(names)) {
+        if (completions.size() < most && name.startsWith(rest, Qt::CaseInsensitive))
+            completions.append(before + name);
     }
-    completions.removeDuplicates();
     return completions;
 }

@@ -80,6 +80,7 @@ void DisplaysPage::showMonitors()
     m_map->setMonitors(m_monitors);
     m_table->setMonitors(m_monitors);
     m_point->setMonitors(m_monitors);
+    markRead();
 }
 
 void DisplaysPage::showPoint()
@@ -95,6 +96,15 @@ void DisplaysPage::followPointer()
     m_point->setPointer(pointerPosition());
     if (!(monitors() == m_monitors))
         refresh();
+}
+
+// The monitors are followed with the pointer; what is in another tab is read when it is shown.
+void DisplaysPage::lookForChanges()
+{
+    const QWidget* tab = m_tabs->currentWidget();
+    if ((tab == m_handles && m_handles->lookForChanges()) ||
+        (tab == m_metrics && m_metrics->lookForChanges()))
+        markRead();
 }
 
 void DisplaysPage::showEvent(QShowEvent* event)

@@ -26,6 +26,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void lookForChanges() override;
 
 private:
     void makeMap();

@@ -3,6 +3,7 @@
 #include "inspection/displays/MonitorList.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
+#include "window/KeptPlace.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
 #include "window/ViewLook.h"
@@ -33,6 +34,11 @@ QString handleName(const GraphicsObject& handle)
     return handleText(handle.handle);
 }
 
+bool isSame(const GraphicsObject& one, const GraphicsObject& other)
+{
+    return one.handle == other.handle && one.type == other.type && one.object == other.object;
+}
+
 std::vector<RecordColumn<GraphicsObject>> columns()
 {
     const auto number = [](const GraphicsObject& handle) {
@@ -61,6 +67,7 @@ void HandlePanel::makeTable()
     m_view->setAccessibleName(tr("Graphics handles"));
     arrangeTable(*m_view);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setMinimumHeight(fontMetrics().height() * 5); // for the hint of an empty table
     auto* action = new QAction(tr("Delete handle"), m_view);
     action->setShortcut(QKeySequence::Delete);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -112,13 +119,30 @@ void HandlePanel::addButton(QHBoxLayout* row, const QString& caption, void (Hand
 
 void HandlePanel::refresh()
 {
+    const KeptPlace place(*m_view, [this](int row) { return handleName(m_model.record(row)); });
     m_model.setRecords(graphicsHandles());
     fitColumnsToContents(*m_view);
-    const auto& handles = m_model.records();
-    const auto made = std::find_if(handles.begin(), handles.end(),
-                                   [this](const auto& handle) { return handle.handle == m_made; });
-    if (made != handles.end())
-        m_view->selectRow(m_model.rowOf(static_cast<int>(made - handles.begin())));
+    place.restore();
+}
+
+bool HandlePanel::lookForChanges()
+{
+    const std::vector<GraphicsObject> now = graphicsHandles();
+    const auto& shown = m_model.records();
+    if (std::equal(now.begin(), now.end(), shown.begin(), shown.end(), &isSame))
+        return false;
+    refresh();
+    return true;
+}
+
+void HandlePanel::choose(const void* handle)
+{
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        if (m_model.record(row).handle == handle) {
+            m_view->selectRow(row);
+            return;
+        }
+    }
 }
 
 void HandlePanel::createImage()
@@ -140,13 +164,13 @@ void HandlePanel::createBrush()
 
 void HandlePanel::showNew(void* handle)
 {
-    m_made = handle;
     if (handle)
         m_page.report(PageContext::Report::Info, tr("Made handle %1.").arg(handleText(handle)));
     else
         m_page.report(PageContext::Report::Error,
                       tr("The service made no handle: all 65,535 numbers are taken."));
     refresh();
+    choose(handle);
 }
 
 bool HandlePanel::confirmDeletion(const QString& name)

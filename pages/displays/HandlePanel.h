@@ -19,8 +19,10 @@ class HandlePanel : public QWidget
 public:
     explicit HandlePanel(PageContext& page, QWidget* parent = nullptr);
 
-    /// Lists them anew and chooses the one that was made last.
+    /// Lists them anew; the one that is chosen stays so.
     void refresh();
+    /// Lists them anew if they have changed, and says whether they have.
+    bool lookForChanges();
 
 private:
     void makeTable();
@@ -32,6 +34,7 @@ private:
     void remove();
     bool confirmDeletion(const QString& name);
     void showNew(void* handle);
+    void choose(const void* handle);
 
     PageContext& m_page;
     RecordsModel<GraphicsObject> m_model;
@@ -39,5 +42,4 @@ private:
     QSpinBox* m_width = nullptr;
     QSpinBox* m_height = nullptr;
     QLineEdit* m_color = nullptr;
-    void* m_made = nullptr; ///< the one that was made last
 };

@@ -8,6 +8,8 @@
 #include <QSpinBox>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int lastIndex = 65535;
@@ -60,6 +62,19 @@ void MetricsPanel::refresh()
     m_model.setRecords(systemMetrics());
     fitColumnsToContents(*m_view);
     ask();
+}
+
+bool MetricsPanel::lookForChanges()
+{
+    const std::vector<SystemMetric> now = systemMetrics();
+    const auto& shown = m_model.records();
+    const auto isSame = [](const SystemMetric& one, const SystemMetric& other) {
+        return one.index == other.index && one.value == other.value;
+    };
+    if (std::equal(now.begin(), now.end(), shown.begin(), shown.end(), isSame))
+        return false;
+    refresh();
+    return true;
 }
 
 void MetricsPanel::ask()

@@ -19,6 +19,8 @@ public:
 
     /// Asks anew.
     void refresh();
+    /// Asks anew, and says whether an answer has changed.
+    bool lookForChanges();
 
 private:
     QLayout* makeQuery();

@@ -1,11 +1,12 @@
 #include "pages/displays/MonitorMap.h"
 
 #include "inspection/input/PointerPosition.h"
+#include "window/AccessibleRole.h"
+#include "window/FocusFrame.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 #include <cmath>
@@ -41,6 +42,7 @@ QPoint directionOf(int key)
 
 MonitorMap::MonitorMap(QWidget* parent) : QWidget(parent)
 {
+    setAccessibleRole(*this, QAccessible::Graphic);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Map of the monitors"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -169,11 +171,8 @@ void MonitorMap::paintEvent(QPaintEvent* /*event*/)
         paintCaption(painter, monitor);
     paintPoint(painter);
     paintPointer(painter);
-    if (!hasFocus())
-        return;
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    if (hasFocus())
+        paintFocusFrame(painter, *this, rect());
 }
 
 void MonitorMap::paintMonitor(QPainter& painter, const Monitor& monitor) const

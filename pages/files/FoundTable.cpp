@@ -2,13 +2,12 @@
 
 #include "inspection/files/FileAttributes.h"
 #include "inspection/files/FoundEntryText.h"
+#include "window/FaintText.h"
 #include "window/KeptPlace.h"
 #include "window/ViewLook.h"
 
 #include <QAction>
-#include <QGuiApplication>
 #include <QHeaderView>
-#include <QPalette>
 #include <QScopedValueRollback>
 
 namespace {
@@ -20,7 +19,7 @@ using Number = std::function<double(const FoundDetails& details)>;
 
 QVariant faint()
 {
-    return QGuiApplication::palette().placeholderText();
+    return faintText();
 }
 
 // The same look, but faint while the rows are outdated.

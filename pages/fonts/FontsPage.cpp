@@ -5,18 +5,17 @@
 #include "inspection/fonts/FontRegistrationJob.h"
 #include "window/AnswerField.h"
 #include "window/EmptyHint.h"
+#include "window/FaintText.h"
 #include "window/KeptPlace.h"
 #include "window/ViewLook.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPalette>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTableView>
@@ -31,7 +30,7 @@ QVariant previewLook(const FontPreview& preview, const RegisteredFont& font, int
     if (role == Qt::FontRole && preview.isInstalled(font))
         return preview.font(font);
     if (role == Qt::ForegroundRole && !preview.isInstalled(font))
-        return QGuiApplication::palette().placeholderText();
+        return faintText();
     return {};
 }
 

@@ -18,6 +18,9 @@ CursorPanel::CursorPanel(PageContext& page, QWidget* parent)
     m_window = addValue(form, tr("ScreenToClient (window):"), QStringLiteral("window"));
     m_cursor = addValue(form, tr("GetCursor (override):"), QStringLiteral("cursor"));
     form->addRow(makeTools());
+    const int line = fontMetrics().height();
+    form->setContentsMargins(line / 2, line / 5, line / 2, line / 5);
+    form->setVerticalSpacing(line / 5);
 }
 
 AnswerField* CursorPanel::addValue(QFormLayout* form, const QString& caption,

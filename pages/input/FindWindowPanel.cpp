@@ -28,19 +28,22 @@ FindWindowPanel::FindWindowPanel(PageContext& page, QWidget* parent)
     auto* form = new QFormLayout(this);
     m_className = addField(tr("Class na&me:"), form);
     m_windowName = addField(tr("&Window name:"), form);
+    m_windowName->setToolTip(tr("Not looked at where there is a class name. Without both, the "
+                                "first window is found."));
     auto* button = glowing(new QPushButton(tr("Find &now")));
     connect(button, &QPushButton::clicked, this, &FindWindowPanel::find);
-    m_result->setText(tr("With a class name, the window name is not looked at. Without both, the "
-                         "first window is found."));
+    m_result->setText(tr("With a class name, the window name is not looked at."));
     m_result->setTextFormat(Qt::PlainText);
     m_result->setWordWrap(true);
     m_result->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_result->setObjectName(QStringLiteral("result"));
     auto* row = new QHBoxLayout;
-    row->addWidget(button);
-    row->addStretch();
-    form->addRow(QString(), row);
-    form->addRow(m_result);
+    row->addWidget(m_result, 1);
+    row->addWidget(button, 0, Qt::AlignTop);
+    form->addRow(row);
+    const int line = fontMetrics().height();
+    form->setContentsMargins(line / 2, line / 5, line / 2, line / 5);
+    form->setVerticalSpacing(line / 5);
 }
 
 QLineEdit* FindWindowPanel::addField(const QString& caption, QFormLayout* form)

@@ -1,6 +1,8 @@
 #include "pages/input/KeyLamp.h"
 
 #include "inspection/input/KeyStates.h"
+#include "window/AccessibleRole.h"
+#include "window/FocusFrame.h"
 
 #include <QPainter>
 
@@ -11,6 +13,7 @@ KeyLamp::KeyLamp(const VirtualKey& key, QWidget* parent)
       m_known(key.qtCode != 0)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setAccessibleRole(*this, QAccessible::StaticText);
     describe();
 }
 
@@ -34,7 +37,7 @@ void KeyLamp::refresh()
 QSize KeyLamp::sizeHint() const
 {
     const int line = fontMetrics().height();
-    return {fontMetrics().horizontalAdvance(m_name) + line * 5 / 3, line * 5 / 4};
+    return {fontMetrics().horizontalAdvance(m_name) + line * 5 / 3, line * 15 / 14};
 }
 
 QSize KeyLamp::minimumSizeHint() const
@@ -59,4 +62,12 @@ void KeyLamp::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(line);
     painter.drawText(rect().adjusted(static_cast<int>(side * 1.6), 0, 0, 0),
                      Qt::AlignVCenter | Qt::TextSingleLine, m_name);
+    if (hasFocus())
+        paintFocusFrame(painter, *this, rect());
+}
+
+void KeyLamp::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    emit focused();
 }

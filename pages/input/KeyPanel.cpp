@@ -1,6 +1,7 @@
 #include "pages/input/KeyPanel.h"
 
 #include "inspection/input/KeyStates.h"
+#include "pages/input/LampGrid.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/AnswerField.h"
 
@@ -23,20 +24,30 @@ QLabel* paragraph(const QString& text)
     return label;
 }
 
+// Little between the rows: all of the page fits the smallest window.
+void arrange(QVBoxLayout& layout, int line)
+{
+    layout.setContentsMargins(line / 2, line / 5, line / 2, line / 5);
+    layout.setSpacing(line / 5);
+}
+
 } // namespace
 
-KeyPanel::KeyPanel(QWidget* parent) : QGroupBox(tr("Key states"), parent)
+KeyPanel::KeyPanel(QWidget* parent)
+    : QGroupBox(tr("Keys known to the service, as of the last event; left and right cannot be told "
+                   "apart"),
+                parent)
 {
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(
-        paragraph(tr("Known to the service, as of the last event from keyboard or "
-                     "mouse. Left and right cannot be told apart, and no toggle state "
-                     "is told:")));
-    addLamps({knownKeys.begin(), knownKeys.end()}, knownRows, layout);
-    layout->addLayout(makeReports());
+    arrange(*layout, fontMetrics().height());
+    addLamps({knownKeys.begin(), knownKeys.end()}, knownRows, tr("Keys known to the service"));
+    m_lamps.front()->setToolTip(
+        tr("The event of a modifier key itself tells the state before it: the next event of "
+           "keyboard or mouse tells the new one. No toggle state is told."));
     layout->addWidget(paragraph(tr("Unknown to the service, as every other code: these always read "
                                    "as up.")));
-    addLamps({KeyStates::unknownKeys.begin(), KeyStates::unknownKeys.end()}, unknownRows, layout);
+    addLamps({KeyStates::unknownKeys.begin(), KeyStates::unknownKeys.end()}, unknownRows,
+             tr("Keys unknown to the service"));
     layout->addLayout(makeQuery());
     setFocusProxy(m_code);
     refresh();
@@ -48,29 +59,22 @@ KeyPanel::~KeyPanel()
         report->setChecked(false);
 }
 
-void KeyPanel::addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayout* layout)
+void KeyPanel::addLamps(const std::vector<VirtualKey>& keys, int rows, const QString& name)
 {
-    auto* grid = new QGridLayout;
-    grid->setSpacing(0);
-    int place = 0;
-    for (const VirtualKey& key : keys) {
-        auto* lamp = new KeyLamp(key);
-        grid->addWidget(lamp, place % rows, place / rows);
-        m_lamps.push_back(lamp);
-        ++place;
-    }
-    layout->addLayout(grid);
+    auto* lamps = new LampGrid(keys, rows);
+    lamps->setAccessibleName(name);
+    layout()->addWidget(lamps);
+    m_lamps.push_back(lamps);
 }
 
 // Qt does not tell their state; host libraries report it from their own key events.
-QLayout* KeyPanel::makeReports()
+void KeyPanel::addReports(QLayout* row)
 {
-    auto* row = new QHBoxLayout;
-    row->addWidget(new QLabel(tr("Report with setKeyPressed:")));
+    auto* caption = new QLabel(QStringLiteral("setKeyPressed:"));
+    caption->setToolTip(tr("Reports a key to the service, as host libraries do."));
+    row->addWidget(caption);
     addReport(row, tr("Re&turn down"), Qt::Key_Return);
     addReport(row, tr("&Space down"), Qt::Key_Space);
-    row->addStretch();
-    return row;
 }
 
 void KeyPanel::addReport(QLayout* row, const QString& caption, int qtKey)
@@ -96,6 +100,8 @@ QLayout* KeyPanel::makeQuery()
     auto* label = new QLabel(tr("An&y code:"));
     label->setBuddy(m_code);
     auto* row = new QHBoxLayout;
+    addReports(row);
+    row->addSpacing(fontMetrics().height());
     row->addWidget(label);
     row->addWidget(m_code);
     row->addWidget(m_state, 1);
@@ -105,8 +111,8 @@ QLayout* KeyPanel::makeQuery()
 
 void KeyPanel::refresh()
 {
-    for (KeyLamp* lamp : m_lamps)
-        lamp->refresh();
+    for (LampGrid* lamps : m_lamps)
+        lamps->refresh();
     ask();
 }
 

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "pages/input/KeyLamp.h"
+#include "platform/input/VirtualKeys.h"
 
 #include <QGroupBox>
 
+#include <vector>
+
 class AnswerField;
+class LampGrid;
 class QCheckBox;
-class QGridLayout;
 class QSpinBox;
-class QVBoxLayout;
 
 /// The state of the virtual keys, as getKeyState tells it.
 class KeyPanel : public QGroupBox
@@ -24,14 +25,13 @@ public:
     void refresh();
 
 private:
-    /// Column by column.
-    void addLamps(const std::vector<VirtualKey>& keys, int rows, QVBoxLayout* layout);
-    QLayout* makeReports();
+    void addLamps(const std::vector<VirtualKey>& keys, int rows, const QString& name);
+    void addReports(QLayout* row);
     void addReport(QLayout* row, const QString& caption, int qtKey);
     QLayout* makeQuery();
     void ask();
 
-    std::vector<KeyLamp*> m_lamps;
+    std::vector<LampGrid*> m_lamps;
     std::vector<QCheckBox*> m_reports;
     QSpinBox* m_code = nullptr;
     AnswerField* m_state = nullptr;

@@ -2,11 +2,11 @@
 
 #include "pages/profiles/ProfileText.h"
 #include "platform/profiles/LineStateText.h"
+#include "window/FaintText.h"
 #include "window/GlyphIcon.h"
 
 #include <QFont>
 #include <QGuiApplication>
-#include <QPalette>
 
 namespace {
 
@@ -23,11 +23,6 @@ bool isDull(const LineReading& reading)
     }
 }
 
-QVariant grey()
-{
-    return QGuiApplication::palette().placeholderText();
-}
-
 QString narrowText(const Line& line)
 {
     return longText(line.narrow, ProfileFamily::Narrow);
@@ -42,7 +37,7 @@ QString wideText(const Line& line)
 QVariant lineLook(const Line& line, bool isDullText, int role)
 {
     if (role == Qt::ForegroundRole && isDullText)
-        return grey();
+        return faintText();
     if (role == Qt::ToolTipRole) {
         const QString text =
             ProfileColumns::tr("Narrow: %1\nWide: %2").arg(narrowText(line), wideText(line));
@@ -61,7 +56,7 @@ QVariant textLook(const Line& line, int role)
 QVariant stateLook(const LineReading& reading, ProfileFamily family, int role)
 {
     if (role == Qt::ForegroundRole && isDull(reading))
-        return grey();
+        return faintText();
     return role == Qt::ToolTipRole ? longText(reading, family) : QVariant();
 }
 
@@ -93,7 +88,7 @@ Shown shownValue(const ProfileReading& reading, const std::optional<QString>& va
 QVariant look(const Shown& shown, bool isBold, int role)
 {
     if (role == Qt::ForegroundRole && shown.isPlaceholder)
-        return grey();
+        return faintText();
     if (role != Qt::FontRole || !isBold || shown.isPlaceholder)
         return {};
     QFont bold = QGuiApplication::font();
@@ -174,7 +169,7 @@ std::vector<RecordColumn<ProfileReading>> ProfileColumns::ofReadings()
                      return QString();
                  return QString(reading.differs() ? QChar(u'≠') : QLatin1Char('='));
              },
-             &differenceLook},
+             &differenceLook, tr("Whether the families read the same value")},
             {tr("Narrow reading"),
              [](const Reading& reading) { return shownValue(reading, reading.narrow).text; },
              &narrowLook}};

@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 
 ProfileEditPanel::ProfileEditPanel(QWidget* parent)
@@ -59,10 +60,27 @@ void ProfileEditPanel::addLastRow(QGridLayout* grid)
     row->addWidget(m_family);
     row->addWidget(m_backup);
     row->addStretch(1);
+    row->addWidget(makeDeleteButton());
     row->addWidget(write);
     grid->addWidget(label, 2, 0);
     grid->addLayout(row, 2, 1, 1, 3);
     connect(write, &QPushButton::clicked, this, &ProfileEditPanel::writeRequested);
+}
+
+QPushButton* ProfileEditPanel::makeDeleteButton()
+{
+    auto* button = glowing(new QPushButton(tr("Dele&te")));
+    button->setObjectName(QStringLiteral("delete"));
+    button->setToolTip(tr("Takes lines out of the file: neither family of calls can delete."));
+    auto* menu = new QMenu(button);
+    const auto add = [this, menu](const QString& text, ProfileChange::Action action) {
+        connect(menu->addAction(text), &QAction::triggered, this,
+                [this, action] { emit deletionRequested(action); });
+    };
+    add(tr("This &key"), ProfileChange::Action::DeleteKey);
+    add(tr("The whole &section"), ProfileChange::Action::DeleteSection);
+    button->setMenu(menu);
+    return button;
 }
 
 void ProfileEditPanel::setReading(const ProfileReading& reading)

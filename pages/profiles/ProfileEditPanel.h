@@ -9,6 +9,7 @@ class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QLineEdit;
+class QPushButton;
 
 /// Takes what is to be written: section, key, value, the family and whether to keep a copy.
 class ProfileEditPanel : public QGroupBox
@@ -30,11 +31,14 @@ public:
 
 signals:
     void writeRequested();
+    /// What is to be deleted is named by the fields.
+    void deletionRequested(ProfileChange::Action action);
 
 private:
     QLineEdit* addInput(QGridLayout* grid, int row, int column, int span, const QString& label,
                         const char* objectName);
     void addLastRow(QGridLayout* grid);
+    QPushButton* makeDeleteButton();
     bool isUntouched() const;
     void showValue();
 

@@ -1,16 +1,68 @@
 #include "pages/profiles/ProfileEditor.h"
 
+#include "inspection/profiles/ProfileBytes.h"
 #include "inspection/profiles/ProfileDryRun.h"
-#include "pages/profiles/LostLinesDialog.h"
-#include "window/PageContext.h"
+#include "pages/profiles/ProfileDifferenceDialog.h"
+#include "pages/profiles/ProfileHistory.h"
+#include "window/Page.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
 
+namespace {
+
+using Action = ProfileChange::Action;
 using Report = PageContext::Report;
 
-ProfileEditor::ProfileEditor(PageContext& page, QWidget* window)
-    : QObject(window), m_page(page), m_window(window)
+// The size of a file that takes the services a time that is noticed; otherwise empty.
+QString noticedSize(const QString& path)
 {
+    if (!ProfileDocument(path).isLarge())
+        return {};
+    return QLocale().formattedDataSize(QFileInfo(path).size(), 0,
+                                       QLocale::DataSizeTraditionalFormat);
+}
+
+QString trialTitle(const QString& path)
+{
+    const QString size = noticedSize(path);
+    return size.isEmpty() ? ProfileEditor::tr("Trying the change on a copy")
+                          : ProfileEditor::tr("Trying the change on a copy of %1").arg(size);
+}
+
+QString writingTitle(const QString& path)
+{
+    const QString size = noticedSize(path);
+    return size.isEmpty() ? ProfileEditor::tr("Writing")
+                          : ProfileEditor::tr("Writing %1").arg(size);
+}
+
+QString fateQuestion(ProfilePresence::Fate fate, const QString& path)
+{
+    switch (fate) {
+    case ProfilePresence::Fate::Same: return {};
+    case ProfilePresence::Fate::Deleted:
+        return ProfileEditor::tr("%1 has been deleted since it was read. Writing makes a new file "
+                                 "that holds nothing but this value.")
+            .arg(path);
+    case ProfilePresence::Fate::Replaced:
+        return ProfileEditor::tr("%1 has been replaced by another file since it was read. Writing "
+                                 "changes the file that lies there now.")
+            .arg(path);
+    }
+    return {};
+}
+
+} // namespace
+
+ProfileEditor::ProfileEditor(PageContext& page, QWidget* window)
+    : QObject(window), m_page(page), m_window(window), m_history(new ProfileHistory(page, window))
+{
+    connect(m_history, &ProfileHistory::restored, this, &ProfileEditor::noteRestored);
+    connect(m_history, &ProfileHistory::restored, this, &ProfileEditor::restored);
 }
 
 void ProfileEditor::write(const Request& request)
@@ -22,15 +74,38 @@ void ProfileEditor::write(const Request& request)
         return;
     }
     const QString refused = ProfileWriter(request.path).fault(request.change);
-    if (refused.isEmpty())
+    const QString question = fateQuestion(m_presence.fate(request.path), request.path);
+    if (!refused.isEmpty())
+        m_page.report(Report::Error, refused);
+    else if (question.isEmpty())
         tryOut(request);
     else
-        m_page.report(Report::Error, refused);
+        askAboutFate(request, question);
+}
+
+void ProfileEditor::askAboutFate(const Request& request, const QString& question)
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("Not the file that was read"), question,
+                                QMessageBox::Yes | QMessageBox::Cancel, m_window);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QAbstractButton* yes = box->button(QMessageBox::Yes);
+    yes->setText(tr("&Write all the same"));
+    for (QAbstractButton* button : box->buttons())
+        glowing(qobject_cast<QPushButton*>(button));
+    box->setDefaultButton(QMessageBox::Cancel);
+    connect(box, &QMessageBox::buttonClicked, this, [this, yes, request](QAbstractButton* button) {
+        if (button == yes)
+            tryOut(request);
+        else
+            m_page.setStatus(tr("Nothing written."));
+    });
+    box->open();
 }
 
 void ProfileEditor::tryOut(const Request& request)
 {
-    m_page.startJob(tr("Trying the change on a copy"),
+    m_page.startJob(trialTitle(request.path),
                     std::make_unique<ProfileDryRun>(request.path, request.change),
                     [this, request](const ProfileDryRun& dryRun, bool complete) {
                         if (complete)
@@ -42,29 +117,34 @@ void ProfileEditor::tryOut(const Request& request)
 
 void ProfileEditor::decide(const Request& request, const ProfileDryRun& dryRun)
 {
-    const ProfileFamily family = request.change.family;
     if (!dryRun.isReadBack()) {
-        m_page.report(Report::Error, ProfileWriter::unreadable(family));
+        m_page.report(Report::Error, ProfileWriter::unreadable(request.change));
         return;
     }
-    const QByteArray& tried = dryRun.bytes();
-    if (dryRun.isHarmless()) {
-        writeAsTried(request, tried);
-        return;
-    }
-    auto* dialog = new LostLinesDialog(dryRun.document(), family, dryRun.changes(), m_window);
+    const Trial trial{dryRun.bytes(), dryRun.former(), dryRun.difference()};
+    if (trial.difference->lines().hunks().empty())
+        m_page.setStatus(tr("Nothing written: the file holds this value already."));
+    else if (trial.difference->isAskedFor())
+        writeAsTried(request, trial);
+    else
+        ask(request, trial);
+}
+
+void ProfileEditor::ask(const Request& request, const Trial& trial)
+{
+    auto* dialog = new ProfileDifferenceDialog(trial.difference, request.change, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this,
-            [this, request, tried] { writeAsTried(request, tried); });
+            [this, request, trial] { writeAsTried(request, trial); });
     connect(dialog, &QDialog::rejected, this, [this] { m_page.setStatus(tr("Nothing written.")); });
     dialog->open();
 }
 
-// The user has agreed to what the file loses as it was when the change was tried.
-void ProfileEditor::writeAsTried(const Request& request, const QByteArray& tried)
+// The user has agreed to what happens to the file as it was when the change was tried.
+void ProfileEditor::writeAsTried(const Request& request, const Trial& trial)
 {
-    if (ProfileDocument::bytesOf(request.path) == tried) {
-        writeNow(request);
+    if (ProfileBytes::of(request.path) == trial.bytes) {
+        writeNow(request, trial);
         return;
     }
     m_page.report(Report::Warning,
@@ -72,33 +152,60 @@ void ProfileEditor::writeAsTried(const Request& request, const QByteArray& tried
     tryOut(request);
 }
 
-void ProfileEditor::writeNow(const Request& request)
+void ProfileEditor::writeNow(const Request& request, const Trial& trial)
 {
     QString backup;
-    if (request.keepsBackup && QFile::exists(request.path)) {
+    if (request.keepsBackup && trial.bytes) {
         backup = ProfileWriter(request.path).backUp();
         if (backup.isEmpty()) {
             m_page.report(Report::Error, tr("Nothing written: the backup copy could not be made."));
             return;
         }
     }
-    m_page.startJob(tr("Writing"),
-                    std::make_unique<ProfileWritingJob>(request.path, request.change),
-                    [this, request, backup](const ProfileWritingJob& job, bool complete) {
-                        finish(request, job, backup, complete);
+    m_page.startJob(writingTitle(request.path),
+                    std::make_unique<ProfileWritingJob>(request.path, request.change,
+                                                        trial.difference->lines().after().bytes()),
+                    [this, request, trial, backup](const ProfileWritingJob& job, bool complete) {
+                        finish(request, trial, job, backup, complete);
                     });
 }
 
-// A job that was cancelled may have written all the same.
-void ProfileEditor::finish(const Request& request, const ProfileWritingJob& job,
+// A job that was cancelled, or that says it has failed, may have written all the same.
+void ProfileEditor::finish(const Request& request, const Trial& trial, const ProfileWritingJob& job,
                            const QString& backup, bool complete)
 {
-    if (!complete && !job.isWritten()) {
+    const std::optional<QByteArray> after = ProfileBytes::of(request.path);
+    const bool isChanged = after != trial.bytes;
+    if (isChanged)
+        m_history->add({request.path, request.change, trial.former, trial.bytes, after});
+    m_presence.note(request.path);
+    if (!complete && !isChanged) {
         QFile::remove(backup);
         m_page.setStatus(tr("Nothing written."));
     } else if (complete && !job.isReadBack()) {
         m_page.report(Report::Error, tr("The value could not be written to %1.").arg(request.path));
     } else {
-        emit written(request.change, backup);
+        const bool isAsShown = after == trial.difference->lines().after().bytes();
+        emit written(request.change, summary(request.change, backup, isAsShown));
     }
+}
+
+QString ProfileEditor::summary(const ProfileChange& change, const QString& backup, bool isAsShown)
+{
+    const bool isSet = change.action == Action::Set;
+    QString text = isSet ? tr("Written.") : tr("Deleted.");
+    if (!backup.isEmpty())
+        text =
+            (isSet ? tr("Written; the backup copy is %1.") : tr("Deleted; the backup copy is %1."))
+                .arg(backup);
+    return isAsShown ? text : text + QLatin1Char(' ') + tr("The file is not as the copy was.");
+}
+
+// A file that was removed by undoing what made it has not been deleted behind our back.
+void ProfileEditor::noteRestored(const QString& path)
+{
+    if (QFile::exists(path))
+        m_presence.note(path);
+    else
+        m_presence.forget();
 }

@@ -14,7 +14,6 @@ void ProfileReadingsModel::setDocument(std::shared_ptr<const ProfileDocument> do
     m_document = std::move(document);
     m_read.clear();
     m_differences.clear();
-    m_shown.clear();
     m_cachedName = -1;
     forgetRows();
     endResetModel();
@@ -27,7 +26,7 @@ void ProfileReadingsModel::setReading(int name, const ProfileReading& reading)
     m_read.insert(name, reading);
     if (reading.differs())
         addDifference(name);
-    const int row = rowOfName(name);
+    const int row = rowOf(name);
     if (row >= 0)
         emit dataChanged(index(row, 0), index(row, columnCount() - 1));
 }
@@ -37,13 +36,15 @@ void ProfileReadingsModel::addDifference(int name)
     const auto place = std::lower_bound(m_differences.begin(), m_differences.end(), name);
     if (place != m_differences.end() && *place == name)
         return;
-    m_differences.insert(place, name);
-    if (!m_isFiltered)
+    const int record = static_cast<int>(place - m_differences.begin());
+    if (!m_isFiltered) {
+        m_differences.insert(place, name);
         return;
-    const int row = rowCount();
+    }
+    const int row = isSorted() ? differenceCount() : record;
     beginInsertRows({}, row, row);
-    m_shown.push_back(name);
-    recordsAppended();
+    m_differences.insert(place, name);
+    recordInserted(record);
     endInsertRows();
 }
 
@@ -51,23 +52,14 @@ void ProfileReadingsModel::showOnlyDifferences(bool only)
 {
     beginResetModel();
     m_isFiltered = only;
-    m_shown = only ? m_differences : std::vector<int>();
     forgetRows();
     endResetModel();
     sortAgain();
 }
 
-void ProfileReadingsModel::arrangeAgain()
-{
-    if (m_isFiltered && m_shown != m_differences)
-        showOnlyDifferences(true);
-    else
-        sortAgain();
-}
-
 int ProfileReadingsModel::nameOf(int record) const
 {
-    return m_isFiltered ? m_shown[static_cast<std::size_t>(record)] : record;
+    return m_isFiltered ? m_differences[static_cast<std::size_t>(record)] : record;
 }
 
 int ProfileReadingsModel::nameAt(int row) const
@@ -75,12 +67,14 @@ int ProfileReadingsModel::nameAt(int row) const
     return nameOf(recordAt(row));
 }
 
-int ProfileReadingsModel::rowOfName(int name) const
+int ProfileReadingsModel::rowOf(int name) const
 {
-    if (!m_isFiltered || name < 0)
-        return name < 0 ? -1 : rowOf(name);
-    const auto place = std::find(m_shown.begin(), m_shown.end(), name);
-    return place != m_shown.end() ? rowOf(static_cast<int>(place - m_shown.begin())) : -1;
+    if (!m_isFiltered)
+        return SortableTableModel::rowOf(name);
+    const auto place = std::lower_bound(m_differences.begin(), m_differences.end(), name);
+    return place != m_differences.end() && *place == name
+               ? SortableTableModel::rowOf(static_cast<int>(place - m_differences.begin()))
+               : -1;
 }
 
 ProfileReading ProfileReadingsModel::reading(int name) const
@@ -110,22 +104,24 @@ const ProfileReading& ProfileReadingsModel::cached(int name) const
     return m_reading;
 }
 
+int ProfileReadingsModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : recordCount();
+}
+
 int ProfileReadingsModel::recordCount() const
 {
-    return m_isFiltered ? static_cast<int>(m_shown.size()) : nameCount();
+    return m_isFiltered ? differenceCount() : nameCount();
 }
 
 SortKey ProfileReadingsModel::sortKey(int record, int column) const
 {
-    const ProfileReading reading = this->reading(nameOf(record));
-    if (!reading.isRead && column >= ProfileColumns::WideColumn)
+    const int name = nameOf(record);
+    const bool isName =
+        column == ProfileColumns::SectionColumn || column == ProfileColumns::KeyColumn;
+    if (!isName && !isRead(name))
         return {};
-    return cellSortKey(m_columns[static_cast<std::size_t>(column)], reading);
-}
-
-int ProfileReadingsModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : recordCount();
+    return SortKey::text(m_columns[static_cast<std::size_t>(column)].text(reading(name)));
 }
 
 int ProfileReadingsModel::columnCount(const QModelIndex& parent) const

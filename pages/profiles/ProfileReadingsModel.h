@@ -8,8 +8,9 @@
 #include <memory>
 #include <vector>
 
-/// What a profile names, in the order of the file, with what either family reads under each name as
-/// far as it has been asked.
+/// What a profile names, in the order of the file unless it is sorted, with what either family
+/// reads under each name as far as it has been asked. Sorting asks for nothing: what has not been
+/// read comes first.
 class ProfileReadingsModel : public SortableTableModel
 {
 public:
@@ -30,12 +31,12 @@ public:
     /// Shows the names alone that are known to be read differently.
     void showOnlyDifferences(bool only);
     /// Puts the rows in their order again when many answers have come.
-    void arrangeAgain();
+    void arrangeAgain() { sortAgain(); }
 
     /// Which name of the document stands in a row.
     int nameAt(int row) const;
     /// Where a name stands; -1 where it is not shown.
-    int rowOfName(int name) const;
+    int rowOf(int name) const;
     /// A reading; without answers, and not `isRead`, where the families have not been asked.
     ProfileReading reading(int name) const;
     /// The first name behind this one, -1 for none, that is read differently or has not been read;
@@ -61,7 +62,6 @@ private:
     QHash<int, ProfileReading> m_read;
     std::vector<int> m_differences; ///< names, in their order
     bool m_isFiltered = false;
-    std::vector<int> m_shown; ///< where that is so: names, those that came last at the end
     // A view asks for all that a row has, one after the other.
     mutable ProfileReading m_reading;
     mutable int m_cachedName = -1;

@@ -42,6 +42,7 @@ ProfileReadingsPane::ProfileReadingsPane(PageContext& page, QWidget* parent)
 {
     makeTable();
     addEditAction();
+    addDeleteAction();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_table, 1);
@@ -60,6 +61,7 @@ void ProfileReadingsPane::makeTable()
     new ColumnBalancer(m_table, ProfileColumns::WideColumn, QStringLiteral("255.255.255.0"));
     updateHint();
     m_table->viewport()->installEventFilter(this);
+    connect(m_model, &QAbstractItemModel::layoutChanged, &m_soon, QOverload<>::of(&QTimer::start));
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, &m_soon,
             QOverload<>::of(&QTimer::start));
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -79,6 +81,18 @@ void ProfileReadingsPane::addEditAction()
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(edit, &QAction::triggered, this, &ProfileReadingsPane::editRequested);
     connect(m_table, &QTableView::activated, this, &ProfileReadingsPane::editRequested);
+}
+
+void ProfileReadingsPane::addDeleteAction()
+{
+    auto* remove = new QAction(tr("Delete key"), m_table);
+    remove->setShortcut(Qt::Key_Delete);
+    remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_table->addAction(remove);
+    connect(remove, &QAction::triggered, this, [this] {
+        if (chosenName() >= 0)
+            emit deletionRequested(chosenName());
+    });
 }
 
 QLayout* ProfileReadingsPane::makeButtonRow()
@@ -146,7 +160,7 @@ int ProfileReadingsPane::chosenName() const
 void ProfileReadingsPane::chooseName(int name)
 {
     const QSignalBlocker blocker(this);
-    const int row = m_model->rowOfName(name);
+    const int row = name < 0 ? -1 : m_model->rowOf(name);
     if (row >= 0)
         m_table->selectRow(row);
     else
@@ -245,9 +259,7 @@ void ProfileReadingsPane::readAll()
 
 void ProfileReadingsPane::arrangeAgain()
 {
-    const int chosen = chosenName();
     m_model->arrangeAgain();
-    chooseName(chosen);
 }
 
 void ProfileReadingsPane::showOnlyDifferences(bool only)
@@ -284,7 +296,7 @@ void ProfileReadingsPane::findDifference(int from, bool isAgain)
                     [this, at, isAgain](const ProfileAskingJob&, bool complete) {
                         const int found = complete ? m_model->nextCandidate(*at) : -1;
                         if (found >= 0)
-                            m_table->selectRow(m_model->rowOfName(found));
+                            m_table->selectRow(m_model->rowOf(found));
                         else if (complete && !isAgain)
                             findDifference(-1, true);
                         else

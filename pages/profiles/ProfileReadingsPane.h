@@ -62,11 +62,14 @@ signals:
     /// The families have been asked for a name that is shown already: to be passed to setReading().
     void answered(int name, const ProfileReading& reading);
     void editRequested();
+    /// The chosen name is to be deleted.
+    void deletionRequested(int name);
 
 private:
     QLayout* makeButtonRow();
     void makeTable();
     void addEditAction();
+    void addDeleteAction();
     void askForRowsInView();
     std::vector<int> namesInView() const;
     std::unique_ptr<ProfileAskingJob> makeAsking(std::function<int()> next);

@@ -45,14 +45,14 @@ ProfilesPage::ProfilesPage(QWidget* parent)
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_lines);
     splitter->addWidget(m_readings);
+    splitter->setSizes({3000, 2000}); // shares: where the window is low, lines come first
     body()->addWidget(splitter, 1);
     body()->addWidget(m_panel);
     connect(m_lines, &ProfileLinesPane::lineChosen, this, &ProfilesPage::showLine);
     connect(m_readings, &ProfileReadingsPane::nameChosen, this, &ProfilesPage::showName);
     connect(m_readings, &ProfileReadingsPane::answered, this, &ProfilesPage::updateReading);
     connect(m_readings, &ProfileReadingsPane::editRequested, m_panel, &ProfileEditPanel::editValue);
-    connect(m_panel, &ProfileEditPanel::writeRequested, this, &ProfilesPage::write);
-    connect(m_editor, &ProfileEditor::written, this, &ProfilesPage::showWritten);
+    connectEditor();
     connect(&m_rereader, &JobRunner::finished, this, &ProfilesPage::finishReread);
     addKey(Qt::Key_F3, tr("Find the next line"), &ProfilesPage::findNext);
     addKey(Qt::Key_F8, tr("Next difference"), &ProfilesPage::nextDifference);
@@ -61,6 +61,16 @@ ProfilesPage::ProfilesPage(QWidget* parent)
 }
 
 ProfilesPage::~ProfilesPage() = default;
+
+void ProfilesPage::connectEditor()
+{
+    connect(m_panel, &ProfileEditPanel::writeRequested, this,
+            [this] { change(ProfileChange::Action::Set); });
+    connect(m_panel, &ProfileEditPanel::deletionRequested, this, &ProfilesPage::change);
+    connect(m_readings, &ProfileReadingsPane::deletionRequested, this, &ProfilesPage::deleteName);
+    connect(m_editor, &ProfileEditor::written, this, &ProfilesPage::showWritten);
+    connect(m_editor, &ProfileEditor::restored, this, &ProfilesPage::showRestored);
+}
 
 QLayout* ProfilesPage::makeFileRow()
 {
@@ -192,6 +202,7 @@ void ProfilesPage::showDocument(std::shared_ptr<const ProfileDocument> document,
     m_stamp = m_readingStamp;
     m_wanted = wanted;
     m_document = std::move(document);
+    m_editor->noteRead(m_path);
     m_lines->setDocument(m_document);
     m_readings->setDocument(m_document);
 }
@@ -336,19 +347,39 @@ void ProfilesPage::updateReading(int name, const ProfileReading& reading)
         m_panel->updateReading(reading);
 }
 
-void ProfilesPage::write()
+void ProfilesPage::change(ProfileChange::Action action)
 {
-    m_editor->write({m_path, m_panel->change(), m_panel->keepsBackup()});
+    ProfileChange change = m_panel->change();
+    change.action = action;
+    m_editor->write({m_path, change, m_panel->keepsBackup()});
 }
 
-void ProfilesPage::showWritten(const ProfileChange& change, const QString& backup)
+// Whatever has been typed into the fields.
+void ProfilesPage::deleteName(int name)
+{
+    const ProfileDocument::Name names = m_document->name(name);
+    const ProfileChange change{m_panel->change().family, names.first, names.second, QString(),
+                               ProfileChange::Action::DeleteKey};
+    m_editor->write({m_path, change, m_panel->keepsBackup()});
+}
+
+void ProfilesPage::showWritten(const ProfileChange& change, const QString& summary)
 {
     m_place = currentPlace();
-    m_place.name.emplace(change.section, change.key);
-    m_panel->setReading({change.section, change.key, change.value, change.value});
-    m_summary =
-        backup.isEmpty() ? tr("Written.") : tr("Written; the backup copy is %1.").arg(backup);
+    if (change.action == ProfileChange::Action::Set) {
+        m_place.name.emplace(change.section, change.key);
+        m_panel->setReading({change.section, change.key, change.value, change.value});
+    }
+    m_summary = summary;
     read(m_path);
+}
+
+void ProfilesPage::showRestored(const QString& path, const QString& summary)
+{
+    m_file->setText(path);
+    m_place = path == m_path ? currentPlace() : Place();
+    m_summary = summary;
+    read(path);
 }
 
 void ProfilesPage::dragEnterEvent(QDragEnterEvent* event)

@@ -4,6 +4,7 @@
 #include "inspection/files/FileStamp.h"
 #include "inspection/profiles/ProfileDocument.h"
 #include "inspection/profiles/ProfileReadingJob.h"
+#include "inspection/profiles/ProfileWriter.h"
 #include "window/Page.h"
 
 #include <memory>
@@ -13,7 +14,6 @@ class ProfileEditPanel;
 class ProfileEditor;
 class ProfileLinesPane;
 class ProfileReadingsPane;
-struct ProfileChange;
 class QLayout;
 class QLineEdit;
 
@@ -74,8 +74,11 @@ private:
     void showName(int name);
     void showReading(int name);
     void updateReading(int name, const ProfileReading& reading);
-    void write();
-    void showWritten(const ProfileChange& change, const QString& backup);
+    void connectEditor();
+    void change(ProfileChange::Action action);
+    void deleteName(int name);
+    void showWritten(const ProfileChange& change, const QString& summary);
+    void showRestored(const QString& path, const QString& summary);
 
     QLineEdit* m_file;
     ProfileLinesPane* m_lines;

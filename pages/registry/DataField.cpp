@@ -30,8 +30,9 @@ DataField::DataField(QWidget* parent)
     : QWidget(parent), m_line(new QLineEdit), m_large(new QPlainTextEdit)
 {
     m_line->setMaxLength(INT_MAX);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 48);
     m_large->setTabChangesFocus(true);
-    m_large->setMinimumSize(fontMetrics().averageCharWidth() * 48, fontMetrics().lineSpacing() * 5);
+    m_large->setMinimumHeight(fontMetrics().lineSpacing() * 5);
     m_large->setToolTip(tr("Enter begins a new line; Ctrl+Enter confirms."));
     m_large->hide();
     auto* layout = new QVBoxLayout(this);

@@ -44,9 +44,9 @@ FindPane::FindPane(PageContext& page, QWidget* parent)
       m_hits(new RecordsModel<Hit>(columns(), this)),
       m_text(new QLineEdit),
       m_inKeys(new QCheckBox(tr("&Keys"))),
-      m_inNames(new QCheckBox(tr("N&ames of values"))),
-      m_inData(new QCheckBox(tr("Data of &values"))),
-      m_mindsCase(new QCheckBox(tr("Match &upper and lower case"))),
+      m_inNames(new QCheckBox(tr("N&ames"))),
+      m_inData(new QCheckBox(tr("&Values"))),
+      m_mindsCase(new QCheckBox(tr("Match &upper/lower case"))),
       m_wholeWords(new QCheckBox(tr("W&hole words"))),
       m_table(new QTableView)
 {
@@ -54,6 +54,9 @@ FindPane::FindPane(PageContext& page, QWidget* parent)
     m_text->setPlaceholderText(tr("Text to find"));
     for (QCheckBox* place : {m_inKeys, m_inNames, m_inData})
         place->setChecked(true);
+    m_inKeys->setToolTip(tr("In the names of keys"));
+    m_inNames->setToolTip(tr("In the names of values"));
+    m_inData->setToolTip(tr("In the data of values"));
     makeTable();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -134,7 +137,7 @@ void FindPane::search()
         m_page.report(Report::Error, tr("Type the text to find first."));
     else if (!asked.inKeys && !asked.inNames && !asked.inData)
         m_page.report(Report::Error,
-                      tr("Choose where to search: in keys, in names, in data, or in several."));
+                      tr("Choose where to search: in keys, in names, in values, or in several."));
     else
         start();
 }
@@ -148,7 +151,7 @@ void FindPane::start()
 void FindPane::showFound(const RegistrySearchJob& search, bool complete)
 {
     m_hits->setRecords(search.hits());
-    m_shown = -1;
+    m_isShown = false;
     m_hint->setText(tr("Nothing was found."));
     if (!search.hits().empty()) {
         m_table->setCurrentIndex(m_hits->index(0, 0));
@@ -159,8 +162,8 @@ void FindPane::showFound(const RegistrySearchJob& search, bool complete)
 
 void FindPane::choose(const QModelIndex& index)
 {
-    m_shown = index.row();
-    const Hit& hit = m_hits->record(m_shown);
+    m_isShown = true;
+    const Hit& hit = m_hits->record(index.row());
     emit chosen(hit.path, hit.name);
 }
 
@@ -179,12 +182,12 @@ void FindPane::step(int by)
     const int count = m_hits->rowCount();
     if (count == 0)
         return open();
-    const int from = m_shown < 0 && by < 0 ? 0 : m_shown;
-    const QModelIndex next = m_hits->index((from + by + count) % count, 0);
-    m_table->setCurrentIndex(next);
-    choose(next);
+    const int from = m_isShown ? m_table->currentIndex().row() : qMin(-by, 0);
+    const int row = (from + by + count) % count;
+    m_table->setCurrentIndex(m_hits->index(row, 0));
+    choose(m_table->currentIndex());
     m_page.setStatus(
-        tr("Found place %L1 of %L2 (F3: next, Shift+F3: previous).").arg(m_shown + 1).arg(count));
+        tr("Found place %L1 of %L2 (F3: next, Shift+F3: previous).").arg(row + 1).arg(count));
 }
 
 void FindPane::keyPressEvent(QKeyEvent* event)

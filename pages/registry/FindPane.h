@@ -56,5 +56,5 @@ private:
     QCheckBox* m_wholeWords;
     QTableView* m_table;
     EmptyHint* m_hint;
-    int m_shown = -1; ///< the row that was gone to last
+    bool m_isShown = false; ///< the place of the current row has been gone to
 };

@@ -1,5 +1,7 @@
 #include "pages/registry/KeyTree.h"
 
+#include "window/ViewFocus.h"
+
 KeyTree::KeyTree(QWidget* parent) : QTreeView(parent), m_keys(new RegistryTreeModel(this))
 {
     setModel(m_keys);
@@ -7,6 +9,7 @@ KeyTree::KeyTree(QWidget* parent) : QTreeView(parent), m_keys(new RegistryTreeMo
     setAccessibleName(tr("Keys"));
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    new ViewFocus(this);
     setTextElideMode(Qt::ElideMiddle);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     setMinimumWidth(fontMetrics().averageCharWidth() * 20);

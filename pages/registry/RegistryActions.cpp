@@ -65,7 +65,8 @@ RegistryActions::RegistryActions(PageContext& page, StoreWatch& watch, KeyTree& 
       m_tree(tree),
       m_table(table),
       m_window(window),
-      m_history(new RegistryHistory(page, window)),
+      m_history(new RegistryHistory(
+          page, [this](const auto& write) { m_gate->pass(write); }, window)),
       m_editor(new RegistryEditor(page, *m_history, window)),
       m_renamer(new RegistryRenamer(page, *m_history, window)),
       m_remover(new RegistryRemover(page, *m_history, window)),

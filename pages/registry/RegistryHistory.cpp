@@ -43,14 +43,46 @@ protected:
     void makeAgain() override { restore(Direction::Make); }
 
 private:
-    void restore(Direction direction) { m_history.restore(m_change, direction, Others::StopAll); }
+    void restore(Direction direction) { m_history.request(m_change, direction); }
 
     RegistryHistory& m_history;
     Change m_change;
 };
 
-RegistryHistory::RegistryHistory(PageContext& page, QWidget* window)
-    : QObject(window), m_page(page), m_window(window)
+/// The way of a change through the gate. The undo stack has moved on by then: where the gate drops
+/// the change, the stack goes back, in a turn of the event loop of its own.
+class RegistryHistory::Passage
+{
+public:
+    Passage(RegistryHistory& history, Direction direction)
+        : m_history(&history), m_direction(direction)
+    {
+    }
+    Passage(const Passage&) = delete;
+    Passage& operator=(const Passage&) = delete;
+    ~Passage()
+    {
+        if (m_history && !m_isThrough)
+            QMetaObject::invokeMethod(
+                m_history,
+                [history = m_history.data(), direction = m_direction] { history->stay(direction); },
+                Qt::QueuedConnection);
+    }
+
+    void pass() { m_isThrough = true; }
+
+private:
+    QPointer<RegistryHistory> m_history;
+    Direction m_direction;
+    bool m_isThrough = false;
+};
+
+RegistryHistory::RegistryHistory(PageContext& page, Gate gate, QWidget* window)
+    : QObject(window),
+      m_page(page),
+      m_stack(&page.undoStack()),
+      m_gate(std::move(gate)),
+      m_window(window)
 {
 }
 
@@ -72,7 +104,7 @@ void RegistryHistory::add(const Description& description, const StoreRecorder& r
 void RegistryHistory::push(const Change& change)
 {
     if (!change.entries->empty())
-        m_page.undoStack().push(new Step(*this, change));
+        m_stack->push(new Step(*this, change));
 }
 
 void RegistryHistory::make(const Description& description, StoreChange change)
@@ -103,10 +135,19 @@ void RegistryHistory::endMaking(const Change& change, const StoreChangeJob& job,
         reportChange(m_page, Report::Warning, tr("Cancelled half-way: %1.").arg(text));
 }
 
-void RegistryHistory::restore(const Change& change, Direction direction, Others others)
+void RegistryHistory::request(const Change& change, Direction direction)
 {
     if (m_isStaying)
         return;
+    const auto passage = std::make_shared<Passage>(*this, direction);
+    m_gate([this, change, direction, passage] {
+        passage->pass();
+        restore(change, direction, Others::StopAll);
+    });
+}
+
+void RegistryHistory::restore(const Change& change, Direction direction, Others others)
+{
     const bool isUndo = direction == Direction::TakeBack;
     m_page.startJob(isUndo ? tr("Undoing") : tr("Redoing"),
                     std::make_unique<StoreChangeJob>(change.entries, direction, others, log()),
@@ -182,9 +223,11 @@ void RegistryHistory::ask(const Change& change, Direction direction, const QStri
 
 void RegistryHistory::stay(Direction direction)
 {
+    if (!m_stack)
+        return;
     const QScopedValueRollback staying(m_isStaying, true);
     if (direction == Direction::TakeBack)
-        m_page.undoStack().redo();
+        m_stack->redo();
     else
-        m_page.undoStack().undo();
+        m_stack->undo();
 }

@@ -3,7 +3,10 @@
 #include "inspection/registry/StoreChangeJob.h"
 
 #include <QObject>
+#include <QPointer>
+#include <QUndoStack>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -33,8 +36,12 @@ public:
         std::optional<Place> after;
     };
 
-    /// Questions open over `window`, which owns this object too.
-    RegistryHistory(PageContext& page, QWidget* window);
+    /// Calls `write` at once or later, or never.
+    using Gate = std::function<void(const std::function<void()>& write)>;
+
+    /// Questions open over `window`, which owns this object too. What is undone or redone passes
+    /// the gate first.
+    RegistryHistory(PageContext& page, Gate gate, QWidget* window);
 
     /// Records a change, with a line of the page's log for each entry.
     std::shared_ptr<StoreRecorder> recorder() const;
@@ -52,6 +59,7 @@ signals:
 
 private:
     class Step;
+    class Passage;
     using Direction = StoreChangeJob::Direction;
     using Others = StoreChangeJob::Others;
 
@@ -64,6 +72,7 @@ private:
     StoreRecorder::Log log() const;
     void push(const Change& change);
     void endMaking(const Change& change, const StoreChangeJob& job, bool complete);
+    void request(const Change& change, Direction direction);
     void restore(const Change& change, Direction direction, Others others);
     void endRestoring(const Change& change, Direction direction, const StoreChangeJob& job,
                       bool complete);
@@ -73,6 +82,8 @@ private:
     void stay(Direction direction);
 
     PageContext& m_page;
+    QPointer<QUndoStack> m_stack; ///< null when the page is being destroyed
+    Gate m_gate;
     QWidget* m_window;
     bool m_isStaying = false; ///< the stack goes back to where it was, and nothing else happens
 };

@@ -11,6 +11,7 @@
 #include "pages/registry/StoreFollower.h"
 #include "pages/registry/TablePlace.h"
 #include "pages/registry/ValueTable.h"
+#include "window/ShownText.h"
 
 #include <QAction>
 #include <QLabel>
@@ -34,10 +35,11 @@ QSplitter* splitter(Qt::Orientation orientation, QWidget* first, int firstShare,
     return made;
 }
 
-// A view with a sentence below it.
-QWidget* withNote(QWidget* view, const QString& text)
+// A view with a sentence below it, and what that means in its tool tip.
+QWidget* withNote(QWidget* view, const QString& text, const QString& toolTip)
 {
     auto* note = new QLabel(text);
+    note->setToolTip(plainToolTip(toolTip));
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
     auto* made = new QWidget;
@@ -62,8 +64,9 @@ RegistryPage::RegistryPage(QWidget* parent)
     m_address->addButton(m_actions->makeCopyButton());
     body()->addWidget(m_address);
     body()->addLayout(m_actions->makeButtons());
-    QWidget* keys = withNote(m_tree, tr("The four root keys are one here: what is set under one is "
-                                        "found under each."));
+    QWidget* keys = withNote(m_tree, tr("All four root keys are one here."),
+                             tr("What is set under one of HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, "
+                                "HKEY_LOCAL_MACHINE and HKEY_USERS is found under each of them."));
     QSplitter* views = splitter(Qt::Horizontal, keys, 1, m_table, 3);
     body()->addWidget(splitter(Qt::Vertical, views, 2, m_find, 1), 1);
     m_find->hide();

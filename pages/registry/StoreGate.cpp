@@ -43,7 +43,7 @@ void StoreGate::ask(const Action& write)
     auto* box = new QMessageBox(QMessageBox::Warning, tr("The store's file"), m_watch.text(),
                                 QMessageBox::Cancel, m_window);
     box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(tr("An export first keeps all that is shown here."));
+    box->setInformativeText(tr("An export first keeps what host libraries can read now."));
     box->setAttribute(Qt::WA_DeleteOnClose);
     QPushButton* yes = glowing(box->addButton(tr("Write"), QMessageBox::AcceptRole));
     QPushButton* first = glowing(box->addButton(tr("Export first..."), QMessageBox::ActionRole));

@@ -33,9 +33,14 @@ bool hasOtherLineEnds(const QString& text)
            text.contains(QChar::ParagraphSeparator);
 }
 
-QString shortened(QString text)
+// A line of the dialog shows no line ends of its own.
+QString withSigns(QString text)
 {
-    text.replace(QLatin1Char('\n'), QChar(0x21B5)).remove(QLatin1Char('\r'));
+    return text.replace(QLatin1Char('\n'), QChar(0x21B5)).replace(QLatin1Char('\r'), QChar(0x240D));
+}
+
+QString shortened(const QString& text)
+{
     return text.size() > longestShownText ? text.left(longestShownText) + QChar(0x2026) : text;
 }
 
@@ -112,7 +117,7 @@ void ValueDialog::build()
 // The line of the stored text comes before the note.
 void ValueDialog::addStored(const ListedValue& value)
 {
-    auto* stored = new QLineEdit(value.raw());
+    auto* stored = new QLineEdit(withSigns(value.raw()));
     stored->setReadOnly(true);
     stored->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     stored->setAccessibleName(tr("Stored text (raw)"));
@@ -205,7 +210,7 @@ void ValueDialog::tellReplaced()
     else if (!m_ok->isEnabled())
         m_replaced->setText(tr("It is not replaced by what is typed."));
     else
-        m_replaced->setText(tr("OK replaces it with: %1").arg(shortened(storedText())));
+        m_replaced->setText(tr("OK replaces it with: %1").arg(shortened(withSigns(storedText()))));
 }
 
 void ValueDialog::showNote(const QString& text, bool isProblem)

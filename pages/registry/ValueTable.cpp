@@ -12,7 +12,7 @@ ValueTable::ValueTable(QWidget* parent) : QTableView(parent), m_values(new Regis
     setAccessibleName(tr("Values"));
     setContextMenuPolicy(Qt::ActionsContextMenu);
     fitColumns(*this, {QStringLiteral("[x] Value name"), QStringLiteral("REG_QWORD")});
-    new ColumnBalancer(this, RegistryValueModel::Data, QStringLiteral("1234 (0x000004d2)"));
+    new ColumnBalancer(this, RegistryValueModel::Data, QStringLiteral("1234 (0x4d2)"));
     m_hint = new EmptyHint(this, QString());
     const auto tellSelected = [this] { emit selectedChanged(selectionModel()->hasSelection()); };
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, tellSelected);

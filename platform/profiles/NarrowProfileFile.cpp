@@ -67,9 +67,8 @@ QString NarrowProfileFile::text()
 
 // Overwrites and then cuts: at no time is the file empty, and file systems that flush a file which
 // was emptied and written anew have no reason to.
-void NarrowProfileFile::rewrite(const QString& text)
+void NarrowProfileFile::rewrite(const QByteArray& bytes)
 {
-    const QByteArray bytes = text.toUtf8();
     if (m_file.isSequential()) { // a device, which keeps no text and has its stamp from others
         m_file.write(bytes);
         return;

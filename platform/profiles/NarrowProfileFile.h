@@ -22,7 +22,9 @@ public:
 
     /// Replaces the contents with `text` in UTF-8, at a later time stamp than the one found and
     /// than the one that the rewrite before, of any file, gave.
-    void rewrite(const QString& text);
+    void rewrite(const QString& text) { rewrite(text.toUtf8()); }
+    /// The same with bytes as they are.
+    void rewrite(const QByteArray& bytes);
 
 private:
     void advanceStamp();

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1，构建时为 %2</translation>
+    </message>
+    <message>
+        <source>About Quayside</source>
+        <translation>关于 Quayside</translation>
+    </message>
+    <message>
+        <source>Shows what host libraries get from the Windows-style services that run in this program.</source>
+        <translation>显示主机库从本程序中运行的 Windows 风格服务得到什么。</translation>
+    </message>
+    <message>
+        <source>Quayside:</source>
+        <translation>Quayside：</translation>
+    </message>
+    <message>
+        <source>Qt:</source>
+        <translation>Qt：</translation>
+    </message>
+    <message>
+        <source>Host library:</source>
+        <translation>主机库：</translation>
+    </message>
+    <message>
+        <source>Settings store:</source>
+        <translation>设置存储：</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+</context>
+<context>
     <name>AddressBar</name>
     <message>
         <source>&amp;Go to:</source>
@@ -429,6 +468,74 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>DifferenceColumns</name>
+    <message>
+        <source>equal lines left out</source>
+        <translation>省略的相同行</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>end of a line</comment>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>not text</source>
+        <translation>非文本</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>line end</source>
+        <translation>换行符</translation>
+    </message>
+    <message>
+        <source>±</source>
+        <comment>column of signs</comment>
+        <translation>±</translation>
+    </message>
+    <message>
+        <source>− removed, + added, ⋯ equal lines left out</source>
+        <translation>− 删除，+ 添加，⋯ 省略的相同行</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <comment>number of a line</comment>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <comment>number of a line</comment>
+        <translation>之后</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>of a line</comment>
+        <translation>行尾</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+</context>
+<context>
     <name>DigestJob</name>
     <message>
         <source>MD5 padding: %L1 blocks left</source>
@@ -802,18 +909,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>项(&amp;K)</translation>
     </message>
     <message>
-        <source>N&amp;ames of values</source>
-        <translation>值的名称(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Data of &amp;values</source>
-        <translation>值的数据(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Match &amp;upper and lower case</source>
-        <translation>区分大小写(&amp;U)</translation>
-    </message>
-    <message>
         <source>W&amp;hole words</source>
         <translation>全字匹配(&amp;H)</translation>
     </message>
@@ -822,12 +917,36 @@ Put it in the place of the file to bring everything back.</source>
         <translation>返回(&amp;B)</translation>
     </message>
     <message>
-        <source>Choose where to search: in keys, in names, in data, or in several.</source>
-        <translation>请选择查找范围：项、名称、数据，或其中几种。</translation>
-    </message>
-    <message>
         <source>Found place %L1 of %L2 (F3: next, Shift+F3: previous).</source>
         <translation>第 %L1 处，共 %L2 处（F3：下一处，Shift+F3：上一处）。</translation>
+    </message>
+    <message>
+        <source>N&amp;ames</source>
+        <translation>名称(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Values</source>
+        <translation>值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Match &amp;upper/lower case</source>
+        <translation>区分大小写(&amp;U)</translation>
+    </message>
+    <message>
+        <source>In the names of keys</source>
+        <translation>在项的名称中</translation>
+    </message>
+    <message>
+        <source>In the names of values</source>
+        <translation>在值的名称中</translation>
+    </message>
+    <message>
+        <source>In the data of values</source>
+        <translation>在值的数据中</translation>
+    </message>
+    <message>
+        <source>Choose where to search: in keys, in names, in values, or in several.</source>
+        <translation>请选择查找范围：项、名称、值，或其中几种。</translation>
     </message>
 </context>
 <context>
@@ -849,16 +968,20 @@ Put it in the place of the file to bring everything back.</source>
         <translation>立即查找(&amp;N)</translation>
     </message>
     <message>
-        <source>With a class name, the window name is not looked at. Without both, the first window is found.</source>
-        <translation>给出类名时不再看窗口名；两者均未给出时返回第一个窗口。</translation>
-    </message>
-    <message>
         <source>null</source>
         <translation>null</translation>
     </message>
     <message>
         <source>null: no window was found</source>
         <translation>null：未找到窗口</translation>
+    </message>
+    <message>
+        <source>Not looked at where there is a class name. Without both, the first window is found.</source>
+        <translation>有类名时不看窗口名。两者都没有时，找到第一个窗口。</translation>
+    </message>
+    <message>
+        <source>With a class name, the window name is not looked at.</source>
+        <translation>有类名时不看窗口名。</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1266,96 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>HelpText</name>
+    <message>
+        <source>this help, at the part about the page in view</source>
+        <translation>本帮助，并转到当前页面的部分</translation>
+    </message>
+    <message>
+        <source>read the page again</source>
+        <translation>重新读取页面</translation>
+    </message>
+    <message>
+        <source>search in the page</source>
+        <translation>在页面中查找</translation>
+    </message>
+    <message>
+        <source>to the next one that was found</source>
+        <translation>转到下一个找到的项目</translation>
+    </message>
+    <message>
+        <source>edit what is selected</source>
+        <translation>编辑所选内容</translation>
+    </message>
+    <message>
+        <source>delete what is selected, after a question</source>
+        <translation>询问后删除所选内容</translation>
+    </message>
+    <message>
+        <source>copy what is selected</source>
+        <translation>复制所选内容</translation>
+    </message>
+    <message>
+        <source>undo and redo a change of the page</source>
+        <translation>撤销和重做页面所做的更改</translation>
+    </message>
+    <message>
+        <source>the menu of what is selected</source>
+        <translation>所选内容的菜单</translation>
+    </message>
+    <message>
+        <source>cancel the work that covers a page, or close a dialog</source>
+        <translation>取消覆盖页面的工作，或关闭对话框</translation>
+    </message>
+    <message>
+        <source>close the program</source>
+        <translation>关闭程序</translation>
+    </message>
+    <message>
+        <source>What each page answers</source>
+        <translation>各页面回答什么</translation>
+    </message>
+    <message>
+        <source>Host libraries that were written for Windows run in this program and call its services. Every page asks the same services, and shows what a host library gets from them.</source>
+        <translation>为 Windows 编写的主机库在本程序中运行，并调用它的服务。每个页面都询问同样的服务，显示主机库从中得到的结果。</translation>
+    </message>
+    <message>
+        <source>The wide calls end in W and take names as 4-byte characters: GetPrivateProfileStringW, GetPrivateProfileIntW, GetPrivateProfileSectionW and WritePrivateProfileStringW. They read a profile as a settings file, with escapes, quotes and comments, and write it anew in that form.</source>
+        <translation>宽字符调用以 W 结尾，名称采用 4 字节字符：GetPrivateProfileStringW、GetPrivateProfileIntW、GetPrivateProfileSectionW 和 WritePrivateProfileStringW。它们把配置文件当作带转义、引号和注释的设置文件来读取，并以这种形式重新写入。</translation>
+    </message>
+    <message>
+        <source>The narrow calls end in A and take names as bytes in UTF-8: GetPrivateProfileStringA and WritePrivateProfileStringA. They read a profile line by line, drop every line without exactly one equals sign, and write what is left, sorted.</source>
+        <translation>窄字符调用以 A 结尾，名称采用 UTF-8 字节：GetPrivateProfileStringA 和 WritePrivateProfileStringA。它们逐行读取配置文件，丢弃每个不是恰好含一个等号的行，并把剩下的内容排序后写入。</translation>
+    </message>
+    <message>
+        <source>GetPrivateProfileIntA and GetPrivateProfileSectionNamesW always answer 0. A program that was built for Unicode makes the wide calls, an older one the narrow ones: one program may make both, and see two different values.</source>
+        <translation>GetPrivateProfileIntA 和 GetPrivateProfileSectionNamesW 始终返回 0。按 Unicode 构建的程序使用宽字符调用，较旧的程序使用窄字符调用；同一个程序也可能两者都用，并看到两个不同的值。</translation>
+    </message>
+    <message>
+        <source>Wide and narrow calls</source>
+        <translation>宽字符调用与窄字符调用</translation>
+    </message>
+    <message>
+        <source>from the first page to the last; the letters that are underlined in the rail choose them too</source>
+        <translation>从第一个页面到最后一个页面；也可用侧栏中带下划线的字母选择</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>&amp;About Quayside...</source>
+        <translation>关于 Quayside(&amp;A)...</translation>
+    </message>
+</context>
+<context>
     <name>HostInformation</name>
     <message>
         <source>English</source>
@@ -1375,16 +1588,8 @@ Put it in the place of the file to bring everything back.</source>
 <context>
     <name>KeyPanel</name>
     <message>
-        <source>Key states</source>
-        <translation>按键状态</translation>
-    </message>
-    <message>
         <source>Unknown to the service, as every other code: these always read as up.</source>
         <translation>服务不识别的键，其他代码亦同：始终读作弹起。</translation>
-    </message>
-    <message>
-        <source>Report with setKeyPressed:</source>
-        <translation>用 setKeyPressed 上报：</translation>
     </message>
     <message>
         <source>Re&amp;turn down</source>
@@ -1407,8 +1612,24 @@ Put it in the place of the file to bring everything back.</source>
         <translation>任意代码(&amp;Y)：</translation>
     </message>
     <message>
-        <source>Known to the service, as of the last event from keyboard or mouse. Left and right cannot be told apart, and no toggle state is told:</source>
-        <translation>服务能识别的键，状态以最近一次键盘或鼠标事件为准。左右键无法区分，也不提供切换状态：</translation>
+        <source>Keys known to the service</source>
+        <translation>服务能识别的键</translation>
+    </message>
+    <message>
+        <source>Keys unknown to the service</source>
+        <translation>服务不识别的键</translation>
+    </message>
+    <message>
+        <source>The event of a modifier key itself tells the state before it: the next event of keyboard or mouse tells the new one. No toggle state is told.</source>
+        <translation>修饰键自身的事件给出该事件之前的状态，下一次键盘或鼠标事件才给出新状态。不提供切换状态。</translation>
+    </message>
+    <message>
+        <source>Reports a key to the service, as host libraries do.</source>
+        <translation>向服务上报一个键，与主机库的做法相同。</translation>
+    </message>
+    <message>
+        <source>Keys known to the service, as of the last event; left and right cannot be told apart</source>
+        <translation>服务能识别的键，以最近一次事件为准；左右键无法区分</translation>
     </message>
 </context>
 <context>
@@ -1709,37 +1930,6 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
-    <name>LostLinesDialog</name>
-    <message>
-        <source>Lines that would be lost</source>
-        <translation>将会丢失的行</translation>
-    </message>
-    <message>
-        <source>%1 (%2): %3</source>
-        <translation>%1（%2）：%3</translation>
-    </message>
-    <message>
-        <source>The narrow family writes the whole file anew, sorted, and only what it has kept. These lines would be lost:</source>
-        <translation>窄字符接口会按排序重写整个文件，且只写入它保留的内容。以下各行将会丢失：</translation>
-    </message>
-    <message>
-        <source>&amp;Write all the same</source>
-        <translation>仍然写入(&amp;W)</translation>
-    </message>
-    <message>
-        <source>Changes to the file</source>
-        <translation>对文件的更改</translation>
-    </message>
-    <message>
-        <source>The narrow family writes the whole file anew. No line that holds anything would be lost, but the file would not stay as it is:</source>
-        <translation>窄字符接口会重写整个文件。不会丢失有内容的行，但文件不会保持原样：</translation>
-    </message>
-    <message>
-        <source>The wide family writes the whole file anew, and only what it has kept. These lines would be lost or cut short:</source>
-        <translation>宽字符接口会重写整个文件，且只写入它保留的内容。以下各行将会丢失或被截断：</translation>
-    </message>
-</context>
-<context>
     <name>MainWindow</name>
     <message>
         <source>Quayside</source>
@@ -1853,25 +2043,6 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
-    <name>NarrowRewriting</name>
-    <message>
-        <source>Blank lines lost: %1.</source>
-        <translation>丢失的空行：%1。</translation>
-    </message>
-    <message>
-        <source>The order of sections and keys changes.</source>
-        <translation>节和键的顺序会改变。</translation>
-    </message>
-    <message>
-        <source>Spaces and line ends are normalised.</source>
-        <translation>空格和换行符会被规范化。</translation>
-    </message>
-    <message>
-        <source>The encoding becomes UTF-8.</source>
-        <translation>编码将变为 UTF-8。</translation>
-    </message>
-</context>
-<context>
     <name>PageCatalogue</name>
     <message>
         <source>&amp;Registry</source>
@@ -1904,6 +2075,38 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>&amp;Log</source>
         <translation>日志(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Which keys and values a host library finds in the registry, and what it reads from each; entries that it cannot read are marked. Values and keys can be changed, imported from registry files and exported to them.</source>
+        <translation>主机库在注册表中找到哪些项和值，以及从每一个读到什么；无法读取的条目会标出。可以更改值和项，也可以从注册表文件导入或导出到其中。</translation>
+    </message>
+    <message>
+        <source>What the wide and the narrow calls read from a private profile (an INI file), line by line and side by side, and what a write through either of them would make of the file.</source>
+        <translation>宽字符调用和窄字符调用从私有配置文件（INI 文件）读到什么，逐行并排显示，以及通过任一种调用写入会使文件变成什么样。</translation>
+    </message>
+    <message>
+        <source>Which files a search with findFirstFile finds, with which attributes and times, and what the calls for paths and directories answer.</source>
+        <translation>用 findFirstFile 搜索会找到哪些文件及其属性和时间，以及路径和目录的调用返回什么。</translation>
+    </message>
+    <message>
+        <source>Which fonts host libraries have registered, and which of them an enumeration by family and character set finds.</source>
+        <translation>主机库注册了哪些字体，以及按字体族和字符集枚举会找到其中哪些。</translation>
+    </message>
+    <message>
+        <source>Which monitors there are, which of them MonitorFromPoint answers for a point, what the system metrics are, and which graphics handles are alive.</source>
+        <translation>有哪些显示器，MonitorFromPoint 对某一点返回其中哪一个，系统度量是多少，以及有哪些存活的图形句柄。</translation>
+    </message>
+    <message>
+        <source>Which keys and mouse buttons read as down, where the pointer is, which cursor is set, and which window FindWindowW finds.</source>
+        <translation>哪些键和鼠标按钮读作按下，指针在哪里，设置了哪个光标，以及 FindWindowW 找到哪个窗口。</translation>
+    </message>
+    <message>
+        <source>What texts and files become when they are encrypted, decrypted, digested or coded as Base64 in the way of the host libraries.</source>
+        <translation>文本和文件按主机库的方式加密、解密、计算摘要或做 Base64 编码后变成什么。</translation>
+    </message>
+    <message>
+        <source>What has happened since the program was started, with every change that was made from this window.</source>
+        <translation>程序启动以来发生了什么，包括在本窗口中所做的每一处更改。</translation>
     </message>
 </context>
 <context>
@@ -2110,6 +2313,10 @@ Wide: %2</source>
         <translation>窄字符读取</translation>
     </message>
     <message>
+        <source>Whether the families read the same value</source>
+        <translation>两种接口读到的值是否相同</translation>
+    </message>
+    <message>
         <source>(not asked yet)</source>
         <translation>（尚未读取）</translation>
     </message>
@@ -2120,6 +2327,54 @@ Wide: %2</source>
     <message>
         <source>Not UTF-8: the calls of both families lose what it says.</source>
         <translation>不是 UTF-8：两种接口都会丢失其内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileDifferenceDialog</name>
+    <message>
+        <source>No family of calls can delete: a null value is written as an empty one, and a call without a key is refused. So these lines are taken out of the file, and the others stay as they are.</source>
+        <translation>两种接口都不能删除：空指针值会写成空值，没有键的调用会被拒绝。因此从文件中取出以下各行，其余各行保持原样。</translation>
+    </message>
+    <message>
+        <source>The narrow family writes the whole file anew, sorted, and only what it has kept. The file would change like this:</source>
+        <translation>窄字符接口会按排序重写整个文件，且只写入它保留的内容。文件将有以下变化：</translation>
+    </message>
+    <message>
+        <source>The wide family writes the whole file anew, sorted, and only what it has kept. The file would change like this:</source>
+        <translation>宽字符接口会按排序重写整个文件，且只写入它保留的内容。文件将有以下变化：</translation>
+    </message>
+    <message>
+        <source>Changes to the file</source>
+        <translation>对文件的更改</translation>
+    </message>
+    <message>
+        <source>Lines to be deleted</source>
+        <translation>将要删除的行</translation>
+    </message>
+    <message>
+        <source>&amp;Write all the same</source>
+        <translation>仍然写入(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete these lines</source>
+        <translation>删除这些行(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Lines before and after</source>
+        <translation>更改前后的各行</translation>
+    </message>
+    <message>
+        <source>Lines removed: %1. Lines added: %2.</source>
+        <translation>删除的行：%1。添加的行：%2。</translation>
+    </message>
+    <message>
+        <source>These lines are not in the file&apos;s encoding, and their bytes would be lost: %1.</source>
+        <translation>以下各行不符合文件的编码，其字节将会丢失：%1。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between numbers of lines</comment>
+        <translation>、</translation>
     </message>
 </context>
 <context>
@@ -2191,6 +2446,22 @@ Wide: %2</source>
         <source>Copies the file beside itself, as .bak, before it is written.</source>
         <translation>写入之前在文件旁复制一份 .bak 备份。</translation>
     </message>
+    <message>
+        <source>Dele&amp;te</source>
+        <translation>删除(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Takes lines out of the file: neither family of calls can delete.</source>
+        <translation>从文件中取出行：两种接口都不能删除。</translation>
+    </message>
+    <message>
+        <source>This &amp;key</source>
+        <translation>此键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The whole &amp;section</source>
+        <translation>整个节(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditor</name>
@@ -2221,6 +2492,54 @@ Wide: %2</source>
     <message>
         <source>The value could not be written to %1.</source>
         <translation>无法将值写入 %1。</translation>
+    </message>
+    <message>
+        <source>Trying the change on a copy of %1</source>
+        <translation>正在 %1 的副本上试写</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation>正在写入 %1</translation>
+    </message>
+    <message>
+        <source>%1 has been deleted since it was read. Writing makes a new file that holds nothing but this value.</source>
+        <translation>%1 在读取之后已被删除。写入会新建一个只含此值的文件。</translation>
+    </message>
+    <message>
+        <source>%1 has been replaced by another file since it was read. Writing changes the file that lies there now.</source>
+        <translation>%1 在读取之后已被另一个文件取代。写入会更改现在的那个文件。</translation>
+    </message>
+    <message>
+        <source>Not the file that was read</source>
+        <translation>已不是所读取的文件</translation>
+    </message>
+    <message>
+        <source>&amp;Write all the same</source>
+        <translation>仍然写入(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Nothing written: the file holds this value already.</source>
+        <translation>未写入：文件中已是此值。</translation>
+    </message>
+    <message>
+        <source>Written.</source>
+        <translation>已写入。</translation>
+    </message>
+    <message>
+        <source>Deleted.</source>
+        <translation>已删除。</translation>
+    </message>
+    <message>
+        <source>Written; the backup copy is %1.</source>
+        <translation>已写入；备份为 %1。</translation>
+    </message>
+    <message>
+        <source>Deleted; the backup copy is %1.</source>
+        <translation>已删除；备份为 %1。</translation>
+    </message>
+    <message>
+        <source>The file is not as the copy was.</source>
+        <translation>文件与试写的副本不同。</translation>
     </message>
 </context>
 <context>
@@ -2283,6 +2602,69 @@ Wide: %2</source>
     <message>
         <source>mixed, %1</source>
         <translation>混合，%1</translation>
+    </message>
+    <message>
+        <source>The encoding changes: %1, then %2.</source>
+        <translation>编码改变：原为 %1，之后为 %2。</translation>
+    </message>
+    <message>
+        <source>The byte order mark goes.</source>
+        <translation>字节顺序标记将消失。</translation>
+    </message>
+    <message>
+        <source>A byte order mark is added.</source>
+        <translation>将添加字节顺序标记。</translation>
+    </message>
+    <message>
+        <source>The line ends change: %1, then %2.</source>
+        <translation>换行符改变：原为 %1，之后为 %2。</translation>
+    </message>
+    <message>
+        <source>The last line gets a line end.</source>
+        <translation>最后一行将加上换行符。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileHistory</name>
+    <message>
+        <source>The file stays as it is.</source>
+        <translation>文件保持原样。</translation>
+    </message>
+    <message>
+        <source>%1 could not be put back.</source>
+        <translation>无法恢复 %1。</translation>
+    </message>
+    <message>
+        <source>Undone: %1.</source>
+        <translation>已撤销：%1。</translation>
+    </message>
+    <message>
+        <source>Made again: %1.</source>
+        <translation>已重做：%1。</translation>
+    </message>
+    <message>
+        <source>%1 is no longer as the change &quot;%2&quot; left it. Putting it back loses what was written to it meanwhile.</source>
+        <translation>%1 已不是更改“%2”之后的样子。恢复它会丢失此后写入的内容。</translation>
+    </message>
+    <message>
+        <source>The file has changed</source>
+        <translation>文件已改变</translation>
+    </message>
+    <message>
+        <source>&amp;Put it back</source>
+        <translation>恢复(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Set &quot;%1&quot; in %2</source>
+        <translation>设置 %2 中的“%1”</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot; from %2</source>
+        <translation>从 %2 删除“%1”</translation>
+    </message>
+    <message>
+        <source>Delete [%1] from %2</source>
+        <translation>从 %2 删除 [%1]</translation>
     </message>
 </context>
 <context>
@@ -2376,6 +2758,10 @@ Wide: %2</source>
         <translation>下一处差异</translation>
     </message>
     <message>
+        <source>Delete key</source>
+        <translation>删除键</translation>
+    </message>
+    <message>
         <source>Of the values that have been asked for, none is read differently.</source>
         <translation>已读取的值中没有读取结果不同的。</translation>
     </message>
@@ -2401,6 +2787,18 @@ Wide: %2</source>
     <message>
         <source>Nothing written: the wide family would not read this back under that name.</source>
         <translation>未写入：宽字符接口将无法按该名称读回此值。</translation>
+    </message>
+    <message>
+        <source>There is no such file: nothing can be deleted from it.</source>
+        <translation>文件不存在：无可删除。</translation>
+    </message>
+    <message>
+        <source>Nothing deleted: the narrow family does not find that.</source>
+        <translation>未删除：窄字符接口找不到该项。</translation>
+    </message>
+    <message>
+        <source>Nothing deleted: the wide family does not find that.</source>
+        <translation>未删除：宽字符接口找不到该项。</translation>
     </message>
 </context>
 <context>
@@ -2444,14 +2842,6 @@ Wide: %2</source>
     <message>
         <source>Stopped. %1</source>
         <translation>已停止。%1</translation>
-    </message>
-    <message>
-        <source>Written.</source>
-        <translation>已写入。</translation>
-    </message>
-    <message>
-        <source>Written; the backup copy is %1.</source>
-        <translation>已写入；备份为 %1。</translation>
     </message>
     <message>
         <source>Find the next line</source>
@@ -2810,8 +3200,12 @@ Wide: %2</source>
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>The four root keys are one here: what is set under one is found under each.</source>
-        <translation>四个根项在此是同一个：在其中一个下设置的内容，在每一个下都能找到。</translation>
+        <source>All four root keys are one here.</source>
+        <translation>四个根项在此是同一个。</translation>
+    </message>
+    <message>
+        <source>What is set under one of HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE and HKEY_USERS is found under each of them.</source>
+        <translation>在 HKEY_CLASSES_ROOT、HKEY_CURRENT_USER、HKEY_LOCAL_MACHINE 和 HKEY_USERS 其中一个下设置的内容，在每一个下都能找到。</translation>
     </message>
 </context>
 <context>
@@ -3112,6 +3506,14 @@ Wide: %2</source>
         <source>Language:</source>
         <translation>语言：</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>F1: what each page answers, what wide and narrow calls are, and keys</source>
+        <translation>F1：各页面回答什么、什么是宽字符调用和窄字符调用，以及按键</translation>
+    </message>
 </context>
 <context>
     <name>StoreFault</name>
@@ -3142,16 +3544,16 @@ Wide: %2</source>
         <translation>存储的文件</translation>
     </message>
     <message>
-        <source>An export first keeps all that is shown here.</source>
-        <translation>先导出可保留此处显示的全部内容。</translation>
-    </message>
-    <message>
         <source>Write</source>
         <translation>写入</translation>
     </message>
     <message>
         <source>Export first...</source>
         <translation>先导出...</translation>
+    </message>
+    <message>
+        <source>An export first keeps what host libraries can read now.</source>
+        <translation>先导出可保留主机库目前能读取的内容。</translation>
     </message>
 </context>
 <context>

@@ -6,12 +6,11 @@
 #include "tests/window/EndlessJob.h"
 
 #include "host/HostLibraries.h"
-#include "inspection/profiles/NarrowRewriting.h"
-#include "inspection/profiles/ProfileLoadingJob.h"
+#include "inspection/profiles/ProfileDryRun.h"
 #include "inspection/registry/ListedValue.h"
 #include "inspection/registry/RegistryImportJob.h"
 #include "inspection/registry/ValueInput.h"
-#include "pages/profiles/LostLinesDialog.h"
+#include "pages/profiles/ProfileDifferenceDialog.h"
 #include "pages/registry/DataField.h"
 #include "pages/registry/ImportDialog.h"
 #include "pages/registry/NameDialog.h"
@@ -128,16 +127,17 @@ std::unique_ptr<QWidget> import(const WindowProbe& probe)
     return std::make_unique<ImportDialog>(QStringLiteral("file.reg"), import.plan(), &probe.page());
 }
 
-template <ProfileFamily Family>
-std::unique_ptr<QWidget> lostLines(const WindowProbe& probe)
+template <ProfileFamily Family, ProfileChange::Action Action = ProfileChange::Action::Set>
+std::unique_ptr<QWidget> difference(const WindowProbe& probe)
 {
     const ProfileFixture file;
-    file.write("; by hand\n[Net]\nHost\nQuery=a=b\n\n[App]\r\nx = 1\n");
-    ProfileLoadingJob loading(file.path());
-    while (loading.step())
+    file.write("\xef\xbb\xbf; by hand\n[Net]\nHost\nQuery=a=b\n\n[App]\r\nx = \xe4\n");
+    const ProfileChange change{Family, QStringLiteral("App"), QStringLiteral("x"),
+                               QStringLiteral("2"), Action};
+    ProfileDryRun dryRun(file.path(), change);
+    while (dryRun.step())
         ;
-    const QString changes = NarrowRewriting(file.path()).changes();
-    return std::make_unique<LostLinesDialog>(loading.document(), Family, changes, &probe.page());
+    return std::make_unique<ProfileDifferenceDialog>(dryRun.difference(), change, &probe.page());
 }
 
 // What single pages show besides.
@@ -149,8 +149,10 @@ const Scene dialogs[] = {
     {"StoredValueDialog", "registry", storedValue},
     {"NameDialog", "registry", name},
     {"ImportDialog", "registry", import},
-    {"LostLinesNarrow", "profiles", lostLines<ProfileFamily::Narrow>},
-    {"LostLinesWide", "profiles", lostLines<ProfileFamily::Wide>},
+    {"DifferenceNarrow", "profiles", difference<ProfileFamily::Narrow>},
+    {"DifferenceWide", "profiles", difference<ProfileFamily::Wide>},
+    {"DifferenceDeletion", "profiles",
+     difference<ProfileFamily::Wide, ProfileChange::Action::DeleteKey>},
 };
 
 std::vector<Scene> scenes()

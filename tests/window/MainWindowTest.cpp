@@ -247,4 +247,73 @@ TEST_F(MainWindowTest, FitsASmallScreen)
     EXPECT_LE(m_window.minimumSizeHint().height(), 560);
 }
 
+// A control of the page, which is the one that comes first.
+TEST_F(MainWindowTest, APageThatIsChosenGetsTheKeyboard)
+{
+    show();
+    const auto pageHasKeyboard = [this] {
+        const Page* page = m_window.currentPage();
+        return page && page->focusProxy() && page->focusProxy()->hasFocus();
+    };
+    for (const QString page : {"displays", "files"}) {
+        button("registry").setFocus();
+        pressDigit(page);
+        ASSERT_TRUE(reaches(page));
+        EXPECT_TRUE(QTest::qWaitFor(pageHasKeyboard)) << page.toStdString();
+    }
+    for (const QString page : {"fonts", "displays", "displays"}) {
+        QTest::mouseClick(&button(page), Qt::LeftButton);
+        ASSERT_TRUE(reaches(page));
+        EXPECT_TRUE(QTest::qWaitFor(pageHasKeyboard)) << page.toStdString();
+    }
+}
+
+enum class Part
+{
+    Rail,
+    Page,
+    StatusLine
+};
+
+Part partOf(const MainWindow& window, const QWidget* widget)
+{
+    if (window.findChild<PageRail*>()->isAncestorOf(widget))
+        return Part::Rail;
+    return window.findChild<StatusLine*>()->isAncestorOf(widget) ? Part::StatusLine : Part::Page;
+}
+
+TEST_F(MainWindowTest, TabGoesFromTheRailThroughThePageToTheStatusLine)
+{
+    m_window.showPage("files");
+    show();
+    button("files").setFocus();
+    std::vector<Part> parts{Part::Rail};
+    for (int stops = 0; stops < 100 && (stops == 0 || !button("files").hasFocus()); ++stops) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const Part part = partOf(m_window, QApplication::focusWidget());
+        if (part != parts.back())
+            parts.push_back(part);
+    }
+    EXPECT_EQ(parts, (std::vector<Part>{Part::Rail, Part::Page, Part::StatusLine, Part::Rail}));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    EXPECT_EQ(partOf(m_window, QApplication::focusWidget()), Part::StatusLine);
+}
+
+TEST_F(MainWindowTest, CtrlQClosesIt)
+{
+    show();
+    QTest::keyClick(&m_window, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(m_window.isVisible());
+}
+
+TEST_F(MainWindowTest, HasAnIconOfItsOwn)
+{
+    const QImage icon = m_window.windowIcon().pixmap(64, 64).toImage();
+    ASSERT_FALSE(icon.isNull());
+    const QColor ground = icon.pixelColor(6, 6);
+    EXPECT_EQ(ground, m_window.palette().color(QPalette::Highlight));
+    EXPECT_NE(icon.pixelColor(32, 11), ground) << "the bollard";
+    EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0) << "rounded";
+}
+
 } // namespace

@@ -48,6 +48,23 @@ TEST_F(PageRailTest, TellsWhichPageTheUserChooses)
     EXPECT_EQ(choices[1][0].toInt(), 1);
 }
 
+TEST_F(PageRailTest, TellsAnArrowKeyFromAPress)
+{
+    m_rail.setChosen(0);
+    m_rail.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_rail));
+    button("first").setFocus();
+    QSignalSpy choices(&m_rail, &PageRail::chosen);
+    QSignalSpy steps(&m_rail, &PageRail::browsed);
+    QTest::keyClick(&button("first"), Qt::Key_Down);
+    ASSERT_EQ(steps.size(), 1);
+    EXPECT_EQ(steps[0][0].toInt(), 1);
+    EXPECT_EQ(choices.size(), 0);
+    QTest::keyClick(&button("second"), Qt::Key_Space);
+    EXPECT_EQ(steps.size(), 1);
+    EXPECT_EQ(choices.size(), 1);
+}
+
 TEST_F(PageRailTest, ChecksOneButtonWithoutTellingIt)
 {
     QSignalSpy choices(&m_rail, &PageRail::chosen);

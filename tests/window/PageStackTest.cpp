@@ -6,6 +6,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,13 @@ namespace {
 class VisitedPage : public Page
 {
 public:
-    using Page::Page;
+    explicit VisitedPage(QWidget* parent) : Page(parent)
+    {
+        auto* red = new QWidget;
+        red->setPalette(QPalette(Qt::red));
+        red->setAutoFillBackground(true);
+        body()->addWidget(red);
+    }
 
     void entered() override { ++visits; }
 
@@ -107,6 +114,17 @@ TEST_F(PageStackTest, FollowsTheLastOfTheChoicesMadeDuringASlide)
     ASSERT_TRUE(enters(2));
     EXPECT_EQ(m_entered.size(), 3); // the first, the second and the third page
     EXPECT_EQ(visits(0), 1);
+}
+
+// The slide to a page that was never shown shows its picture.
+TEST_F(PageStackTest, APageCanBePicturedBeforeItIsShown)
+{
+    show();
+    QWidget& holder = *m_stack.made(1)->parentWidget();
+    holder.resize(m_stack.size());
+    QPixmap picture(holder.size());
+    holder.render(&picture);
+    EXPECT_EQ(picture.toImage().pixelColor(picture.rect().center()), QColor(Qt::red));
 }
 
 TEST_F(PageStackTest, StaysWhereThePageInViewIsChosen)

@@ -153,6 +153,7 @@ TEST_F(TableToolsTest, CopyNothingWhereNothingIsSelected)
 
 TEST_F(TableToolsTest, LeaveCtrlCToAnActionOfThePage)
 {
+    const ExpectMessage ofPopups(offscreenLimits);
     int asked = 0;
     auto* action = new QAction("Copy data", &m_table);
     m_table.addAction(action);
@@ -162,6 +163,10 @@ TEST_F(TableToolsTest, LeaveCtrlCToAnActionOfThePage)
     m_table.selectRow(0);
     EXPECT_EQ(copied(), "");
     EXPECT_EQ(asked, 1);
+    QTest::keyClick(&m_table, Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_NE(openMenu(), nullptr);
+    EXPECT_TRUE(entry(*openMenu(), "Copy")->shortcut().isEmpty());
+    openMenu()->close();
     m_table.removeAction(action);
     EXPECT_EQ(copied(), "berta\tberta\n");
 }
@@ -203,6 +208,7 @@ TEST_F(TableToolsTest, PutTheActionsOfThePageFirst)
     ASSERT_NE(openMenu(), nullptr);
     EXPECT_EQ(openMenu()->actions().first()->text(), "Edit");
     EXPECT_FALSE(entry(*openMenu(), "Copy")->isEnabled()) << "nothing is selected";
+    EXPECT_EQ(entry(*openMenu(), "Copy")->shortcut(), QKeySequence(QKeySequence::Copy));
     openMenu()->close();
 }
 

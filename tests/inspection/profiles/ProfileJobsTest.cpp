@@ -1,9 +1,6 @@
-#include "inspection/profiles/ProfileDryRun.h"
 #include "inspection/profiles/ProfileReadingJob.h"
 #include "inspection/profiles/ProfileWritingJob.h"
 #include "tests/inspection/profiles/ProfileFixture.h"
-
-#include <QDir>
 
 #include <memory>
 #include <utility>
@@ -209,51 +206,6 @@ TEST_F(ProfileWritingJobTest, HasWrittenNothingInItsFirstSteps)
     run(job, 2);
     EXPECT_FALSE(job.isWritten());
     EXPECT_EQ(m_file.bytes(), "[S]\na=1\n");
-}
-
-class ProfileDryRunTest : public testing::Test
-{
-protected:
-    // Tries a narrow change on a file of these bytes, which stays as it is.
-    void tryOut(const QByteArray& bytes, const char* value = "1")
-    {
-        m_file.write(bytes);
-        m_dryRun = std::make_unique<ProfileDryRun>(m_file.path(), narrowChange("S", "a", value));
-        run(*m_dryRun);
-        EXPECT_EQ(m_file.bytes(), bytes);
-        EXPECT_EQ(QDir(m_file.folder()).entryList(QDir::Files), QStringList("profile.ini"));
-    }
-
-    ProfileFixture m_file;
-    std::unique_ptr<ProfileDryRun> m_dryRun;
-};
-
-TEST_F(ProfileDryRunTest, FindsAChangeHarmlessThatLosesNothing)
-{
-    tryOut("[S]\na=0\n");
-    EXPECT_TRUE(m_dryRun->isReadBack());
-    EXPECT_TRUE(m_dryRun->isHarmless());
-    EXPECT_EQ(m_dryRun->bytes(), "[S]\na=0\n");
-}
-
-TEST_F(ProfileDryRunTest, FindsTheLinesThatWouldBeLost)
-{
-    tryOut("[S]\na=0\n; why\n");
-    EXPECT_FALSE(m_dryRun->isHarmless());
-    EXPECT_EQ(m_dryRun->document().lostLines(ProfileFamily::Narrow), std::vector<int>({3}));
-}
-
-TEST_F(ProfileDryRunTest, FindsWhatElseWouldChange)
-{
-    tryOut("[S]\nb=0\na=0\n");
-    EXPECT_FALSE(m_dryRun->isHarmless());
-    EXPECT_EQ(m_dryRun->changes(), QStringLiteral("The order of sections and keys changes."));
-}
-
-TEST_F(ProfileDryRunTest, EndsWhereTheValueIsNotReadBack)
-{
-    tryOut("[S]\na=0\n", "1=2");
-    EXPECT_FALSE(m_dryRun->isReadBack());
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QProxyStyle>
 #include <QScreen>
+#include <QScrollBar>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
@@ -189,6 +191,34 @@ TEST_F(HandlePanelTest, ListsTheHandlesThatHostLibrariesMade)
     refresh();
     EXPECT_EQ(rows(), QStringList({"0x1 | 0 (image) | 12 \u00d7 34, 32 bits a pixel, format 6",
                                    "0x40001 | 4 (brush) | colour 0x00c0ffee"}));
+}
+
+TEST_F(HandlePanelTest, ShowsWhatAHostLibraryMakesMeanwhile)
+{
+    made(service()->createBrush(1));
+    made(service()->createBrush(2));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().size() == 2; }, 1000));
+    control<QTableView>("Graphics handles")->selectRow(1);
+    made(service()->createImage(0, 3, 3));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().size() == 3; }, 1000));
+    EXPECT_EQ(control<QTableView>("Graphics handles")->currentIndex().row(), 2) << "the same one";
+    service()->deleteObject(m_made.front());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().size() == 2; }, 1000));
+}
+
+TEST_F(HandlePanelTest, KeepsItsPlaceWhereNothingChanges)
+{
+    for (int i = 0; i < 100; ++i)
+        made(service()->createBrush(1));
+    refresh();
+    auto* view = control<QTableView>("Graphics handles");
+    QSignalSpy resets(view->model(), &QAbstractItemModel::modelReset);
+    QTest::qWait(1100); // the page has looked for changes twice
+    EXPECT_EQ(resets.size(), 0);
+    view->verticalScrollBar()->setValue(40);
+    made(service()->createBrush(2));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().size() == 101; }, 1000));
+    EXPECT_EQ(view->verticalScrollBar()->value(), 40);
 }
 
 TEST_F(HandlePanelTest, SaysHowToGetAHandleWhenThereIsNone)

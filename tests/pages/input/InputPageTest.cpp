@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QSpinBox>
 
@@ -68,6 +69,58 @@ TEST_F(InputPageTest, LampsFollowWhatTheHostLibraryReports)
     EXPECT_FALSE(isLit("VK_SPACE"));
     service->setKeyPressed(Qt::Key_Return, false);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !isLit("VK_RETURN"); }));
+}
+
+// Long before the lamps are asked for again by time.
+TEST_F(InputPageTest, LampsFollowAnEventAsSoonAsItHasBeenDelivered)
+{
+    QElapsedTimer time;
+    bool lit = false;
+    bool dark = false;
+    int attempts = 20; // a machine that is slower than the timer tells nothing
+    do {
+        QTest::qWait(120);
+        time.start();
+        QTest::keyPress(&m_window, Qt::Key_A, Qt::ShiftModifier);
+        QCoreApplication::processEvents();
+        lit = isLit("VK_SHIFT") && isLit("VK_RSHIFT");
+        QTest::keyRelease(&m_window, Qt::Key_A);
+        QCoreApplication::processEvents();
+        dark = !isLit("VK_SHIFT");
+    } while (time.elapsed() > 40 && --attempts > 0);
+    EXPECT_TRUE(lit);
+    EXPECT_TRUE(dark);
+}
+
+TEST_F(InputPageTest, LampsAreReachedByKeyboardAndAreOneStopForTab)
+{
+    const auto stops = [this] {
+        int count = 0;
+        for (const KeyLamp* lamp : page()->findChildren<KeyLamp*>())
+            count += (lamp->focusPolicy() & Qt::TabFocus) != 0 ? 1 : 0;
+        return count;
+    };
+    EXPECT_EQ(stops(), 2); // the known keys, and the others
+    control<KeyLamp>("VK_SHIFT")->setFocus();
+    const std::pair<Qt::Key, const char*> steps[] = {
+        {Qt::Key_Down, "VK_LSHIFT"}, {Qt::Key_Right, "VK_LCONTROL"}, {Qt::Key_Up, "VK_CONTROL"},
+        {Qt::Key_Left, "VK_SHIFT"},  {Qt::Key_Left, "VK_SHIFT"},     {Qt::Key_End, "VK_SPACE"},
+        {Qt::Key_Down, "VK_SPACE"},  {Qt::Key_Home, "VK_SHIFT"}};
+    for (const auto& [key, lamp] : steps) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        EXPECT_EQ(QApplication::focusWidget()->accessibleName(), lamp);
+    }
+    QTest::mouseClick(control<KeyLamp>("VK_F12"), Qt::LeftButton);
+    EXPECT_TRUE(control<KeyLamp>("VK_F12")->hasFocus());
+    EXPECT_EQ(stops(), 2);
+}
+
+TEST_F(InputPageTest, ShowsWhichLampHasTheKeyboard)
+{
+    auto* lamp = control<KeyLamp>("VK_LMENU");
+    const QImage without = lamp->grab().toImage();
+    lamp->setFocus();
+    EXPECT_NE(lamp->grab().toImage(), without);
 }
 
 TEST_F(InputPageTest, ReportsReturnAndSpaceToTheService)

@@ -184,8 +184,10 @@ TEST_F(LargeProfile, IsWrittenInManyTurns)
     m_probe.type("key", "new");
     m_probe.type("value", "x");
     m_probe.click("write");
+    EXPECT_GE(turnsUntil([] { return question() != nullptr; }), 10);
     EXPECT_FALSE(written());
-    EXPECT_GE(turnsUntil(written), 10);
+    question()->accept();
+    EXPECT_GE(turnsUntil(written), 3);
     stop();
     EXPECT_TRUE(m_file.bytes().contains("\nnew=x\n"));
 }

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -44,20 +45,41 @@ protected:
 
     void request(const QString& section, const QString& key, const QString& value, int family) const
     {
+        m_probe.control<QComboBox>("family").setCurrentIndex(family);
         m_probe.type("section", section);
         m_probe.type("key", key);
         m_probe.type("value", value);
-        m_probe.control<QComboBox>("family").setCurrentIndex(family);
         m_probe.click("write");
         EXPECT_TRUE(m_probe.settle());
     }
-    // The dialog that asks before lines are lost.
+    // The dialog that asks before more changes than what was asked for.
     static QDialog* question() { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
     void accept() const
     {
         ASSERT_NE(question(), nullptr);
         question()->findChild<QPushButton*>(QStringLiteral("writeAllTheSame"))->click();
         ASSERT_TRUE(m_probe.settle());
+    }
+    // The rows of its table that tell of a change: sign, reason and text.
+    static QStringList changedLines()
+    {
+        QStringList lines;
+        const auto* table = question()->findChild<QTableView*>(QStringLiteral("difference"));
+        const QAbstractItemModel& rows = *table->model();
+        for (int row = 0; row < rows.rowCount(); ++row) {
+            const auto cell = [&rows, row](int column) {
+                return rows.index(row, column).data().toString();
+            };
+            if (cell(0) == QStringLiteral("−") || cell(0) == QStringLiteral("+"))
+                lines << (cell(0) + cell(4) + '|' + cell(5));
+        }
+        return lines;
+    }
+    // A sentence of the dialog; empty where it is not shown.
+    static QString sentence(const char* name)
+    {
+        const auto* label = question()->findChild<QLabel*>(QLatin1String(name));
+        return label->isHidden() ? QString() : label->text();
     }
     QStringList files() const { return QDir(m_file.folder()).entryList(QDir::Files, QDir::Name); }
     QString status() const { return m_probe.page().statusText(); }

@@ -144,8 +144,7 @@ TEST_F(RegistryMenuTest, ASentenceSaysThatTheRootsAreOne)
         if (label->isVisible())
             texts.append(label->text());
     }
-    EXPECT_TRUE(texts.contains("The four root keys are one here: what is set under one is found "
-                               "under each."))
+    EXPECT_TRUE(texts.contains("All four root keys are one here."))
         << texts.join('|').toStdString();
 }
 

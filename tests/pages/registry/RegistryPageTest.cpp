@@ -1,6 +1,7 @@
 #include "host/HostLibraries.h"
 #include "pages/registry/PathEdit.h"
 #include "pages/registry/RegistryValueModel.h"
+#include "tests/pages/SmallFont.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
 #include "tests/support/MessageGuard.h"
 #include "tests/window/EndlessJob.h"
@@ -241,12 +242,13 @@ TEST_F(RegistryPageTest, OffersTheKeyThatDiffersInCaseOnly)
     EXPECT_FALSE(jump->isVisible());
 }
 
-TEST_F(RegistryPageTest, GoesToWhatWindowsShowsBelowTheComputer)
+TEST_F(RegistryPageTest, GoesToAPathAsItIsCopiedOnWindows)
 {
     store("A/B/v", "1$1");
     store("Computer/x/v", "1$1");
     show();
-    for (const char* typed : {"Computer\\HKEY_LOCAL_MACHINE\\A\\B", "computer\\hklm\\A\\B"}) {
+    for (const char* typed : {"Computer\\HKEY_LOCAL_MACHINE\\A\\B", "computer\\hklm\\A\\B",
+                              "[HKEY_CURRENT_USER\\A\\B]", " \"HKCU\\A\\B\""}) {
         enterAddress(typed);
         EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\A\\B");
         m_page.goTo("");
@@ -264,8 +266,12 @@ TEST_F(RegistryPageTest, CompletesTheKeyThatIsTyped)
     auto* line = m_page.findChild<QLineEdit*>("address");
     line->setFocus();
     line->clear();
-    QTest::keyClicks(line, "HKLM\\Software\\m");
+    QTest::keyClicks(line, "hkey_l");
     auto* offered = line->completer()->completionModel();
+    ASSERT_EQ(offered->rowCount(), 1);
+    EXPECT_EQ(offered->index(0, 0).data().toString().toStdString(), "HKEY_LOCAL_MACHINE");
+    line->clear();
+    QTest::keyClicks(line, "HKLM\\Software\\m");
     ASSERT_EQ(offered->rowCount(), 2);
     EXPECT_EQ(offered->index(0, 0).data().toString().toStdString(), "HKLM\\Software\\Maker");
     QWidget* popup = line->completer()->popup();
@@ -294,6 +300,15 @@ TEST_F(RegistryPageTest, ShowsBothEndsOfAPathThatDoesNotFit)
     EXPECT_EQ(m_page.findChild<QTableView*>("found")->textElideMode(), Qt::ElideMiddle);
 }
 
+TEST_F(RegistryPageTest, IsNotTooWideForTheSmallestWindow)
+{
+    const SmallFont font;
+    RegistryPage page;
+    page.find();
+    EXPECT_LE(page.minimumSizeHint().width(), 640);
+    EXPECT_LE(page.minimumSizeHint().height(), 520);
+}
+
 TEST_F(RegistryPageTest, SaysWhatASearchLacks)
 {
     show();
@@ -306,7 +321,7 @@ TEST_F(RegistryPageTest, SaysWhatASearchLacks)
         box->setChecked(false);
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(status().toStdString(),
-              "Choose where to search: in keys, in names, in data, or in several.");
+              "Choose where to search: in keys, in names, in values, or in several.");
 }
 
 TEST_F(RegistryPageTest, IsNotReadAnewWhileAJobRuns)

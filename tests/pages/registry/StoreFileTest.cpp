@@ -82,6 +82,57 @@ TEST_F(StoreFileTest, AChangeIsMadeWhenTheUserWantsIt)
     EXPECT_EQ(stored("A/n").toStdString(), "1$7");
 }
 
+class UndoInAStoreThatIsGone : public StoreFileTest
+{
+protected:
+    void SetUp() override
+    {
+        open();
+        chooseNew(NewDword);
+        type("n", "7");
+        ASSERT_TRUE(accept());
+        ASSERT_TRUE(QTest::qWaitFor([] { return StoreFile::bytes().contains("n=1$7"); }));
+        QCoreApplication::processEvents(); // the page takes notice of the saving
+        StoreFile::remove();
+        m_page.undoStack().undo();
+        ASSERT_TRUE(words().contains("is gone")) << words().toStdString();
+    }
+
+    bool canUndoAgain()
+    {
+        return QTest::qWaitFor(
+            [this] { return m_page.undoStack().canUndo() && !m_page.undoStack().canRedo(); });
+    }
+};
+
+TEST_F(UndoInAStoreThatIsGone, IsDroppedByCancelAndCanBeAskedForAgain)
+{
+    reject();
+    EXPECT_TRUE(canUndoAgain());
+    EXPECT_EQ(stored("A/n").toStdString(), "1$7");
+    m_page.undoStack().undo();
+    EXPECT_TRUE(words().contains("is gone")) << words().toStdString();
+    reject();
+    EXPECT_TRUE(canUndoAgain());
+}
+
+TEST_F(UndoInAStoreThatIsGone, IsDroppedWithTheExportThatWasToComeFirst)
+{
+    press("Export first...");
+    reject();
+    EXPECT_TRUE(canUndoAgain());
+    EXPECT_EQ(stored("A/n").toStdString(), "1$7");
+}
+
+TEST_F(UndoInAStoreThatIsGone, IsMadeWhenTheUserWantsIt)
+{
+    press("Write");
+    settle();
+    EXPECT_FALSE(holds("A/n"));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(m_page.undoStack().canRedo());
+}
+
 TEST_F(StoreFileTest, EveryActionThatChangesTheStoreAsks)
 {
     open();

@@ -66,6 +66,13 @@ TEST_F(ValueDialogTest, SaysWhatWouldReplaceTheStoredText)
     reject();
 }
 
+TEST_F(ValueDialogTest, ShowsLineEndsInTheStoredText)
+{
+    edit("5$a\r\nb");
+    EXPECT_EQ(storedLine(), QString::fromUtf16(u"5$a\u240d\u21b5b"));
+    reject();
+}
+
 TEST_F(ValueDialogTest, HasNoStoredTextForANewValue)
 {
     show();

@@ -1,0 +1,6 @@
+#include "app/Version.h"
+
+const char* programVersion()
+{
+    return QUAYSIDE_VERSION;
+}

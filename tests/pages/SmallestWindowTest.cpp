@@ -1,0 +1,62 @@
+#include "tests/pages/CutTexts.h"
+#include "tests/pages/PageNames.h"
+#include "tests/pages/SmallFont.h"
+#include "tests/pages/WindowProbe.h"
+
+#include "window/ScrolledBody.h"
+#include "window/StatusLine.h"
+#include "window/WindowSize.h"
+
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Language = WindowProbe::Language;
+
+class SmallestWindow : public testing::TestWithParam<std::tuple<std::string, Language>>
+{
+protected:
+    SmallestWindow()
+    {
+        window().resize(smallestWindow);
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window()));
+    }
+
+    QWidget& window() { return *m_probe.page().window(); }
+    const ScrolledBody& body() { return *m_probe.page().findChild<ScrolledBody*>(); }
+
+    SmallFont m_font;
+    WindowProbe m_probe{std::get<0>(GetParam()), std::get<1>(GetParam())};
+};
+
+TEST_P(SmallestWindow, ShowsAllOfThePage)
+{
+    EXPECT_EQ(window().size(), QSize(780, 460));
+    auto* tabs = m_probe.page().findChild<QTabWidget*>();
+    for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+        if (tabs)
+            tabs->setCurrentIndex(tab);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return cutTexts(window()).isEmpty(); }, 1000))
+            << cutTexts(window()).join(QLatin1String(" | ")).toStdString();
+        EXPECT_EQ(body().horizontalScrollBar()->maximum(), 0);
+        EXPECT_EQ(body().verticalScrollBar()->maximum(), 0)
+            << body().widget()->height() << " in " << body().viewport()->height();
+    }
+    const QWidget& status = *window().findChild<StatusLine*>();
+    EXPECT_TRUE(window().rect().contains(status.geometry()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, SmallestWindow,
+                         testing::Combine(testing::ValuesIn(pageNames()),
+                                          testing::Values(Language::English, Language::Chinese)),
+                         [](const auto& row) {
+                             return std::get<0>(row.param) +
+                                    (std::get<1>(row.param) == Language::English ? "English"
+                                                                                 : "Chinese");
+                         });
+
+} // namespace
