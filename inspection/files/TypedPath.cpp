@@ -30,7 +30,7 @@ QString typedPath(const QString& typed)
     const QString text = typed.trimmed();
     if (isQuoted(text))
         return text.mid(1, text.size() - 2);
-    const QString ofAddress = pathOfAddress(text);
+    QString ofAddress = pathOfAddress(text);
     if (!ofAddress.isNull())
         return ofAddress;
     if (text == u"~" || text.startsWith(QLatin1String("~/")))

@@ -34,6 +34,9 @@ public:
     /// Takes over what a comparison that has been finished has found out.
     void settle(const StoreComparisonJob& comparison);
 
+    /// The file that the state is about.
+    const FileIdentity& file() const { return m_seen; }
+
     /// Grows with everything that may have changed the store.
     int revision();
 

@@ -97,7 +97,7 @@ void FoundTable::addActions()
     auto* open = new QAction(tr("Open the folder"), this);
     connect(open, &QAction::triggered, this, [this] { openFolder(currentIndex()); });
     auto* parentFolder = new QAction(tr("Folder above"), this);
-    parentFolder->setShortcuts({Qt::Key_Backspace, QKeySequence(Qt::ALT + Qt::Key_Up)});
+    parentFolder->setShortcuts({Qt::Key_Backspace, QKeySequence(QStringLiteral("Alt+Up"))});
     parentFolder->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(parentFolder, &QAction::triggered, this, &FoundTable::parentRequested);
     QWidget::addActions({open, parentFolder});

@@ -123,12 +123,12 @@ QWidget* ImportDialog::makeTable()
     table->setModel(m_statements);
     arrangeTable(*table);
     table->setAccessibleName(tr("Statements of the file"));
-    fitColumns(
-        *table,
-        {QStringLiteral("[x] Refused: a sentence of some length that says why it cannot be set"),
-         QStringLiteral("HKEY_CURRENT_USER\\Software"), QStringLiteral("Name of a value"),
-         QStringLiteral("REG_DWORD 123 (0x0000007b)"),
-         QStringLiteral("REG_DWORD 123 (0x0000007b)")});
+    table->setTextElideMode(Qt::ElideMiddle);
+    // Old and new are to be seen beside each other in a window of 800 pixels, too.
+    fitColumns(*table,
+               {QStringLiteral("[x] Refused: a sentence that says why"),
+                QStringLiteral("HKEY_CURRENT_USER\\S"), QStringLiteral("Name of one"),
+                QStringLiteral("REG_SZ the old text"), QStringLiteral("REG_SZ the new text")});
     return table;
 }
 

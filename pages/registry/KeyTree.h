@@ -20,10 +20,15 @@ public:
     /// Selects a key, or the nearest one above it.
     void choose(const QString& path);
 
+    /// Shows the name of an item, too, where it stands far to the right.
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
 signals:
     /// Another key is selected.
     void chosen();
 
 private:
+    void makeRoom(const QModelIndex& index);
+
     RegistryTreeModel* m_keys;
 };

@@ -65,16 +65,16 @@ RegistryActions::RegistryActions(PageContext& page, StoreWatch& watch, KeyTree& 
       m_tree(tree),
       m_table(table),
       m_window(window),
-      m_history(new RegistryHistory(
-          page, [this](const auto& write) { m_gate->pass(write); }, window)),
-      m_editor(new RegistryEditor(page, *m_history, window)),
-      m_renamer(new RegistryRenamer(page, *m_history, window)),
-      m_remover(new RegistryRemover(page, *m_history, window)),
-      m_transfer(new RegistryTransfer(page, *m_history, window)),
-      m_clipboard(new RegistryClipboard(page, window)),
       m_gate(new StoreGate(
           page, watch, [this](const auto& exported) { m_transfer->askExport({}, exported); },
-          window))
+          window)),
+      m_history(new RegistryHistory(
+          page, [this](const auto& write) { m_gate->pass(write); }, window)),
+      m_editor(new RegistryEditor(page, *m_gate, *m_history, window)),
+      m_renamer(new RegistryRenamer(page, *m_gate, *m_history, window)),
+      m_remover(new RegistryRemover(page, *m_gate, *m_history, window)),
+      m_transfer(new RegistryTransfer(page, *m_gate, *m_history, window)),
+      m_clipboard(new RegistryClipboard(page, window))
 {
     makeActions();
     enable(false);

@@ -76,13 +76,13 @@ private:
     KeyTree& m_tree;
     ValueTable& m_table;
     QWidget* m_window;
+    StoreGate* m_gate; ///< every action that changes the store goes through it
     RegistryHistory* m_history;
     RegistryEditor* m_editor;
     RegistryRenamer* m_renamer;
     RegistryRemover* m_remover;
     RegistryTransfer* m_transfer;
     RegistryClipboard* m_clipboard;
-    StoreGate* m_gate;             ///< every action that changes the store goes through it
     QWidget* m_lastView = nullptr; ///< the view that had the keyboard last
     QMenu* m_newMenu = nullptr;
     QAction* m_renameKey = nullptr;

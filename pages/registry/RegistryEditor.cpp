@@ -9,6 +9,7 @@
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/NameDialog.h"
 #include "pages/registry/RegistryHistory.h"
+#include "pages/registry/StoreGate.h"
 #include "pages/registry/ValueDialog.h"
 
 namespace {
@@ -27,16 +28,10 @@ bool isTaken(const QString& path, const QString& name)
 
 } // namespace
 
-RegistryEditor::RegistryEditor(PageContext& page, RegistryHistory& history, QWidget* window)
-    : QObject(window), m_page(page), m_history(history), m_window(window)
+RegistryEditor::RegistryEditor(PageContext& page, StoreGate& gate, RegistryHistory& history,
+                               QWidget* window)
+    : QObject(window), m_page(page), m_gate(gate), m_history(history), m_window(window)
 {
-}
-
-void RegistryEditor::open(QDialog* dialog, const std::function<void()>& accepted)
-{
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, accepted);
-    dialog->open();
 }
 
 void RegistryEditor::newKey(const QString& parentPath)
@@ -45,7 +40,7 @@ void RegistryEditor::newKey(const QString& parentPath)
         return;
     auto* dialog = new NameDialog(tr("New key"), RegistryPath::shown(parentPath),
                                   &ValueInput::keyNameProblem, m_window);
-    open(dialog, [this, dialog, parentPath] { createKey(parentPath, dialog->name()); });
+    m_gate.open(dialog, [this, dialog, parentPath] { createKey(parentPath, dialog->name()); });
 }
 
 void RegistryEditor::createKey(const QString& parentPath, const QString& name)
@@ -93,7 +88,7 @@ void RegistryEditor::newValue(const QString& path, unsigned int type)
     if (isKeyRefused(m_page, path))
         return;
     auto* dialog = new ValueDialog(type, m_window);
-    open(dialog, [this, dialog, path] { createValue(path, *dialog); });
+    m_gate.open(dialog, [this, dialog, path] { createValue(path, *dialog); });
 }
 
 void RegistryEditor::createValue(const QString& path, const ValueDialog& dialog)
@@ -132,7 +127,7 @@ QString RegistryEditor::whyNotEdited(const ListedValue& value) const
 void RegistryEditor::openEditor(const QString& path, const ListedValue& value)
 {
     auto* dialog = new ValueDialog(value, m_window);
-    open(dialog, [this, dialog, path] { endEditing(path, *dialog); });
+    m_gate.open(dialog, [this, dialog, path] { endEditing(path, *dialog); });
 }
 
 void RegistryEditor::endEditing(const QString& path, const ValueDialog& dialog)

@@ -9,6 +9,7 @@ class PageContext;
 class QDialog;
 class QWidget;
 class RegistryHistory;
+class StoreGate;
 class ValueDialog;
 
 /// Creates keys and sets values: asks for what is needed, writes it through the service, and
@@ -20,7 +21,7 @@ class RegistryEditor : public QObject
 public:
     /// Dialogs open over `window`, which owns this object too. `history` gets what is changed, and
     /// outlives it.
-    RegistryEditor(PageContext& page, RegistryHistory& history, QWidget* window);
+    RegistryEditor(PageContext& page, StoreGate& gate, RegistryHistory& history, QWidget* window);
 
     void newKey(const QString& parentPath);
     void newValue(const QString& path, unsigned int type);
@@ -31,7 +32,6 @@ signals:
     void changed(const QString& path, const QString& name);
 
 private:
-    void open(QDialog* dialog, const std::function<void()>& accepted);
     void createKey(const QString& parentPath, const QString& name);
     bool create(const QString& parentPath, const QString& name);
     void reportPresent(const QString& path);
@@ -44,6 +44,7 @@ private:
     void reportWritten(const QString& path, const ValueDialog& dialog);
 
     PageContext& m_page;
+    StoreGate& m_gate;
     RegistryHistory& m_history;
     QWidget* m_window;
 };

@@ -7,6 +7,7 @@
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/RegistryHistory.h"
 #include "pages/registry/StoreBackup.h"
+#include "pages/registry/StoreGate.h"
 #include "window/Page.h"
 
 #include <QLocale>
@@ -26,8 +27,9 @@ QString deletedText(const QString& name, std::size_t count)
 
 } // namespace
 
-RegistryRemover::RegistryRemover(PageContext& page, RegistryHistory& history, QWidget* window)
-    : QObject(window), m_page(page), m_history(history), m_window(window)
+RegistryRemover::RegistryRemover(PageContext& page, StoreGate& gate, RegistryHistory& history,
+                                 QWidget* window)
+    : QObject(window), m_page(page), m_gate(gate), m_history(history), m_window(window)
 {
 }
 
@@ -45,8 +47,9 @@ void RegistryRemover::ask(const QString& question, const QString& detail,
     auto* backup = new BackupBox;
     box->setCheckBox(backup);
     connect(box, &QMessageBox::buttonClicked, this, [=](const QAbstractButton* button) {
+        const bool isBackupWanted = backup->isChecked();
         if (button == yes)
-            changeWithBackup(m_page, backup->isChecked(), confirmed);
+            m_gate.passAgain([=] { changeWithBackup(m_page, isBackupWanted, confirmed); });
     });
     box->open();
 }

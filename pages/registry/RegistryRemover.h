@@ -12,6 +12,7 @@ class PageContext;
 class QWidget;
 class RegistryCountJob;
 class RegistryHistory;
+class StoreGate;
 
 /// Deletes keys and values: asks first, saying what goes along, then deletes through the service.
 class RegistryRemover : public QObject
@@ -21,7 +22,7 @@ class RegistryRemover : public QObject
 public:
     /// Questions open over `window`, which owns this object too. `history` gets what is deleted,
     /// and outlives it.
-    RegistryRemover(PageContext& page, RegistryHistory& history, QWidget* window);
+    RegistryRemover(PageContext& page, StoreGate& gate, RegistryHistory& history, QWidget* window);
 
     /// Asks once for all. Does not read the values.
     void removeValues(const QString& path, const std::vector<ListedValue>& values);
@@ -42,6 +43,7 @@ private:
     void removeKeys(const QString& path, const QStringList& keys);
 
     PageContext& m_page;
+    StoreGate& m_gate;
     RegistryHistory& m_history;
     QWidget* m_window;
 };

@@ -9,6 +9,7 @@
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/NameDialog.h"
 #include "pages/registry/RegistryHistory.h"
+#include "pages/registry/StoreGate.h"
 
 namespace {
 
@@ -38,8 +39,9 @@ QString valueProblem(const QString& path, const QString& oldName, const QString&
 
 } // namespace
 
-RegistryRenamer::RegistryRenamer(PageContext& page, RegistryHistory& history, QWidget* window)
-    : QObject(window), m_page(page), m_history(history), m_window(window)
+RegistryRenamer::RegistryRenamer(PageContext& page, StoreGate& gate, RegistryHistory& history,
+                                 QWidget* window)
+    : QObject(window), m_page(page), m_gate(gate), m_history(history), m_window(window)
 {
 }
 
@@ -51,10 +53,7 @@ void RegistryRenamer::renameKey(const QString& path)
     auto* dialog =
         new NameDialog(tr("Rename the key"), RegistryPath::shown(RegistryPath::parent(path)),
                        problem, m_window, RegistryPath::name(path));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this,
-            [this, dialog, path] { moveKey(path, dialog->name()); });
-    dialog->open();
+    m_gate.open(dialog, [this, dialog, path] { moveKey(path, dialog->name()); });
 }
 
 bool RegistryRenamer::isKeyFixed(const QString& path)
@@ -102,10 +101,7 @@ void RegistryRenamer::renameValue(const QString& path, const ListedValue& value)
     const auto problem = [path, old](const QString& name) { return valueProblem(path, old, name); };
     auto* dialog =
         new NameDialog(tr("Rename the value"), RegistryPath::shown(path), problem, m_window, old);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this,
-            [this, dialog, path, old] { moveValue(path, old, dialog->name()); });
-    dialog->open();
+    m_gate.open(dialog, [this, dialog, path, old] { moveValue(path, old, dialog->name()); });
 }
 
 bool RegistryRenamer::isValueFixed(const ListedValue& value)

@@ -7,6 +7,7 @@ class ListedValue;
 class PageContext;
 class QWidget;
 class RegistryHistory;
+class StoreGate;
 
 /// Renames keys and values. The registry service has no call for it, and reading a value and
 /// setting it again would alter some: each entry gets its new path as it stands in the store.
@@ -17,7 +18,7 @@ class RegistryRenamer : public QObject
 public:
     /// Dialogs open over `window`, which owns this object too. `history` makes the changes, and
     /// outlives it.
-    RegistryRenamer(PageContext& page, RegistryHistory& history, QWidget* window);
+    RegistryRenamer(PageContext& page, StoreGate& gate, RegistryHistory& history, QWidget* window);
 
     void renameKey(const QString& path);
     /// `path` is the key that shows the value.
@@ -32,6 +33,7 @@ private:
     void reportSame(const QString& name);
 
     PageContext& m_page;
+    StoreGate& m_gate;
     RegistryHistory& m_history;
     QWidget* m_window;
 };

@@ -8,6 +8,7 @@
 #include "pages/registry/ImportDialog.h"
 #include "pages/registry/RegistryHistory.h"
 #include "pages/registry/StoreBackup.h"
+#include "pages/registry/StoreGate.h"
 #include "window/FileDialog.h"
 
 #include <QFile>
@@ -35,8 +36,9 @@ QString fault(const QFileInfo& file)
 
 } // namespace
 
-RegistryTransfer::RegistryTransfer(PageContext& page, RegistryHistory& history, QWidget* window)
-    : QObject(window), m_page(page), m_history(history), m_window(window)
+RegistryTransfer::RegistryTransfer(PageContext& page, StoreGate& gate, RegistryHistory& history,
+                                   QWidget* window)
+    : QObject(window), m_page(page), m_gate(gate), m_history(history), m_window(window)
 {
 }
 
@@ -142,8 +144,10 @@ void RegistryTransfer::preview(const QString& file, const RegistryImportJob& job
     auto* dialog = new ImportDialog(QFileInfo(file).fileName(), plan, m_window, decoding);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, file, plan] {
-        changeWithBackup(m_page, dialog->isBackupWanted(),
-                         [this, file, plan] { apply(file, plan); });
+        const bool isBackupWanted = dialog->isBackupWanted();
+        m_gate.passAgain([=] {
+            changeWithBackup(m_page, isBackupWanted, [this, file, plan] { apply(file, plan); });
+        });
     });
     connect(dialog, &ImportDialog::codePageChosen, this,
             [this, file](const QByteArray& codePage) { importFile(file, codePage); });

@@ -15,6 +15,7 @@ class RegistryApplyJob;
 class RegistryExportJob;
 class RegistryHistory;
 class RegistryImportJob;
+class StoreGate;
 
 /// Export and import of registry files from the registry page.
 class RegistryTransfer : public QObject
@@ -24,7 +25,7 @@ class RegistryTransfer : public QObject
 public:
     /// Dialogs open over `window`, which owns this object too. `history` gets what is imported, and
     /// outlives it.
-    RegistryTransfer(PageContext& page, RegistryHistory& history, QWidget* window);
+    RegistryTransfer(PageContext& page, StoreGate& gate, RegistryHistory& history, QWidget* window);
 
     /// Asks for a file, then writes the key with everything below it. `exported` is called when
     /// that has succeeded.
@@ -51,6 +52,7 @@ private:
     void refuse(const QString& file, const QString& why);
 
     PageContext& m_page;
+    StoreGate& m_gate;
     RegistryHistory& m_history;
     QWidget* m_window;
 };

@@ -4,9 +4,30 @@
 #include "window/Page.h"
 
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 using State = StoreWatch::State;
+
+/// The way of an action through the gate. It ends with the last copy of the action.
+class StoreGate::Passage
+{
+public:
+    Passage(StoreGate& gate, const Action& dropped) : m_gate(&gate), m_dropped(dropped) {}
+    Passage(const Passage&) = delete;
+    Passage& operator=(const Passage&) = delete;
+    ~Passage()
+    {
+        if (m_gate && m_dropped)
+            QMetaObject::invokeMethod(m_gate, m_dropped, Qt::QueuedConnection);
+    }
+
+    void pass() { m_dropped = nullptr; }
+
+private:
+    QPointer<StoreGate> m_gate; ///< null when the page is being destroyed
+    Action m_dropped;
+};
 
 StoreGate::StoreGate(PageContext& page, StoreWatch& watch, Export exportStore, QWidget* window)
     : QObject(window),
@@ -17,17 +38,46 @@ StoreGate::StoreGate(PageContext& page, StoreWatch& watch, Export exportStore, Q
 {
 }
 
-void StoreGate::pass(const Action& write)
+void StoreGate::pass(const Action& write, const Action& dropped)
 {
+    m_allowed.reset();
+    const auto passage = std::make_shared<Passage>(*this, dropped);
+    const Action guarded = [write, passage] {
+        passage->pass();
+        write();
+    };
     if (m_watch.state() != State::Unknown)
-        return decide(write);
+        return decide(guarded);
     m_page.startJob(tr("Comparing the store with its file"), std::make_unique<StoreComparisonJob>(),
-                    [this, write](const StoreComparisonJob& job, bool complete) {
+                    [this, guarded](const StoreComparisonJob& job, bool complete) {
                         if (!complete)
                             return m_page.setStatus(tr("Cancelled: nothing was changed."));
                         m_watch.settle(job);
-                        decide(write);
+                        decide(guarded);
                     });
+}
+
+void StoreGate::passAgain(const Action& write, const Action& dropped)
+{
+    const State state = m_watch.state();
+    if (state != State::InStep && state != State::Unknown && m_watch.file() == m_allowed)
+        write();
+    else
+        pass(write, dropped);
+}
+
+void StoreGate::open(QDialog* dialog, const Action& accepted)
+{
+    const QPointer<QDialog> open = dialog;
+    connect(dialog, &QDialog::rejected, dialog, &QObject::deleteLater);
+    connect(dialog, &QDialog::accepted, this, [this, open, accepted] {
+        const Action write = [open, accepted] {
+            accepted();
+            open->deleteLater();
+        };
+        passAgain(write, [open] { open->open(); });
+    });
+    dialog->open();
 }
 
 void StoreGate::decide(const Action& write)
@@ -50,10 +100,12 @@ void StoreGate::ask(const Action& write)
     glowing(qobject_cast<QPushButton*>(box->button(QMessageBox::Cancel)));
     box->setDefaultButton(QMessageBox::Cancel);
     connect(box, &QMessageBox::buttonClicked, this, [=](const QAbstractButton* button) {
-        if (button == yes)
+        if (button == yes) {
+            m_allowed = m_watch.file();
             write();
-        else if (button == first)
+        } else if (button == first) {
             m_export([this, write] { pass(write); });
+        }
     });
     box->open();
 }

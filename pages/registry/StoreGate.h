@@ -1,11 +1,15 @@
 #pragma once
 
+#include "inspection/registry/FileIdentity.h"
+
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
 class PageContext;
 class StoreWatch;
+class QDialog;
 class QWidget;
 
 /// What every change of the store passes first: where another program has deleted, replaced or
@@ -23,10 +27,19 @@ public:
     StoreGate(PageContext& page, StoreWatch& watch, Export exportStore, QWidget* window);
 
     /// Calls `write` at once where the store is in step with its file; where it is not, when the
-    /// user has said so, and never after Cancel.
-    void pass(const Action& write);
+    /// user has said so. Otherwise `dropped` is called, in a turn of the event loop of its own.
+    void pass(const Action& write, const Action& dropped = {});
+    /// For what a dialog behind the gate asks for: it may have been open for long, and is asked
+    /// about once more only where something has happened to the file since.
+    void passAgain(const Action& write, const Action& dropped = {});
+
+    /// Opens a dialog behind the gate and owns it. `accepted` changes the store; where the user
+    /// does not want that any longer, the dialog comes back with what was typed.
+    void open(QDialog* dialog, const Action& accepted);
 
 private:
+    class Passage;
+
     void decide(const Action& write);
     void ask(const Action& write);
 
@@ -34,4 +47,6 @@ private:
     StoreWatch& m_watch;
     Export m_export;
     QWidget* m_window;
+    /// The file that may be written over: the user has said so since the last action began.
+    std::optional<FileIdentity> m_allowed;
 };

@@ -93,6 +93,7 @@ TEST_P(Styles, LinesThatAreDroppedAreFainterThanThoseThatAreRead)
     const ProfileFixture file;
     file.write("[Net]\nHosts=Hosts\n\nHosts\n");
     const WindowProbe probe("profiles");
+    probe.page().window()->resize(1000, 900); // all lines can be seen, whatever a style needs
     probe.type("file", file.path());
     QTest::keyClick(&probe.control<QWidget>("file"), Qt::Key_Return);
     ASSERT_TRUE(probe.settle());

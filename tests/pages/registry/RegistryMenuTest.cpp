@@ -79,11 +79,10 @@ TEST_F(RegistryMenuTest, HasWhatTheButtonsDo)
                                 "Copy path", "Copy key as .reg", "",           "Search...",
                                 "Import...", "Export key..."};
     EXPECT_EQ(menuOf(tree()), ofKeys);
-    const QStringList ofTables = {"Copy", "Copy with header"};
     const QStringList ofValues = {"New",       "Edit value", "Rename value...", "Delete value",
                                   "",          "Copy data",  "Copy as .reg",    "",
                                   "Copy path", "Search...",  "Import...",       "Export key..."};
-    EXPECT_EQ(menuOf(table()), ofTables + ofValues);
+    EXPECT_EQ(menuOf(table()), ofValues);
 }
 
 TEST_F(RegistryMenuTest, CopiesTheDataOfOneValue)

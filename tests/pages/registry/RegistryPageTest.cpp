@@ -300,6 +300,22 @@ TEST_F(RegistryPageTest, ShowsBothEndsOfAPathThatDoesNotFit)
     EXPECT_EQ(m_page.findChild<QTableView*>("found")->textElideMode(), Qt::ElideMiddle);
 }
 
+TEST_F(RegistryPageTest, ShowsTheNameOfAKeyAtAnyDepth)
+{
+    const QString path = "a/b/c/d/e/f/g/h/i/j/deep key";
+    store(path + "/v", "1$1");
+    show();
+    m_page.goTo(path);
+    QTest::qWait(0);
+    const QRect item = tree().visualRect(tree().currentIndex());
+    const int name = tree().fontMetrics().averageCharWidth() * 12;
+    EXPECT_GE(item.left(), 0);
+    EXPECT_GE(tree().viewport()->width() - item.left(), name);
+    EXPECT_GE(item.width(), name);
+    m_page.goTo("a");
+    EXPECT_GE(tree().visualRect(tree().currentIndex()).left(), 0);
+}
+
 TEST_F(RegistryPageTest, IsNotTooWideForTheSmallestWindow)
 {
     const SmallFont font;

@@ -160,6 +160,52 @@ TEST_F(StoreFileTest, EveryActionThatChangesTheStoreAsks)
     }
 }
 
+TEST_F(StoreFileTest, AFileThatGoesWhileADialogIsOpenIsAskedAboutToo)
+{
+    open();
+    chooseNew(NewDword);
+    type("n", "7");
+    StoreFile::remove();
+    ASSERT_TRUE(accept());
+    EXPECT_TRUE(words().contains("is gone")) << words().toStdString();
+    EXPECT_FALSE(holds("A/n"));
+    reject();
+    // What was typed comes back.
+    ASSERT_TRUE(QTest::qWaitFor([] {
+        auto* back = QApplication::activeModalWidget();
+        return back && back->findChild<QLineEdit*>() && !dynamic_cast<QMessageBox*>(back);
+    }));
+    EXPECT_EQ(dialog().findChild<QLineEdit*>()->text().toStdString(), "n");
+    ASSERT_TRUE(accept());
+    press("Write");
+    EXPECT_EQ(stored("A/n").toStdString(), "1$7");
+    EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
+TEST_F(StoreFileTest, NobodyIsAskedTwiceAboutTheSame)
+{
+    open();
+    StoreFile::remove();
+    pressDelete(tree());
+    press("Write");
+    EXPECT_TRUE(words().contains("Delete the key")) << words().toStdString();
+    ASSERT_TRUE(accept());
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_FALSE(holds("A/v"));
+}
+
+TEST_F(StoreFileTest, ADeletionIsDroppedWhenTheFileGoesWhileItIsAsked)
+{
+    open();
+    pressDelete(tree());
+    StoreFile::remove();
+    ASSERT_TRUE(accept());
+    EXPECT_TRUE(words().contains("is gone")) << words().toStdString();
+    reject();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(holds("A/v"));
+}
+
 TEST_F(StoreFileTest, AnExportComesFirstWhereTheUserWantsIt)
 {
     QTemporaryDir folder;
