@@ -2761,6 +2761,10 @@ Wide: %2</source>
         <source>Delete key</source>
         <translation>删除键</translation>
     </message>
+    <message>
+        <source>Of the values that have been asked for, none is read differently.</source>
+        <translation>已读取的值中没有读取结果不同的。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileWriter</name>
