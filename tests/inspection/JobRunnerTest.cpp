@@ -1,4 +1,5 @@
 #include "inspection/JobRunner.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCoreApplication>
 #include <QSignalSpy>
@@ -51,7 +52,7 @@ TEST(JobRunner, NoSliceTakesMoreThanThirtyMilliseconds)
     });
     ASSERT_FALSE(runner.start(job));
     endSlice();
-    ASSERT_TRUE(QTest::qWaitFor([&finished] { return !finished.isEmpty(); }, 60000));
+    ASSERT_TRUE(waitFor([&finished] { return !finished.isEmpty(); }));
     endSlice();
     EXPECT_EQ(count, steps);
     EXPECT_LE(*std::max_element(slices.begin(), slices.end()), most);
@@ -73,7 +74,7 @@ TEST(JobRunner, GivesALongStepASliceOfItsOwn)
     });
     ASSERT_FALSE(runner.start(job));
     EXPECT_EQ(steps, 2);
-    ASSERT_TRUE(QTest::qWaitFor([&finished] { return !finished.isEmpty(); }));
+    ASSERT_TRUE(waitFor([&finished] { return !finished.isEmpty(); }));
     EXPECT_EQ(slices, std::vector<int>({3}));
     EXPECT_EQ(steps, 6);
 }

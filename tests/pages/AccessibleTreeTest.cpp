@@ -4,6 +4,7 @@
 #include "host/HostLibraries.h"
 #include "pages/input/KeyLamp.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/support/WaitFor.h"
 #include "window/PageRail.h"
 #include "window/PathLabel.h"
 #include "window/ShownText.h"
@@ -139,7 +140,7 @@ TEST(AccessibleRoles, APageTabIsPressed)
     QAccessibleActionInterface* actions = interfaceOf(button)->actionInterface();
     ASSERT_TRUE(actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
     actions->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_TRUE(QTest::qWaitFor([window] {
+    EXPECT_TRUE(waitFor([window] {
         return window->currentPage() && window->currentPage()->accessibleName() == "Fonts";
     }));
 }
@@ -184,7 +185,7 @@ TEST(AccessibleRoles, APageThatComesIntoViewIsAnnounced)
     announced.clear();
     const auto former = QAccessible::installUpdateHandler(&noteAlert);
     probe.page().window()->findChild<PageRail*>()->findChild<QAbstractButton*>("log")->click();
-    EXPECT_TRUE(QTest::qWaitFor([] { return !announced.isEmpty(); }));
+    EXPECT_TRUE(waitFor([] { return !announced.isEmpty(); }));
     QAccessible::installUpdateHandler(former);
     setAccessibilityActive(false);
     EXPECT_EQ(announced, QStringList("Log"));

@@ -5,6 +5,7 @@
 #include "pages/registry/FindPane.h"
 #include "pages/registry/RegistryPage.h"
 #include "pages/registry/RegistryTransfer.h"
+#include "tests/support/WaitFor.h"
 #include "window/BusyOverlay.h"
 
 #include <QApplication>
@@ -64,15 +65,12 @@ protected:
     static void waitForProgress(const WindowProbe& probe, const QString& pattern)
     {
         const QRegularExpression expression(pattern);
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] {
-                const auto labels = overlay(probe).findChildren<QLabel*>();
-                return std::any_of(labels.begin(), labels.end(),
-                                   [&expression](const QLabel* label) {
-                                       return expression.match(label->text()).hasMatch();
-                                   });
-            },
-            300000));
+        EXPECT_TRUE(waitFor([&] {
+            const auto labels = overlay(probe).findChildren<QLabel*>();
+            return std::any_of(labels.begin(), labels.end(), [&expression](const QLabel* label) {
+                return expression.match(label->text()).hasMatch();
+            });
+        }));
     }
     static QString status(const WindowProbe& probe) { return probe.page().statusText(); }
     // The number that the status tells behind (or before) these words.
@@ -88,7 +86,7 @@ protected:
     }
     static void openKey(const WindowProbe& probe)
     {
-        ASSERT_TRUE(QTest::qWaitFor(
+        ASSERT_TRUE(waitFor(
             [&probe] { return !probe.text("address").isEmpty(); })); // the store has been read
         probe.type("address", "HKEY_CURRENT_USER\\A");
         QTest::keyClick(&probe.control<QWidget>("address"), Qt::Key_Return);
@@ -101,7 +99,7 @@ protected:
         for (int i = 0; i < values; ++i)
             file.write("\"v" + QByteArray::number(i) + "\"=dword:00000001\r\n");
         file.close();
-        ASSERT_TRUE(QTest::qWaitFor([&probe] { return !probe.text("address").isEmpty(); }));
+        ASSERT_TRUE(waitFor([&probe] { return !probe.text("address").isEmpty(); }));
         probe.page().findChild<RegistryTransfer*>()->importFile(file.fileName());
     }
     static void removeKey(const WindowProbe& probe)
@@ -112,7 +110,7 @@ protected:
     }
     static void confirm(const QString& caption)
     {
-        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+        ASSERT_TRUE(waitFor([] { return QApplication::activeModalWidget() != nullptr; }));
         press(*QApplication::activeModalWidget(), caption);
     }
 

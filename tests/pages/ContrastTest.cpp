@@ -2,6 +2,7 @@
 #include "tests/pages/PageNames.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 #include "tools/pictures/Look.h"
 
 #include <QAbstractButton>
@@ -74,7 +75,7 @@ TEST_P(Contrast, LetsEveryTextBeRead)
 {
     const WindowProbe probe(std::get<0>(GetParam()));
     QWidget& window = *probe.page().window();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_TRUE(waitForExposed(&window));
     probe.page().report(Page::Report::Warning, "It was refused.");
     auto* tabs = probe.page().findChild<QTabWidget*>();
     for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {

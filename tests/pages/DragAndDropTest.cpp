@@ -3,6 +3,7 @@
 #include "tests/support/Display.h"
 
 #include "crypto/MD5.h"
+#include "tests/support/WaitFor.h"
 
 #include <QAbstractItemModel>
 #include <QDrag>
@@ -58,7 +59,7 @@ protected:
         open(name);
         m_window.move(60, 60);
         m_window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        ASSERT_TRUE(waitForActive(&m_window));
     }
 
     // What the target made of the file.
@@ -66,7 +67,7 @@ protected:
     {
         FileIcon icon(file);
         icon.show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&icon));
+        EXPECT_TRUE(waitForExposed(&icon));
         const QPoint end = target.mapToGlobal(target.rect().center());
         // Detached: a drag is moved by the events that its own loop takes.
         QProcess hand;
@@ -74,8 +75,8 @@ protected:
                                   moveTo({30, 30}) + moveTo(end - QPoint(8, 2)) +
                                   moveTo(end - QPoint(3, 1)) + moveTo(end) +
                                   QStringList{"mouseup", "1"});
-        EXPECT_TRUE(QTest::qWaitFor([&icon] { return icon.done; }, 20000));
-        EXPECT_TRUE(QTest::qWaitFor([&hand] { return hand.state() == QProcess::NotRunning; }));
+        EXPECT_TRUE(waitFor([&icon] { return icon.done; }));
+        EXPECT_TRUE(waitFor([&hand] { return hand.state() == QProcess::NotRunning; }));
         return icon.taken;
     }
     Qt::DropAction drop(const QWidget& target)
@@ -102,7 +103,7 @@ TEST_P(DropOnTheProfilesPage, OpensTheFile)
     // Once into an empty page, and once more when the control shows something.
     for (const int lines : {3, 2}) {
         EXPECT_EQ(drop(named(GetParam())), Qt::CopyAction);
-        EXPECT_TRUE(QTest::qWaitFor([this, lines] { return rows("lines") == lines; })) << lines;
+        EXPECT_TRUE(waitFor([this, lines] { return rows("lines") == lines; })) << lines;
         EXPECT_EQ(rows("readings"), 1);
         EXPECT_EQ(control<QLineEdit>("Profile file")->text(), m_file.path());
         EXPECT_EQ(named("value").property("text").toString().count("file:"), 0);
@@ -135,7 +136,7 @@ TEST_F(DragAndDrop, AFileOnTheDigestTextIsDigested)
     EXPECT_EQ(text->toPlainText(), "");
     ASSERT_TRUE(Display::activate(m_window));
     EXPECT_TRUE(Display::xdotool({"key", "Return"}));
-    EXPECT_TRUE(QTest::qWaitFor([this] {
+    EXPECT_TRUE(waitFor([this] {
         return control<QLineEdit>("MD5")->text().toStdString() ==
                MD5().Encode("; by hand\n[Net]\nMask=255\n");
     })) << status();

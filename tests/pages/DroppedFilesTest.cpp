@@ -1,5 +1,6 @@
 #include "tests/inspection/profiles/ProfileFixture.h"
 #include "tests/pages/PageFixture.h"
+#include "tests/support/WaitFor.h"
 #include "tests/window/EndlessJob.h"
 
 #include "host/HostLibraries.h"
@@ -52,7 +53,7 @@ protected:
     Control* shown(const char* name)
     {
         Control* found = nullptr;
-        const bool isThere = QTest::qWaitFor([&] {
+        const bool isThere = waitFor([&] {
             found = page() ? page()->findChild<Control*>(name) : nullptr;
             return found && found->isVisible();
         });
@@ -64,13 +65,13 @@ protected:
     {
         auto* lines = shown<QTableView>("lines");
         ASSERT_NE(lines, nullptr);
-        EXPECT_TRUE(QTest::qWaitFor([lines] { return lines->model()->rowCount() == 2; }));
+        EXPECT_TRUE(waitFor([lines] { return lines->model()->rowCount() == 2; }));
         EXPECT_EQ(shown<QLineEdit>("file")->text(), m_file.path());
     }
 
     static void expectImport()
     {
-        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+        ASSERT_TRUE(waitFor([] { return QApplication::activeModalWidget() != nullptr; }));
         auto* preview = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         EXPECT_EQ(preview->windowTitle().toStdString(), "Import some.REG");
         preview->reject();

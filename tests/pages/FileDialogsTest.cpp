@@ -5,6 +5,7 @@
 #include "app/ApplicationLog.h"
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/support/WaitFor.h"
 
 #include <QDir>
 #include <QPushButton>
@@ -42,7 +43,7 @@ protected:
             if (button->text() == caption && button->isVisible())
                 button->click();
         }
-        ASSERT_TRUE(QTest::qWaitFor([&answer] { return !answer.title().isEmpty(); }));
+        ASSERT_TRUE(waitFor([&answer] { return !answer.title().isEmpty(); }));
         ASSERT_TRUE(probe.settle());
     }
     static QString status(const WindowProbe& probe) { return probe.page().statusText(); }
@@ -81,7 +82,7 @@ TEST_F(FileDialogs, ImportShowsWhatTheChosenFileHolds)
                   "[HKEY_CURRENT_USER\\B]\r\n\"w\"=dword:00000007\r\n");
     const WindowProbe probe("registry");
     answer(probe, "I&mport...", FileDialogAnswer(m_files.path(), 1));
-    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+    ASSERT_TRUE(waitFor([] { return QApplication::activeModalWidget() != nullptr; }));
     auto* preview = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     EXPECT_EQ(preview->windowTitle().toStdString(), "Import profile.ini");
     EXPECT_FALSE(g_globalSettings->contains("B/w"));

@@ -4,6 +4,7 @@
 
 #include "app/ApplicationLog.h"
 #include "pages/displays/MonitorMap.h"
+#include "tests/support/WaitFor.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -20,9 +21,8 @@ protected:
     {
         open(name);
         m_window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
-        ASSERT_TRUE(
-            QTest::qWaitFor([this] { return page()->isAncestorOf(QApplication::focusWidget()); }));
+        ASSERT_TRUE(waitForActive(&m_window));
+        ASSERT_TRUE(waitFor([this] { return page()->isAncestorOf(QApplication::focusWidget()); }));
         waitForJob();
     }
     static void press(const QStringList& keys)
@@ -39,12 +39,12 @@ protected:
     }
     bool rowsBecome(const QString& table, int rows)
     {
-        return QTest::qWaitFor(
+        return waitFor(
             [this, table, rows] { return model(table).rowCount() == rows && !page()->isBusy(); });
     }
     static bool focusIs(const QString& name)
     {
-        return QTest::qWaitFor([name] {
+        return waitFor([name] {
             return QApplication::focusWidget() && QApplication::focusWidget()->objectName() == name;
         });
     }
@@ -66,9 +66,9 @@ TEST_F(KeyboardOnly, AProfileIsOpenedEditedAndWritten)
     press({"ctrl+a"});
     type("254");
     press({"Return"});
-    EXPECT_TRUE(QTest::qWaitFor([this] { return m_file.bytes().contains("Mask=254"); }))
+    EXPECT_TRUE(waitFor([this] { return m_file.bytes().contains("Mask=254"); }))
         << m_file.bytes().toStdString();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return status().find("Written") == 0; })) << status();
+    EXPECT_TRUE(waitFor([this] { return status().find("Written") == 0; })) << status();
 }
 
 TEST_F(KeyboardOnly, APatternIsSearchedAndAFoundFileLookedAt)
@@ -82,23 +82,22 @@ TEST_F(KeyboardOnly, APatternIsSearchedAndAFoundFileLookedAt)
     press({"Tab", "Tab", "Tab"}); // past both buttons
     ASSERT_TRUE(focusIs("entries"));
     press({"Down", "Home"});
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return page()->findChild<QLineEdit*>("path")->text() == m_file.path(); }));
+    EXPECT_TRUE(
+        waitFor([this] { return page()->findChild<QLineEdit*>("path")->text() == m_file.path(); }));
 }
 
 TEST_F(KeyboardOnly, TheSystemsFontsAreRegisteredAndOneIsLookedUp)
 {
     openActive("fonts");
     press({"alt+g"});
-    ASSERT_TRUE(QTest::qWaitFor(
-        [this] { return model("records").rowCount() > 0 && !page()->isBusy(); }, 60000));
+    ASSERT_TRUE(waitFor([this] { return model("records").rowCount() > 0 && !page()->isBusy(); }));
     const QString family = model("records").index(0, 0).data().toString();
     press({"alt+y"});
     ASSERT_TRUE(focusIs("family"));
     type(family);
-    EXPECT_TRUE(QTest::qWaitFor(
+    EXPECT_TRUE(waitFor(
         [this, family] { return page()->findChild<QLineEdit*>("family")->text() == family; }));
-    EXPECT_TRUE(QTest::qWaitFor([this, family] {
+    EXPECT_TRUE(waitFor([this, family] {
         const int last = model("records").rowCount() - 1;
         return last >= 0 && model("records").index(last, 0).data().toString() == family;
     }));
@@ -108,13 +107,12 @@ TEST_F(KeyboardOnly, APointOfTheDesktopIsChosen)
 {
     openActive("displays");
     auto* map = page()->findChild<MonitorMap*>();
-    ASSERT_TRUE(QTest::qWaitFor([map] { return map->hasFocus(); }));
+    ASSERT_TRUE(waitFor([map] { return map->hasFocus(); }));
     ASSERT_TRUE(Display::xdotool({"mousemove", "321", "123"}));
-    ASSERT_TRUE(
-        QTest::qWaitFor([this] { return control<QLineEdit>("Pointer")->text() == "321, 123"; }));
+    ASSERT_TRUE(waitFor([this] { return control<QLineEdit>("Pointer")->text() == "321, 123"; }));
     press({"Home", "Right", "shift+Down", "ctrl+Right"});
     const QString after = "541, 124";
-    EXPECT_TRUE(QTest::qWaitFor([map, after] { return map->accessibleDescription() == after; }))
+    EXPECT_TRUE(waitFor([map, after] { return map->accessibleDescription() == after; }))
         << map->accessibleDescription().toStdString() << " for " << after.toStdString();
 }
 
@@ -128,17 +126,17 @@ TEST_F(KeyboardOnly, TheLogIsFilteredAndSaved)
     press({"ctrl+f"});
     type("keyboard");
     const auto* table = page()->findChild<QTableView*>();
-    ASSERT_TRUE(QTest::qWaitFor([table] { return table->model()->rowCount() == 1; }))
+    ASSERT_TRUE(waitFor([table] { return table->model()->rowCount() == 1; }))
         << table->model()->rowCount();
     press({"alt+a"});
-    ASSERT_TRUE(QTest::qWaitFor([] {
+    ASSERT_TRUE(waitFor([] {
         return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) &&
                QApplication::activeModalWidget()->isActiveWindow();
     }));
     press({"ctrl+a"});
     type(m_file.folder() + "/saved.log");
     press({"Return"});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return status().find("Saved to ") == 0; })) << status();
+    ASSERT_TRUE(waitFor([this] { return status().find("Saved to ") == 0; })) << status();
     const QByteArray saved = ProfileFixture::bytesOf(m_file.folder() + "/saved.log");
     EXPECT_TRUE(saved.endsWith("second of the keyboard\n")) << saved.toStdString();
     EXPECT_EQ(saved.count('\n'), 1);

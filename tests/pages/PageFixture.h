@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/pages/SmallFont.h"
+#include "tests/support/WaitFor.h"
 #include "window/MainWindow.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
@@ -22,8 +23,8 @@ protected:
         m_window.showPage(name);
         m_window.resize(800, 600);
         m_window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }));
+        ASSERT_TRUE(waitForExposed(&m_window));
+        ASSERT_TRUE(waitFor([this] { return m_window.currentPage() != nullptr; }));
     }
 
     Page* page() { return m_window.currentPage(); }
@@ -61,7 +62,7 @@ protected:
 
     void waitForJob()
     {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !page()->isBusy(); }, 300000));
+        ASSERT_TRUE(waitFor([this] { return !page()->isBusy(); }));
     }
 
     SmallFont m_font;

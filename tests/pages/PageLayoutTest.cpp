@@ -1,6 +1,7 @@
 #include "tests/pages/PageNames.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 
 #include <QTest>
 
@@ -16,14 +17,14 @@ class PageLayoutTest : public testing::TestWithParam<std::string>
 TEST_P(PageLayoutTest, ShowsAllOfItsEnglishTexts)
 {
     const WindowProbe probe(GetParam());
-    EXPECT_TRUE(QTest::qWaitFor([&probe] { return probe.clipped().isEmpty(); }, 1000))
+    EXPECT_TRUE(waitFor([&probe] { return probe.clipped().isEmpty(); }))
         << probe.clipped().join(QLatin1String(" | ")).toStdString();
 }
 
 TEST_P(PageLayoutTest, ShowsAllOfItsChineseTexts)
 {
     const WindowProbe probe(GetParam(), WindowProbe::Language::Chinese);
-    EXPECT_TRUE(QTest::qWaitFor([&probe] { return probe.clipped().isEmpty(); }, 1000))
+    EXPECT_TRUE(waitFor([&probe] { return probe.clipped().isEmpty(); }))
         << probe.clipped().join(QLatin1String(" | ")).toStdString();
 }
 

@@ -47,7 +47,7 @@ protected:
         m_window->showPage(QString::fromStdString(GetParam().page));
         m_window->resize(800, 600);
         m_window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
+        ASSERT_TRUE(waitForExposed(m_window.get()));
         ASSERT_TRUE(waitFor([this] { return m_window->currentPage() != nullptr; }));
         ASSERT_TRUE(waitForJob(*m_window->currentPage()));
         QApplication::processEvents();

@@ -1,5 +1,6 @@
 #include "pages/registry/FindPane.h"
 #include "tests/inspection/registry/RegistryTest.h"
+#include "tests/support/WaitFor.h"
 #include "tests/window/EndlessJob.h"
 #include "window/MainWindow.h"
 #include "window/Page.h"
@@ -17,8 +18,8 @@ protected:
     {
         store("A/v", "5$first");
         m_window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return m_window.currentPage() && keys() == 1; }));
+        ASSERT_TRUE(waitForActive(&m_window));
+        ASSERT_TRUE(waitFor([this] { return m_window.currentPage() && keys() == 1; }));
     }
 
     int keys()

@@ -3,6 +3,7 @@
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"
 
+#include "tests/support/WaitFor.h"
 #include "window/ScrolledBody.h"
 #include "window/StatusLine.h"
 #include "window/WindowSize.h"
@@ -23,7 +24,7 @@ protected:
     SmallestWindow()
     {
         window().resize(smallestWindow);
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window()));
+        EXPECT_TRUE(waitForExposed(&window()));
     }
 
     QWidget& window() { return *m_probe.page().window(); }
@@ -40,7 +41,7 @@ TEST_P(SmallestWindow, ShowsAllOfThePage)
     for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
         if (tabs)
             tabs->setCurrentIndex(tab);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return cutTexts(window()).isEmpty(); }, 1000))
+        EXPECT_TRUE(waitFor([this] { return cutTexts(window()).isEmpty(); }))
             << cutTexts(window()).join(QLatin1String(" | ")).toStdString();
         EXPECT_EQ(body().horizontalScrollBar()->maximum(), 0);
         EXPECT_EQ(body().verticalScrollBar()->maximum(), 0)

@@ -4,6 +4,7 @@
 #include "tests/pages/WindowProbe.h"
 
 #include "pages/displays/MonitorMap.h"
+#include "tests/support/WaitFor.h"
 #include "window/PathLabel.h"
 
 #include <QLineEdit>
@@ -62,7 +63,7 @@ TEST_P(Styles, TheFocusedMapOfTheMonitorsCanStillBeRead)
     map.setPointer({900, 700});
     map.setPoint({300, 300});
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(waitForActive(&window));
     expectAFrameAround(map);
 }
 
@@ -72,7 +73,7 @@ TEST_P(Styles, AFocusedPathCanBeTold)
     PathLabel label(QStringLiteral("/opt/quayside/lib/library.so"), PathLabel::WholePath, &window);
     label.resize(label.sizeHint().grownBy({6, 6, 6, 6}));
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(waitForActive(&window));
     label.clearFocus();
     const QImage without = label.grab().toImage();
     label.setFocus(Qt::OtherFocusReason);
@@ -98,7 +99,7 @@ TEST_P(Styles, LinesThatAreDroppedAreFainterThanThoseThatAreRead)
     QTest::keyClick(&probe.control<QWidget>("file"), Qt::Key_Return);
     ASSERT_TRUE(probe.settle());
     auto& lines = probe.control<QTableView>("lines");
-    ASSERT_TRUE(QTest::qWaitFor([&lines] { return lines.model()->rowCount() == 4; }));
+    ASSERT_TRUE(waitFor([&lines] { return lines.model()->rowCount() == 4; }));
     lines.clearSelection();
     lines.setCurrentIndex({});
     const double kept = contrastOfLine(lines, 1);

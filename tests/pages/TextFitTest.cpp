@@ -2,6 +2,7 @@
 
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/support/WaitFor.h"
 #include "window/MainWindow.h"
 #include "window/Page.h"
 #include "window/PageCatalogue.h"
@@ -71,15 +72,14 @@ TEST_P(TextsOfAPage, AreNotCutOff)
     window.showPage(pageCatalogue()[static_cast<std::size_t>(GetParam().page)].name);
     window.resize(800, 600);
     window.show();
-    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.currentPage() != nullptr; }));
+    ASSERT_TRUE(waitFor([&window] { return window.currentPage() != nullptr; }));
     QTest::qWait(20);
     EXPECT_EQ(window.size(), QSize(800, 600));
     for (const QLabel* label : window.findChildren<QLabel*>()) {
         if (!label->isVisible() || label->text().isEmpty())
             continue;
         // A label that has just got its text is laid out at the next turn of the event loop.
-        EXPECT_TRUE(QTest::qWaitFor([label] { return fits(*label); }))
-            << label->text().toStdString();
+        EXPECT_TRUE(waitFor([label] { return fits(*label); })) << label->text().toStdString();
     }
     for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
         if (!button->isVisible() || button->text().isEmpty())
@@ -106,7 +106,7 @@ TEST_P(TextsOfAPage, AreReadOut)
     MainWindow window;
     window.showPage(pageCatalogue()[static_cast<std::size_t>(GetParam().page)].name);
     window.show();
-    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.currentPage() != nullptr; }));
+    ASSERT_TRUE(waitFor([&window] { return window.currentPage() != nullptr; }));
     window.currentPage()->report(Page::Report::Warning, QStringLiteral("It was refused."));
     auto* tabs = window.currentPage()->findChild<QTabWidget*>();
     for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
@@ -145,7 +145,7 @@ TEST_P(TextsOfAPage, ShareNoMnemonic)
     MainWindow window;
     window.showPage(pageCatalogue()[static_cast<std::size_t>(GetParam().page)].name);
     window.show();
-    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.currentPage() != nullptr; }));
+    ASSERT_TRUE(waitFor([&window] { return window.currentPage() != nullptr; }));
     auto* tabs = window.currentPage()->findChild<QTabWidget*>();
     for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
         if (tabs)

@@ -3,6 +3,7 @@
 #include "tests/pages/PageNames.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 #include "tests/window/EndlessJob.h"
 
 #include "host/HostLibraries.h"
@@ -179,13 +180,13 @@ TEST_P(TextsOfAScene, AreNotCutOffInASmallWindow)
     const std::unique_ptr<QWidget> dialog = scene.show(probe);
     QWidget* root = dialog ? dialog.get() : probe.page().window();
     root->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(root));
+    ASSERT_TRUE(waitForExposed(root));
     auto* tabs = root->findChild<QTabWidget*>();
     for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
         if (tabs)
             tabs->setCurrentIndex(tab);
         // What has just got its text is laid out at the next turns of the event loop.
-        EXPECT_TRUE(QTest::qWaitFor([root] { return cutTexts(*root).isEmpty(); }, 1000))
+        EXPECT_TRUE(waitFor([root] { return cutTexts(*root).isEmpty(); }))
             << cutTexts(*root).join(QLatin1String(" | ")).toStdString();
     }
     EXPECT_LE(root->width(), 800);

@@ -1,4 +1,5 @@
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -60,7 +61,7 @@ WindowProbe::WindowProbe(const std::string& page, Language language)
     m_window.show();
     QApplication::setActiveWindow(&m_window);
     // A large store that a test has filled saves itself first.
-    if (!QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }, 60000))
+    if (!waitFor([this] { return m_window.currentPage() != nullptr; }))
         qFatal("the page is not built");
 }
 
@@ -88,7 +89,7 @@ void WindowProbe::click(const char* name) const
 
 bool WindowProbe::settle() const
 {
-    return QTest::qWaitFor([this] { return !page().isBusy(); }, 300000);
+    return waitFor([this] { return !page().isBusy(); });
 }
 
 QStringList WindowProbe::clipped() const

@@ -1,4 +1,5 @@
 #include "widgets/ButtonMonitor.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCheckBox>
 #include <QCommandLinkButton>
@@ -264,7 +265,7 @@ TEST_F(Glow, ButtonReceivesEveryEvent)
     RecordingButton recorder(&page);
     recorder.installEventFilter(&g_buttonMonitor);
     page.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&page));
+    ASSERT_TRUE(waitForExposed(&page));
     const QSignalSpy clicks(&recorder, &QPushButton::clicked);
     recorder.events.clear();
     enter(recorder);

@@ -1,4 +1,5 @@
 #include "tests/support/Display.h"
+#include "tests/support/WaitFor.h"
 #include "widgets/ButtonMonitor.h"
 
 #include <QGraphicsBlurEffect>
@@ -50,7 +51,7 @@ protected:
     void forgetTheMouse()
     {
         moveOut();
-        EXPECT_TRUE(QTest::qWaitFor([this] { return page.underMouse() && !button->underMouse(); }));
+        EXPECT_TRUE(waitFor([this] { return page.underMouse() && !button->underMouse(); }));
         crossings.entered = 0;
         crossings.left = 0;
     }
@@ -62,13 +63,13 @@ protected:
     void enterButton()
     {
         moveTo(*button);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return crossings.entered > 0; }));
+        ASSERT_TRUE(waitFor([this] { return crossings.entered > 0; }));
     }
 
     void leaveButton()
     {
         moveOut();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return crossings.left > 0; }));
+        ASSERT_TRUE(waitFor([this] { return crossings.left > 0; }));
     }
 
     // Moves the mouse over the widget and away again, and sees both reach it.
@@ -77,10 +78,10 @@ protected:
         Crossings seen;
         widget.installEventFilter(&seen);
         moveTo(widget);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return seen.entered > 0; }));
+        EXPECT_TRUE(waitFor([&] { return seen.entered > 0; }));
         hadEffect = widget.graphicsEffect() != nullptr;
         moveOut();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return seen.left > 0; }));
+        EXPECT_TRUE(waitFor([&] { return seen.left > 0; }));
     }
 
     bool glows() const

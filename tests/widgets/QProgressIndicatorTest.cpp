@@ -1,6 +1,7 @@
 #include "widgets/QProgressIndicator.h"
 
 #include "tests/support/MessageGuard.h"
+#include "tests/support/WaitFor.h"
 
 #include <QAbstractEventDispatcher>
 #include <QPointer>
@@ -200,7 +201,7 @@ TEST(ProgressIndicator, TicksWithItsDelay)
     CountingIndicator indicator;
     indicator.setAnimationDelay(5);
     indicator.startAnimation();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return indicator.ticks >= 13; }));
+    EXPECT_TRUE(waitFor([&] { return indicator.ticks >= 13; }));
     indicator.stopAnimation();
     const int ticks = indicator.ticks;
     QTest::qWait(30);
@@ -231,7 +232,7 @@ TEST_P(ProgressIndicatorRepaint, FollowsTheActionOrNot)
     indicator->setAnimationDelay(1000000);
     indicator->startAnimation();
     parent.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&parent));
+    ASSERT_TRUE(waitForExposed(&parent));
     QCoreApplication::processEvents();
     indicator->painted = 0;
     GetParam().act(*indicator);

@@ -1,4 +1,5 @@
 #include "tests/support/Display.h"
+#include "tests/support/WaitFor.h"
 #include "tests/widgets/StackFixture.h"
 #include "widgets/QProgressIndicator.h"
 
@@ -72,7 +73,7 @@ TEST_P(SlideOnScreen, EndsWithTheArrivingPage)
 {
     (stack.*GetParam().request)();
     const PatternPage& arriving = page(GetParam().arriving);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return stack.currentWidget() == &arriving; }));
+    ASSERT_TRUE(waitFor([&] { return stack.currentWidget() == &arriving; }));
     QTest::qWait(100);
     EXPECT_EQ("", firstDifference(pictureOf(stack),
                                   [&](int x, int y) { return arriving.colorAt(x, y); }));
@@ -93,7 +94,7 @@ TEST_F(StackOnScreen, MayBeClosedAndDestroyedWhileItSlides)
         mortal->addWidget(new PatternPage(id));
     mortal->resize(300, 200);
     mortal->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(mortal));
+    ASSERT_TRUE(waitForExposed(mortal));
     mortal->next();
     QTest::qWait(150);
     delete mortal;

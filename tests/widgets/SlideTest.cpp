@@ -1,4 +1,5 @@
 #include "tests/support/MessageGuard.h"
+#include "tests/support/WaitFor.h"
 #include "tests/widgets/StackFixture.h"
 
 #include <QElapsedTimer>
@@ -354,7 +355,7 @@ TEST_F(Slide, MayBeStartedByWhoeverHearsOfTheNewPage)
             stack.next();
     });
     stack.next();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return stack.currentIndex() == 2; }, 1000));
+    ASSERT_TRUE(waitFor([this] { return stack.currentIndex() == 2; }));
     EXPECT_TRUE(page(2).isVisible());
 }
 

@@ -1,4 +1,5 @@
 #include "tests/widgets/StackFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -43,7 +44,7 @@ QVariantAnimation* slideToTheEnd(ProbedStack& stack)
 {
     const SenderProbe probe(stack);
     stack.next();
-    if (QTest::qWaitFor([&probe] { return !probe.found.isNull(); }))
+    if (waitFor([&probe] { return !probe.found.isNull(); }))
         if (auto* animation = qobject_cast<QVariantAnimation*>(probe.found))
             return animation;
     throw std::runtime_error("no animation has ended a slide");

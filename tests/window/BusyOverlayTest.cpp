@@ -1,5 +1,6 @@
 #include "window/BusyOverlay.h"
 
+#include "tests/support/WaitFor.h"
 #include "widgets/QProgressIndicator.h"
 
 #include <QLabel>
@@ -21,7 +22,7 @@ protected:
         m_content->setGeometry(0, 100, 400, 200);
         m_overlay = new BusyOverlay(m_content);
         m_window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(waitForActive(&m_window));
     }
 
     QStringList texts() const
@@ -49,7 +50,7 @@ TEST_F(BusyOverlayTest, LiesOverTheContentAlone)
     EXPECT_TRUE(m_overlay->isVisible());
     EXPECT_EQ(m_overlay->geometry(), m_content->geometry());
     m_content->setGeometry(0, 50, 300, 250);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return m_overlay->size() == m_content->size(); }));
+    EXPECT_TRUE(waitFor([this] { return m_overlay->size() == m_content->size(); }));
 }
 
 TEST_F(BusyOverlayTest, TellsWhatIsDoneAndHowFarItHasCome)
@@ -82,8 +83,7 @@ TEST_F(BusyOverlayTest, StopsItsWheelWhenItGoes)
     ASSERT_TRUE(m_overlay->findChild<QProgressIndicator*>());
     m_overlay->uncover();
     EXPECT_FALSE(m_overlay->isVisible());
-    EXPECT_TRUE(
-        QTest::qWaitFor([this] { return m_overlay->findChild<QProgressIndicator*>() == nullptr; }));
+    EXPECT_TRUE(waitFor([this] { return m_overlay->findChild<QProgressIndicator*>() == nullptr; }));
 }
 
 TEST_F(BusyOverlayTest, KeepsItsPanelInsideOfASmallPage)

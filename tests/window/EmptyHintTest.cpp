@@ -1,4 +1,5 @@
 #include "window/EmptyHint.h"
+#include "tests/support/WaitFor.h"
 
 #include <QLabel>
 #include <QListView>
@@ -47,7 +48,7 @@ TEST_F(EmptyHintTest, FollowsTheViewsSize)
 {
     const int before = label().width();
     m_view.resize(400, 300);
-    EXPECT_TRUE(QTest::qWaitFor([this, before] { return label().width() == before + 200; }));
+    EXPECT_TRUE(waitFor([this, before] { return label().width() == before + 200; }));
 }
 
 TEST_F(EmptyHintTest, ShowsANewTextWithTheMiddleOfLongWordsLeftOut)

@@ -2,6 +2,7 @@
 
 #include "app/HostInformation.h"
 #include "app/Version.h"
+#include "tests/support/WaitFor.h"
 #include "window/AboutDialog.h"
 #include "window/MainWindow.h"
 #include "window/WindowSize.h"
@@ -55,7 +56,7 @@ TEST_F(HelpWindowTest, NamesTheKeys)
 TEST_F(HelpWindowTest, OpensAtThePartAboutAPage)
 {
     m_help.showAt("registry");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_help));
+    ASSERT_TRUE(waitForActive(&m_help));
     const int first = text().verticalScrollBar()->value();
     m_help.hide();
     m_help.showAt("log");
@@ -93,7 +94,7 @@ TEST(MainWindowHelp, F1AndTheButtonOpenTheSameWindow)
 {
     MainWindow window;
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(waitForActive(&window));
     QTest::keyClick(&window, Qt::Key_F1);
     auto* help = window.findChild<HelpWindow*>();
     ASSERT_TRUE(help);
@@ -101,7 +102,7 @@ TEST(MainWindowHelp, F1AndTheButtonOpenTheSameWindow)
     EXPECT_FALSE(help->isModal());
     QTest::keyClick(help, Qt::Key_Escape);
     EXPECT_FALSE(help->isVisible());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(waitForActive(&window));
     QTest::keyClick(&window, Qt::Key_F1);
     EXPECT_TRUE(help->isVisible());
     EXPECT_EQ(window.findChildren<HelpWindow*>().size(), 1);

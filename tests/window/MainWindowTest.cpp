@@ -2,6 +2,7 @@
 
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/support/WaitFor.h"
 #include "tests/window/EndlessJob.h"
 #include "widgets/QAnimationStackedWidget.h"
 #include "window/Page.h"
@@ -40,8 +41,8 @@ protected:
     void show()
     {
         m_window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }));
+        ASSERT_TRUE(waitForActive(&m_window));
+        ASSERT_TRUE(waitFor([this] { return m_window.currentPage() != nullptr; }));
     }
 
     QAnimationStackedWidget& stack() { return *m_window.findChild<QAnimationStackedWidget*>(); }
@@ -56,7 +57,7 @@ protected:
     }
     bool reaches(const QString& page)
     {
-        return QTest::qWaitFor([this, &page] {
+        return waitFor([this, &page] {
             return stack().currentIndex() == place(page) && m_window.currentPage() != nullptr;
         });
     }
@@ -161,7 +162,7 @@ TEST_F(MainWindowTest, AltAndADigitChooseAPage)
 TEST_F(MainWindowTest, ABusyPageIsCancelledByKeyboardAfterAVisitElsewhere)
 {
     show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window.currentPage()->isBusy(); }));
+    ASSERT_TRUE(waitFor([this] { return !m_window.currentPage()->isBusy(); }));
     m_window.currentPage()->setFocus();
     bool cancelled = false;
     m_window.currentPage()->startJob(
@@ -259,12 +260,12 @@ TEST_F(MainWindowTest, APageThatIsChosenGetsTheKeyboard)
         button("registry").setFocus();
         pressDigit(page);
         ASSERT_TRUE(reaches(page));
-        EXPECT_TRUE(QTest::qWaitFor(pageHasKeyboard)) << page.toStdString();
+        EXPECT_TRUE(waitFor(pageHasKeyboard)) << page.toStdString();
     }
     for (const QString page : {"fonts", "displays", "displays"}) {
         QTest::mouseClick(&button(page), Qt::LeftButton);
         ASSERT_TRUE(reaches(page));
-        EXPECT_TRUE(QTest::qWaitFor(pageHasKeyboard)) << page.toStdString();
+        EXPECT_TRUE(waitFor(pageHasKeyboard)) << page.toStdString();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "window/PageFooter.h"
 
+#include "tests/support/WaitFor.h"
 #include "window/MadeChange.h"
 
 #include <QLabel>
@@ -32,7 +33,7 @@ protected:
     {
         m_footer.resize(600, 40);
         static_cast<QWidget&>(m_footer).show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_footer));
+        EXPECT_TRUE(waitForExposed(&m_footer));
     }
 
     QToolButton& button(const QString& name)

@@ -1,5 +1,6 @@
 #include "window/PageRail.h"
 
+#include "tests/support/WaitFor.h"
 #include "window/GlyphIcon.h"
 #include "window/GlyphPainter.h"
 
@@ -52,7 +53,7 @@ TEST_F(PageRailTest, TellsAnArrowKeyFromAPress)
 {
     m_rail.setChosen(0);
     m_rail.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_rail));
+    ASSERT_TRUE(waitForActive(&m_rail));
     button("first").setFocus();
     QSignalSpy choices(&m_rail, &PageRail::chosen);
     QSignalSpy steps(&m_rail, &PageRail::browsed);

@@ -1,5 +1,6 @@
 #include "window/PageStack.h"
 
+#include "tests/support/WaitFor.h"
 #include "window/GlyphIcon.h"
 #include "window/GlyphPainter.h"
 #include "window/Page.h"
@@ -49,12 +50,12 @@ protected:
     void show()
     {
         m_stack.show();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !m_entered.isEmpty(); }));
+        ASSERT_TRUE(waitFor([this] { return !m_entered.isEmpty(); }));
     }
     int visits(int page) const { return static_cast<VisitedPage*>(m_stack.page(page))->visits; }
     bool enters(int page)
     {
-        return QTest::qWaitFor(
+        return waitFor(
             [this, page] { return !m_entered.isEmpty() && m_entered.last()[0].toInt() == page; });
     }
 

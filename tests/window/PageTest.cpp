@@ -1,6 +1,7 @@
 #include "window/Page.h"
 
 #include "app/ApplicationLog.h"
+#include "tests/support/WaitFor.h"
 #include "widgets/QProgressIndicator.h"
 #include "window/BusyOverlay.h"
 
@@ -77,7 +78,7 @@ protected:
     {
         m_page.resize(640, 480);
         m_page.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_page));
+        EXPECT_TRUE(waitForActive(&m_page));
         m_page.field->setFocus();
     }
 
@@ -93,7 +94,7 @@ protected:
     }
     bool ends()
     {
-        return QTest::qWaitFor([this] { return !m_end.isEmpty(); });
+        return waitFor([this] { return !m_end.isEmpty(); });
     }
 
     // Before the page, which drops its job at the end.
@@ -185,7 +186,7 @@ TEST_F(PageTest, TheEndOfAJobIsToldOnceAndByTheJobItself)
         EXPECT_FALSE(m_page.isBusy());
         EXPECT_TRUE(m_page.field->isEnabled());
     });
-    ASSERT_TRUE(QTest::qWaitFor([&tellings] { return tellings > 0; }));
+    ASSERT_TRUE(waitFor([&tellings] { return tellings > 0; }));
     m_page.cancelJob();
     QTest::qWait(20);
     EXPECT_EQ(tellings, 1);
@@ -197,7 +198,7 @@ TEST_F(PageTest, AJobIsDestroyedAfterItsEnd)
     EXPECT_EQ(m_alive, 0);
     start(60);
     EXPECT_EQ(m_alive, 1);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }));
+    EXPECT_TRUE(waitFor([this] { return !m_page.isBusy(); }));
     EXPECT_EQ(m_alive, 0);
 }
 
@@ -250,10 +251,10 @@ TEST_F(PageTest, ThePageIsSeldomPaintedUnderTheWheel)
     PaintCounter wheel;
     overlay().findChild<QProgressIndicator*>()->installEventFilter(&wheel);
     field.count = 0;
-    ASSERT_TRUE(QTest::qWaitFor([&wheel] { return wheel.count > 20; }));
+    ASSERT_TRUE(waitFor([&wheel] { return wheel.count > 20; }));
     EXPECT_LT(3 * field.count, wheel.count);
     m_page.cancelJob();
-    EXPECT_TRUE(QTest::qWaitFor([&field] { return field.count > 0; }));
+    EXPECT_TRUE(waitFor([&field] { return field.count > 0; }));
 }
 
 TEST_F(PageTest, TheOverlayLooksAsThePageBelowIt)
@@ -301,7 +302,7 @@ TEST_F(PageTest, WhatThePageFillsInDuringAJobIsSeen)
         return covered == page;
     };
     EXPECT_FALSE(seen()); // still the picture
-    EXPECT_TRUE(QTest::qWaitFor(seen));
+    EXPECT_TRUE(waitFor(seen));
     m_page.cancelJob();
 }
 
@@ -329,7 +330,7 @@ TEST_F(PageTest, DestroyingThePageDropsItsJob)
 
 TEST_F(PageTest, APageInViewLooksForChanges)
 {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return m_page.looks >= 2; }, 60000));
+    EXPECT_TRUE(waitFor([this] { return m_page.looks >= 2; }));
 }
 
 TEST_F(PageTest, NothingLooksForChangesOutOfViewOrBesideAJobOrBelowADialog)

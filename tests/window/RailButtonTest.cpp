@@ -1,5 +1,6 @@
 #include "window/RailButton.h"
 
+#include "tests/support/WaitFor.h"
 #include "window/GlyphIcon.h"
 
 #include <QTest>
@@ -65,7 +66,7 @@ TEST_F(RailButtonTest, LooksDifferentWhileItIsPressedOrDisabled)
 TEST_F(RailButtonTest, ShowsThatItHasTheFocus)
 {
     m_button.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_button));
+    ASSERT_TRUE(waitForActive(&m_button));
     m_button.clearFocus();
     const QImage before = picture();
     m_button.setFocus(Qt::TabFocusReason);

@@ -3,6 +3,7 @@
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"
 
+#include "tests/support/WaitFor.h"
 #include "window/PageRail.h"
 
 #include <QLabel>
@@ -35,7 +36,7 @@ protected:
 
 TEST_P(ScaledPage, StandsOnALargeScreenOfThatScale)
 {
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+    ASSERT_TRUE(waitForExposed(&window()));
     const QScreen& screen = *window().windowHandle()->screen();
     EXPECT_EQ(screen.size() * wantedRatio(), QSize(3840, 2160));
     EXPECT_EQ(qRound(window().devicePixelRatioF()), wantedRatio());
@@ -48,7 +49,7 @@ TEST_P(ScaledPage, StandsOnALargeScreenOfThatScale)
 
 TEST_P(ScaledPage, CutsOffNoText)
 {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return cutTexts(window()).isEmpty(); }, 1000))
+    EXPECT_TRUE(waitFor([this] { return cutTexts(window()).isEmpty(); }))
         << cutTexts(window()).join(QLatin1String(" | ")).toStdString();
     EXPECT_EQ(window().size(), QSize(800, 600));
 }

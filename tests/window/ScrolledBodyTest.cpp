@@ -1,4 +1,5 @@
 #include "window/ScrolledBody.h"
+#include "tests/support/WaitFor.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -30,7 +31,7 @@ protected:
     {
         m_body.resize(300, height);
         m_body.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_body));
+        ASSERT_TRUE(waitForActive(&m_body));
     }
     // The part of the widget that can be seen.
     QRect shown(const QWidget& widget) const

@@ -1,5 +1,6 @@
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/support/WaitFor.h"
 #include "widgets/QAnimationStackedWidget.h"
 #include "window/MainWindow.h"
 #include "window/Page.h"
@@ -31,8 +32,8 @@ TEST_P(SlideDirection, IsLeftToALaterPageAndRightToAnEarlierOne)
     MainWindow window;
     window.showPage(GetParam().from);
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.currentPage() != nullptr; }));
+    ASSERT_TRUE(waitForActive(&window));
+    ASSERT_TRUE(waitFor([&window] { return window.currentPage() != nullptr; }));
     auto* button = window.findChild<PageRail*>()->findChild<QPushButton*>(GetParam().to);
     button->setFocus();
     QTest::qWait(20);

@@ -3,6 +3,7 @@
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/support/ChildProcess.h"
+#include "tests/support/WaitFor.h"
 #include "window/Page.h"
 #include "window/StatusLine.h"
 
@@ -26,14 +27,14 @@ public:
         m_widget.setWindowFlag(Qt::FramelessWindowHint);
         m_widget.setGeometry(0, screen.height() - height, screen.width(), height);
         m_widget.show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_widget));
+        EXPECT_TRUE(waitForExposed(&m_widget));
         const int pixels = qRound(height * m_widget.devicePixelRatioF());
         ChildProcess xprop;
         xprop.start(QStringLiteral("xprop"),
                     {"-id", QString::number(m_widget.winId()), "-f", "_NET_WM_STRUT", "32c", "-set",
                      "_NET_WM_STRUT", QStringLiteral("0, 0, 0, %1").arg(pixels)});
         EXPECT_TRUE(xprop.waitForFinished() && xprop.exitCode() == 0);
-        EXPECT_TRUE(QTest::qWaitFor([screen, height] {
+        EXPECT_TRUE(waitFor([screen, height] {
             return QGuiApplication::primaryScreen()->availableGeometry().height() <=
                    screen.height() - height;
         }));
@@ -58,8 +59,8 @@ TEST(SmallScreen, HasRoomForTitleBarPanelAndStatusLine)
     MainWindow window;
     centre(window);
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.frameGeometry() != window.geometry(); }));
+    ASSERT_TRUE(waitForActive(&window));
+    ASSERT_TRUE(waitFor([&window] { return window.frameGeometry() != window.geometry(); }));
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     const QRect frame = window.frameGeometry();
     EXPECT_TRUE(available.contains(frame))

@@ -1,3 +1,4 @@
+#include "tests/support/WaitFor.h"
 #include "window/RecordsModel.h"
 
 #include <QAbstractItemModelTester>
@@ -102,7 +103,7 @@ TEST_F(SortedRecordsTest, AreSortedInAMomentAfterTheyWereAppended)
     m_model.append({{"Berta", 1}});
     m_model.append({{"Emma", 1}});
     EXPECT_EQ(m_model.rowCount(), 5);
-    EXPECT_TRUE(QTest::qWaitFor([this] {
+    EXPECT_TRUE(waitFor([this] {
         return names() == QStringList({"anna", "Berta", "Clara", "Dora", "Emma"});
     })) << names().join(' ').toStdString();
 }
@@ -124,8 +125,8 @@ TEST_F(SortedRecordsTest, AreManyAndSortedOnTheEventLoop)
     const QString name = chosen.data().toString();
     m_model.sort(0);
     m_model.append({{"Ship      0a", 0}});
-    ASSERT_TRUE(QTest::qWaitFor(
-        [this] { return m_model.index(1, 0).data().toString() == "Ship      0a"; }, 60000));
+    ASSERT_TRUE(
+        waitFor([this] { return m_model.index(1, 0).data().toString() == "Ship      0a"; }));
     EXPECT_EQ(m_model.index(100000, 0).data().toString(), "Ship  99999");
     EXPECT_EQ(chosen.data().toString(), name);
 }

@@ -1,6 +1,7 @@
 #include "window/TableTools.h"
 
 #include "tests/support/MessageGuard.h"
+#include "tests/support/WaitFor.h"
 #include "window/RecordsModel.h"
 #include "window/ViewLook.h"
 
@@ -41,7 +42,7 @@ protected:
         m_table.resize(400, 200);
         m_table.show();
         QApplication::setActiveWindow(&m_table);
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_table));
+        EXPECT_TRUE(waitForActive(&m_table));
         m_table.setFocus();
     }
 

@@ -1,4 +1,5 @@
 #include "window/ViewFocus.h"
+#include "tests/support/WaitFor.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -24,7 +25,7 @@ protected:
         m_view.setGeometry(10, 10, 280, 180);
         m_field.setGeometry(10, 200, 280, 30);
         m_window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(waitForActive(&m_window));
     }
 
     QImage picture() { return m_window.grab(m_view.geometry()).toImage(); }

@@ -1,4 +1,5 @@
 #include "window/ViewLook.h"
+#include "tests/support/WaitFor.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -27,7 +28,7 @@ protected:
     void resize(int width)
     {
         m_table.resize(width, 200);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_table));
+        ASSERT_TRUE(waitForExposed(&m_table));
         QApplication::processEvents();
     }
 

@@ -4,6 +4,7 @@
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/support/Display.h"
+#include "tests/support/WaitFor.h"
 #include "widgets/QAnimationStackedWidget.h"
 #include "window/Page.h"
 #include "window/PageCatalogue.h"
@@ -32,9 +33,9 @@ protected:
         g_globalSettings->clear();
         g_globalSettings->setValue("A/B/v", "5$deep");
         m_window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
-        EXPECT_TRUE(QTest::qWaitFor([this] { return m_window.currentPage() != nullptr; }));
-        EXPECT_TRUE(QTest::qWaitFor([] {
+        EXPECT_TRUE(waitForActive(&m_window));
+        EXPECT_TRUE(waitFor([this] { return m_window.currentPage() != nullptr; }));
+        EXPECT_TRUE(waitFor([] {
             auto* tree = qobject_cast<QTreeView*>(QApplication::focusWidget());
             return tree && tree->isExpanded(tree->model()->index(0, 0));
         }));
@@ -57,11 +58,11 @@ protected:
     }
     bool reaches(int index)
     {
-        return QTest::qWaitFor([this, index] { return stack().currentIndex() == index; });
+        return waitFor([this, index] { return stack().currentIndex() == index; });
     }
     bool reaches(const QString& page)
     {
-        return QTest::qWaitFor([this, &page] { return shownPage() == page; });
+        return waitFor([this, &page] { return shownPage() == page; });
     }
     QString shownPage()
     {
@@ -79,9 +80,9 @@ TEST_F(WindowOnScreen, AButtonGlowsWhileTheMouseIsOverIt)
 {
     QPushButton& log = button("log");
     hover(log);
-    ASSERT_TRUE(QTest::qWaitFor([&log] { return log.graphicsEffect() != nullptr; }));
+    ASSERT_TRUE(waitFor([&log] { return log.graphicsEffect() != nullptr; }));
     hover(button("files"));
-    EXPECT_TRUE(QTest::qWaitFor([&log] { return log.graphicsEffect() == nullptr; }));
+    EXPECT_TRUE(waitFor([&log] { return log.graphicsEffect() == nullptr; }));
     EXPECT_TRUE(button("files").graphicsEffect());
 }
 
@@ -90,7 +91,7 @@ TEST_F(WindowOnScreen, AClickSlidesThroughPicturesOfBothPages)
     const QImage before = picture();
     hover(button("log"));
     EXPECT_TRUE(Display::xdotool({"click", "1"}));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return button("log").isChecked(); }));
+    ASSERT_TRUE(waitFor([this] { return button("log").isChecked(); }));
     QTest::qWait(100);
     ASSERT_EQ(stack().currentIndex(), 0) << "the slide was over before it could be looked at";
     const QImage during = picture();
@@ -135,18 +136,18 @@ TEST_F(WindowOnScreen, ChoosingByKeyboardPutsTheKeyboardIntoThePage)
     const int last = stack().count() - 1;
     press({QStringLiteral("alt+%1").arg(last + 1)});
     ASSERT_TRUE(reaches(last));
-    EXPECT_TRUE(QTest::qWaitFor(
+    EXPECT_TRUE(waitFor(
         [this] { return m_window.currentPage()->isAncestorOf(QApplication::focusWidget()); }));
     press({"alt+1"});
     ASSERT_TRUE(reaches(0));
-    EXPECT_TRUE(QTest::qWaitFor(
+    EXPECT_TRUE(waitFor(
         [this] { return m_window.currentPage()->isAncestorOf(QApplication::focusWidget()); }));
 }
 
 TEST_F(WindowOnScreen, AValueIsMadeEditedAndDeletedByKeyboardAlone)
 {
     const auto dialogIs = [](bool open) {
-        return QTest::qWaitFor([open] {
+        return waitFor([open] {
             const QWidget* modal = QApplication::activeModalWidget();
             return open ? modal && modal->isActiveWindow() : !modal;
         });

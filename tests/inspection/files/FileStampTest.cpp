@@ -1,4 +1,5 @@
 #include "inspection/files/FileStamp.h"
+#include "tests/support/WaitFor.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -48,7 +49,7 @@ TEST_F(FileStampTest, TellsAFileThatWasReplaced)
 
 TEST_F(FileStampTest, TellsAFolderThatGotAFile)
 {
-    ASSERT_TRUE(QTest::qWaitFor([this] { return FileStamp::of(m_folder.path()).isSure(); }));
+    ASSERT_TRUE(waitFor([this] { return FileStamp::of(m_folder.path()).isSure(); }));
     const FileStamp before = FileStamp::of(m_folder.path());
     write("");
     EXPECT_NE(FileStamp::of(m_folder.path()), before);

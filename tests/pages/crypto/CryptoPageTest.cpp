@@ -2,6 +2,7 @@
 
 #include "app/ApplicationLog.h"
 #include "crypto/Base64Encoder.h"
+#include "tests/support/WaitFor.h"
 
 #include <QClipboard>
 #include <QFile>
@@ -420,8 +421,8 @@ TEST_F(Base64PanelTest, AMnemonicDecodes)
 {
     control<QPlainTextEdit>("Text or Base64")->setPlainText("QUJD");
     QTest::keyClick(&m_window, Qt::Key_E, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return control<QPlainTextEdit>("Result")->toPlainText() == "ABC"; }));
+    EXPECT_TRUE(
+        waitFor([this] { return control<QPlainTextEdit>("Result")->toPlainText() == "ABC"; }));
 }
 
 TEST_F(Base64PanelTest, SaysWhereDecodingStops)

@@ -4,6 +4,7 @@
 #include "pages/displays/MonitorMap.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/platform/graphics/VirtualScreen.h"
+#include "tests/support/WaitFor.h"
 
 #include <QLabel>
 #include <QProxyStyle>
@@ -121,7 +122,7 @@ TEST_F(DisplaysPageTest, FindPutsTheKeyboardIntoThePoint)
 TEST_F(DisplaysPageTest, FollowsThePointer)
 {
     QCursor::setPos(123, 45);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return answer("Pointer") == "123, 45"; }));
+    EXPECT_TRUE(waitFor([this] { return answer("Pointer") == "123, 45"; }));
     QTest::keyClick(map(), Qt::Key_Home);
     EXPECT_EQ(map()->point(), QPoint(123, 45));
 }
@@ -197,13 +198,13 @@ TEST_F(HandlePanelTest, ShowsWhatAHostLibraryMakesMeanwhile)
 {
     made(service()->createBrush(1));
     made(service()->createBrush(2));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().size() == 2; }, 1000));
+    EXPECT_TRUE(waitFor([this] { return rows().size() == 2; }));
     control<QTableView>("Graphics handles")->selectRow(1);
     made(service()->createImage(0, 3, 3));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().size() == 3; }, 1000));
+    EXPECT_TRUE(waitFor([this] { return rows().size() == 3; }));
     EXPECT_EQ(control<QTableView>("Graphics handles")->currentIndex().row(), 2) << "the same one";
     service()->deleteObject(m_made.front());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().size() == 2; }, 1000));
+    EXPECT_TRUE(waitFor([this] { return rows().size() == 2; }));
 }
 
 TEST_F(HandlePanelTest, KeepsItsPlaceWhereNothingChanges)
@@ -217,7 +218,7 @@ TEST_F(HandlePanelTest, KeepsItsPlaceWhereNothingChanges)
     EXPECT_EQ(resets.size(), 0);
     view->verticalScrollBar()->setValue(40);
     made(service()->createBrush(2));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().size() == 101; }, 1000));
+    EXPECT_TRUE(waitFor([this] { return rows().size() == 101; }));
     EXPECT_EQ(view->verticalScrollBar()->value(), 40);
 }
 
@@ -374,7 +375,7 @@ TEST_F(DisplaysPageTest, FollowsMonitorsThatComeAndGo)
     const QRect first = QGuiApplication::primaryScreen()->geometry();
     {
         const VirtualScreen second(QRect(first.right() + 101, 0, 640, 480));
-        ASSERT_TRUE(QTest::qWaitFor([table] { return table->model()->rowCount() == 2; }));
+        ASSERT_TRUE(waitFor([table] { return table->model()->rowCount() == 2; }));
         control<QSpinBox>("Point X:")->setValue(first.right() + 200);
         control<QSpinBox>("Point Y:")->setValue(100);
         for (const char* flag : {"DEFAULTTONULL", "DEFAULTTOPRIMARY", "DEFAULTTONEAREST"})
@@ -384,7 +385,7 @@ TEST_F(DisplaysPageTest, FollowsMonitorsThatComeAndGo)
         EXPECT_EQ(answer("DEFAULTTOPRIMARY"), "Monitor 1");
         EXPECT_EQ(answer("DEFAULTTONEAREST"), "Monitor 2");
     }
-    EXPECT_TRUE(QTest::qWaitFor([table] { return table->model()->rowCount() == 1; }));
+    EXPECT_TRUE(waitFor([table] { return table->model()->rowCount() == 1; }));
 }
 
 } // namespace

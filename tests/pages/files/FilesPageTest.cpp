@@ -1,5 +1,6 @@
 #include "tests/pages/ShownToolTip.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,7 +39,7 @@ protected:
     // Whether a file exists is asked for in a pause of typing.
     void expectAnswer(const char* name, const QString& answer) const
     {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return m_probe.text(name) == answer; }))
+        EXPECT_TRUE(waitFor([&] { return m_probe.text(name) == answer; }))
             << m_probe.text(name).toStdString();
     }
 
@@ -205,13 +206,13 @@ TEST_F(FilesPageTest, ShowsWhatIsCreatedMeanwhileAndKeepsTheChosenRow)
     table.selectRow(1);
     m_probe.type("path", QStringLiteral("/typed"));
     makeFile(QStringLiteral("a"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return model().rowCount() == 3; }));
+    ASSERT_TRUE(waitFor([this] { return model().rowCount() == 3; }));
     EXPECT_EQ(table.currentIndex().data().toString(), QStringLiteral("c"));
     EXPECT_EQ(table.selectionModel()->selectedRows().size(), 1);
     EXPECT_EQ(m_probe.text("path"), QStringLiteral("/typed"));
     EXPECT_TRUE(m_probe.page().statusText().startsWith(QLatin1String("3 found.")));
     ASSERT_TRUE(QFile::remove(path("c")));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return model().rowCount() == 2; }));
+    ASSERT_TRUE(waitFor([this] { return model().rowCount() == 2; }));
 }
 
 TEST_F(FilesPageTest, ShowsTheSizeOfAFileThatIsWrittenMeanwhile)
@@ -219,7 +220,7 @@ TEST_F(FilesPageTest, ShowsTheSizeOfAFileThatIsWrittenMeanwhile)
     makeFile(QStringLiteral("a"));
     search(path("*"));
     makeFile(QStringLiteral("a"), "1234567");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return cell(0, 2) == QLatin1String("7"); }));
+    EXPECT_TRUE(waitFor([this] { return cell(0, 2) == QLatin1String("7"); }));
 }
 
 TEST_F(FilesPageTest, ReadsNothingAnewWhileNothingChanges)

@@ -1,6 +1,7 @@
 #include "pages/files/PathPanel.h"
 
 #include "platform/PlatformDirectoryManagerImp.h"
+#include "tests/support/WaitFor.h"
 
 #include <QDir>
 #include <QLineEdit>
@@ -39,7 +40,7 @@ TEST_F(PathPanelTest, AsksOnceWhetherATypedPathExists)
 {
     QTest::keyClicks(&field("path"), QStringLiteral("/none/x.tx"));
     EXPECT_EQ(m_service.asked, QStringList());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return field("exists").text() == QLatin1String("No"); }));
+    EXPECT_TRUE(waitFor([this] { return field("exists").text() == QLatin1String("No"); }));
     EXPECT_EQ(m_service.asked, QStringList(QStringLiteral("/none/x.tx")));
 }
 

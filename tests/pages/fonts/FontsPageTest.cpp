@@ -2,6 +2,7 @@
 #include "tests/inspection/fonts/FreshServices.h"
 #include "tests/pages/ShownToolTip.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 #include "tests/window/EndlessJob.h"
 
 #include <QComboBox>
@@ -140,7 +141,7 @@ TEST_F(FontsPageTest, ShowsFontsThatAreRegisteredWhileItIsInView)
     table.selectRow(0);
     m_probe.type("localName", QStringLiteral("typed"));
     add("Global A", "A", ANSI_CHARSET);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return model().rowCount() == 2; }));
+    ASSERT_TRUE(waitFor([this] { return model().rowCount() == 2; }));
     EXPECT_EQ(table.currentIndex().data().toString(), QStringLiteral("B"));
     EXPECT_EQ(m_probe.text("localName"), QStringLiteral("typed"));
     EXPECT_EQ(status(), QStringLiteral("Records: 2"));

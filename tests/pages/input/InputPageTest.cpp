@@ -2,6 +2,7 @@
 
 #include "pages/input/KeyLamp.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -65,10 +66,10 @@ TEST_F(InputPageTest, LampsFollowWhatTheHostLibraryReports)
     IPlatformUserInputManager* service = g_PlatformServices.userInputManager();
     EXPECT_FALSE(isLit("VK_RETURN"));
     service->setKeyPressed(Qt::Key_Return, true);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return isLit("VK_RETURN"); }));
+    EXPECT_TRUE(waitFor([this] { return isLit("VK_RETURN"); }));
     EXPECT_FALSE(isLit("VK_SPACE"));
     service->setKeyPressed(Qt::Key_Return, false);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !isLit("VK_RETURN"); }));
+    EXPECT_TRUE(waitFor([this] { return !isLit("VK_RETURN"); }));
 }
 
 // Long before the lamps are asked for again by time.
@@ -165,7 +166,7 @@ TEST_F(InputPageTest, ShowsThePointerOnTheScreenAndInTheWindow)
 {
     QCursor::setPos(200, 150);
     const QPoint inside = m_window.mapFromGlobal({200, 150});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return label("GetCursorPos (screen):") == "200, 150"; }));
+    ASSERT_TRUE(waitFor([this] { return label("GetCursorPos (screen):") == "200, 150"; }));
     EXPECT_EQ(label("ScreenToClient (window):"),
               QStringLiteral("%1, %2").arg(inside.x()).arg(inside.y()).toStdString());
 }

@@ -3,6 +3,7 @@
 #include "pages/displays/MonitorMap.h"
 #include "pages/input/KeyLamp.h"
 #include "tests/support/Display.h"
+#include "tests/support/WaitFor.h"
 
 namespace {
 
@@ -13,13 +14,12 @@ protected:
     {
         open(name);
         m_window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        ASSERT_TRUE(waitForActive(&m_window));
     }
 
     bool becomesLit(const QString& name, bool lit)
     {
-        return QTest::qWaitFor(
-            [this, name, lit] { return control<KeyLamp>(name)->isLit() == lit; });
+        return waitFor([this, name, lit] { return control<KeyLamp>(name)->isLit() == lit; });
     }
 };
 
@@ -81,8 +81,7 @@ TEST_F(RealInputTest, TheMapFollowsThePointer)
 {
     openActive("displays");
     ASSERT_TRUE(Display::xdotool({"mousemove", "321", "123"}));
-    EXPECT_TRUE(
-        QTest::qWaitFor([this] { return control<QLineEdit>("Pointer")->text() == "321, 123"; }));
+    EXPECT_TRUE(waitFor([this] { return control<QLineEdit>("Pointer")->text() == "321, 123"; }));
 }
 
 TEST_F(RealInputTest, EncryptsAndDecryptsByKeyboardAlone)
@@ -93,11 +92,11 @@ TEST_F(RealInputTest, EncryptsAndDecryptsByKeyboardAlone)
     ASSERT_TRUE(Display::xdotool({"type", "hello quay"}));
     ASSERT_TRUE(Display::xdotool({"key", "alt+n"}));
     auto* cipher = control<QPlainTextEdit>("Base64 of the cipher text");
-    ASSERT_TRUE(QTest::qWaitFor([cipher] { return !cipher->toPlainText().isEmpty(); }));
+    ASSERT_TRUE(waitFor([cipher] { return !cipher->toPlainText().isEmpty(); }));
     auto* clear = control<QPlainTextEdit>("Clear text");
     clear->clear();
     ASSERT_TRUE(Display::xdotool({"key", "alt+t"}));
-    EXPECT_TRUE(QTest::qWaitFor([clear] { return clear->toPlainText() == "hello quay"; }));
+    EXPECT_TRUE(waitFor([clear] { return clear->toPlainText() == "hello quay"; }));
 }
 
 } // namespace

@@ -175,7 +175,7 @@ protected:
     {
         m_page.resize(700, 300);
         m_page.show();
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }));
+        EXPECT_TRUE(waitFor([this] { return !m_page.isBusy(); }));
     }
 
     QTableView& table() { return *m_page.findChild<QTableView*>(); }
@@ -215,7 +215,7 @@ TEST_F(LogPageTest, FollowsNewLinesOnlyFromTheEnd)
     for (int i = 0; i < 60; ++i)
         logInfo(QString::number(i));
     QScrollBar* bar = table().verticalScrollBar();
-    ASSERT_TRUE(QTest::qWaitFor([bar] { return bar->maximum() > 3; }));
+    ASSERT_TRUE(waitFor([bar] { return bar->maximum() > 3; }));
     EXPECT_EQ(bar->value(), bar->maximum());
     bar->setValue(3);
     logInfo("later");
@@ -266,7 +266,7 @@ TEST_F(LogPageTest, LeavesTheTargetAloneWhenSavingIsCancelled)
     log.write(info.repeated(100000)); // far more than one slice saves
     log.close();
     m_page.refresh();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }, 60000));
+    ASSERT_TRUE(waitFor([this] { return !m_page.isBusy(); }));
     QFile target(m_folder.filePath("saved.log"));
     ASSERT_TRUE(target.open(QIODevice::ReadWrite));
     target.write("older\n");

@@ -1,5 +1,6 @@
 #include "tests/inspection/profiles/ProfileFixture.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -51,13 +52,13 @@ protected:
     }
     void waitForReadings() const
     {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return readings().rowCount() > 0; }));
+        ASSERT_TRUE(waitFor([this] { return readings().rowCount() > 0; }));
         ASSERT_TRUE(m_probe.settle());
     }
     bool isRead(int row) const { return reading(row, 2) != QStringLiteral("(not asked yet)"); }
     void waitForRow(int row) const
     {
-        ASSERT_TRUE(QTest::qWaitFor([this, row] { return isRead(row); }, 60000)) << row;
+        ASSERT_TRUE(waitFor([this, row] { return isRead(row); })) << row;
     }
     int last() const { return readings().rowCount() - 1; }
     // The first row that has not been read while all are being read.
@@ -87,7 +88,7 @@ protected:
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&turns] { ++turns; });
         timer.start(0);
-        EXPECT_TRUE(QTest::qWaitFor(condition, 60000));
+        EXPECT_TRUE(waitFor(condition));
         return turns;
     }
     static QDialog* question() { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
@@ -133,7 +134,7 @@ TEST_F(LargeProfile, AsksForTheChosenNameFirst)
     waitForReadings();
     m_probe.control<QTableView>("readings").selectRow(last() / 2);
     EXPECT_EQ(m_probe.text("value"), QString());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return m_probe.text("value") == QStringLiteral("1"); }));
+    EXPECT_TRUE(waitFor([this] { return m_probe.text("value") == QStringLiteral("1"); }));
 }
 
 TEST_F(LargeProfile, KeepsWhatIsTypedWhenTheAnswerComes)
@@ -234,7 +235,7 @@ TEST_F(LargeProfile, IsNotKeptInMemoryForTheNextReading)
     m_file.write(content('2'));
     m_file.setStamp(stamp);
     m_probe.page().refresh();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return reading(0, 2) == QStringLiteral("2"); }));
+    EXPECT_TRUE(waitFor([this] { return reading(0, 2) == QStringLiteral("2"); }));
 }
 
 TEST_F(LargeProfile, ChangedMeanwhileIsReadAnew)

@@ -1,4 +1,5 @@
 #include "tests/pages/profiles/ProfilesPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QLineEdit>
 #include <QScrollBar>
@@ -12,12 +13,12 @@ protected:
     QTableView& table(const char* view) const { return m_probe.control<QTableView>(view); }
     bool becomes(const char* view, int number, const QStringList& cells) const
     {
-        return QTest::qWaitFor(
+        return waitFor(
             [&] { return model(view).rowCount() > number && row(view, number) == cells; });
     }
     bool statusBecomes(const QString& part) const
     {
-        return QTest::qWaitFor([&] { return status().contains(part); });
+        return waitFor([&] { return status().contains(part); });
     }
 };
 

@@ -3,6 +3,7 @@
 
 #include "inspection/profiles/ProfileLoadingJob.h"
 #include "tests/inspection/profiles/ProfileFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -95,7 +96,7 @@ TEST_F(SortedReadings, AreSortedAmongTheDifferences)
     for (const int name : {0, 2, 1}) // the last one stands between the others in the file
         read(name, "1", "2");
     EXPECT_EQ(m_model.rowCount(), 3);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return keys() == "cba"; })) << keys().toStdString();
+    EXPECT_TRUE(waitFor([this] { return keys() == "cba"; })) << keys().toStdString();
     EXPECT_EQ(m_model.rowOf(1), 0);
     m_model.showOnlyDifferences(false);
     EXPECT_EQ(keys(), "cba");

@@ -3,6 +3,7 @@
 #include "app/ApplicationLog.h"
 #include "host/HostLibraries.h"
 #include "pages/registry/DataField.h"
+#include "tests/support/WaitFor.h"
 
 #include <QAction>
 #include <QApplication>
@@ -21,7 +22,7 @@
 
 namespace {
 
-constexpr int longestWait = 30000; // milliseconds: for emulated and watched machines
+constexpr int longestWait = 300000; // milliseconds: for emulated and watched machines
 
 } // namespace
 
@@ -29,7 +30,7 @@ void RegistryPageFixture::show()
 {
     m_page.resize(700, 500);
     m_page.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_page));
+    ASSERT_TRUE(waitForActive(&m_page));
     m_page.refresh();
 }
 
@@ -175,7 +176,7 @@ void RegistryPageFixture::focus(QWidget& view)
 {
     view.activateWindow();
     view.setFocus();
-    EXPECT_TRUE(QTest::qWaitFor([&view] { return view.isActiveWindow() && view.hasFocus(); }));
+    EXPECT_TRUE(waitFor([&view] { return view.isActiveWindow() && view.hasFocus(); }));
 }
 
 void RegistryPageFixture::pressDelete(QWidget& view)

@@ -3,6 +3,7 @@
 #include "pages/registry/RegistryPage.h"
 #include "pages/registry/RegistryTransfer.h"
 #include "tests/inspection/registry/RegistryTest.h"
+#include "tests/support/WaitFor.h"
 
 #include <QMap>
 #include <QTest>
@@ -71,7 +72,7 @@ protected:
     }
     void settle()
     {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !m_page.isBusy(); }, 300000));
+        ASSERT_TRUE(waitFor([this] { return !m_page.isBusy(); }));
     }
 
     /// Presses the dialog's button for Enter, and waits for the job that follows; false when the

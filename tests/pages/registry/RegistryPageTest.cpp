@@ -4,6 +4,7 @@
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
 #include "tests/support/MessageGuard.h"
+#include "tests/support/WaitFor.h"
 #include "tests/window/EndlessJob.h"
 
 #include <QAbstractItemView>
@@ -278,8 +279,7 @@ TEST_F(RegistryPageTest, CompletesTheKeyThatIsTyped)
     EXPECT_TRUE(popup->isVisible());
     QTest::keyClick(popup, Qt::Key_Down);
     QTest::keyClick(popup, Qt::Key_Return);
-    EXPECT_TRUE(
-        QTest::qWaitFor([this] { return address() == "HKEY_CURRENT_USER\\Software\\Maker"; }));
+    EXPECT_TRUE(waitFor([this] { return address() == "HKEY_CURRENT_USER\\Software\\Maker"; }));
     EXPECT_FALSE(popup->isVisible());
 }
 

@@ -1,6 +1,7 @@
 #include "host/HostLibraries.h"
 #include "pages/registry/RegistryValueModel.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -207,7 +208,7 @@ protected:
 TEST_F(ChangedMeanwhile, IsKeptByTheButtonForEnter)
 {
     QTest::keyClick(&dialog(), Qt::Key_Return);
-    ASSERT_TRUE(QTest::qWaitFor([] { return !QApplication::activeModalWidget(); }));
+    ASSERT_TRUE(waitFor([] { return !QApplication::activeModalWidget(); }));
     EXPECT_EQ(stored("A/number").toStdString(), "1$99");
     EXPECT_TRUE(m_page.undoStack().canUndo());
     EXPECT_FALSE(m_page.undoStack().canRedo());

@@ -2,6 +2,7 @@
 #include "tests/inspection/registry/StoreFileFixture.h"
 #include "tests/pages/FileDialogAnswer.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QAction>
 #include <QApplication>
@@ -31,7 +32,7 @@ protected:
 
     testing::AssertionResult tells(const QString& words)
     {
-        if (QTest::qWaitFor([&] { return status().contains(words); }, 10000))
+        if (waitFor([&] { return status().contains(words); }))
             return testing::AssertionSuccess();
         return testing::AssertionFailure() << status().toStdString();
     }
@@ -91,7 +92,7 @@ protected:
         chooseNew(NewDword);
         type("n", "7");
         ASSERT_TRUE(accept());
-        ASSERT_TRUE(QTest::qWaitFor([] { return StoreFile::bytes().contains("n=1$7"); }));
+        ASSERT_TRUE(waitFor([] { return StoreFile::bytes().contains("n=1$7"); }));
         QCoreApplication::processEvents(); // the page takes notice of the saving
         StoreFile::remove();
         m_page.undoStack().undo();
@@ -100,7 +101,7 @@ protected:
 
     bool canUndoAgain()
     {
-        return QTest::qWaitFor(
+        return waitFor(
             [this] { return m_page.undoStack().canUndo() && !m_page.undoStack().canRedo(); });
     }
 };
@@ -156,7 +157,7 @@ TEST_F(StoreFileTest, EveryActionThatChangesTheStoreAsks)
         action();
         EXPECT_TRUE(words().contains("is gone")) << words().toStdString();
         reject();
-        ASSERT_TRUE(QTest::qWaitFor([] { return !QApplication::activeModalWidget(); }));
+        ASSERT_TRUE(waitFor([] { return !QApplication::activeModalWidget(); }));
     }
 }
 
@@ -171,7 +172,7 @@ TEST_F(StoreFileTest, AFileThatGoesWhileADialogIsOpenIsAskedAboutToo)
     EXPECT_FALSE(holds("A/n"));
     reject();
     // What was typed comes back.
-    ASSERT_TRUE(QTest::qWaitFor([] {
+    ASSERT_TRUE(waitFor([] {
         auto* back = QApplication::activeModalWidget();
         return back && back->findChild<QLineEdit*>() && !dynamic_cast<QMessageBox*>(back);
     }));
@@ -214,7 +215,7 @@ TEST_F(StoreFileTest, AnExportComesFirstWhereTheUserWantsIt)
     chooseNew(NewDword);
     const FileDialogAnswer answer(folder.filePath("kept.reg"), 1);
     press("Export first...");
-    ASSERT_TRUE(QTest::qWaitFor([&folder] { return QFile::exists(folder.filePath("kept.reg")); }));
+    ASSERT_TRUE(waitFor([&folder] { return QFile::exists(folder.filePath("kept.reg")); }));
     settle();
     EXPECT_TRUE(words().contains("is gone")) << words().toStdString(); // asked again
     reject();
@@ -253,7 +254,7 @@ TEST_F(StoreFileTest, WhatAHostLibraryWritesIsShownByItself)
     m_page.setStatus("Told before.");
     store("A/w", "1$2");
     store("C/x", "1$2");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == 2; }, 1000));
+    EXPECT_TRUE(waitFor([this] { return rows() == 2; }));
     EXPECT_EQ(tree().model()->rowCount(tree().model()->index(0, 0)), 3);
     EXPECT_EQ(status().toStdString(), "Told before.");
 }
@@ -271,8 +272,8 @@ TEST_F(StoreFileTest, AnEmptyRegistryDoesNotStayOne)
     show();
     EXPECT_EQ(tree().model()->rowCount(tree().model()->index(0, 0)), 0);
     store("C/x", "1$2");
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return tree().model()->rowCount(tree().model()->index(0, 0)) == 1; }, 1000));
+    EXPECT_TRUE(
+        waitFor([this] { return tree().model()->rowCount(tree().model()->index(0, 0)) == 1; }));
 }
 
 TEST_F(StoreFileTest, WhatIsSelectedTypedAndScrolledToStaysWhenOthersWrite)
@@ -290,7 +291,7 @@ TEST_F(StoreFileTest, WhatIsSelectedTypedAndScrolledToStaysWhenOthersWrite)
     QTest::keyClicks(line, "typed");
     const QString typed = line->text();
     store("A/zz", "1$2");
-    ASSERT_TRUE(QTest::qWaitFor([this] { return rows() == 202; }, 5000));
+    ASSERT_TRUE(waitFor([this] { return rows() == 202; }));
     EXPECT_EQ(table().selectionModel()->selectedRows().size(), 2);
     EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "n100");
     EXPECT_EQ(table().verticalScrollBar()->value(), scrolled);
@@ -307,7 +308,7 @@ TEST_F(StoreFileTest, NothingIsReadAnewWithoutASign)
     QTest::qWait(1200);
     EXPECT_EQ(resets, 0);
     store("A/w", "1$2");
-    EXPECT_TRUE(QTest::qWaitFor([&resets] { return resets == 1; }, 1000));
+    EXPECT_TRUE(waitFor([&resets] { return resets == 1; }));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "host/HostLibraries.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QDir>
 #include <QFile>
@@ -44,7 +45,7 @@ TEST_F(UnwritableStoreTest, IsToldOnEntering)
 {
     m_page.show();
     m_page.entered();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !address().isEmpty(); }));
+    EXPECT_TRUE(waitFor([this] { return !address().isEmpty(); }));
     expectTold();
     m_page.setStatus({});
     m_page.entered();

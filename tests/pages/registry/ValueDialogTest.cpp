@@ -1,4 +1,5 @@
 #include "tests/pages/registry/RegistryPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,7 +20,7 @@ protected:
         show();
         m_page.goTo("A", "v");
         QTest::keyClick(&table(), Qt::Key_F2);
-        EXPECT_TRUE(QTest::qWaitFor([] {
+        EXPECT_TRUE(waitFor([] {
             return (lineField() && lineField()->hasFocus()) ||
                    (largeField() && largeField()->hasFocus());
         }));
@@ -42,7 +43,7 @@ protected:
 
     bool isClosed()
     {
-        return QTest::qWaitFor([] { return !QApplication::activeModalWidget(); });
+        return waitFor([] { return !QApplication::activeModalWidget(); });
     }
 };
 

@@ -3,6 +3,7 @@
 #include "platform/PlatformUserInputManagerImp.h"
 
 #include "tests/support/Display.h"
+#include "tests/support/WaitFor.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -44,13 +45,13 @@ protected:
     void movePointer(int x, int y)
     {
         ASSERT_TRUE(Display::xdotool({"mousemove", QString::number(x), QString::number(y)}));
-        EXPECT_TRUE(QTest::qWaitFor([=] { return QCursor::pos() == QPoint(x, y); }));
+        EXPECT_TRUE(waitFor([=] { return QCursor::pos() == QPoint(x, y); }));
     }
 
     // A modifier's own press event does not carry it yet; the pointer's next movement does.
     void expectState(int virtualKey, int state)
     {
-        EXPECT_TRUE(QTest::qWaitFor([&] {
+        EXPECT_TRUE(waitFor([&] {
             m_nudge = !m_nudge;
             movePointer(m_nudge ? 301 : 300, 300);
             QCoreApplication::processEvents();
@@ -120,11 +121,11 @@ TEST_F(RealInput, OfOtherKeysIsNoKeyState)
     for (const KeyRow& row : {KeyRow{"a", Qt::Key_A}, KeyRow{"Return", Qt::Key_Return},
                               KeyRow{"space", Qt::Key_Space}}) {
         ASSERT_TRUE(Display::xdotool({"keydown", row.name}));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return window.down.count(row.key) == 1; }));
+        ASSERT_TRUE(waitFor([&] { return window.down.count(row.key) == 1; }));
         for (const int virtualKey : {0x41, VK_RETURN, VK_SPACE})
             EXPECT_EQ(0, input.getKeyState(virtualKey)) << row.name << ' ' << virtualKey;
         ASSERT_TRUE(Display::xdotool({"keyup", row.name}));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return window.down.empty(); }));
+        ASSERT_TRUE(waitFor([&] { return window.down.empty(); }));
     }
 }
 
