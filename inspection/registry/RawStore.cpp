@@ -2,10 +2,20 @@
 
 #include "host/HostLibraries.h"
 
-RawStore::RawStore(const QString& group) : m_store(g_globalSettings)
+RawStore::RawStore(const QString& group, Reach reach) : m_store(g_globalSettings)
+{
+    if (!m_store)
+        return;
+    m_group.emplace(*m_store, group);
+    m_hadFallbacks = m_store->fallbacksEnabled();
+    if (reach == Reach::OwnFile)
+        m_store->setFallbacksEnabled(false);
+}
+
+RawStore::~RawStore()
 {
     if (m_store)
-        m_group.emplace(*m_store, group);
+        m_store->setFallbacksEnabled(m_hadFallbacks);
 }
 
 bool RawStore::exists()

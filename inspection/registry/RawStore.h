@@ -18,8 +18,16 @@
 class RawStore
 {
 public:
+    /// How far the entries reach.
+    enum class Reach
+    {
+        Everything, ///< to all files from which the store answers
+        OwnFile     ///< to its own file and no fallback, as long as the object lives
+    };
+
     /// Enters a group, levels separated by "/"; the empty one is the whole store.
-    explicit RawStore(const QString& group = {});
+    explicit RawStore(const QString& group = {}, Reach reach = Reach::Everything);
+    ~RawStore();
 
     RawStore(const RawStore&) = delete;
     RawStore& operator=(const RawStore&) = delete;
@@ -56,4 +64,5 @@ public:
 private:
     QSettings* m_store; ///< the host library's; may be null
     std::optional<GroupScope> m_group;
+    bool m_hadFallbacks = false;
 };

@@ -46,7 +46,7 @@ void StoreComparisonJob::list()
 {
     m_isListed = true;
     m_names = m_copy->allKeys();
-    const QStringList held = RawStore().allEntries();
+    const QStringList held = RawStore({}, RawStore::Reach::OwnFile).allEntries();
     const auto [inFile, inStore] =
         std::mismatch(m_names.cbegin(), m_names.cend(), held.cbegin(), held.cend());
     if (inFile != m_names.cend())
@@ -57,7 +57,7 @@ void StoreComparisonJob::list()
 
 bool StoreComparisonJob::compareSome()
 {
-    const RawStore store;
+    const RawStore store({}, RawStore::Reach::OwnFile);
     const int end = qMin(m_names.size(), m_at + stepSize);
     for (; m_at < end && !m_difference; ++m_at) {
         const QString& name = m_names.at(m_at);

@@ -76,7 +76,7 @@ StoreWatch::State StoreWatch::changedState()
 // The store agrees with the file where it did not: it may have read it.
 bool StoreWatch::hasReadDifference() const
 {
-    const RawStore store;
+    const RawStore store({}, RawStore::Reach::OwnFile);
     const QString& name = m_difference->name;
     return store.contains(name) == m_difference->isInFile &&
            store.value(name) == m_difference->inFile;

@@ -99,7 +99,8 @@ QStringList completionsOf(const RegistryIndex& index, const QString& typed, int 
     const QString before = typed.left(separator + 1);
     const QString rest = typed.mid(separator + 1);
     QStringList names = before.isEmpty() ? RegistryPath::rootNames() : QStringList();
-    for (const QString& path : pathsOfAddress(before))
+    const QStringList paths = pathsOfAddress(before);
+    for (const QString& path : paths)
         names += listRegistryKey(index, path).allKeys();
     names.removeDuplicates();
     QStringList completions;

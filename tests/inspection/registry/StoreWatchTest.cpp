@@ -136,6 +136,26 @@ TEST_F(StoreWatchTest, LeavesTheStoreAsItIs)
     EXPECT_EQ(StoreFile::bytes().toStdString(), before.toStdString());
 }
 
+// A store of an organisation and an application answers from the organisation's file, too.
+TEST_F(StoreWatchTest, ComparesNothingButTheStoresOwnFile)
+{
+    QSettings shared(QSettings::IniFormat, QSettings::UserScope, "maker");
+    shared.setValue("shared", "5$from elsewhere");
+    shared.sync();
+    QSettings own(QSettings::IniFormat, QSettings::UserScope, "maker", "program");
+    own.setValue("A/v", "1$1");
+    own.sync();
+    QSettings* hosts = std::exchange(g_globalSettings, &own);
+    EXPECT_EQ(stored("shared").toStdString(), "5$from elsewhere");
+    StoreComparisonJob comparison;
+    while (comparison.step()) {
+    }
+    EXPECT_FALSE(comparison.difference());
+    EXPECT_TRUE(own.fallbacksEnabled());
+    EXPECT_EQ(stored("shared").toStdString(), "5$from elsewhere");
+    g_globalSettings = hosts;
+}
+
 TEST_F(StoreWatchTest, IsInStepWithoutAStore)
 {
     QSettings* hosts = std::exchange(g_globalSettings, nullptr);
