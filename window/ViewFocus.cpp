@@ -1,5 +1,7 @@
 #include "window/ViewFocus.h"
 
+#include "window/FocusFrame.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
@@ -19,8 +21,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
-        QPainter(this).fillRect(
-            rect(), QApplication::palette().color(QPalette::Active, QPalette::Highlight));
+        QPainter(this).fillRect(rect(), focusColor());
     }
 };
 

@@ -70,8 +70,9 @@ void KeyPanel::addLamps(const std::vector<VirtualKey>& keys, int rows, const QSt
 // Qt does not tell their state; host libraries report it from their own key events.
 void KeyPanel::addReports(QLayout* row)
 {
-    auto* caption = new QLabel(QStringLiteral("setKeyPressed:"));
-    caption->setToolTip(tr("Reports a key to the service, as host libraries do."));
+    auto* caption = new QLabel(tr("Report:"));
+    caption->setToolTip(
+        tr("setKeyPressed: tells the service that a key is down, as host libraries do."));
     row->addWidget(caption);
     addReport(row, tr("Re&turn down"), Qt::Key_Return);
     addReport(row, tr("&Space down"), Qt::Key_Space);
@@ -101,7 +102,7 @@ QLayout* KeyPanel::makeQuery()
     label->setBuddy(m_code);
     auto* row = new QHBoxLayout;
     addReports(row);
-    row->addSpacing(fontMetrics().height());
+    row->addSpacing(fontMetrics().height() / 2);
     row->addWidget(label);
     row->addWidget(m_code);
     row->addWidget(m_state, 1);

@@ -3,6 +3,7 @@
 #include "inspection/profiles/ReadableLine.h"
 #include "pages/profiles/ProfileText.h"
 #include "platform/profiles/LineStateText.h"
+#include "window/FaintText.h"
 
 #include <QColor>
 #include <QFont>
@@ -101,7 +102,7 @@ QVariant look(const QPalette& palette, const DifferenceRow& row, int role)
 {
     const bool isChanged = row.kind == Kind::Removed || row.kind == Kind::Added;
     if (role == Qt::ForegroundRole && !isChanged)
-        return palette.placeholderText();
+        return faintText();
     if (role == Qt::BackgroundRole && isChanged)
         return tinted(palette.base().color(), row.kind == Kind::Removed ? Qt::red : Qt::green);
     if (role != Qt::FontRole || !isChanged)

@@ -1624,12 +1624,16 @@ Put it in the place of the file to bring everything back.</source>
         <translation>修饰键自身的事件给出该事件之前的状态，下一次键盘或鼠标事件才给出新状态。不提供切换状态。</translation>
     </message>
     <message>
-        <source>Reports a key to the service, as host libraries do.</source>
-        <translation>向服务上报一个键，与主机库的做法相同。</translation>
-    </message>
-    <message>
         <source>Keys known to the service, as of the last event; left and right cannot be told apart</source>
         <translation>服务能识别的键，以最近一次事件为准；左右键无法区分</translation>
+    </message>
+    <message>
+        <source>Report:</source>
+        <translation>上报：</translation>
+    </message>
+    <message>
+        <source>setKeyPressed: tells the service that a key is down, as host libraries do.</source>
+        <translation>setKeyPressed：告诉服务某个键已按下，与主机库的做法相同。</translation>
     </message>
 </context>
 <context>

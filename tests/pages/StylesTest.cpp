@@ -45,6 +45,8 @@ protected:
         ASSERT_TRUE(widget.hasFocus());
         const QImage with = widget.grab().toImage();
         EXPECT_GT(differingPixels(with, without), widget.width() / 2);
+        const QRgb window = QApplication::palette().color(QPalette::Window).rgb();
+        EXPECT_GE(contrast(with.pixel(with.width() / 2, 0), window), 2.5);
         const QRect inside = with.rect().adjusted(4, 4, -4, -4);
         EXPECT_EQ(differingPixels(with.copy(inside), without.copy(inside)), 0);
     }

@@ -5,6 +5,7 @@
 #include "tests/support/WaitFor.h"
 #include "window/AboutDialog.h"
 #include "window/MainWindow.h"
+#include "window/StatusLine.h"
 #include "window/WindowSize.h"
 
 #include <QApplication>
@@ -15,7 +16,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
-#include <QTimer>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -103,7 +104,7 @@ TEST(MainWindowHelp, F1AndTheButtonOpenTheSameWindow)
     QTest::keyClick(help, Qt::Key_Escape);
     EXPECT_FALSE(help->isVisible());
     ASSERT_TRUE(waitForActive(&window));
-    QTest::keyClick(&window, Qt::Key_F1);
+    QTest::mouseClick(window.findChild<StatusLine*>()->findChild<QToolButton*>(), Qt::LeftButton);
     EXPECT_TRUE(help->isVisible());
     EXPECT_EQ(window.findChildren<HelpWindow*>().size(), 1);
 }
