@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/ShownText.h"
+#include "window/SortKey.h"
 
 #include <QVariant>
 
@@ -16,7 +17,14 @@ QVariant cellData(const Column& column, const Record& record, int role)
     return look;
 }
 
-/// The same for the column's header.
+/// What a cell is sorted by.
+template <typename Column, typename Record>
+SortKey cellSortKey(const Column& column, const Record& record)
+{
+    return column.key ? column.key(record) : SortKey::text(column.text(record));
+}
+
+/// What the header of a column has for a role.
 template <typename Column>
 QVariant headerCellData(const Column& column, int role)
 {

@@ -128,9 +128,8 @@ protected:
 
     SortKey sortKey(int record, int column) const override
     {
-        const Column& described = m_columns[static_cast<std::size_t>(column)];
-        const Record& each = m_records[static_cast<std::size_t>(record)];
-        return described.key ? described.key(each) : SortKey::text(described.text(each));
+        return cellSortKey(m_columns[static_cast<std::size_t>(column)],
+                           m_records[static_cast<std::size_t>(record)]);
     }
 
 private:

@@ -32,6 +32,7 @@ Texts addedTexts(const LineDifference& lines, bool areEndsKept)
 ProfileDifference::ProfileDifference(const QString& before, const QString& after,
                                      const ProfileChange& change)
     : m_lines(ProfileDocument::bytesOf(before), ProfileDocument::bytesOf(after)),
+      m_rows(differenceRows(m_lines)),
       m_readings(before, change.family),
       m_family(change.family),
       m_isAskedFor(findAskedFor(FamilyLines(after, change.family), change)),

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "inspection/profiles/DifferenceRows.h"
 #include "inspection/profiles/FamilyLines.h"
-#include "inspection/profiles/LineDifference.h"
 
 #include <QStringList>
 
@@ -21,6 +21,8 @@ public:
     ProfileDifference(const QString& before, const QString& after, const ProfileChange& change);
 
     const LineDifference& lines() const { return m_lines; }
+    /// See differenceRows; large files have a million of them.
+    const std::vector<DifferenceRow>& rows() const { return m_rows; }
     ProfileFamily family() const { return m_family; }
     /// True where nothing has changed but the line that the change asks for, in its place, or a new
     /// one, with a header for a new section.
@@ -42,6 +44,7 @@ private:
     void findFates();
 
     LineDifference m_lines;
+    std::vector<DifferenceRow> m_rows;
     FamilyLines m_readings; ///< of the file before
     ProfileFamily m_family;
     bool m_isAskedFor;

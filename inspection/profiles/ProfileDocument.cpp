@@ -50,14 +50,3 @@ ProfileDocument::Line ProfileDocument::line(int index, const QTextCodec* codec) 
             readingOf(m_lines.narrowMark(index)), readingOf(m_lines.wideMark(index)),
             m_lines.form().isUtf8(index)};
 }
-
-std::vector<int> ProfileDocument::lostLines(ProfileFamily family) const
-{
-    std::vector<int> numbers;
-    for (int line = 0; line < m_lines.count(); ++line) {
-        if (isLost(family == ProfileFamily::Narrow ? m_lines.narrowMark(line)
-                                                   : m_lines.wideMark(line)))
-            numbers.push_back(line + 1);
-    }
-    return numbers;
-}

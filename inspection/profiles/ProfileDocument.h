@@ -52,10 +52,6 @@ public:
     const ProfileNames& names() const { return m_names; }
     Name name(int index) const { return m_names.name(m_lines, index); }
 
-    /// The numbers of the lines, from 1 on, that writing through a family loses, or loses a part
-    /// of.
-    std::vector<int> lostLines(ProfileFamily family) const;
-
 private:
     QString m_path;
     bool m_exists = false;

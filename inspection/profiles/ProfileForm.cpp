@@ -89,7 +89,7 @@ QString ProfileForm::text() const
 
 QString ProfileForm::encodingText() const
 {
-    const QString name = m_codec ? QString::fromLatin1(m_codec->name()) : QStringLiteral("UTF-8");
+    QString name = m_codec ? QString::fromLatin1(m_codec->name()) : QStringLiteral("UTF-8");
     if (m_otherLines.empty())
         return name;
     return tr("not UTF-8 (lines: %1, the first is %2)")

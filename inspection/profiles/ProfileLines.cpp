@@ -128,8 +128,8 @@ LineMark ProfileLines::narrowMark(int line) const
     return number < m_narrow.size() ? m_narrow[number] : LineMark();
 }
 
-// Lines of bytes are not those of a text in another encoding: the wide family, which knows no such
-// encodings, makes nothing of them.
+// The wide family knows no other encoding: where the file has one, it reads bytes, of which a line
+// is not always a line of the text.
 LineMark ProfileLines::wideMark(int line) const
 {
     const auto number = static_cast<std::size_t>(line);

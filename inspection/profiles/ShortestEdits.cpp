@@ -42,7 +42,7 @@ ShortestEdits::ShortestEdits(const Side& before, const Side& after)
 // True when both sides are done.
 bool ShortestEdits::extend(const Reach& former, int edits)
 {
-    Reach reach(static_cast<std::size_t>(2 * edits + 1), -1);
+    Reach reach(2 * static_cast<std::size_t>(edits) + 1, -1);
     const int goal = m_before.count - m_after.count;
     for (int diagonal = -edits; diagonal <= edits; diagonal += 2) {
         const int from = start(former, diagonal);

@@ -82,7 +82,7 @@ QTableView* ProfileDifferenceDialog::makeTable()
     auto* table = new QTableView;
     auto* model =
         new RecordsModel<DifferenceRow>(DifferenceColumns::of(m_difference, palette()), this);
-    model->setRecords(differenceRows(m_difference->lines()));
+    model->setRecords(m_difference->rows());
     table->setObjectName(QStringLiteral("difference"));
     table->setAccessibleName(tr("Lines before and after"));
     table->setModel(model);

@@ -15,7 +15,7 @@
 ProfileEditPanel::ProfileEditPanel(QWidget* parent)
     : QGroupBox(tr("Change or add a value"), parent),
       m_family(new QComboBox),
-      m_backup(new QCheckBox(tr("Keep a &backup copy")))
+      m_backup(new QCheckBox(tr("Keep a &backup")))
 {
     auto* grid = new QGridLayout(this);
     m_section = addInput(grid, 0, 0, 1, tr("&Section:"), "section");

@@ -11,7 +11,7 @@ constexpr int mostRows = 20'000'000;
 } // namespace
 
 ProfileLinesModel::ProfileLinesModel(QObject* parent)
-    : QAbstractTableModel(parent), m_columns(ProfileColumns::ofLines())
+    : SortableTableModel(parent), m_columns(ProfileColumns::ofLines())
 {
 }
 
@@ -20,14 +20,16 @@ void ProfileLinesModel::setDocument(std::shared_ptr<const ProfileDocument> docum
     beginResetModel();
     m_document = std::move(document);
     m_notFound.clear();
-    m_cachedRow = -1;
+    m_cachedNumber = -1;
+    forgetRows();
     endResetModel();
+    sortAgain();
 }
 
 void ProfileLinesModel::setCodec(const QTextCodec* codec)
 {
     m_codec = codec;
-    m_cachedRow = -1;
+    m_cachedNumber = -1;
     if (rowCount() > 0)
         emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
@@ -35,29 +37,40 @@ void ProfileLinesModel::setCodec(const QTextCodec* codec)
 void ProfileLinesModel::setNotFound(int line)
 {
     m_notFound.insert(line);
-    m_cachedRow = -1;
-    emit dataChanged(index(line, 0), index(line, columnCount() - 1));
+    m_cachedNumber = -1;
+    const int row = rowOf(line);
+    emit dataChanged(index(row, 0), index(row, columnCount() - 1));
 }
 
-ProfileDocument::Line ProfileLinesModel::line(int row) const
+ProfileDocument::Line ProfileLinesModel::line(int number) const
 {
-    ProfileDocument::Line line = m_document->line(row, m_codec);
-    if (m_notFound.contains(row))
+    ProfileDocument::Line line = m_document->line(number, m_codec);
+    if (m_notFound.contains(number))
         line.wide.state = LineState::NotFound;
     return line;
 }
 
-const ProfileDocument::Line& ProfileLinesModel::cached(int row) const
+const ProfileDocument::Line& ProfileLinesModel::cached(int number) const
 {
-    if (row != m_cachedRow)
-        m_line = line(row);
-    m_cachedRow = row;
+    if (number != m_cachedNumber)
+        m_line = line(number);
+    m_cachedNumber = number;
     return m_line;
+}
+
+int ProfileLinesModel::recordCount() const
+{
+    return m_document ? std::min(m_document->lines().count(), mostRows) : 0;
+}
+
+SortKey ProfileLinesModel::sortKey(int record, int column) const
+{
+    return cellSortKey(m_columns[static_cast<std::size_t>(column)], line(record));
 }
 
 int ProfileLinesModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() || !m_document ? 0 : std::min(m_document->lines().count(), mostRows);
+    return parent.isValid() ? 0 : recordCount();
 }
 
 int ProfileLinesModel::columnCount(const QModelIndex& parent) const
@@ -68,7 +81,7 @@ int ProfileLinesModel::columnCount(const QModelIndex& parent) const
 QVariant ProfileLinesModel::data(const QModelIndex& index, int role) const
 {
     return index.isValid() ? cellData(m_columns[static_cast<std::size_t>(index.column())],
-                                      cached(index.row()), role)
+                                      cached(recordAt(index.row())), role)
                            : QVariant();
 }
 

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "pages/profiles/ProfileColumns.h"
+#include "window/SortableTableModel.h"
 
-#include <QAbstractTableModel>
 #include <QSet>
 
 #include <memory>
 
 class QTextCodec;
 
-/// The lines of a profile, each made when it is shown; the header over their numbers stands as the
-/// numbers do.
-class ProfileLinesModel : public QAbstractTableModel
+/// The lines of a profile, which are its records, each made when it is shown; the header over their
+/// numbers stands as the numbers do.
+class ProfileLinesModel : public SortableTableModel
 {
 public:
     explicit ProfileLinesModel(QObject* parent = nullptr);
@@ -27,15 +27,20 @@ public:
     /// Marks the wide entry of this line as not found.
     void setNotFound(int line);
 
-    ProfileDocument::Line line(int row) const;
+    /// A line, from 0 on.
+    ProfileDocument::Line line(int number) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+protected:
+    int recordCount() const override;
+    SortKey sortKey(int record, int column) const override;
+
 private:
-    const ProfileDocument::Line& cached(int row) const;
+    const ProfileDocument::Line& cached(int number) const;
 
     std::vector<RecordColumn<ProfileDocument::Line>> m_columns;
     std::shared_ptr<const ProfileDocument> m_document;
@@ -43,5 +48,5 @@ private:
     QSet<int> m_notFound;
     // A view asks for all that a line has, one after the other.
     mutable ProfileDocument::Line m_line;
-    mutable int m_cachedRow = -1;
+    mutable int m_cachedNumber = -1;
 };

@@ -76,7 +76,7 @@ void ProfileLinesPane::makeLines()
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
                 if (current.isValid())
-                    emit lineChosen(current.row());
+                    emit lineChosen(m_model->recordAt(current.row()));
             });
 }
 
@@ -119,14 +119,15 @@ void ProfileLinesPane::setNotFound(int line)
 
 int ProfileLinesPane::chosenLine() const
 {
-    return chosenRow(*m_table);
+    const int row = chosenRow(*m_table);
+    return row < 0 ? -1 : m_model->recordAt(row);
 }
 
 void ProfileLinesPane::chooseLine(int line)
 {
     const QSignalBlocker blocker(this);
     if (line < m_model->rowCount())
-        m_table->selectRow(line);
+        m_table->selectRow(m_model->rowOf(line));
 }
 
 QString ProfileLinesPane::text(int line) const
@@ -185,7 +186,8 @@ void ProfileLinesPane::findNext()
 void ProfileLinesPane::finishSearch(const ProfileFindJob& job, bool complete, const QString& text)
 {
     if (job.found() >= 0) {
-        m_table->setCurrentIndex(m_model->index(job.found(), ProfileColumns::TextColumn));
+        m_table->setCurrentIndex(
+            m_model->index(m_model->rowOf(job.found()), ProfileColumns::TextColumn));
         m_page.setStatus(description(job.found()));
     } else if (complete) {
         m_page.setStatus(tr("No line contains “%1”.").arg(text));

@@ -30,6 +30,8 @@ public:
 
     /// Shows the names alone that are known to be read differently.
     void showOnlyDifferences(bool only);
+    /// Puts the rows in their order again when many answers have come.
+    void arrangeAgain() { sortAgain(); }
 
     /// Which name of the document stands in a row.
     int nameAt(int row) const;

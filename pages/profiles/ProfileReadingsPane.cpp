@@ -34,6 +34,7 @@ ProfileReadingsPane::ProfileReadingsPane(PageContext& page, QWidget* parent)
       m_model(new ProfileReadingsModel(this)),
       m_table(
           makeProfileTable(m_model, tr("Readings of both families"), QStringLiteral("readings"))),
+      m_hint(new EmptyHint(m_table, QString())),
       m_onlyDifferences(new QCheckBox(tr("Onl&y differences"))),
       m_next(glowing(new QPushButton(tr("Next difference")))),
       m_all(glowing(new QPushButton(tr("Re&ad all values")))),
@@ -58,7 +59,7 @@ void ProfileReadingsPane::makeTable()
     fitColumns(*m_table, {QStringLiteral("Name of section"), QStringLiteral("Name of a key")});
     m_table->setColumnWidth(ProfileColumns::DifferenceColumn, m_table->fontMetrics().height() * 2);
     new ColumnBalancer(m_table, ProfileColumns::WideColumn, QStringLiteral("255.255.255.0"));
-    new EmptyHint(m_table, tr("What the wide and the narrow calls read stands here side by side."));
+    updateHint();
     m_table->viewport()->installEventFilter(this);
     connect(m_model, &QAbstractItemModel::layoutChanged, &m_soon, QOverload<>::of(&QTimer::start));
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, &m_soon,
@@ -116,6 +117,9 @@ QLayout* ProfileReadingsPane::makeButtonRow()
 
 void ProfileReadingsPane::setDocument(std::shared_ptr<const ProfileDocument> document)
 {
+    const auto& former = m_model->document();
+    if (!former || former->path() != document->path())
+        m_onlyDifferences->setChecked(false);
     m_queue->setDocument(document);
     m_model->setDocument(std::move(document));
     updateButtons();
@@ -140,6 +144,13 @@ void ProfileReadingsPane::updateButtons()
     m_next->setEnabled(m_model->nameCount() > 0);
 }
 
+void ProfileReadingsPane::updateHint()
+{
+    m_hint->setText(m_onlyDifferences->isChecked()
+                        ? tr("Of the values that have been asked for, none is read differently.")
+                        : tr("What the wide and the narrow calls read stands here side by side."));
+}
+
 int ProfileReadingsPane::chosenName() const
 {
     const int row = chosenRow(*m_table);
@@ -149,7 +160,7 @@ int ProfileReadingsPane::chosenName() const
 void ProfileReadingsPane::chooseName(int name)
 {
     const QSignalBlocker blocker(this);
-    const int row = m_model->rowOf(name);
+    const int row = name < 0 ? -1 : m_model->rowOf(name);
     if (row >= 0)
         m_table->selectRow(row);
     else
@@ -237,6 +248,7 @@ void ProfileReadingsPane::readAll()
         return;
     m_page.startJob(tr("Asking both families for all values"), makeAsking(next),
                     [this](const ProfileAskingJob&, bool complete) {
+                        arrangeAgain();
                         if (complete)
                             m_page.report(PageContext::Report::Info, counts());
                         else
@@ -245,10 +257,16 @@ void ProfileReadingsPane::readAll()
                     });
 }
 
+void ProfileReadingsPane::arrangeAgain()
+{
+    m_model->arrangeAgain();
+}
+
 void ProfileReadingsPane::showOnlyDifferences(bool only)
 {
     const int chosen = chosenName();
     m_model->showOnlyDifferences(only);
+    updateHint();
     chooseName(chosen);
     m_soon.start();
     if (only && m_model->readCount() < m_model->nameCount())

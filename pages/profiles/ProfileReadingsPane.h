@@ -13,6 +13,7 @@
 class PageContext;
 class ProfileAskingJob;
 class ProfileReadingQueue;
+class EmptyHint;
 class ProfileReadingsModel;
 class QCheckBox;
 class QLayout;
@@ -46,6 +47,9 @@ public:
     int scrollPosition() const;
     void scrollTo(int position);
 
+    /// Puts the rows in their order again when many answers have come.
+    void arrangeAgain();
+
     /// Asks the families for all names.
     void readAll();
     /// Goes to the next name that the families read differently, asking for those before it.
@@ -72,10 +76,12 @@ private:
     void showOnlyDifferences(bool only);
     void findDifference(int from, bool isAgain);
     void updateButtons();
+    void updateHint();
 
     PageContext& m_page;
     ProfileReadingsModel* m_model;
     QTableView* m_table;
+    EmptyHint* m_hint;
     QCheckBox* m_onlyDifferences;
     QPushButton* m_next;
     QPushButton* m_all;

@@ -45,6 +45,7 @@ ProfilesPage::ProfilesPage(QWidget* parent)
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_lines);
     splitter->addWidget(m_readings);
+    splitter->setSizes({3000, 2000}); // shares: where the window is low, lines come first
     body()->addWidget(splitter, 1);
     body()->addWidget(m_panel);
     connect(m_lines, &ProfileLinesPane::lineChosen, this, &ProfilesPage::showLine);
@@ -122,11 +123,8 @@ void ProfilesPage::open(const QString& path)
         report(Report::Error, tr("Type the path of a file first."));
         return;
     }
-    const QString refused = ProfileDocument::fault(path);
-    if (!refused.isEmpty()) {
-        report(Report::Error, refused);
+    if (isRefused(path))
         return;
-    }
     m_summary.clear();
     const QString whole = QFileInfo(path).absoluteFilePath();
     m_file->setText(whole);
@@ -134,10 +132,19 @@ void ProfilesPage::open(const QString& path)
     read(whole);
 }
 
+// Says why where it is.
+bool ProfilesPage::isRefused(const QString& path)
+{
+    const QString reason = ProfileDocument::fault(path);
+    if (!reason.isEmpty())
+        report(Report::Error, reason);
+    return !reason.isEmpty();
+}
+
 // What is typed may be a path that has not been opened.
 void ProfilesPage::refresh()
 {
-    if (m_path.isEmpty() || isBusy())
+    if (m_path.isEmpty() || isBusy() || isRefused(m_path))
         return;
     m_summary.clear();
     m_place = currentPlace();
@@ -182,7 +189,7 @@ std::unique_ptr<ProfileReadingJob> ProfilesPage::makeReadingJob(const QString& p
             showDocument(std::move(document), wanted);
         },
         [this](int name, const ProfileReading& reading) { addReading(name, reading); }};
-    m_readingStamp = ProfileStamp::of(path);
+    m_readingStamp = FileStamp::of(path);
     auto job = std::make_unique<ProfileReadingJob>(path, std::move(receiver));
     if (m_place.name)
         job->lookFor(*m_place.name);
@@ -229,9 +236,20 @@ void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
         report(Report::Info, m_summary + QLatin1Char(' ') + m_readings->counts());
 }
 
+// A change right behind the reading may have left the time as it was.
+bool ProfilesPage::hasChanged()
+{
+    const FileStamp former = std::exchange(m_stamp, FileStamp::of(m_path));
+    if (former != m_stamp)
+        return true;
+    return !former.isSure() && ProfileDocument::bytesOf(m_path) != m_document->lines().bytes();
+}
+
 void ProfilesPage::lookForChanges()
 {
-    if (m_path.isEmpty() || m_rereader.isRunning() || ProfileStamp::of(m_path) == m_stamp)
+    if (m_path.isEmpty() || m_rereader.isRunning() || !hasChanged())
+        return;
+    if (QFileInfo::exists(m_path) && isRefused(m_path)) // which is said once
         return;
     m_place = currentPlace();
     m_reread = makeReadingJob(m_path);
@@ -276,6 +294,7 @@ ProfilesPage::Place ProfilesPage::currentPlace() const
 void ProfilesPage::restorePlace(bool complete)
 {
     const QScopedValueRollback<bool> restoring(m_isRestoring, true);
+    m_readings->arrangeAgain();
     const int line = m_place.line;
     if (line >= 0 && line < m_document->lines().count() && m_lines->text(line) == m_place.text)
         m_lines->chooseLine(line);

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "inspection/JobRunner.h"
+#include "inspection/files/FileStamp.h"
 #include "inspection/profiles/ProfileDocument.h"
 #include "inspection/profiles/ProfileReadingJob.h"
-#include "inspection/profiles/ProfileStamp.h"
 #include "inspection/profiles/ProfileWriter.h"
 #include "window/Page.h"
 
@@ -59,6 +59,8 @@ private:
     void findNext();
     void nextDifference();
     void chooseFile();
+    bool isRefused(const QString& path);
+    bool hasChanged();
     void read(const QString& path);
     std::unique_ptr<ProfileReadingJob> makeReadingJob(const QString& path);
     void showDocument(std::shared_ptr<const ProfileDocument> document, int wanted);
@@ -85,8 +87,8 @@ private:
     ProfileEditor* m_editor;
     QString m_path; ///< of the open file; empty where none is
     std::shared_ptr<const ProfileDocument> m_document;
-    ProfileStamp m_stamp;        ///< of the file that is shown
-    ProfileStamp m_readingStamp; ///< of the file that is being read
+    FileStamp m_stamp;        ///< of the file that is shown
+    FileStamp m_readingStamp; ///< of the file that is being read
     Place m_place;
     int m_wanted = -1;          ///< the name of m_place in the document, or -1
     bool m_isRestoring = false; ///< true while m_place is being chosen again

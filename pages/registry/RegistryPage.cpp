@@ -251,10 +251,13 @@ void RegistryPage::openKey(const QString& path)
     m_tree->setFocus();
 }
 
+// Selecting another key shows it; a large one takes too long to be shown twice.
 void RegistryPage::showChange(const QString& path, const QString& name)
 {
     readKeys();
+    const QString before = m_tree->path();
     goTo(path);
-    showKey();
+    if (m_tree->path() == before)
+        showKey();
     m_table->choose(name);
 }

@@ -27,8 +27,3 @@ bool isLost(const LineReading& reading)
 {
     return isLost(reading.state) || reading.isCut;
 }
-
-bool isLost(LineMark mark)
-{
-    return isLost(mark.state) || mark.isCut;
-}

@@ -62,4 +62,3 @@ LineReading readingOf(LineMark mark);
 bool isLost(LineState state);
 /// True where that holds, or a part of the line goes.
 bool isLost(const LineReading& reading);
-bool isLost(LineMark mark);

@@ -500,7 +500,7 @@ Put it in the place of the file to bring everything back.</source>
     </message>
     <message>
         <source>line end</source>
-        <translation>换行符</translation>
+        <translation>行尾</translation>
     </message>
     <message>
         <source>±</source>
@@ -2439,7 +2439,7 @@ Wide: %2</source>
         <translation>写入(&amp;W)</translation>
     </message>
     <message>
-        <source>Keep a &amp;backup copy</source>
+        <source>Keep a &amp;backup</source>
         <translation>保留备份(&amp;B)</translation>
     </message>
     <message>
@@ -2617,11 +2617,11 @@ Wide: %2</source>
     </message>
     <message>
         <source>The line ends change: %1, then %2.</source>
-        <translation>换行符改变：原为 %1，之后为 %2。</translation>
+        <translation>行尾改变：原为 %1，之后为 %2。</translation>
     </message>
     <message>
         <source>The last line gets a line end.</source>
-        <translation>最后一行将加上换行符。</translation>
+        <translation>最后一行将加上行尾。</translation>
     </message>
 </context>
 <context>
@@ -2760,6 +2760,10 @@ Wide: %2</source>
     <message>
         <source>Delete key</source>
         <translation>删除键</translation>
+    </message>
+    <message>
+        <source>Of the values that have been asked for, none is read differently.</source>
+        <translation>已读取的值中没有读取结果不同的。</translation>
     </message>
 </context>
 <context>

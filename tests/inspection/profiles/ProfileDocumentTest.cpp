@@ -82,13 +82,6 @@ TEST_F(ProfileDocumentTest, NamesEachEntryOnceWhicheverLineGivesIt)
     EXPECT_EQ(m_document->names().place(0).line, 1);
 }
 
-TEST_F(ProfileDocumentTest, TellsWhichLinesAreLost)
-{
-    const ProfileDocument& document = load("; c\n[S]\na=1\nb=1=1\n");
-    EXPECT_EQ(document.lostLines(ProfileFamily::Narrow), std::vector<int>({1, 4}));
-    EXPECT_EQ(document.lostLines(ProfileFamily::Wide), std::vector<int>({1}));
-}
-
 TEST_F(ProfileDocumentTest, IsReadInManyStepsWhereItIsLarge)
 {
     constexpr int keys = 100000;

@@ -53,6 +53,19 @@ TEST_F(ProfileDifferencesTest, ShownAloneFollowTheFile)
     EXPECT_EQ(row("readings", 0)[1], QStringLiteral("Query"));
 }
 
+TEST_F(ProfileDifferencesTest, AreNotShownAloneInAnotherFile)
+{
+    open();
+    showOnlyDifferences(true);
+    QFile other(m_file.folder() + QStringLiteral("/other.ini"));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.write("[Other]\nk=v\n");
+    other.close();
+    open(other.fileName());
+    EXPECT_FALSE(m_probe.control<QCheckBox>("onlyDifferences").isChecked());
+    EXPECT_EQ(model("readings").rowCount(), 1);
+}
+
 TEST_F(ProfileDifferencesTest, AreGoneThroughByAKeyAndAround)
 {
     m_file.write("[Net]\na=1=1\nb=1\nc=1=1\n");

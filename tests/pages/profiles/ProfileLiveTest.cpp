@@ -51,6 +51,16 @@ TEST_F(ProfileLiveTest, SaysThatTheFileHasBeenDeletedAndShowsItWhenItIsBack)
     EXPECT_TRUE(becomes("readings", 0, {"Net", "Mask", "1", "=", "1"}));
 }
 
+TEST_F(ProfileLiveTest, SaysThatAFolderLiesThereNowAndKeepsTheLines)
+{
+    open();
+    ASSERT_TRUE(QFile::remove(m_file.path()));
+    ASSERT_TRUE(QDir().mkdir(m_file.path()));
+    EXPECT_TRUE(statusBecomes(QStringLiteral("is a folder.")));
+    EXPECT_EQ(model("lines").rowCount(), 7);
+    ASSERT_TRUE(QDir().rmdir(m_file.path()));
+}
+
 TEST_F(ProfileLiveTest, ShowsAMissingFileWhenItComes)
 {
     ASSERT_TRUE(QFile::remove(m_file.path()));
