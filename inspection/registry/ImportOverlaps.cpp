@@ -13,7 +13,7 @@ QString newTwin(QMultiHash<QString, QString>& names, const QString& name)
     const QString folded = name.toCaseFolded();
     if (names.contains(folded, name))
         return {};
-    const QString other = names.value(folded);
+    QString other = names.value(folded);
     names.insert(folded, name);
     return other;
 }

@@ -61,10 +61,10 @@ QString ImportText::data(const RegFileEntry& entry)
 
 QString ImportText::summary(const ImportPlan& plan)
 {
-    const QString text = ImportTexts::tr("As written in the file: %L1. Altered: %L2. Refused: %L3.")
-                             .arg(plan.count(Outcome::Done))
-                             .arg(plan.count(Outcome::Altered))
-                             .arg(plan.count(Outcome::Refused));
+    QString text = ImportTexts::tr("As written in the file: %L1. Altered: %L2. Refused: %L3.")
+                       .arg(plan.count(Outcome::Done))
+                       .arg(plan.count(Outcome::Altered))
+                       .arg(plan.count(Outcome::Refused));
     const int overwritten = plan.overwritten();
     if (overwritten == 0)
         return text;

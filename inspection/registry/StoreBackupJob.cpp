@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qint64 pieceSize = 256 * 1024;
+constexpr qint64 pieceSize = qint64{256} * 1024;
 
 } // namespace
 

@@ -38,7 +38,7 @@ QString withoutBrackets(const QString& address)
 // The address that is meant by this one; null where it means what it says.
 QString meantBy(const QString& address)
 {
-    const QString inner = withoutBrackets(address);
+    QString inner = withoutBrackets(address);
     if (!inner.isEmpty())
         return inner;
     const QString path = RegistryPath::slashed(address);
@@ -61,7 +61,7 @@ QString foundBelow(const RegistryIndex& index, const QString& parent, const QStr
     for (const QString& name : qAsConst(names)) {
         if (name.compare(levels.at(at), Qt::CaseInsensitive) != 0)
             continue;
-        const QString found = foundBelow(index, RegistryPath::join(parent, name), levels, at + 1);
+        QString found = foundBelow(index, RegistryPath::join(parent, name), levels, at + 1);
         if (!found.isEmpty())
             return found;
     }

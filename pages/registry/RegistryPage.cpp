@@ -98,7 +98,8 @@ void RegistryPage::connectParts()
 void RegistryPage::addSearchKeys()
 {
     const std::pair<QKeySequence, void (FindPane::*)()> keys[] = {
-        {Qt::Key_F3, &FindPane::showNext}, {Qt::SHIFT | Qt::Key_F3, &FindPane::showPrevious}};
+        {QStringLiteral("F3"), &FindPane::showNext},
+        {QStringLiteral("Shift+F3"), &FindPane::showPrevious}};
     for (const auto& [key, slot] : keys) {
         auto* action = new QAction(this);
         action->setShortcut(key);
