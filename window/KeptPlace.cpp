@@ -6,20 +6,28 @@
 #include <utility>
 
 KeptPlace::KeptPlace(QTableView& table, KeyOf keyOf)
-    : m_table(table), m_keyOf(std::move(keyOf)), m_scrolled(table.verticalScrollBar()->value())
+    : m_table(table),
+      m_keyOf(std::move(keyOf)),
+      m_right(table.horizontalScrollBar()->value()),
+      m_down(table.verticalScrollBar()->value())
 {
     const QModelIndexList rows = table.selectionModel()->selectedRows();
     for (const QModelIndex& row : rows)
         m_selected.insert(m_keyOf(row.row()));
-    if (table.currentIndex().isValid())
-        m_current = m_keyOf(table.currentIndex().row());
+    const QModelIndex current = table.currentIndex();
+    if (!current.isValid())
+        return;
+    m_current = m_keyOf(current.row());
+    m_column = current.column();
 }
 
 void KeptPlace::restore() const
 {
     if (!m_selected.isEmpty() || !m_current.isNull())
         select();
-    m_table.verticalScrollBar()->setValue(m_scrolled);
+    m_table.doItemsLayout(); // the scroll bars have their new range behind it
+    m_table.horizontalScrollBar()->setValue(m_right);
+    m_table.verticalScrollBar()->setValue(m_down);
 }
 
 void KeptPlace::select() const
@@ -31,7 +39,7 @@ void KeptPlace::select() const
         const QString key = m_keyOf(row);
         const QModelIndex index = model.index(row, 0);
         if (!current.isValid() && key == m_current)
-            current = index;
+            current = model.index(row, m_column);
         if (m_selected.contains(key))
             selection.select(index, index);
     }

@@ -27,5 +27,7 @@ private:
     KeyOf m_keyOf;
     QSet<QString> m_selected;
     QString m_current; ///< null: none
-    int m_scrolled;
+    int m_column = 0;  ///< of the current cell
+    int m_right;
+    int m_down;
 };

@@ -6,23 +6,22 @@ void ProfilePresence::note(const QString& path)
     if (path != m_path)
         forget();
     m_path = path;
-    const ProfileStamp stamp = ProfileStamp::of(path);
-    if (stamp.exists)
-        m_stamp = stamp;
+    const FileIdentity file = FileIdentity::of(path);
+    if (file.exists)
+        m_file = file;
 }
 
 void ProfilePresence::forget()
 {
-    m_stamp = {};
+    m_file = {};
 }
 
 ProfilePresence::Fate ProfilePresence::fate(const QString& path) const
 {
-    if (!m_stamp.exists || path != m_path)
+    if (!m_file.exists || path != m_path)
         return Fate::Same;
-    const ProfileStamp stamp = ProfileStamp::of(path);
-    if (!stamp.exists)
+    const FileIdentity file = FileIdentity::of(path);
+    if (!file.exists)
         return Fate::Deleted;
-    const bool isSame = stamp.device == m_stamp.device && stamp.inode == m_stamp.inode;
-    return isSame ? Fate::Same : Fate::Replaced;
+    return file.isSameFile(m_file) ? Fate::Same : Fate::Replaced;
 }

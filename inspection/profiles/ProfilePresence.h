@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/profiles/ProfileStamp.h"
+#include "inspection/files/FileIdentity.h"
 
 /// Remembers which file a profile was when it was read, to tell whether it is still the same one.
 class ProfilePresence
@@ -22,5 +22,5 @@ public:
 
 private:
     QString m_path;
-    ProfileStamp m_stamp; ///< of the file when it was there last
+    FileIdentity m_file; ///< of the file when it was there last
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "inspection/Job.h"
-#include "inspection/registry/FileIdentity.h"
+#include "inspection/files/FileIdentity.h"
 
 #include <QStringList>
 #include <QTemporaryDir>

@@ -9,8 +9,8 @@
 #include "pages/registry/KeyTree.h"
 #include "pages/registry/RegistryActions.h"
 #include "pages/registry/StoreFollower.h"
-#include "pages/registry/TablePlace.h"
 #include "pages/registry/ValueTable.h"
+#include "window/KeptPlace.h"
 #include "window/ShownText.h"
 
 #include <QAction>
@@ -169,7 +169,9 @@ void RegistryPage::follow()
     const bool hadCounts = statusText() == m_counts;
     readKeys();
     if (m_tree->path() == path) {
-        const TablePlace place(*m_table);
+        const KeptPlace place(*m_table, [this](int row) {
+            return m_table->model()->index(row, 0).data().toString();
+        });
         m_table->showKey(path, m_tree->keys().names());
         place.restore();
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/registry/FileIdentity.h"
+#include "inspection/files/FileIdentity.h"
 
 #include <QObject>
 

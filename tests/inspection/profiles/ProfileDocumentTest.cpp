@@ -1,6 +1,5 @@
 #include "inspection/profiles/ProfileFindJob.h"
 #include "inspection/profiles/ProfileLoadingJob.h"
-#include "inspection/profiles/ProfileStamp.h"
 #include "tests/inspection/profiles/ProfileFixture.h"
 
 #include <QTextCodec>
@@ -126,19 +125,6 @@ TEST_F(ProfileDocumentTest, DecodesOnlyLinesThatAreNotUtf8)
     EXPECT_TRUE(document.line(0).isUtf8);
     EXPECT_FALSE(document.line(1).isUtf8);
     EXPECT_EQ(document.line(1).text, QString(QChar::ReplacementCharacter));
-}
-
-TEST(ProfileStamps, TellAFileFromWhatItWas)
-{
-    const ProfileFixture file;
-    EXPECT_FALSE(ProfileStamp::of(file.path()).exists);
-    file.write("a");
-    const ProfileStamp before = ProfileStamp::of(file.path());
-    EXPECT_TRUE(before == ProfileStamp::of(file.path()));
-    file.setStamp(file.stamp().addMSecs(1));
-    EXPECT_TRUE(before != ProfileStamp::of(file.path()));
-    ASSERT_TRUE(QFile::remove(file.path()));
-    EXPECT_TRUE(before != ProfileStamp::of(file.path()));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "inspection/registry/FileIdentity.h"
+#include "inspection/files/FileIdentity.h"
 
 #include <QFile>
 
