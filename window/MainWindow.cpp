@@ -87,8 +87,8 @@ void MainWindow::addShortcuts(int pages)
         });
     }
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &MainWindow::showHelp);
-    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this,
-            &QWidget::close);
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Q")), this), &QShortcut::activated,
+            this, &QWidget::close);
     addShortcut(Qt::Key_F5, [](Page& page) { page.refresh(); });
     addShortcut(QKeySequence::Find, [](Page& page) { page.find(); });
     // A field that is being typed into takes these two for itself.

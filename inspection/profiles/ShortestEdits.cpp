@@ -49,7 +49,8 @@ bool ShortestEdits::extend(const Reach& former, int edits)
         if (from < 0 || from > m_before.count || from - diagonal < 0 ||
             from - diagonal > m_after.count)
             continue;
-        reach[static_cast<std::size_t>(edits + diagonal)] = follow(from, diagonal);
+        const int place = edits + diagonal;
+        reach[static_cast<std::size_t>(place)] = follow(from, diagonal);
     }
     m_reaches.push_back(std::move(reach));
     return reached(m_reaches.back(), goal) == m_before.count;

@@ -44,8 +44,8 @@ DataField::DataField(QWidget* parent)
         field->setAccessibleName(tr("Data"));
     connect(m_line, &QLineEdit::textChanged, this, &DataField::notice);
     connect(m_large, &QPlainTextEdit::textChanged, this, &DataField::notice);
-    for (const int enter : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL + enter), m_large);
+    for (const char* enter : {"Ctrl+Return", "Ctrl+Enter"}) {
+        auto* shortcut = new QShortcut(QKeySequence(QLatin1String(enter)), m_large);
         shortcut->setContext(Qt::WidgetShortcut);
         connect(shortcut, &QShortcut::activated, this, &DataField::submitted);
     }

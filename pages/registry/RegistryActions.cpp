@@ -110,7 +110,7 @@ void RegistryActions::makeActions()
 // F2 alone is free in the tree: a key has nothing else to be edited.
 void RegistryActions::makeKeyActions()
 {
-    const QKeySequence shiftF2(Qt::SHIFT + Qt::Key_F2);
+    const QKeySequence shiftF2(QStringLiteral("Shift+F2"));
     m_renameKey = makeChange(tr("Rename key..."), &RegistryActions::renameKey);
     m_renameKey->setShortcuts({QKeySequence(Qt::Key_F2), shiftF2});
     m_removeKey = makeChange(tr("Delete key"), &RegistryActions::removeKey);
@@ -125,7 +125,7 @@ void RegistryActions::makeValueActions()
     m_edit = makeChange(tr("Edit value"), &RegistryActions::editValue);
     m_edit->setShortcut(Qt::Key_F2);
     m_renameValue = makeChange(tr("Rename value..."), &RegistryActions::renameValue);
-    m_renameValue->setShortcut(Qt::SHIFT + Qt::Key_F2);
+    m_renameValue->setShortcut(QKeySequence(QStringLiteral("Shift+F2")));
     m_removeValue = makeChange(tr("Delete value"), &RegistryActions::removeValues);
     m_removeValue->setShortcut(Qt::Key_Delete);
     m_copyData = make(tr("Copy data"), &RegistryActions::copyData);

@@ -19,7 +19,7 @@ using Report = PageContext::Report;
 // A value stands for a key of its name, as the service sees it.
 QString keyProblem(const QString& path, const QString& name)
 {
-    const QString problem = ValueInput::keyNameProblem(name);
+    QString problem = ValueInput::keyNameProblem(name);
     const QString target = RegistryPath::join(RegistryPath::parent(path), name);
     if (!problem.isEmpty() || target == path)
         return problem;
@@ -30,7 +30,7 @@ QString keyProblem(const QString& path, const QString& name)
 
 QString valueProblem(const QString& path, const QString& oldName, const QString& name)
 {
-    const QString problem = ValueInput::nameProblem(name);
+    QString problem = ValueInput::nameProblem(name);
     if (!problem.isEmpty() || name == oldName || !StoreEntry::read(StoreEntry::ofValue(path, name)))
         return problem;
     return RegistryRenamer::tr("%1 has a value \"%2\" already.")
@@ -97,11 +97,13 @@ void RegistryRenamer::renameValue(const QString& path, const ListedValue& value)
 {
     if (isValueFixed(value))
         return;
-    const QString old = value.name();
-    const auto problem = [path, old](const QString& name) { return valueProblem(path, old, name); };
-    auto* dialog =
-        new NameDialog(tr("Rename the value"), RegistryPath::shown(path), problem, m_window, old);
-    m_gate.open(dialog, [this, dialog, path, old] { moveValue(path, old, dialog->name()); });
+    const auto problem = [path, old = value.name()](const QString& name) {
+        return valueProblem(path, old, name);
+    };
+    auto* dialog = new NameDialog(tr("Rename the value"), RegistryPath::shown(path), problem,
+                                  m_window, value.name());
+    m_gate.open(dialog,
+                [this, dialog, path, old = value.name()] { moveValue(path, old, dialog->name()); });
 }
 
 bool RegistryRenamer::isValueFixed(const ListedValue& value)
