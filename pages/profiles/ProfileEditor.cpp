@@ -122,8 +122,8 @@ void ProfileEditor::decide(const Request& request, const ProfileDryRun& dryRun)
         return;
     }
     const Trial trial{dryRun.bytes(), dryRun.former(), dryRun.difference()};
-    if (trial.difference->lines().hunks().empty())
-        m_page.setStatus(tr("Nothing written: the file holds this value already."));
+    if (dryRun.isReadAlready())
+        m_page.setStatus(tr("Nothing written: the family reads this value already."));
     else if (trial.difference->isAskedFor())
         writeAsTried(request, trial);
     else

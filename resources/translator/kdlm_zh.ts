@@ -2522,8 +2522,8 @@ Wide: %2</source>
         <translation>仍然写入(&amp;W)</translation>
     </message>
     <message>
-        <source>Nothing written: the file holds this value already.</source>
-        <translation>未写入：文件中已是此值。</translation>
+        <source>Nothing written: the family reads this value already.</source>
+        <translation>未写入：该接口读取的已是此值。</translation>
     </message>
     <message>
         <source>Written.</source>

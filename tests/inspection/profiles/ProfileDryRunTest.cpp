@@ -106,6 +106,18 @@ TEST(ProfileDryRun, FindsNoDifferenceWhereTheValueIsThereAlready)
     EXPECT_TRUE(trial.difference().lines().hunks().empty());
 }
 
+TEST(ProfileDryRun, TellsThatTheFamilyReadsTheValueAlready)
+{
+    const auto isRead = [](const char* bytes, const char* key, const char* value) {
+        return Trial(bytes, setting(wide, "S", key, value)).result().isReadAlready();
+    };
+    EXPECT_TRUE(isRead("[S]\na=1, 2\n", "a", ""));
+    EXPECT_TRUE(isRead("[S]\nP=C:\\Windows\\System32\n", "P", "C:indowsystem32"));
+    EXPECT_TRUE(isRead("[S]\na=1\n", "a", "1"));
+    EXPECT_FALSE(isRead("[S]\na=1\n", "a", "2"));
+    EXPECT_FALSE(isRead("[S]\na=1\n", "b", ""));
+}
+
 TEST(ProfileDryRun, NamesTheLinesWhoseBytesGo)
 {
     const QByteArray bytes = "[S]\na=0\n\xbd\xda=\xce\xc4\nb=\xc3\xa4\nc=\xe4\n";

@@ -102,13 +102,13 @@ TEST_F(ProfilesPageTest, AsksBeforeAWideWriteCutsATail)
     EXPECT_EQ(m_file.bytes(), "[S]\nL=a, b\nQ=\"a;b\"\nTail=1\nW=a\nx=1\n");
 }
 
-TEST_F(ProfilesPageTest, WritesNothingWhereTheFileHoldsTheValueAlready)
+TEST_F(ProfilesPageTest, WritesNothingWhereTheFamilyReadsTheValueAlready)
 {
     m_file.write("[Net]\nMask=255\n");
     open();
     const QDateTime stamp = m_file.stamp();
     request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("255"), wide);
-    EXPECT_EQ(status(), QStringLiteral("Nothing written: the file holds this value already."));
+    EXPECT_EQ(status(), QStringLiteral("Nothing written: the family reads this value already."));
     EXPECT_EQ(m_file.stamp(), stamp);
     EXPECT_EQ(files(), QStringList({"profile.ini"}));
 }
@@ -156,7 +156,7 @@ TEST_P(ProfileRewritingTest, IsToldBeforeANarrowWrite)
 {
     m_file.write(GetParam().bytes);
     open();
-    request(QStringLiteral("B"), QStringLiteral("x"), QStringLiteral("1"), narrow);
+    request(QStringLiteral("B"), QStringLiteral("x"), QStringLiteral("9"), narrow);
     ASSERT_EQ(question() != nullptr, GetParam().isAsked);
     if (question()) {
         EXPECT_EQ(sentence("form"), QLatin1String(GetParam().form));
