@@ -12,6 +12,8 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <limits>
+
 ProfileEditPanel::ProfileEditPanel(QWidget* parent)
     : QGroupBox(tr("Change or add a value"), parent),
       m_family(new QComboBox),
@@ -34,7 +36,8 @@ QLineEdit* ProfileEditPanel::addInput(QGridLayout* grid, int row, int column, in
     auto* edit = new QLineEdit;
     edit->setObjectName(QLatin1String(objectName));
     edit->setAccessibleName(withoutMnemonic(label));
-    edit->setAcceptDrops(false); // files dropped here are for the page
+    edit->setAcceptDrops(false);                         // files dropped here are for the page
+    edit->setMaxLength(std::numeric_limits<int>::max()); // a value that is cut would be written so
     auto* caption = new QLabel(label);
     caption->setBuddy(edit);
     grid->addWidget(caption, row, column);
