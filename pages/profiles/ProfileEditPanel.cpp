@@ -93,6 +93,7 @@ void ProfileEditPanel::setReading(const ProfileReading& reading)
     m_key->setText(reading.key);
     m_value->setText(change().family == ProfileFamily::Narrow ? reading.narrow
                                                               : reading.wide.value_or(QString()));
+    m_value->setPlaceholderText(reading.isRead ? QString() : tr("Not read yet"));
 }
 
 void ProfileEditPanel::updateReading(const ProfileReading& reading)
@@ -106,6 +107,11 @@ bool ProfileEditPanel::isUntouched() const
 {
     return m_section->text() == m_reading.section && m_key->text() == m_reading.key &&
            !m_value->isModified();
+}
+
+bool ProfileEditPanel::isWaiting() const
+{
+    return !m_reading.isRead && isUntouched();
 }
 
 // Follows the family.

@@ -349,6 +349,10 @@ void ProfilesPage::updateReading(int name, const ProfileReading& reading)
 
 void ProfilesPage::change(ProfileChange::Action action)
 {
+    if (action == ProfileChange::Action::Set && m_panel->isWaiting()) {
+        report(Report::Error, tr("This value has not been read yet."));
+        return;
+    }
     ProfileChange change = m_panel->change();
     change.action = action;
     m_editor->write({m_path, change, m_panel->keepsBackup()});

@@ -2466,6 +2466,10 @@ Wide: %2</source>
         <source>The whole &amp;section</source>
         <translation>整个节(&amp;S)</translation>
     </message>
+    <message>
+        <source>Not read yet</source>
+        <translation>尚未读取</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEditor</name>
@@ -2870,6 +2874,10 @@ Wide: %2</source>
     <message>
         <source>%1 has been deleted: both families read it as empty.</source>
         <translation>%1 已被删除：两种接口都将其读作空。</translation>
+    </message>
+    <message>
+        <source>This value has not been read yet.</source>
+        <translation>此值尚未读取。</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QLineEdit>
 #include <QLocale>
 #include <QTableView>
 #include <QTest>
@@ -145,6 +146,21 @@ TEST_F(LargeProfile, KeepsWhatIsTypedWhenTheAnswerComes)
     QTest::keyClicks(&m_probe.control<QWidget>("value"), QStringLiteral("new"));
     waitForRow(last() / 2);
     EXPECT_EQ(m_probe.text("value"), QStringLiteral("new"));
+}
+
+TEST_F(LargeProfile, AValueThatHasNotBeenReadIsNotWrittenAsAnEmptyOne)
+{
+    start();
+    waitForReadings();
+    m_probe.control<QTableView>("readings").selectRow(last() / 2);
+    auto& value = m_probe.control<QLineEdit>("value");
+    EXPECT_EQ(value.placeholderText(), QStringLiteral("Not read yet"));
+    QTest::keyClick(&value, Qt::Key_Return);
+    EXPECT_EQ(m_probe.page().statusText(), QStringLiteral("This value has not been read yet."));
+    EXPECT_FALSE(m_probe.page().isBusy());
+    waitForRow(last() / 2);
+    EXPECT_EQ(value.placeholderText(), QString());
+    EXPECT_EQ(m_file.bytes(), content('1'));
 }
 
 TEST_F(LargeProfile, IsReadWholeOnRequest)
