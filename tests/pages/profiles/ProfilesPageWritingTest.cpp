@@ -270,6 +270,21 @@ TEST_F(ProfileInLockedFolderTest, TheNarrowFamilyWritesWithoutABackupAlone)
     EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
 }
 
+TEST_F(ProfilesPageTest, AFileThatCannotBeReadIsNotTakenForAnEmptyOne)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "may read every file";
+    open();
+    ASSERT_TRUE(QFile::setPermissions(m_file.path(), QFile::WriteOwner));
+    for (const int family : {wide, narrow}) {
+        request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), family);
+        EXPECT_TRUE(status().endsWith(QStringLiteral("cannot be written.")))
+            << status().toStdString();
+    }
+    QFile::setPermissions(m_file.path(), QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_EQ(m_file.bytes(), text);
+}
+
 struct Refusal
 {
     const char* name;
