@@ -149,7 +149,7 @@ void ProfileEditor::writeAsTried(const Request& request, const Trial& trial)
     }
     m_page.report(Report::Warning,
                   tr("The file has been changed meanwhile: the change is tried again."));
-    tryOut(request);
+    write(request); // the file may have gone
 }
 
 void ProfileEditor::writeNow(const Request& request, const Trial& trial)

@@ -1,8 +1,10 @@
 #include "inspection/profiles/ProfileReader.h"
 #include "inspection/profiles/ProfileWritingJob.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCheckBox>
+#include <QMessageBox>
 
 #include <unistd.h>
 
@@ -111,6 +113,50 @@ TEST_F(ProfilesPageTest, WritesNothingWhereTheFamilyReadsTheValueAlready)
     EXPECT_EQ(status(), QStringLiteral("Nothing written: the family reads this value already."));
     EXPECT_EQ(m_file.stamp(), stamp);
     EXPECT_EQ(files(), QStringList({"profile.ini"}));
+}
+
+// The field shows "C:indowsystem32", which is what would be written.
+TEST_F(ProfilesPageTest, WritesNothingWhereAMisreadValueIsLeftAsItIs)
+{
+    constexpr char misread[] = "[S]\nPath=C:\\Windows\\System32\na=1, 2\n";
+    m_file.write(misread);
+    open();
+    for (const int reading : {0, 1}) {
+        m_probe.control<QTableView>("readings").selectRow(reading);
+        m_probe.click("write");
+        ASSERT_TRUE(m_probe.settle());
+        EXPECT_EQ(question(), nullptr);
+        EXPECT_EQ(status(),
+                  QStringLiteral("Nothing written: the family reads this value already."));
+        EXPECT_EQ(m_file.bytes(), misread);
+    }
+}
+
+TEST_F(ProfilesPageTest, KeepsAValueOfAnyLength)
+{
+    const QByteArray bytes = "[S]\na=" + QByteArray(40000, 'x') + '\n';
+    m_file.write(bytes);
+    open();
+    m_probe.control<QTableView>("readings").selectRow(0);
+    ASSERT_TRUE(waitFor([this] { return !m_probe.text("value").isEmpty(); }));
+    EXPECT_EQ(m_probe.text("value").size(), 40000);
+    m_probe.click("write");
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_file.bytes(), bytes);
+}
+
+TEST_F(ProfilesPageTest, AFileThatIsDeletedUnderTheQuestionIsAskedFor)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    QFile::remove(m_file.path());
+    accept();
+    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->text().contains(QStringLiteral("has been deleted since it was read")));
+    box->button(QMessageBox::Cancel)->click();
+    EXPECT_EQ(status(), QStringLiteral("Nothing written."));
+    EXPECT_FALSE(QFile::exists(m_file.path()));
 }
 
 TEST_F(ProfilesPageTest, AsksAgainWhereTheFileHasBeenChangedMeanwhile)
