@@ -219,7 +219,6 @@ void ProfilesPage::addReading(int name, const ProfileReading& reading)
 void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
 {
     if (!job.isLoaded()) {
-        m_file->setText(m_path);
         report(Report::Warning, tr("Stopped before the file was read."));
         return;
     }
@@ -380,7 +379,8 @@ void ProfilesPage::showWritten(const ProfileChange& change, const QString& summa
 
 void ProfilesPage::showRestored(const QString& path, const QString& summary)
 {
-    m_file->setText(path);
+    if (path != m_path)
+        m_file->setText(path);
     m_place = path == m_path ? currentPlace() : Place();
     m_summary = summary;
     read(path);
