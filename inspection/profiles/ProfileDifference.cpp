@@ -27,6 +27,13 @@ Texts addedTexts(const LineDifference& lines, bool areEndsKept)
     return texts;
 }
 
+// The bytes that name the entry of a line: a family may write the same name in other ones.
+std::string_view writtenKey(std::string_view line)
+{
+    const std::string_view key = line.substr(0, line.find('='));
+    return key.substr(0, key.find_last_not_of(" \t") + 1);
+}
+
 } // namespace
 
 ProfileDifference::ProfileDifference(const QString& before, const QString& after,
@@ -45,24 +52,46 @@ ProfileDifference::ProfileDifference(const QString& before, const QString& after
 
 bool ProfileDifference::findAskedFor(const FamilyLines& after, const ProfileChange& change) const
 {
-    if (m_lines.hunks().size() > 1 || change.action != ProfileChange::Action::Set)
+    if (m_lines.hunks().size() != 1 || change.action != ProfileChange::Action::Set)
         return m_lines.hunks().empty();
-    const auto isAsked = [&change](const FamilyLines& readings, int line) {
-        return readings.isEntryOf(line, change) ||
-               readings.at(line).state == LineState::Continuation;
-    };
-    for (const LineDifference::Hunk& hunk : m_lines.hunks()) {
-        for (int line = hunk.before; line < hunk.before + hunk.removed; ++line)
-            if (!isAsked(m_readings, line))
-                return false;
-        for (int line = hunk.after; line < hunk.after + hunk.added; ++line) {
-            const LineState state = after.at(line).state;
-            const bool beginsSection = state == LineState::Header || state == LineState::Blank;
-            if (!isAsked(after, line) && (hunk.removed > 0 || !beginsSection))
-                return false;
-        }
+    const LineDifference::Hunk& hunk = m_lines.hunks().front();
+    return losesValueOnly(hunk, after, change) && addsAskedForOnly(hunk, after, change);
+}
+
+// A remark behind the value, the way in which the key is written, and bytes that are no text were
+// not asked to go.
+bool ProfileDifference::losesValueOnly(const LineDifference::Hunk& hunk, const FamilyLines& after,
+                                       const ProfileChange& change) const
+{
+    std::string_view key;
+    for (int line = hunk.after; line < hunk.after + hunk.added; ++line)
+        if (after.isEntryOf(line, change))
+            key = writtenKey(m_lines.after().at(line));
+    for (int line = hunk.before; line < hunk.before + hunk.removed; ++line) {
+        if (!isAsked(m_readings, line, change) || m_readings.at(line).isCut ||
+            !ReadableLine(m_lines.before(), line).isText())
+            return false;
+        if (m_readings.isEntryOf(line, change) && writtenKey(m_lines.before().at(line)) != key)
+            return false;
     }
     return true;
+}
+
+bool ProfileDifference::addsAskedForOnly(const LineDifference::Hunk& hunk, const FamilyLines& after,
+                                         const ProfileChange& change)
+{
+    for (int line = hunk.after; line < hunk.after + hunk.added; ++line) {
+        const LineState state = after.at(line).state;
+        const bool beginsSection = state == LineState::Header || state == LineState::Blank;
+        if (!isAsked(after, line, change) && (hunk.removed > 0 || !beginsSection))
+            return false;
+    }
+    return true;
+}
+
+bool ProfileDifference::isAsked(const FamilyLines& readings, int line, const ProfileChange& change)
+{
+    return readings.isEntryOf(line, change) || readings.at(line).state == LineState::Continuation;
 }
 
 void ProfileDifference::findDestroyed()

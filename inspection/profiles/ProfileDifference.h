@@ -24,8 +24,8 @@ public:
     /// See differenceRows; large files have a million of them.
     const std::vector<DifferenceRow>& rows() const { return m_rows; }
     ProfileFamily family() const { return m_family; }
-    /// True where nothing has changed but the line that the change asks for, in its place, or a new
-    /// one, with a header for a new section.
+    /// True where nothing has changed but the value in the line that the change asks for, in its
+    /// place, or where a new line has come, with a header for a new section.
     bool isAskedFor() const { return m_isAskedFor; }
     /// How the family reads a line of the file before; from 0 on.
     const LineReading& reading(int line) const { return m_readings.at(line); }
@@ -40,6 +40,11 @@ public:
 
 private:
     bool findAskedFor(const FamilyLines& after, const ProfileChange& change) const;
+    bool losesValueOnly(const LineDifference::Hunk& hunk, const FamilyLines& after,
+                        const ProfileChange& change) const;
+    static bool addsAskedForOnly(const LineDifference::Hunk& hunk, const FamilyLines& after,
+                                 const ProfileChange& change);
+    static bool isAsked(const FamilyLines& readings, int line, const ProfileChange& change);
     void findDestroyed();
     void findFates();
 

@@ -84,3 +84,9 @@ QString ProfileDryRun::former() const
 {
     return m_difference->hadEntry() ? m_writing.former() : QString();
 }
+
+bool ProfileDryRun::isReadAlready() const
+{
+    const bool isFound = m_change.action == ProfileChange::Action::Set && !former().isNull();
+    return (isFound && former() == m_change.value) || m_difference->lines().hunks().empty();
+}

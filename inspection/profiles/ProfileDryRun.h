@@ -25,6 +25,9 @@ public:
     const std::optional<QByteArray>& bytes() const { return m_bytes; }
     /// What the family read before; null where it found nothing.
     QString former() const;
+    /// True where the family reads the value already that is to be set: writing it would only lose
+    /// what the family misreads.
+    bool isReadAlready() const;
     const std::shared_ptr<const ProfileDifference>& difference() const { return m_difference; }
 
 private:

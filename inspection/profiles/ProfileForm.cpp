@@ -14,20 +14,6 @@ namespace {
 constexpr int utf8Mib = 106; // the number that is registered for UTF-8
 constexpr char utf8Mark[] = "\xef\xbb\xbf";
 
-bool isAscii(const QByteArray& bytes)
-{
-    return std::all_of(bytes.begin(), bytes.end(),
-                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-}
-
-bool isUtf8Text(const QByteArray& bytes)
-{
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    static_cast<void>(
-        QTextCodec::codecForMib(utf8Mib)->toUnicode(bytes.constData(), bytes.size(), &state));
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
-
 // A line in UTF-8, or in what is not UTF-8 although it should be, with its end.
 QByteArray plainLine(const ByteLines& lines, int number)
 {
@@ -71,7 +57,7 @@ void ProfileForm::addLine(const QByteArray& line)
     m_returnsWithFeeds += hasReturn ? 1 : 0;
     m_lineFeeds += hasFeed && !hasReturn ? 1 : 0;
     m_returns += line.count('\r') - (hasReturn ? 1 : 0);
-    if (!isAscii(line) && !isUtf8Text(line))
+    if (!ReadableLine::isUtf8({line.constData(), static_cast<std::size_t>(line.size())}))
         m_otherLines.push_back(m_lines);
     ++m_lines;
 }

@@ -5,13 +5,14 @@
 
 namespace {
 
-// The wide family writes a new file beside the one that there is, and puts it in its place.
+// The wide family writes a new file beside the one that there is, and puts it in its place. Either
+// family takes a file that it cannot read for an empty one, and what lies in it is lost.
 bool isWritable(const QFileInfo& file, ProfileFamily family)
 {
     const QFileInfo folder(file.path());
     const bool needsFolder = family == ProfileFamily::Wide || !file.exists();
     return folder.isDir() && (folder.isWritable() || !needsFolder) &&
-           (!file.exists() || (file.isFile() && file.isWritable()));
+           (!file.exists() || (file.isFile() && file.isReadable() && file.isWritable()));
 }
 
 } // namespace

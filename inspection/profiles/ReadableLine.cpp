@@ -136,7 +136,12 @@ bool ReadableLine::isText() const
 {
     if (m_unit != ByteLines::Unit::Byte)
         return m_content.size() % 2 == 0;
-    for (std::string_view rest = m_content; !rest.empty();) {
+    return isUtf8(m_content);
+}
+
+bool ReadableLine::isUtf8(std::string_view bytes)
+{
+    for (std::string_view rest = bytes; !rest.empty();) {
         const std::size_t length = sequenceLength(rest);
         if (length == 0)
             return false;

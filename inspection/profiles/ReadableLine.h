@@ -26,6 +26,8 @@ public:
     End end() const { return m_end; }
     /// False where bytes of the line are no characters in the file's encoding.
     bool isText() const;
+    /// True where the bytes are UTF-8 throughout.
+    static bool isUtf8(std::string_view bytes);
 
 private:
     bool dropEnd(char character);

@@ -12,6 +12,8 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <limits>
+
 ProfileEditPanel::ProfileEditPanel(QWidget* parent)
     : QGroupBox(tr("Change or add a value"), parent),
       m_family(new QComboBox),
@@ -34,7 +36,8 @@ QLineEdit* ProfileEditPanel::addInput(QGridLayout* grid, int row, int column, in
     auto* edit = new QLineEdit;
     edit->setObjectName(QLatin1String(objectName));
     edit->setAccessibleName(withoutMnemonic(label));
-    edit->setAcceptDrops(false); // files dropped here are for the page
+    edit->setAcceptDrops(false);                         // files dropped here are for the page
+    edit->setMaxLength(std::numeric_limits<int>::max()); // a value that is cut would be written so
     auto* caption = new QLabel(label);
     caption->setBuddy(edit);
     grid->addWidget(caption, row, column);
@@ -90,6 +93,7 @@ void ProfileEditPanel::setReading(const ProfileReading& reading)
     m_key->setText(reading.key);
     m_value->setText(change().family == ProfileFamily::Narrow ? reading.narrow
                                                               : reading.wide.value_or(QString()));
+    m_value->setPlaceholderText(reading.isRead ? QString() : tr("Not read yet"));
 }
 
 void ProfileEditPanel::updateReading(const ProfileReading& reading)
@@ -103,6 +107,11 @@ bool ProfileEditPanel::isUntouched() const
 {
     return m_section->text() == m_reading.section && m_key->text() == m_reading.key &&
            !m_value->isModified();
+}
+
+bool ProfileEditPanel::isWaiting() const
+{
+    return !m_reading.isRead && isUntouched();
 }
 
 // Follows the family.

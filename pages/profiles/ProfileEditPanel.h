@@ -28,6 +28,8 @@ public:
 
     ProfileChange change() const;
     bool keepsBackup() const;
+    /// True where the fields show nothing but a reading that has yet to be read.
+    bool isWaiting() const;
 
 signals:
     void writeRequested();

@@ -40,6 +40,12 @@ QString writingTitle(const QString& path)
                           : ProfileEditor::tr("Writing %1").arg(size);
 }
 
+QString nothingDone(const ProfileChange& change)
+{
+    return change.action == Action::Set ? ProfileEditor::tr("Nothing written.")
+                                        : ProfileEditor::tr("Nothing deleted.");
+}
+
 QString fateQuestion(ProfilePresence::Fate fate, const QString& path)
 {
     switch (fate) {
@@ -98,7 +104,7 @@ void ProfileEditor::askAboutFate(const Request& request, const QString& question
         if (button == yes)
             tryOut(request);
         else
-            m_page.setStatus(tr("Nothing written."));
+            m_page.setStatus(nothingDone(request.change));
     });
     box->open();
 }
@@ -111,7 +117,7 @@ void ProfileEditor::tryOut(const Request& request)
                         if (complete)
                             decide(request, dryRun);
                         else
-                            m_page.setStatus(tr("Nothing written."));
+                            m_page.setStatus(nothingDone(request.change));
                     });
 }
 
@@ -122,8 +128,8 @@ void ProfileEditor::decide(const Request& request, const ProfileDryRun& dryRun)
         return;
     }
     const Trial trial{dryRun.bytes(), dryRun.former(), dryRun.difference()};
-    if (trial.difference->lines().hunks().empty())
-        m_page.setStatus(tr("Nothing written: the file holds this value already."));
+    if (dryRun.isReadAlready())
+        m_page.setStatus(tr("Nothing written: the family reads this value already."));
     else if (trial.difference->isAskedFor())
         writeAsTried(request, trial);
     else
@@ -136,7 +142,8 @@ void ProfileEditor::ask(const Request& request, const Trial& trial)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this,
             [this, request, trial] { writeAsTried(request, trial); });
-    connect(dialog, &QDialog::rejected, this, [this] { m_page.setStatus(tr("Nothing written.")); });
+    connect(dialog, &QDialog::rejected, this,
+            [this, request] { m_page.setStatus(nothingDone(request.change)); });
     dialog->open();
 }
 
@@ -149,7 +156,7 @@ void ProfileEditor::writeAsTried(const Request& request, const Trial& trial)
     }
     m_page.report(Report::Warning,
                   tr("The file has been changed meanwhile: the change is tried again."));
-    tryOut(request);
+    write(request); // the file may have gone
 }
 
 void ProfileEditor::writeNow(const Request& request, const Trial& trial)
@@ -180,13 +187,14 @@ void ProfileEditor::finish(const Request& request, const Trial& trial, const Pro
         m_history->add({request.path, request.change, trial.former, trial.bytes, after});
     m_presence.note(request.path);
     if (!complete && !isChanged) {
-        QFile::remove(backup);
-        m_page.setStatus(tr("Nothing written."));
+        if (!backup.isEmpty())
+            QFile::remove(backup);
+        m_page.setStatus(nothingDone(request.change));
     } else if (complete && !job.isReadBack()) {
         m_page.report(Report::Error, tr("The value could not be written to %1.").arg(request.path));
     } else {
         const bool isAsShown = after == trial.difference->lines().after().bytes();
-        emit written(request.change, summary(request.change, backup, isAsShown));
+        emit written(request.change, summary(request.change, backup, isAsShown), isAsShown);
     }
 }
 
@@ -198,7 +206,9 @@ QString ProfileEditor::summary(const ProfileChange& change, const QString& backu
         text =
             (isSet ? tr("Written; the backup copy is %1.") : tr("Deleted; the backup copy is %1."))
                 .arg(backup);
-    return isAsShown ? text : text + QLatin1Char(' ') + tr("The file is not as the copy was.");
+    return isAsShown ? text
+                     : text + QLatin1Char(' ') +
+                           tr("The file differs from what was shown: look at its lines.");
 }
 
 // A file that was removed by undoing what made it has not been deleted behind our back.

@@ -39,8 +39,8 @@ public:
     void write(const Request& request);
 
 signals:
-    /// The file is not as it was; the summary tells what was done.
-    void written(const ProfileChange& change, const QString& summary);
+    /// The file is not as it was; the summary tells what was done, and whether it is as shown.
+    void written(const ProfileChange& change, const QString& summary, bool isAsShown);
     /// A file has been put back as it was before a change, or after it.
     void restored(const QString& path, const QString& summary);
 

@@ -219,7 +219,6 @@ void ProfilesPage::addReading(int name, const ProfileReading& reading)
 void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
 {
     if (!job.isLoaded()) {
-        m_file->setText(m_path);
         report(Report::Warning, tr("Stopped before the file was read."));
         return;
     }
@@ -233,7 +232,7 @@ void ProfilesPage::finish(const ProfileReadingJob& job, bool complete)
     else if (m_summary.isEmpty())
         report(Report::Info, m_readings->counts());
     else
-        report(Report::Info, m_summary + QLatin1Char(' ') + m_readings->counts());
+        report(m_summaryKind, m_summary + QLatin1Char(' ') + m_readings->counts());
 }
 
 // A change right behind the reading may have left the time as it was.
@@ -349,6 +348,10 @@ void ProfilesPage::updateReading(int name, const ProfileReading& reading)
 
 void ProfilesPage::change(ProfileChange::Action action)
 {
+    if (action == ProfileChange::Action::Set && m_panel->isWaiting()) {
+        report(Report::Error, tr("This value has not been read yet."));
+        return;
+    }
     ProfileChange change = m_panel->change();
     change.action = action;
     m_editor->write({m_path, change, m_panel->keepsBackup()});
@@ -363,7 +366,7 @@ void ProfilesPage::deleteName(int name)
     m_editor->write({m_path, change, m_panel->keepsBackup()});
 }
 
-void ProfilesPage::showWritten(const ProfileChange& change, const QString& summary)
+void ProfilesPage::showWritten(const ProfileChange& change, const QString& summary, bool isAsShown)
 {
     m_place = currentPlace();
     if (change.action == ProfileChange::Action::Set) {
@@ -371,14 +374,17 @@ void ProfilesPage::showWritten(const ProfileChange& change, const QString& summa
         m_panel->setReading({change.section, change.key, change.value, change.value});
     }
     m_summary = summary;
+    m_summaryKind = isAsShown ? Report::Info : Report::Warning;
     read(m_path);
 }
 
 void ProfilesPage::showRestored(const QString& path, const QString& summary)
 {
-    m_file->setText(path);
+    if (path != m_path)
+        m_file->setText(path);
     m_place = path == m_path ? currentPlace() : Place();
     m_summary = summary;
+    m_summaryKind = Report::Info;
     read(path);
 }
 

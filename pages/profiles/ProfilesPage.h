@@ -77,7 +77,7 @@ private:
     void connectEditor();
     void change(ProfileChange::Action action);
     void deleteName(int name);
-    void showWritten(const ProfileChange& change, const QString& summary);
+    void showWritten(const ProfileChange& change, const QString& summary, bool isAsShown);
     void showRestored(const QString& path, const QString& summary);
 
     QLineEdit* m_file;
@@ -93,6 +93,7 @@ private:
     int m_wanted = -1;          ///< the name of m_place in the document, or -1
     bool m_isRestoring = false; ///< true while m_place is being chosen again
     QString m_summary;          ///< what was written, to be reported together with the readings
+    Report m_summaryKind = Report::Info;
     // The file has changed, and is read again while the page goes on.
     std::unique_ptr<ProfileReadingJob> m_reread;
     JobRunner m_rereader;

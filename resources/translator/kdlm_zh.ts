@@ -2337,7 +2337,7 @@ Wide: %2</source>
     <name>ProfileDifferenceDialog</name>
     <message>
         <source>No family of calls can delete: a null value is written as an empty one, and a call without a key is refused. So these lines are taken out of the file, and the others stay as they are.</source>
-        <translation>两种接口都不能删除：空指针值会写成空值，没有键的调用会被拒绝。因此从文件中取出以下各行，其余各行保持原样。</translation>
+        <translation>两种接口都不能删除：空指针值会写成空值，没有键的调用会被拒绝。因此从文件中删除以下各行，其余各行保持原样。</translation>
     </message>
     <message>
         <source>The narrow family writes the whole file anew, sorted, and only what it has kept. The file would change like this:</source>
@@ -2456,7 +2456,7 @@ Wide: %2</source>
     </message>
     <message>
         <source>Takes lines out of the file: neither family of calls can delete.</source>
-        <translation>从文件中取出行：两种接口都不能删除。</translation>
+        <translation>从文件中删除行：两种接口都不能删除。</translation>
     </message>
     <message>
         <source>This &amp;key</source>
@@ -2465,6 +2465,10 @@ Wide: %2</source>
     <message>
         <source>The whole &amp;section</source>
         <translation>整个节(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Not read yet</source>
+        <translation>尚未读取</translation>
     </message>
 </context>
 <context>
@@ -2480,6 +2484,10 @@ Wide: %2</source>
     <message>
         <source>Nothing written.</source>
         <translation>未写入任何内容。</translation>
+    </message>
+    <message>
+        <source>Nothing deleted.</source>
+        <translation>未删除任何内容。</translation>
     </message>
     <message>
         <source>The file has been changed meanwhile: the change is tried again.</source>
@@ -2522,8 +2530,8 @@ Wide: %2</source>
         <translation>仍然写入(&amp;W)</translation>
     </message>
     <message>
-        <source>Nothing written: the file holds this value already.</source>
-        <translation>未写入：文件中已是此值。</translation>
+        <source>Nothing written: the family reads this value already.</source>
+        <translation>未写入：该接口读取的已是此值。</translation>
     </message>
     <message>
         <source>Written.</source>
@@ -2542,8 +2550,8 @@ Wide: %2</source>
         <translation>已删除；备份为 %1。</translation>
     </message>
     <message>
-        <source>The file is not as the copy was.</source>
-        <translation>文件与试写的副本不同。</translation>
+        <source>The file differs from what was shown: look at its lines.</source>
+        <translation>文件与预览的结果不同，请查看各行。</translation>
     </message>
 </context>
 <context>
@@ -2597,7 +2605,7 @@ Wide: %2</source>
     </message>
     <message>
         <source>not UTF-8 (lines: %1, the first is %2)</source>
-        <translation>不是 UTF-8（共 %1 行，首行为第 %2 行）</translation>
+        <translation>非 UTF-8（此类行共 %1 行，第一处在第 %2 行）</translation>
     </message>
     <message>
         <source>none</source>
@@ -2870,6 +2878,10 @@ Wide: %2</source>
     <message>
         <source>%1 has been deleted: both families read it as empty.</source>
         <translation>%1 已被删除：两种接口都将其读作空。</translation>
+    </message>
+    <message>
+        <source>This value has not been read yet.</source>
+        <translation>此值尚未读取。</translation>
     </message>
 </context>
 <context>

@@ -10,7 +10,7 @@ using Action = ProfileChange::Action;
 
 ProfileChange setting(ProfileFamily family, const char* section, const char* key, const char* value)
 {
-    return {family, QLatin1String(section), QLatin1String(key), QLatin1String(value)};
+    return {family, QString::fromUtf8(section), QString::fromUtf8(key), QString::fromUtf8(value)};
 }
 
 ProfileChange deletion(ProfileFamily family, Action action, const char* section,
@@ -50,7 +50,8 @@ struct Row
     const char* name;
     ProfileFamily family;
     const char* bytes;
-    bool isAskedFor; ///< of setting S/a to 1
+    bool isAskedFor; ///< of setting the key in S to 1
+    const char* key = "a";
 };
 
 class ProfileDryRunTest : public testing::TestWithParam<Row>
@@ -59,7 +60,7 @@ class ProfileDryRunTest : public testing::TestWithParam<Row>
 
 TEST_P(ProfileDryRunTest, TellsWhetherMoreThanTheAskedLineChanges)
 {
-    const Trial trial(GetParam().bytes, setting(GetParam().family, "S", "a", "1"));
+    const Trial trial(GetParam().bytes, setting(GetParam().family, "S", GetParam().key, "1"));
     ASSERT_TRUE(trial.result().isReadBack());
     EXPECT_EQ(trial.difference().isAskedFor(), GetParam().isAskedFor) << trial.after();
 }
@@ -80,6 +81,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"NarrowOpenEnd", narrow, "[S]\na=0\nb=0", false},
                     Row{"NarrowMark", narrow, "\xef\xbb\xbf[S]\na=0\n", false},
                     Row{"NarrowLatin1", narrow, "[S]\na=0\nb=\xe4\n", false},
+                    Row{"NarrowLatin1Value", narrow, "[S]\na=\xe4\n", false},
+                    Row{"NarrowLatin1Key", narrow, "[S]\n\xe4=0\n", false, "\xef\xbf\xbd"},
+                    Row{"NarrowSpacesAround", narrow, "[S]\na = 0\n", true},
                     Row{"NarrowReplacedKey", narrow, "[S]\na=0\na=2\n", false},
                     Row{"WideInPlace", wide, "[S]\na=0\nb=0\n", true},
                     Row{"WideNewKey", wide, "[S]\nb=0\n", true},
@@ -87,6 +91,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"WideContinued", wide, "[S]\na=0\\\n2\nb=0\n", true},
                     Row{"WideEscapes", wide, "[S]\na=0\nPath=C:\\Windows\\System32\n", false},
                     Row{"WideNames", wide, "[S]\na=0\nmy key=1\n", false},
+                    Row{"WideBlankInKey", wide, "[S]\nmy key=0\n", false, "my key"},
+                    Row{"WideEscapedKey", wide, "[S]\nmy%20key=0\n", true, "my key"},
+                    Row{"WideTail", wide, "[S]\na=0 ; why\n", false},
                     Row{"WideReturns", wide, "[S]\r\na=0\r\n", false},
                     Row{"WideLatin1", wide, "[S]\na=0\nb=\xe4\n", false},
                     Row{"WideComment", wide, "; why\n[S]\na=0\n", false},
@@ -97,6 +104,18 @@ TEST(ProfileDryRun, FindsNoDifferenceWhereTheValueIsThereAlready)
 {
     const Trial trial("[S]\na=1\n", setting(narrow, "S", "a", "1"));
     EXPECT_TRUE(trial.difference().lines().hunks().empty());
+}
+
+TEST(ProfileDryRun, TellsThatTheFamilyReadsTheValueAlready)
+{
+    const auto isRead = [](const char* bytes, const char* key, const char* value) {
+        return Trial(bytes, setting(wide, "S", key, value)).result().isReadAlready();
+    };
+    EXPECT_TRUE(isRead("[S]\na=1, 2\n", "a", ""));
+    EXPECT_TRUE(isRead("[S]\nP=C:\\Windows\\System32\n", "P", "C:indowsystem32"));
+    EXPECT_TRUE(isRead("[S]\na=1\n", "a", "1"));
+    EXPECT_FALSE(isRead("[S]\na=1\n", "a", "2"));
+    EXPECT_FALSE(isRead("[S]\na=1\n", "b", ""));
 }
 
 TEST(ProfileDryRun, NamesTheLinesWhoseBytesGo)

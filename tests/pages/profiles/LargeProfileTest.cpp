@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QLineEdit>
 #include <QLocale>
 #include <QTableView>
 #include <QTest>
@@ -147,6 +148,21 @@ TEST_F(LargeProfile, KeepsWhatIsTypedWhenTheAnswerComes)
     EXPECT_EQ(m_probe.text("value"), QStringLiteral("new"));
 }
 
+TEST_F(LargeProfile, AValueThatHasNotBeenReadIsNotWrittenAsAnEmptyOne)
+{
+    start();
+    waitForReadings();
+    m_probe.control<QTableView>("readings").selectRow(last() / 2);
+    auto& value = m_probe.control<QLineEdit>("value");
+    EXPECT_EQ(value.placeholderText(), QStringLiteral("Not read yet"));
+    QTest::keyClick(&value, Qt::Key_Return);
+    EXPECT_EQ(m_probe.page().statusText(), QStringLiteral("This value has not been read yet."));
+    EXPECT_FALSE(m_probe.page().isBusy());
+    waitForRow(last() / 2);
+    EXPECT_EQ(value.placeholderText(), QString());
+    EXPECT_EQ(m_file.bytes(), content('1'));
+}
+
 TEST_F(LargeProfile, IsReadWholeOnRequest)
 {
     m_file.write(content('1', 20 * 1024));
@@ -253,7 +269,7 @@ TEST_F(LargeProfile, ChangedMeanwhileIsReadAnew)
     stop();
 }
 
-TEST_F(LargeProfile, CancelledBeforeItIsParsedLeavesTheFormerOneOpen)
+TEST_F(LargeProfile, CancelledBeforeItIsParsedLeavesTheFormerOneOpenAndWhatIsTyped)
 {
     ProfileFixture former;
     former.write("[S]\nk=v\n");
@@ -265,7 +281,7 @@ TEST_F(LargeProfile, CancelledBeforeItIsParsedLeavesTheFormerOneOpen)
     ASSERT_TRUE(m_probe.page().isBusy());
     stop();
     EXPECT_EQ(m_probe.page().statusText(), QStringLiteral("Stopped before the file was read."));
-    EXPECT_EQ(m_probe.text("file"), former.path());
+    EXPECT_EQ(m_probe.text("file"), m_file.path());
     EXPECT_EQ(reading(0, 1), QStringLiteral("k"));
 }
 

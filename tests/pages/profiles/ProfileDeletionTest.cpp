@@ -56,6 +56,7 @@ TEST_F(ProfileDeletionTest, IsNothingAfterCancel)
     open();
     requestDeletion(sectionEntry, "Net", "");
     question()->reject();
+    EXPECT_EQ(status(), QStringLiteral("Nothing deleted."));
     EXPECT_EQ(m_file.bytes(), hand);
     EXPECT_EQ(files(), QStringList({"profile.ini"}));
 }

@@ -63,6 +63,15 @@ TEST_F(ProfileUndoTest, PutsBackTheBytesThatARewritingLost)
     EXPECT_EQ(m_file.bytes(), hand);
 }
 
+TEST_F(ProfileUndoTest, LeavesAPathThatIsBeingTyped)
+{
+    open();
+    setMask("1");
+    m_probe.type("file", QStringLiteral("/half/typ"));
+    undo();
+    EXPECT_EQ(m_probe.text("file"), QStringLiteral("/half/typ"));
+}
+
 TEST_F(ProfileUndoTest, NamesTheChange)
 {
     open();

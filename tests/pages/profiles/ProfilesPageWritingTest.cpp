@@ -1,8 +1,10 @@
 #include "inspection/profiles/ProfileReader.h"
 #include "inspection/profiles/ProfileWritingJob.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCheckBox>
+#include <QMessageBox>
 
 #include <unistd.h>
 
@@ -102,15 +104,59 @@ TEST_F(ProfilesPageTest, AsksBeforeAWideWriteCutsATail)
     EXPECT_EQ(m_file.bytes(), "[S]\nL=a, b\nQ=\"a;b\"\nTail=1\nW=a\nx=1\n");
 }
 
-TEST_F(ProfilesPageTest, WritesNothingWhereTheFileHoldsTheValueAlready)
+TEST_F(ProfilesPageTest, WritesNothingWhereTheFamilyReadsTheValueAlready)
 {
     m_file.write("[Net]\nMask=255\n");
     open();
     const QDateTime stamp = m_file.stamp();
     request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("255"), wide);
-    EXPECT_EQ(status(), QStringLiteral("Nothing written: the file holds this value already."));
+    EXPECT_EQ(status(), QStringLiteral("Nothing written: the family reads this value already."));
     EXPECT_EQ(m_file.stamp(), stamp);
     EXPECT_EQ(files(), QStringList({"profile.ini"}));
+}
+
+// The field shows "C:indowsystem32", which is what would be written.
+TEST_F(ProfilesPageTest, WritesNothingWhereAMisreadValueIsLeftAsItIs)
+{
+    constexpr char misread[] = "[S]\nPath=C:\\Windows\\System32\na=1, 2\n";
+    m_file.write(misread);
+    open();
+    for (const int reading : {0, 1}) {
+        m_probe.control<QTableView>("readings").selectRow(reading);
+        m_probe.click("write");
+        ASSERT_TRUE(m_probe.settle());
+        EXPECT_EQ(question(), nullptr);
+        EXPECT_EQ(status(),
+                  QStringLiteral("Nothing written: the family reads this value already."));
+        EXPECT_EQ(m_file.bytes(), misread);
+    }
+}
+
+TEST_F(ProfilesPageTest, KeepsAValueOfAnyLength)
+{
+    const QByteArray bytes = "[S]\na=" + QByteArray(40000, 'x') + '\n';
+    m_file.write(bytes);
+    open();
+    m_probe.control<QTableView>("readings").selectRow(0);
+    ASSERT_TRUE(waitFor([this] { return !m_probe.text("value").isEmpty(); }));
+    EXPECT_EQ(m_probe.text("value").size(), 40000);
+    m_probe.click("write");
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(m_file.bytes(), bytes);
+}
+
+TEST_F(ProfilesPageTest, AFileThatIsDeletedUnderTheQuestionIsAskedFor)
+{
+    open();
+    request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
+    QFile::remove(m_file.path());
+    accept();
+    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->text().contains(QStringLiteral("has been deleted since it was read")));
+    box->button(QMessageBox::Cancel)->click();
+    EXPECT_EQ(status(), QStringLiteral("Nothing written."));
+    EXPECT_FALSE(QFile::exists(m_file.path()));
 }
 
 TEST_F(ProfilesPageTest, AsksAgainWhereTheFileHasBeenChangedMeanwhile)
@@ -156,7 +202,7 @@ TEST_P(ProfileRewritingTest, IsToldBeforeANarrowWrite)
 {
     m_file.write(GetParam().bytes);
     open();
-    request(QStringLiteral("B"), QStringLiteral("x"), QStringLiteral("1"), narrow);
+    request(QStringLiteral("B"), QStringLiteral("x"), QStringLiteral("9"), narrow);
     ASSERT_EQ(question() != nullptr, GetParam().isAsked);
     if (question()) {
         EXPECT_EQ(sentence("form"), QLatin1String(GetParam().form));
@@ -268,6 +314,21 @@ TEST_F(ProfileInLockedFolderTest, TheNarrowFamilyWritesWithoutABackupAlone)
     request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), narrow);
     ASSERT_TRUE(m_probe.settle());
     EXPECT_EQ(m_file.bytes(), "[Net]\nMask=1\n");
+}
+
+TEST_F(ProfilesPageTest, AFileThatCannotBeReadIsNotTakenForAnEmptyOne)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "may read every file";
+    open();
+    ASSERT_TRUE(QFile::setPermissions(m_file.path(), QFile::WriteOwner));
+    for (const int family : {wide, narrow}) {
+        request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("1"), family);
+        EXPECT_TRUE(status().endsWith(QStringLiteral("cannot be written.")))
+            << status().toStdString();
+    }
+    QFile::setPermissions(m_file.path(), QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_EQ(m_file.bytes(), text);
 }
 
 struct Refusal
