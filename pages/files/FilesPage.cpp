@@ -1,10 +1,10 @@
 #include "pages/files/FilesPage.h"
 
 #include "inspection/files/FileSearchJob.h"
+#include "inspection/files/SearchFollower.h"
 #include "inspection/files/TypedPath.h"
 #include "pages/files/FoundTable.h"
 #include "pages/files/PathPanel.h"
-#include "pages/files/SearchFollower.h"
 #include "platform/PlatformServicesImp.h"
 #include "window/EmptyHint.h"
 #include "window/FileDialog.h"

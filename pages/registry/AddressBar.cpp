@@ -2,9 +2,9 @@
 
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/TypedAddress.h"
-#include "pages/registry/PathEdit.h"
 #include "pages/registry/RegistryTreeModel.h"
 #include "window/Page.h"
+#include "window/PathEdit.h"
 #include "window/ShownText.h"
 
 #include <QAbstractItemView>

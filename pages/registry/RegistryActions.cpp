@@ -4,7 +4,6 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "pages/registry/KeyTree.h"
-#include "pages/registry/MenuKey.h"
 #include "pages/registry/RegistryClipboard.h"
 #include "pages/registry/RegistryEditor.h"
 #include "pages/registry/RegistryHistory.h"
@@ -13,6 +12,7 @@
 #include "pages/registry/RegistryTransfer.h"
 #include "pages/registry/StoreGate.h"
 #include "pages/registry/ValueTable.h"
+#include "window/MenuKey.h"
 #include "window/Page.h"
 
 #include <QAction>

@@ -1,5 +1,5 @@
 #include "host/HostLibraries.h"
-#include "pages/registry/PathEdit.h"
+#include "window/PathEdit.h"
 #include "pages/registry/RegistryValueModel.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/registry/RegistryPageFixture.h"

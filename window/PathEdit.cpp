@@ -1,4 +1,4 @@
-#include "pages/registry/PathEdit.h"
+#include "window/PathEdit.h"
 
 #include "window/ShownText.h"
 

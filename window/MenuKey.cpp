@@ -1,4 +1,4 @@
-#include "pages/registry/MenuKey.h"
+#include "window/MenuKey.h"
 
 #include <QAbstractItemView>
 #include <QContextMenuEvent>

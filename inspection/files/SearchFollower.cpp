@@ -1,4 +1,4 @@
-#include "pages/files/SearchFollower.h"
+#include "inspection/files/SearchFollower.h"
 
 #include <utility>
 
