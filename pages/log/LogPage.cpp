@@ -117,7 +117,16 @@ QLayout* LogPage::makeFooter()
 void LogPage::refresh()
 {
     startJob(tr("Reading the log"), std::make_unique<LogReadingJob>(m_reader),
-             [this](LogReadingJob&, bool) { showCount(); });
+             [this](LogReadingJob&, bool) {
+                 showCount();
+                 markRead();
+             });
+}
+
+void LogPage::lookForChanges()
+{
+    if (m_reader.hasNews())
+        refresh();
 }
 
 void LogPage::find()
@@ -128,8 +137,10 @@ void LogPage::find()
 
 void LogPage::readNew()
 {
-    if (!isBusy())
-        m_reader.readMore();
+    if (isBusy())
+        return;
+    m_reader.readMore();
+    markRead();
 }
 
 void LogPage::showCount()
