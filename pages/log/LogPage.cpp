@@ -50,7 +50,7 @@ LogPage::LogPage(QWidget* parent)
     body()->addLayout(makeControls());
     body()->addWidget(m_table, 1);
     body()->addLayout(makeFooter());
-    setFocusProxy(m_table);
+    setFocusProxy(m_level);
     new TailFollower(m_table);
     connect(&ApplicationLog::instance(), &ApplicationLog::written, this, &LogPage::readNew);
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &LogPage::showCount);
