@@ -107,6 +107,10 @@ Put it in the place of the file to bring everything back.</source>
         <translation>最后一个 Base64 字符单独成组，解码不出内容。</translation>
     </message>
     <message>
+        <source>Only the first character is URL-safe Base64; the library ignores what follows.</source>
+        <translation>只有第一个字符是 URL 安全的 Base64，其后的内容被库忽略。</translation>
+    </message>
+    <message>
         <source>Only the first %L1 characters are URL-safe Base64; the library ignores what follows.</source>
         <translation>只有前 %L1 个字符是 URL 安全的 Base64，其后的内容被库忽略。</translation>
     </message>
