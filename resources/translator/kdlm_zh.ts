@@ -769,6 +769,13 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>FileOpener</name>
+    <message>
+        <source>One file at a time, please.</source>
+        <translation>请一次只拖放一个文件。</translation>
+    </message>
+</context>
+<context>
     <name>FileSearchJob</name>
     <message>
         <source>Type a pattern first, such as /etc/*.conf.</source>
