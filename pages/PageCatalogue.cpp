@@ -74,8 +74,8 @@ constexpr Row rows[] = {
                        "or coded as Base64 in the way of the host libraries.")},
     {"log", QT_TRANSLATE_NOOP("PageCatalogue", "&Log"), &drawLogGlyph, &made<LogPage>,
      QT_TRANSLATE_NOOP("PageCatalogue",
-                       "What has happened since the program was started, with every change that "
-                       "was made from this window.")},
+                       "What has happened in this run of the program and in earlier ones, with "
+                       "every change that was made from its window.")},
 };
 
 } // namespace

@@ -16,13 +16,6 @@ namespace {
 
 constexpr int waitMilliseconds = 50; // between two looks whether the page is ready
 
-// The local file that is dragged, if it is one.
-QString draggedFile(const QMimeData& data)
-{
-    const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
-}
-
 bool isDrag(const QEvent& event)
 {
     return event.type() == QEvent::DragEnter || event.type() == QEvent::DragMove ||
@@ -61,10 +54,13 @@ void FileOpener::open(const QString& path)
     deliver();
 }
 
-// The page may have to be made first, or be at work.
+// The page may have to be made first, or be at work. Whoever goes to another one meanwhile wants to
+// see that one.
 void FileOpener::deliver()
 {
     const int index = pageFor(m_path);
+    if (m_rail->choice() != index)
+        return m_waiting.stop();
     Page* page = m_stack->current() == index ? m_stack->page(index) : nullptr;
     if (!page || page->isBusy() || QApplication::activeModalWidget())
         return;
@@ -74,8 +70,19 @@ void FileOpener::deliver()
 
 bool FileOpener::isForWindow(const QMimeData& data) const
 {
-    const QString path = draggedFile(data);
-    return !path.isEmpty() && pageFor(path) >= 0;
+    const QList<QUrl> urls = data.urls();
+    return std::any_of(urls.begin(), urls.end(), [this](const QUrl& url) {
+        return url.isLocalFile() && pageFor(url.toLocalFile()) >= 0;
+    });
+}
+
+void FileOpener::drop(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() == 1)
+        open(urls.first().toLocalFile());
+    else if (Page* page = m_stack->page(m_stack->current()))
+        page->report(Page::Report::Warning, tr("One file at a time, please."));
 }
 
 // A drag that a widget does not take is offered to the one around it, and so to the window. A text
@@ -93,6 +100,6 @@ bool FileOpener::eventFilter(QObject* watched, QEvent* event)
     else
         drag.ignore();
     if (widget == m_window && event->type() == QEvent::Drop)
-        open(draggedFile(*drag.mimeData()));
+        this->drop(*drag.mimeData());
     return true;
 }

@@ -11,8 +11,8 @@ class QMimeData;
 class QWidget;
 
 /// Opens files that are dropped anywhere onto the window in the page that is for their kind, which
-/// comes into view for that. A part of a page that takes any file, as it says by the property
-/// `takesAnyFile`, goes first.
+/// comes into view for that; of several at once it opens none and says so. A part of a page that
+/// takes any file, as it says by the property `takesAnyFile`, goes first.
 class FileOpener : public QObject
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ public:
 private:
     int pageFor(const QString& path) const;
     bool isForWindow(const QMimeData& data) const;
+    void drop(const QMimeData& data);
     void deliver();
 
     QWidget* m_window;

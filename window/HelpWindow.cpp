@@ -7,6 +7,7 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -22,6 +23,8 @@ HelpWindow::HelpWindow(const std::vector<PageEntry>& pages, QWidget* parent)
     connect(glowing(about), &QPushButton::clicked, this, &HelpWindow::showAbout);
     glowing(buttons->addButton(QDialogButtonBox::Close));
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* quit = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Q")), this);
+    connect(quit, &QShortcut::activated, this, &HelpWindow::closeAll);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_text, 1);
     layout->addWidget(buttons);
@@ -42,4 +45,11 @@ void HelpWindow::showAt(const QString& page)
 void HelpWindow::showAbout()
 {
     AboutDialog(this).exec();
+}
+
+void HelpWindow::closeAll()
+{
+    close();
+    if (parentWidget())
+        parentWidget()->close();
 }

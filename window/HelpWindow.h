@@ -13,6 +13,7 @@ class HelpWindow : public QDialog
     Q_OBJECT
 
 public:
+    /// Ctrl+Q closes the parent too, as it does there.
     explicit HelpWindow(const std::vector<PageEntry>& pages, QWidget* parent = nullptr);
 
     /// Shows itself, at the part about the page of this name, and takes the keyboard.
@@ -20,6 +21,7 @@ public:
 
 private:
     void showAbout();
+    void closeAll();
 
     QTextBrowser* m_text;
 };

@@ -5,6 +5,19 @@
 
 #include <utility>
 
+namespace {
+
+// Neighbouring rows are one range: a view looks at every range of a selection for every cell.
+void add(QItemSelection& selection, const QModelIndex& row)
+{
+    if (!selection.isEmpty() && selection.last().bottom() == row.row() - 1)
+        selection.last() = QItemSelectionRange(selection.last().topLeft(), row);
+    else
+        selection.select(row, row);
+}
+
+} // namespace
+
 KeptPlace::KeptPlace(QTableView& table, KeyOf keyOf)
     : m_table(table),
       m_keyOf(std::move(keyOf)),
@@ -37,11 +50,10 @@ void KeptPlace::select() const
     QModelIndex current;
     for (int row = 0; row < model.rowCount(); ++row) {
         const QString key = m_keyOf(row);
-        const QModelIndex index = model.index(row, 0);
         if (!current.isValid() && key == m_current)
             current = model.index(row, m_column);
         if (m_selected.contains(key))
-            selection.select(index, index);
+            add(selection, model.index(row, 0));
     }
     m_table.selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     m_table.selectionModel()->select(selection,

@@ -120,9 +120,11 @@ void Page::report(Report kind, const QString& text)
     ApplicationLog::instance().write(level(kind), text);
 }
 
+// What stands there is not read out once more: nothing new has happened.
 void Page::setStatus(const QString& text)
 {
-    m_footer->show(Report::Info, text);
+    if (!m_footer->shows(Report::Info, text))
+        m_footer->show(Report::Info, text);
 }
 
 void Page::log(const QString& line)

@@ -20,6 +20,11 @@ public:
 
     /// Shows a report, as a sign and a text that an assistive tool reads out.
     void show(PageContext::Report kind, const QString& text);
+    /// Whether that is what it shows already.
+    bool shows(PageContext::Report kind, const QString& text) const
+    {
+        return m_kind == kind && m_text == text;
+    }
     /// The text of the last report, whole.
     QString text() const { return m_text; }
 

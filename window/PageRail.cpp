@@ -45,6 +45,11 @@ void PageRail::tell(int page)
         emit chosen(page);
 }
 
+int PageRail::choice() const
+{
+    return m_buttons->checkedId();
+}
+
 void PageRail::setChosen(int page)
 {
     if (QAbstractButton* button = m_buttons->button(page))

@@ -14,6 +14,8 @@ class PageRail : public QWidget
 public:
     explicit PageRail(const std::vector<PageEntry>& pages, QWidget* parent = nullptr);
 
+    /// The page chosen last.
+    int choice() const;
     /// Checks the button of this page without emitting anything.
     void setChosen(int page);
 

@@ -9,7 +9,10 @@ QString Base64Note::of(const std::string& text)
     QStringList notes;
     if (extent.hasLone)
         notes += tr("The last Base64 character stands alone and yields nothing.");
-    if (extent.hasIgnored)
+    if (extent.hasIgnored && extent.length == 1)
+        notes += tr("Only the first character is URL-safe Base64; the library ignores what "
+                    "follows.");
+    else if (extent.hasIgnored)
         notes += tr("Only the first %L1 characters are URL-safe Base64; the library ignores what "
                     "follows.")
                      .arg(extent.length);

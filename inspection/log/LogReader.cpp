@@ -1,6 +1,7 @@
 #include "inspection/log/LogReader.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -34,4 +35,10 @@ bool LogReader::readMore()
     m_entries += static_cast<int>(piece.entries.size());
     m_receiver(std::move(piece));
     return !bytes.isEmpty();
+}
+
+bool LogReader::hasNews() const
+{
+    const QFileInfo file(m_file);
+    return file.exists() && file.size() != m_position;
 }

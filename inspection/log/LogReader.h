@@ -18,6 +18,9 @@ public:
     /// become shorter is read from its start.
     bool readMore();
 
+    /// Whether there is anything that has not been read, as the file's size tells.
+    bool hasNews() const;
+
     /// How many entries have been read.
     int entries() const { return m_entries; }
 

@@ -126,6 +126,7 @@ void FilesPage::searchFor(const QString& pattern, const QString& chosen)
     if (isBusy())
         return;
     m_searched = pattern;
+    m_found.clear();
     m_table->clear();
     followPattern();
     m_follower->begin(pattern);
@@ -142,11 +143,12 @@ void FilesPage::searchFor(const QString& pattern, const QString& chosen)
 // Of a search that was stopped, the rest is not read by itself later on.
 void FilesPage::finish(const FileSearchJob& job, bool complete)
 {
-    if (!complete) {
-        m_follower->stop();
-        return report(Report::Warning, tr("Stopped: %L1 found so far.").arg(job.found()));
-    }
-    report(job.found() == 0 ? Report::Warning : Report::Info, foundText(job));
+    m_found = complete ? foundText(job) : tr("Stopped: %L1 found so far.").arg(job.found());
+    report(complete && job.found() > 0 ? Report::Info : Report::Warning, m_found);
+    if (m_pattern->text() != m_typed)
+        followPattern();
+    if (!complete)
+        return m_follower->stop();
     if (job.found() > 0)
         m_follower->setFirst(folder() + m_table->entries().front().name);
     markRead();
@@ -173,9 +175,9 @@ void FilesPage::showAgain(const FileSearchJob& job, const std::vector<FoundEntry
         return;
     m_table->replace(entries);
     m_paths->ask();
-    const QString text = foundText(job);
+    m_found = foundText(job);
     if (m_pattern->text() == m_typed)
-        setStatus(text);
+        setStatus(m_found);
 }
 
 QString FilesPage::folder() const
@@ -211,5 +213,5 @@ void FilesPage::followPattern()
         setStatus(tr("The rows are still those of %1: press Enter to search for the new pattern.")
                       .arg(m_searched));
     else
-        setStatus({});
+        setStatus(m_found);
 }

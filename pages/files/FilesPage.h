@@ -48,4 +48,5 @@ private:
     SearchFollower* m_follower;
     QString m_searched; ///< the pattern of the rows in the table
     QString m_typed;    ///< as it was typed
+    QString m_found;    ///< what was told of the rows
 };

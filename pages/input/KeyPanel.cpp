@@ -49,7 +49,7 @@ KeyPanel::KeyPanel(QWidget* parent)
     addLamps({KeyStates::unknownKeys.begin(), KeyStates::unknownKeys.end()}, unknownRows,
              tr("Keys unknown to the service"));
     layout->addLayout(makeQuery());
-    setFocusProxy(m_code);
+    setFocusProxy(m_lamps.front());
     refresh();
 }
 

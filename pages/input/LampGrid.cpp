@@ -35,6 +35,7 @@ void LampGrid::stopAt(int lamp)
     m_lamps[static_cast<std::size_t>(m_stop)]->setFocusPolicy(Qt::ClickFocus);
     m_stop = lamp;
     m_lamps[static_cast<std::size_t>(m_stop)]->setFocusPolicy(Qt::StrongFocus);
+    setFocusProxy(m_lamps[static_cast<std::size_t>(m_stop)]);
 }
 
 // Where the key leads to; -1 for a key that leads nowhere, or out of the grid.

@@ -50,7 +50,7 @@ LogPage::LogPage(QWidget* parent)
     body()->addLayout(makeControls());
     body()->addWidget(m_table, 1);
     body()->addLayout(makeFooter());
-    setFocusProxy(m_table);
+    setFocusProxy(m_level);
     new TailFollower(m_table);
     connect(&ApplicationLog::instance(), &ApplicationLog::written, this, &LogPage::readNew);
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &LogPage::showCount);
@@ -117,7 +117,16 @@ QLayout* LogPage::makeFooter()
 void LogPage::refresh()
 {
     startJob(tr("Reading the log"), std::make_unique<LogReadingJob>(m_reader),
-             [this](LogReadingJob&, bool) { showCount(); });
+             [this](LogReadingJob&, bool) {
+                 showCount();
+                 markRead();
+             });
+}
+
+void LogPage::lookForChanges()
+{
+    if (m_reader.hasNews())
+        refresh();
 }
 
 void LogPage::find()
@@ -128,8 +137,10 @@ void LogPage::find()
 
 void LogPage::readNew()
 {
-    if (!isBusy())
-        m_reader.readMore();
+    if (isBusy())
+        return;
+    m_reader.readMore();
+    markRead();
 }
 
 void LogPage::showCount()

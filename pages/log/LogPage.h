@@ -25,6 +25,10 @@ public:
     /// Writes the lines in view to a file, as they stand in the log.
     void saveAs(const QString& file);
 
+protected:
+    /// Another process may write to the same log.
+    void lookForChanges() override;
+
 private:
     void makeTable();
     QLayout* makeControls();

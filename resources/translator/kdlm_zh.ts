@@ -107,6 +107,10 @@ Put it in the place of the file to bring everything back.</source>
         <translation>最后一个 Base64 字符单独成组，解码不出内容。</translation>
     </message>
     <message>
+        <source>Only the first character is URL-safe Base64; the library ignores what follows.</source>
+        <translation>只有第一个字符是 URL 安全的 Base64，其后的内容被库忽略。</translation>
+    </message>
+    <message>
         <source>Only the first %L1 characters are URL-safe Base64; the library ignores what follows.</source>
         <translation>只有前 %L1 个字符是 URL 安全的 Base64，其后的内容被库忽略。</translation>
     </message>
@@ -765,6 +769,13 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>FileOpener</name>
+    <message>
+        <source>One file at a time, please.</source>
+        <translation>请一次只拖放一个文件。</translation>
+    </message>
+</context>
+<context>
     <name>FileSearchJob</name>
     <message>
         <source>Type a pattern first, such as /etc/*.conf.</source>
@@ -1284,12 +1295,28 @@ Put it in the place of the file to bring everything back.</source>
         <translation>转到下一个找到的项目</translation>
     </message>
     <message>
+        <source>to the one before it, in the registry</source>
+        <translation>在注册表中转到上一个找到的项目</translation>
+    </message>
+    <message>
+        <source>to the next difference, in a profile</source>
+        <translation>在配置文件中转到下一处差异</translation>
+    </message>
+    <message>
         <source>edit what is selected</source>
         <translation>编辑所选内容</translation>
     </message>
     <message>
+        <source>confirm a text of several lines</source>
+        <translation>确认多行文本</translation>
+    </message>
+    <message>
         <source>delete what is selected, after a question</source>
         <translation>询问后删除所选内容</translation>
+    </message>
+    <message>
+        <source>to the folder above, in the list of found files</source>
+        <translation>在找到的文件列表中转到上级文件夹</translation>
     </message>
     <message>
         <source>copy what is selected</source>
@@ -2109,8 +2136,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>文本和文件按主机库的方式加密、解密、计算摘要或做 Base64 编码后变成什么。</translation>
     </message>
     <message>
-        <source>What has happened since the program was started, with every change that was made from this window.</source>
-        <translation>程序启动以来发生了什么，包括在本窗口中所做的每一处更改。</translation>
+        <source>What has happened in this run of the program and in earlier ones, with every change that was made from its window.</source>
+        <translation>本程序此次及以往运行中发生了什么，包括在其窗口中所做的每一处更改。</translation>
     </message>
 </context>
 <context>

@@ -37,9 +37,14 @@ protected:
     // As a file manager gives it: with the address as a text.
     static bool drop(QWidget& target, const QString& path)
     {
+        return drop(target, QList<QUrl>{QUrl::fromLocalFile(path)});
+    }
+
+    static bool drop(QWidget& target, const QList<QUrl>& files)
+    {
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        data.setText(QUrl::fromLocalFile(path).toString());
+        data.setUrls(files);
+        data.setText(files.first().toString());
         const QPoint place = target.rect().center();
         QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(&target, &enter);
@@ -132,6 +137,30 @@ TEST_F(DroppedFiles, APartOfAPageThatTakesAnyFileGoesFirst)
     page()->findChild<QTabWidget*>()->setCurrentIndex(1);
     EXPECT_TRUE(drop(*control<QPlainTextEdit>("Text"), m_file.path()));
     EXPECT_EQ(control<QLineEdit>("Path of the file")->text(), m_file.path());
+}
+
+TEST_F(DroppedFiles, SeveralAtOnceAreRefusedWithAWord)
+{
+    open("files");
+    const QUrl file = QUrl::fromLocalFile(m_file.path());
+    EXPECT_TRUE(drop(m_window, {file, QUrl::fromLocalFile(registryFile())}));
+    EXPECT_EQ(status(), "One file at a time, please.");
+}
+
+TEST_F(DroppedFiles, AFileDoesNotWaitWhereAnotherPageIsChosenMeanwhile)
+{
+    open("profiles");
+    Page* profiles = page();
+    profiles->startJob("Endless", std::make_unique<EndlessJob>(), [](EndlessJob&, bool) {});
+    EXPECT_TRUE(drop(m_window, m_file.path()));
+    QTest::keyClick(&m_window, Qt::Key_3, Qt::AltModifier);
+    ASSERT_TRUE(waitFor([&] { return page() && page() != profiles; }));
+    QTest::qWait(200); // several looks
+    profiles->cancelJob();
+    QTest::keyClick(&m_window, Qt::Key_2, Qt::AltModifier);
+    ASSERT_TRUE(waitFor([&] { return page() == profiles; }));
+    QTest::qWait(200);
+    EXPECT_EQ(profiles->findChild<QTableView*>("lines")->model()->rowCount(), 0);
 }
 
 TEST_F(DroppedFiles, AFileWaitsForAPageThatIsAtWork)

@@ -50,7 +50,9 @@ TEST_F(HelpWindowTest, SaysWhichCallsAreWideAndWhichNarrow)
 
 TEST_F(HelpWindowTest, NamesTheKeys)
 {
-    for (const char* key : {"F1", "F5", "Ctrl+F", "Ctrl+Z", "Alt+1", "Alt+8", "Ctrl+Q"})
+    for (const char* key :
+         {"F1", "F5", "Ctrl+F", "Ctrl+Z", "Alt+1", "Alt+8", "Ctrl+Q", "Ctrl+Return", "Backspace",
+          "Alt+Up", "F8", "Shift+F3", "Shift+F10, Menu"})
         EXPECT_NE(plain().find(key), std::string::npos) << key;
 }
 
@@ -107,6 +109,19 @@ TEST(MainWindowHelp, F1AndTheButtonOpenTheSameWindow)
     QTest::mouseClick(window.findChild<StatusLine*>()->findChild<QToolButton*>(), Qt::LeftButton);
     EXPECT_TRUE(help->isVisible());
     EXPECT_EQ(window.findChildren<HelpWindow*>().size(), 1);
+}
+
+TEST(MainWindowHelp, CtrlQInItClosesTheProgramsWindow)
+{
+    MainWindow window;
+    window.show();
+    ASSERT_TRUE(waitForActive(&window));
+    QTest::keyClick(&window, Qt::Key_F1);
+    auto* help = window.findChild<HelpWindow*>();
+    ASSERT_TRUE(waitForActive(help));
+    QTest::keyClick(help, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(help->isVisible());
 }
 
 } // namespace

@@ -269,6 +269,21 @@ TEST_F(MainWindowTest, APageThatIsChosenGetsTheKeyboard)
     }
 }
 
+// Two pages give it to the control that they are for: the tree, and the pass phrase.
+TEST_F(MainWindowTest, ThatControlIsTheFirstThatTabComesTo)
+{
+    show();
+    for (const QString page : {"profiles", "files", "fonts", "displays", "input", "log"}) {
+        pressDigit(page);
+        ASSERT_TRUE(reaches(page));
+        m_window.currentPage()->takeFocus();
+        const QWidget* chosen = m_window.focusWidget();
+        button(page).setFocus();
+        QTest::keyClick(&button(page), Qt::Key_Tab);
+        EXPECT_EQ(m_window.focusWidget(), chosen) << page.toStdString();
+    }
+}
+
 enum class Part
 {
     Rail,

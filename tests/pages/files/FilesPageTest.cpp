@@ -260,6 +260,28 @@ TEST_F(FilesPageTest, MarksRowsThatAnswerToAnotherPatternThanTheOneTyped)
     EXPECT_FALSE(model().index(0, 0).data(Qt::ForegroundRole).isValid());
 }
 
+TEST_F(FilesPageTest, TellsAgainWhatWasFoundWhenItsPatternIsBack)
+{
+    makeFile(QStringLiteral("a"));
+    search(path("*"));
+    const QString found = m_probe.page().statusText();
+    EXPECT_TRUE(found.startsWith(QLatin1String("1 found.")));
+    m_probe.type("pattern", path("b*"));
+    m_probe.type("pattern", path("*"));
+    EXPECT_EQ(m_probe.page().statusText(), found);
+}
+
+TEST_F(FilesPageTest, RefreshTellsThatItsRowsAreNoAnswerToWhatIsTyped)
+{
+    makeFile(QStringLiteral("a"));
+    search(path("*"));
+    m_probe.type("pattern", path("b*"));
+    m_probe.page().refresh();
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_TRUE(m_probe.page().statusText().startsWith(QLatin1String("The rows are still those")))
+        << m_probe.page().statusText().toStdString();
+}
+
 TEST_F(FilesPageTest, RefreshLeavesWhatIsTyped)
 {
     makeFile(QStringLiteral("a"));

@@ -197,6 +197,24 @@ TEST_F(LogPageTest, ShowsANewLineAtOnce)
     EXPECT_EQ(lastLine().toStdString(), "something new");
 }
 
+TEST_F(LogPageTest, ShowsALineThatAnotherProcessHasWritten)
+{
+    QFile log(ApplicationLog::path());
+    ASSERT_TRUE(log.open(QIODevice::Append));
+    log.write("[INFO] 2026-03-07 09:05:03 : from elsewhere\n");
+    log.close();
+    EXPECT_TRUE(waitFor([this] { return lastLine() == "from elsewhere"; }));
+}
+
+TEST_F(LogPageTest, TellsWhenItWasRead)
+{
+    const QLabel* read = nullptr;
+    for (const QLabel* label : m_page.findChildren<QLabel*>())
+        read = label->text().startsWith("Read at ") ? label : read;
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(read->isVisible());
+}
+
 // The names of files that messages tell of may hold line ends.
 TEST_F(LogPageTest, ALineEndInAMessageMakesNoFurtherEntry)
 {
