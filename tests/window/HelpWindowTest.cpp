@@ -118,7 +118,7 @@ TEST(MainWindowHelp, CtrlQInItClosesTheProgramsWindow)
     ASSERT_TRUE(waitForActive(&window));
     QTest::keyClick(&window, Qt::Key_F1);
     auto* help = window.findChild<HelpWindow*>();
-    ASSERT_TRUE(waitForActive(help));
+    ASSERT_TRUE(waitFor([help] { return QApplication::activeWindow() == help; }));
     QTest::keyClick(help, Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(window.isVisible());
     EXPECT_FALSE(help->isVisible());
