@@ -3149,10 +3149,6 @@ Wide: %2</source>
         <translation>已完成：%1。</translation>
     </message>
     <message>
-        <source>Cancelled half-way: %1.</source>
-        <translation>中途取消：%1。</translation>
-    </message>
-    <message>
         <source>Undoing</source>
         <translation>正在撤消</translation>
     </message>
@@ -3183,6 +3179,14 @@ Wide: %2</source>
     <message>
         <source>Overwrite</source>
         <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>Cancelled half-way: %1. Undo (Ctrl+Z) restores what was.</source>
+        <translation>中途取消：%1。撤销 (Ctrl+Z) 可恢复原状。</translation>
+    </message>
+    <message>
+        <source>Cancelled half-way: %1. Redo (Ctrl+Shift+Z) does the rest.</source>
+        <translation>中途取消：%1。重做 (Ctrl+Shift+Z) 可完成其余部分。</translation>
     </message>
     <message>
         <source>Only the rest</source>
