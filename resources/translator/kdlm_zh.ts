@@ -88,8 +88,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>已取消：未作任何更改。</translation>
     </message>
     <message>
-        <source>The store could not be backed up: %1 Nothing was changed.</source>
-        <translation>无法备份存储：%1未作任何更改。</translation>
+        <source>The store could not be backed up: %1. Nothing was changed.</source>
+        <translation>无法备份存储：%1。未作任何更改。</translation>
     </message>
     <message>
         <source>Backed the store up to %1.</source>
@@ -1457,8 +1457,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>存储中现有</translation>
     </message>
     <message>
-        <source>&amp;Only what is altered, refused or overwritten</source>
-        <translation>仅显示有改动、被拒绝或会覆盖的语句(&amp;O)</translation>
+        <source>&amp;Only what is altered, refused, overwritten or deleted</source>
+        <translation>仅显示有改动、被拒绝、会覆盖或会删除的语句(&amp;O)</translation>
     </message>
     <message>
         <source>Code page of the file</source>
