@@ -3536,6 +3536,10 @@ Wide: %2</source>
         <source>The store is in step with its file %1 again.</source>
         <translation>存储与其文件 %1 再次一致。</translation>
     </message>
+    <message>
+        <source>The store has been saved to %1; what the file lacked is gone.</source>
+        <translation>存储已保存到 %1；文件中缺少的内容已丢失。</translation>
+    </message>
 </context>
 <context>
     <name>StoreGate</name>
