@@ -3337,6 +3337,10 @@ Wide: %2</source>
 <context>
     <name>RegistrySearchJob</name>
     <message>
+        <source>unreadable: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
         <source>Values: %1. Found: %2.</source>
         <translation>值：%1 个。找到：%2 处。</translation>
     </message>
