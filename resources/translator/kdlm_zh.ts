@@ -3086,10 +3086,6 @@ Wide: %2</source>
         <translation>无法创建 %1。</translation>
     </message>
     <message>
-        <source>%1 has a value &quot;%2&quot; already. Nothing was changed.</source>
-        <translation>%1 中已有值“%2”。未做任何更改。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; stands in the root itself, where the registry can list it but not set it. Nothing was changed.</source>
         <translation>“%1”直接位于根中，注册表只能列出它，不能设置它。未做任何更改。</translation>
     </message>
@@ -3181,16 +3177,16 @@ Wide: %2</source>
         <translation>覆盖</translation>
     </message>
     <message>
+        <source>Only the rest</source>
+        <translation>仅其余部分</translation>
+    </message>
+    <message>
         <source>Cancelled half-way: %1. Undo (Ctrl+Z) restores what was.</source>
         <translation>中途取消：%1。撤销 (Ctrl+Z) 可恢复原状。</translation>
     </message>
     <message>
         <source>Cancelled half-way: %1. Redo (Ctrl+Shift+Z) does the rest.</source>
         <translation>中途取消：%1。重做 (Ctrl+Shift+Z) 可完成其余部分。</translation>
-    </message>
-    <message>
-        <source>Only the rest</source>
-        <translation>仅其余部分</translation>
     </message>
 </context>
 <context>
@@ -3337,12 +3333,12 @@ Wide: %2</source>
 <context>
     <name>RegistrySearchJob</name>
     <message>
-        <source>unreadable: %1</source>
-        <translation>无法读取：%1</translation>
-    </message>
-    <message>
         <source>Values: %1. Found: %2.</source>
         <translation>值：%1 个。找到：%2 处。</translation>
+    </message>
+    <message>
+        <source>unreadable: %1</source>
+        <translation>无法读取：%1</translation>
     </message>
 </context>
 <context>
@@ -3809,6 +3805,10 @@ Wide: %2</source>
     <message>
         <source>&quot;\&quot; and &quot;/&quot; separate keys. Create one key at a time.</source>
         <translation>“\”和“/”用于分隔项。请逐级创建。</translation>
+    </message>
+    <message>
+        <source>%1 has a value &quot;%2&quot; already.</source>
+        <translation>%1 中已有值“%2”。</translation>
     </message>
 </context>
 <context>
