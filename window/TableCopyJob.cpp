@@ -10,7 +10,9 @@ namespace {
 
 constexpr qint64 stepMilliseconds = 4;
 
-QString quoted(QString text)
+} // namespace
+
+QString TableCopyJob::quoted(QString text)
 {
     const auto isSpecial = [](QChar c) {
         return c == u'\t' || c == u'\n' || c == u'\r' || c == u'"';
@@ -19,8 +21,6 @@ QString quoted(QString text)
         return text;
     return u'"' + text.replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
-
-} // namespace
 
 TableCopyJob::TableCopyJob(const QAbstractItemModel& model, std::vector<int> rows, Header header)
     : m_model(model), m_rows(std::move(rows))

@@ -23,6 +23,9 @@ public:
     /// What a cell gives to be copied where it shows less than it has.
     static constexpr int wholeTextRole = Qt::UserRole + 1;
 
+    /// A cell as it stands in such a text.
+    static QString quoted(QString text);
+
     /// The model outlives the job, and keeps its rows until the job is done.
     TableCopyJob(const QAbstractItemModel& model, std::vector<int> rows, Header header);
 

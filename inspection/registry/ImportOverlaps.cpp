@@ -2,6 +2,8 @@
 
 #include "inspection/registry/RegistryPath.h"
 
+#include <QLocale>
+
 using Action = RegFileEntry::Action;
 
 namespace {
@@ -73,21 +75,25 @@ QString ImportOverlaps::sameKey(const RegFileEntry& entry, const QString& path)
         m_keys.insert(path, place);
     else if (first->root != place.root)
         return tr("The same key as under %1 in line %2: all root keys are one.")
-            .arg(first->root, QString::number(first->line));
+            .arg(first->root, QLocale().toString(first->line));
     return {};
 }
 
 QString ImportOverlaps::deletedBelow(const RegFileEntry& entry, const QString& path) const
 {
     const QString root = placeOf(entry).root;
-    for (auto at = m_keys.lowerBound(path); at != m_keys.cend(); ++at) {
-        if (at.key() != path && !isBelow(at.key(), path))
-            break;
-        if (at->root != root)
-            return tr("Deletes what line %2 puts under %1: all root keys are one.")
-                .arg(at->root, QString::number(at->line));
+    const auto isForeign = [&root](const Place& place) { return place.root != root; };
+    auto at = m_keys.constFind(path);
+    if (at == m_keys.cend() || !isForeign(*at)) {
+        // Names like "Key-Old" stand between "Key" and what is below it.
+        at = m_keys.lowerBound(path + QLatin1Char('/'));
+        while (at != m_keys.cend() && isBelow(at.key(), path) && !isForeign(*at))
+            ++at;
+        if (at == m_keys.cend() || !isBelow(at.key(), path))
+            return {};
     }
-    return {};
+    return tr("Deletes what line %2 puts under %1: all root keys are one.")
+        .arg(at->root, QLocale().toString(at->line));
 }
 
 // Under one and the same root a later statement wins on Windows too.
@@ -100,7 +106,7 @@ QString ImportOverlaps::sameValue(const RegFileEntry& entry, const QString& entr
         m_replacedLine = before->line;
         remark = tr("The same value as under %1 in line %2: all root keys are one, and the later "
                     "statement wins.")
-                     .arg(before->root, QString::number(before->line));
+                     .arg(before->root, QLocale().toString(before->line));
     }
     m_values.insert(entryPath, place);
     return remark;
@@ -143,12 +149,12 @@ void ImportOverlaps::list(const QString& path)
     m_valueNames.insert(path, folded(children.entries));
 }
 
-bool ImportOverlaps::isDeletedBefore(const QString& entryPath) const
+bool ImportOverlaps::isDeletedBefore(const QString& path) const
 {
-    if (m_deletedValues.contains(entryPath))
+    if (m_deletedValues.contains(path))
         return true;
     for (const QString& key : m_deletedKeys) {
-        if (isBelow(entryPath, key))
+        if (path == key || isBelow(path, key))
             return true;
     }
     return false;

@@ -28,8 +28,8 @@ public:
     /// or deleted; 0 where there is none.
     int replacedLine() const { return m_replacedLine; }
 
-    /// True when an earlier statement deletes the entry of this path in the store.
-    bool isDeletedBefore(const QString& entryPath) const;
+    /// True when an earlier statement deletes the key or the entry of this path in the store.
+    bool isDeletedBefore(const QString& path) const;
 
 private:
     /// Where a key or a value stands in the file first.

@@ -6,6 +6,8 @@
 #include "platform/registry/TypeName.h"
 #include "platform/registry/ValueChange.h"
 
+#include <QLocale>
+
 #include <algorithm>
 
 namespace {
@@ -53,8 +55,8 @@ void ImportPlan::overlap(Statement& statement)
         alter(statement, remark);
     const auto replaced = m_byLine.constFind(m_overlaps.replacedLine());
     if (replaced != m_byLine.cend())
-        alter(m_statements[*replaced],
-              tr("Line %1 comes later and wins: all root keys are one.").arg(statement.entry.line));
+        alter(m_statements[*replaced], tr("Line %1 comes later and wins: all root keys are one.")
+                                           .arg(QLocale().toString(statement.entry.line)));
 }
 
 void ImportPlan::compare(Statement& statement)
@@ -63,8 +65,8 @@ void ImportPlan::compare(Statement& statement)
     QString path;
     RegistryPath::parse(entry.key, path);
     if (entry.action == Action::CreateKey)
-        statement.isThere = isRegistryKey(path);
-    if (entry.action != Action::SetValue)
+        statement.isThere = isRegistryKey(path) && !m_overlaps.isDeletedBefore(path);
+    if (entry.action != Action::SetValue && entry.action != Action::DeleteValue)
         return;
     const QString entryPath = entryPathOf(path, RegistryPath::slashed(entry.name));
     const QVariant raw = rawRegistryEntry(entryPath);
@@ -73,6 +75,8 @@ void ImportPlan::compare(Statement& statement)
     const RegistryReading reading = key(path).read(entry.name);
     statement.before =
         reading.readable ? words(reading) : tr("unreadable: %1").arg(rawRegistryText(raw));
+    if (entry.action == Action::DeleteValue)
+        return;
     const ValueChange change(entry.type, ImportCheck::dataToSet(entry));
     statement.isThere = change.storedText() == raw.toString();
 }

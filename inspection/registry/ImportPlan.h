@@ -22,14 +22,22 @@ public:
         RegFileEntry entry;
         Outcome outcome = Outcome::Done;
         QString remark; ///< what is altered, or why it is refused, in words
-        /// What the store holds in the place of a value that is set: type and data in words. Null
-        /// where it holds nothing there.
+        /// What the store holds in the place of a value that is set or deleted: type and data in
+        /// words. Null where it holds nothing there.
         QString before;
         /// The store holds already what the statement asks for: the key, or the same value.
         bool isThere = false;
 
         /// True where it puts another value in the place of one that is there.
-        bool isOverwriting() const { return !before.isNull() && !isThere; }
+        bool isOverwriting() const
+        {
+            return entry.action == RegFileEntry::Action::SetValue && !before.isNull() && !isThere;
+        }
+        /// True where it deletes a value that is there.
+        bool isDeleting() const
+        {
+            return entry.action == RegFileEntry::Action::DeleteValue && !before.isNull();
+        }
     };
 
     /// Checks a statement against the store as it is now and against the statements before it, and

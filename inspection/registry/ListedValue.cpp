@@ -116,3 +116,9 @@ QString ListedValue::wholeData() const
 {
     return isReadable() ? RegistryFormat::editable(reading().type, reading().data) : remark();
 }
+
+QString ListedValue::copiedText() const
+{
+    const bool isNumber = reading().type == REG_DWORD || reading().type == REG_QWORD;
+    return isNumber ? dataText() : wholeData();
+}

@@ -51,6 +51,8 @@ public:
     /// Type and data in words, on one line each.
     QString typeText() const;
     QString dataText() const;
+    /// The data in words as a table is copied: numbers as they are shown, anything else whole.
+    QString copiedText() const;
     /// The data as it is typed in; why there is none where the value is unreadable.
     QString wholeData() const;
 

@@ -6,6 +6,8 @@
 
 #include <QLocale>
 
+#include <tuple>
+
 namespace {
 
 bool isPartOfWord(const QString& text, int at)
@@ -15,6 +17,13 @@ bool isPartOfWord(const QString& text, int at)
 }
 
 } // namespace
+
+bool RegistrySearchJob::Query::operator==(const Query& other) const
+{
+    return std::tie(text, inKeys, inNames, inData, mindsCase, wholeWords) ==
+           std::tie(other.text, other.inKeys, other.inNames, other.inData, other.mindsCase,
+                    other.wholeWords);
+}
 
 RegistrySearchJob::RegistrySearchJob(const Query& query, const QString& path)
     : m_query(query), m_digits(query.text.toLower().toLatin1()), m_walk(path)
@@ -83,10 +92,17 @@ void RegistrySearchJob::lookAtValue()
     const RegistryReading reading = m_walk.path().isEmpty()
                                         ? readAtRegistryRoot(m_walk.key(), m_walk.name())
                                         : m_walk.key().read(m_walk.name());
-    const QString data =
-        reading.readable ? RegistryFormat::data(reading.type, reading.data) : QString();
+    const QString raw = reading.readable ? QString() : rawText();
     const bool found = (m_query.inNames && matches(m_walk.name())) ||
-                       (m_query.inData && reading.readable && matches(reading));
-    if (found)
-        m_hits.push_back({m_walk.path(), m_walk.name(), data});
+                       (m_query.inData && (reading.readable ? matches(reading) : matches(raw)));
+    if (!found)
+        return;
+    m_hits.push_back({m_walk.path(), m_walk.name(),
+                      reading.readable ? RegistryFormat::data(reading.type, reading.data)
+                                       : tr("unreadable: %1").arg(raw)});
+}
+
+QString RegistrySearchJob::rawText() const
+{
+    return rawRegistryText(rawRegistryEntry(RegistryPath::join(m_walk.path(), m_walk.name())));
 }

@@ -8,8 +8,9 @@
 #include <vector>
 
 /// Looks for a text in the names of keys and values and in the data of values, from one key
-/// downwards. Texts and bytes are searched whole, numbers as they are shown; hexadecimal digits of
-/// bytes are found in either case, with and without blanks.
+/// downwards. Texts and bytes are searched whole, numbers as they are shown, and the stored text of
+/// what no host library can read; hexadecimal digits of bytes are found in either case, with and
+/// without blanks.
 class RegistrySearchJob : public Job
 {
     Q_DECLARE_TR_FUNCTIONS(RegistrySearchJob)
@@ -23,13 +24,15 @@ public:
         bool inData = true;
         bool mindsCase = false;  ///< upper and lower case letters differ
         bool wholeWords = false; ///< with no letter, digit or "_" right before or behind it
+
+        bool operator==(const Query& other) const;
     };
 
     struct Hit
     {
         QString path;
         QString name; ///< empty: the key itself
-        QString data; ///< of a value, as shown
+        QString data; ///< of a value, as shown; of an unreadable one the stored text
     };
 
     /// The search ends by itself after so many hits.
@@ -48,6 +51,7 @@ public:
 private:
     void lookAtKey();
     void lookAtValue();
+    QString rawText() const;
     bool matches(const QString& text) const;
     bool matches(const RegistryReading& reading) const;
     bool matchesBytes(const QByteArray& data) const;

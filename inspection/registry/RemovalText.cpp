@@ -23,7 +23,9 @@ QString namesOf(const std::vector<Value>& values)
     for (std::size_t i = 0; i < values.size() && i < mostNamed; ++i)
         lines.append(values[i].name);
     if (values.size() > mostNamed)
-        lines.append(RemovalTexts::tr("and %1 more").arg(values.size() - mostNamed));
+        lines.append(
+            RemovalTexts::tr("and %1 more")
+                .arg(QLocale().toString(static_cast<qulonglong>(values.size() - mostNamed))));
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -12,8 +12,9 @@ StoreChangeJob::StoreChangeJob(std::shared_ptr<const StoreChange> change, Direct
 {
 }
 
-// What goes is removed before anything is written, and what is below an entry before the entry:
-// then there is no group left that removing an entry would have to spare.
+// What is to come is written before anything is removed: wherever the job is cancelled, what moves
+// from one place to another stands in one of them at least. What is below an entry is removed
+// before the entry, which mostly leaves no group that removing the entry would have to spare.
 bool StoreChangeJob::step()
 {
     const std::size_t count = m_change->size();
@@ -22,8 +23,8 @@ bool StoreChangeJob::step()
         return false;
     switch (m_next++ / count) {
     case 0: look((*m_change)[at]); break;
-    case 1: removeEntry((*m_change)[count - 1 - at]); break;
-    default: writeEntry((*m_change)[at]); break;
+    case 1: writeEntry((*m_change)[at]); break;
+    default: removeEntry((*m_change)[count - 1 - at]); break;
     }
     return true;
 }

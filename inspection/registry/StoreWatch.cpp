@@ -8,6 +8,10 @@
 StoreWatch::StoreWatch()
 {
     attach();
+    // What became of the file before is not known. Of a change that is still to be saved its saving
+    // will tell.
+    if (m_store && storeFault().isEmpty())
+        m_state = State::Unknown;
 }
 
 void StoreWatch::attach()
@@ -24,6 +28,8 @@ bool StoreWatch::eventFilter(QObject* watched, QEvent* event)
     // program does to the file afterwards must not be taken for it: it is not put off for long.
     if (event->type() == QEvent::UpdateRequest) {
         m_isSaving = true;
+        if (m_state == State::Vanished && !FileIdentity::of(RawStore::fileName()).exists)
+            m_hasLost = true;
         QMetaObject::invokeMethod(this, &StoreWatch::takeSaving, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
@@ -61,7 +67,7 @@ StoreWatch::State StoreWatch::state()
         return State::InStep;
     if (now != m_seen)
         return changedState();
-    return m_state != State::InStep && hasReadDifference() ? State::Unknown : m_state;
+    return m_difference && hasReadDifference() ? State::Unknown : m_state;
 }
 
 // A store that cannot be saved does no harm to any file, and that it cannot is told elsewhere.
@@ -87,7 +93,8 @@ void StoreWatch::settle(const StoreComparisonJob& comparison)
     if (comparison.file() != FileIdentity::of(RawStore::fileName()))
         return; // it has changed meanwhile
     if (!comparison.difference())
-        return takeSaved();
+        return takeSame(comparison.file());
+    m_hasLost = false;
     m_seen = comparison.file();
     m_difference = comparison.difference();
     ++m_revision;
@@ -95,6 +102,15 @@ void StoreWatch::settle(const StoreComparisonJob& comparison)
         m_state = State::Vanished;
     else
         m_state = m_seen.isSameFile(m_saved) ? State::Changed : State::Replaced;
+}
+
+// The store that was found as it is shown need not be shown anew.
+void StoreWatch::takeSame(const FileIdentity& file)
+{
+    if (m_state == State::Unknown && file == m_seen)
+        m_state = State::InStep;
+    else
+        takeSaved();
 }
 
 QString StoreWatch::text()

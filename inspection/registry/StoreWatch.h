@@ -27,7 +27,8 @@ public:
         Changed   ///< the file has been written to, and the store has not read it
     };
 
-    /// Takes the store to be in step with its file.
+    /// Takes nothing for known of a store that can be saved: whether it is in step with its file
+    /// is to be found out first.
     StoreWatch();
 
     State state();
@@ -36,6 +37,10 @@ public:
 
     /// The file that the state is about.
     const FileIdentity& file() const { return m_seen; }
+
+    /// True when the store has saved itself while its file was gone: then it has lost everything
+    /// but its last changes.
+    bool hasLost() const { return m_hasLost; }
 
     /// Grows with everything that may have changed the store.
     int revision();
@@ -49,6 +54,7 @@ private:
     void attach();
     void takeSaving();
     void takeSaved();
+    void takeSame(const FileIdentity& file);
     State changedState();
     bool hasReadDifference() const;
 
@@ -58,5 +64,6 @@ private:
     State m_state = State::InStep;
     std::optional<StoreComparisonJob::Difference> m_difference;
     bool m_isSaving = false; ///< the store has saved itself, which is still to be taken over
+    bool m_hasLost = false;
     int m_revision = 0;
 };

@@ -2,6 +2,9 @@
 
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryKey.h"
+#include "inspection/registry/RegistryListing.h"
+#include "inspection/registry/RegistryPath.h"
+#include "inspection/registry/StoreEntry.h"
 #include "platform/registry/ValueChange.h"
 
 #include <QtEndian>
@@ -74,6 +77,15 @@ QString ValueInput::nameProblem(const QString& name)
     if (hasSeparator(name))
         return tr("\"\\\" and \"/\" in the name would put the value into a sub-key.");
     return QString();
+}
+
+// An entry that no host library can read takes a name too: writing would replace it.
+QString ValueInput::newNameProblem(const QString& path, const QString& name)
+{
+    const QString problem = nameProblem(name);
+    if (!problem.isEmpty() || rawRegistryEntry(StoreEntry::ofValue(path, name)).isNull())
+        return problem;
+    return tr("%1 has a value \"%2\" already.").arg(RegistryPath::shown(path), name);
 }
 
 QString ValueInput::keyNameProblem(const QString& name)

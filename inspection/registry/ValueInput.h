@@ -24,6 +24,8 @@ public:
 
     /// Why a value cannot have this name, or an empty text.
     static QString nameProblem(const QString& name);
+    /// Why a new value of this key cannot have this name, or an empty text.
+    static QString newNameProblem(const QString& path, const QString& name);
     /// Why a key cannot have this name, or an empty text.
     static QString keyNameProblem(const QString& name);
 

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using Report = PageContext::Report;
 
@@ -71,12 +72,21 @@ QWidget* AddressBar::makeOffer()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_offerText, 1);
     layout->addWidget(go);
-    connect(go, &QPushButton::clicked, this, [this] { emit entered(QString(m_offered)); });
+    connect(go, &QPushButton::clicked, this, [this] { enter(QString(m_offered)); });
     return offer;
+}
+
+// What is typed has led somewhere: it need not be kept.
+void AddressBar::enter(const QString& path)
+{
+    m_line->setModified(false);
+    emit entered(path);
 }
 
 void AddressBar::setPath(const QString& path)
 {
+    if (std::exchange(m_path, path) == path && m_line->isModified())
+        return;
     m_line->setText(RegistryPath::shown(path));
     m_offer->hide();
 }
@@ -114,7 +124,7 @@ void AddressBar::open()
     const auto found = std::find_if(paths.begin(), paths.end(),
                                     [this](const QString& path) { return isThere(path); });
     if (found != paths.end())
-        emit entered(*found);
+        enter(*found);
     else if (!paths.isEmpty())
         openNearest(paths);
     else
@@ -128,6 +138,7 @@ void AddressBar::openNearest(const QStringList& paths)
     const QString typed = m_line->text();
     emit missed(paths.last());
     m_line->setText(typed);
+    m_line->setModified(true);
     QString other;
     for (const QString& path : paths) {
         if (other.isEmpty())

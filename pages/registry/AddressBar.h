@@ -19,7 +19,8 @@ public:
     /// Looks among `keys`, which outlive it, for what is typed.
     AddressBar(PageContext& page, RegistryTreeModel& keys, QWidget* parent = nullptr);
 
-    /// Shows the path of a key of the store as people write it.
+    /// Shows the path of a key of the store as people write it. What is typed stays while the key
+    /// is the same.
     void setPath(const QString& path);
     /// Adds a button behind the line.
     void addButton(QWidget* button);
@@ -35,6 +36,7 @@ private:
     QWidget* makeOffer();
     void complete(const QString& typed);
     void submit();
+    void enter(const QString& path);
     void open();
     bool isThere(const QString& path) const;
     void openNearest(const QStringList& paths);
@@ -43,7 +45,8 @@ private:
     PageContext& m_page;
     RegistryTreeModel& m_keys;
     QHBoxLayout* m_layout;
-    PathEdit* m_line;
+    PathEdit* m_line; ///< modified: what has been typed stands there
+    QString m_path;   ///< of the key in view
     QCompleter* m_completer;
     QLabel* m_offerText;
     QWidget* m_offer; ///< in view while there is a key to offer

@@ -144,7 +144,8 @@ void FindPane::search()
 
 void FindPane::start()
 {
-    m_page.startJob(tr("Searching"), std::make_unique<RegistrySearchJob>(query()),
+    m_asked = query();
+    m_page.startJob(tr("Searching"), std::make_unique<RegistrySearchJob>(m_asked),
                     [this](RegistrySearchJob& job, bool complete) { showFound(job, complete); });
 }
 
@@ -179,6 +180,8 @@ void FindPane::showPrevious()
 
 void FindPane::step(int by)
 {
+    if (isVisible() && !(query() == m_asked))
+        return search();
     const int count = m_hits->rowCount();
     if (count == 0)
         return open();

@@ -22,7 +22,8 @@ public:
     /// Shows itself and takes the keyboard, with the text selected.
     void open();
     /// Goes to the place that was found behind the one that was shown last, or before it; at the
-    /// end it begins again. Opens itself where nothing has been found.
+    /// end it begins again. Opens itself where nothing has been found, and searches anew where
+    /// something else is asked by now.
     void showNext();
     void showPrevious();
 
@@ -56,5 +57,6 @@ private:
     QCheckBox* m_wholeWords;
     QTableView* m_table;
     EmptyHint* m_hint;
-    bool m_isShown = false; ///< the place of the current row has been gone to
+    RegistrySearchJob::Query m_asked; ///< what the table answers
+    bool m_isShown = false;           ///< the place of the current row has been gone to
 };

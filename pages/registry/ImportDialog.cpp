@@ -24,7 +24,8 @@ using Row = const ImportPlan::Statement*;
 
 bool isRemarkable(const ImportPlan::Statement& statement)
 {
-    return statement.outcome != Outcome::Done || statement.isOverwriting();
+    return statement.outcome != Outcome::Done || statement.isOverwriting() ||
+           statement.isDeleting();
 }
 
 QVariant outcomeLook(const Row& row, int role)
@@ -59,7 +60,7 @@ ImportDialog::ImportDialog(const QString& file, std::shared_ptr<const ImportPlan
       m_backup(new BackupBox)
 {
     setWindowTitle(tr("Import %1").arg(file));
-    auto* only = new QCheckBox(tr("&Only what is altered, refused or overwritten"));
+    auto* only = new QCheckBox(tr("&Only what is altered, refused, overwritten or deleted"));
     connect(only, &QCheckBox::toggled, this, &ImportDialog::showStatements);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(ImportText::summary(*m_plan)));

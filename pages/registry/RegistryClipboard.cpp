@@ -5,6 +5,7 @@
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/RegistryTextJob.h"
 #include "window/PageContext.h"
+#include "window/TableCopyJob.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -16,7 +17,9 @@ using Report = PageContext::Report;
 
 QString row(const ListedValue& value)
 {
-    return QStringList{value.name(), value.typeText(), value.dataText()}.join(QLatin1Char('\t'));
+    const QStringList cells{TableCopyJob::quoted(value.name()), value.typeText(),
+                            TableCopyJob::quoted(value.copiedText())};
+    return cells.join(QLatin1Char('\t'));
 }
 
 } // namespace

@@ -20,12 +20,6 @@ using Report = PageContext::Report;
 // Laying out more than this in the edit field takes longer than a window may stand still.
 constexpr int mostEditedKiB = 64;
 
-// An entry that no host library can read takes a name too: writing would replace it.
-bool isTaken(const QString& path, const QString& name)
-{
-    return !rawRegistryEntry(StoreEntry::ofValue(path, name)).isNull();
-}
-
 } // namespace
 
 RegistryEditor::RegistryEditor(PageContext& page, StoreGate& gate, RegistryHistory& history,
@@ -87,16 +81,17 @@ void RegistryEditor::newValue(const QString& path, unsigned int type)
 {
     if (isKeyRefused(m_page, path))
         return;
-    auto* dialog = new ValueDialog(type, m_window);
+    const auto problem = [path](const QString& name) {
+        return ValueInput::newNameProblem(path, name);
+    };
+    auto* dialog = new ValueDialog(type, problem, m_window);
     m_gate.open(dialog, [this, dialog, path] { createValue(path, *dialog); });
 }
 
 void RegistryEditor::createValue(const QString& path, const ValueDialog& dialog)
 {
-    if (isTaken(path, dialog.name()))
-        m_page.report(Report::Error, tr("%1 has a value \"%2\" already. Nothing was changed.")
-                                         .arg(RegistryPath::shown(path), dialog.name()));
-    else
+    // The host library may have set it since the dialog was closed.
+    if (!isRefused(m_page, ValueInput::newNameProblem(path, dialog.name())))
         write(path, dialog);
 }
 

@@ -132,7 +132,7 @@ void RegistryHistory::endMaking(const Change& change, const StoreChangeJob& job,
     if (complete)
         reportChange(m_page, Report::Info, tr("Done: %1.").arg(text));
     else
-        reportChange(m_page, Report::Warning, tr("Cancelled half-way: %1.").arg(text));
+        reportCancelled(change, Direction::TakeBack);
 }
 
 void RegistryHistory::request(const Change& change, Direction direction)
@@ -165,8 +165,16 @@ void RegistryHistory::endRestoring(const Change& change, Direction direction,
     if (complete)
         return reportRestored(change, direction, job);
     stay(direction);
-    reportChange(m_page, Report::Warning,
-                 tr("Cancelled half-way: %1.").arg(change.description.text));
+    reportCancelled(change, direction);
+}
+
+// What is on the stack next takes back what was done by half, or does the rest of it.
+void RegistryHistory::reportCancelled(const Change& change, Direction next)
+{
+    const QString sentence = next == Direction::TakeBack
+                                 ? tr("Cancelled half-way: %1. Undo (Ctrl+Z) restores what was.")
+                                 : tr("Cancelled half-way: %1. Redo (Ctrl+Shift+Z) does the rest.");
+    reportChange(m_page, Report::Warning, sentence.arg(change.description.text));
 }
 
 void RegistryHistory::show(const Change& change, Direction direction)
@@ -210,7 +218,9 @@ void RegistryHistory::ask(const Change& change, Direction direction, const QStri
         hasRest ? glowing(box->addButton(tr("Only the rest"), QMessageBox::YesRole)) : nullptr;
     glowing(qobject_cast<QPushButton*>(box->button(QMessageBox::Cancel)));
     box->setDefaultButton(QMessageBox::Cancel);
-    connect(box, &QMessageBox::buttonClicked, this, [=](QAbstractButton* button) {
+    // The title bar closes it without a button.
+    connect(box, &QDialog::finished, this, [=] {
+        const QAbstractButton* button = box->clickedButton();
         if (button == overwrite)
             restore(change, direction, Others::Overwrite);
         else if (rest && button == rest)

@@ -79,6 +79,7 @@ private:
     void show(const Change& change, Direction direction);
     void ask(const Change& change, Direction direction, const QStringList& foreign);
     void reportRestored(const Change& change, Direction direction, const StoreChangeJob& job);
+    void reportCancelled(const Change& change, Direction next);
     void stay(Direction direction);
 
     PageContext& m_page;

@@ -25,14 +25,12 @@ public:
     void refresh() override;
     void find() override;
     void entered() override;
+    void lookForChanges() override;
     /// Shows what importing the file would do.
     void openFile(const QString& path) override;
 
     /// Selects a key, or the nearest one above it, and a value of it unless `name` is empty.
     void goTo(const QString& path, const QString& name = QString());
-
-protected:
-    void lookForChanges() override;
 
 private:
     QWidget* makeViews();

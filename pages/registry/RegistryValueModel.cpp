@@ -45,7 +45,7 @@ bool isNumber(const ListedValue& value)
 QVariant dataLook(const ListedValue& value, int role)
 {
     if (role == TableCopyJob::wholeTextRole)
-        return isNumber(value) ? value.dataText() : value.wholeData();
+        return value.copiedText();
     const bool isOdd =
         role == Qt::DecorationRole && value.isReadable() && !value.remark().isEmpty();
     return isOdd ? glyphIcon(Glyph::Warning) : look(value, role);

@@ -33,7 +33,7 @@ void changeWithBackup(PageContext& page, bool isBackupWanted, const std::functio
         if (!job.error().isEmpty())
             return page.report(
                 Report::Error,
-                BackupBox::tr("The store could not be backed up: %1 Nothing was changed.")
+                BackupBox::tr("The store could not be backed up: %1. Nothing was changed.")
                     .arg(job.error()));
         page.report(Report::Info, BackupBox::tr("Backed the store up to %1.").arg(job.file()));
         change();

@@ -41,9 +41,13 @@ void StoreFollower::tell()
     if (state == m_told || state == State::Unknown)
         return;
     m_told = state;
-    if (state == State::InStep)
+    if (state != State::InStep)
+        m_page.report(Report::Warning, m_watch.text());
+    else if (m_watch.hasLost())
+        m_page.report(Report::Warning,
+                      tr("The store has been saved to %1; what the file lacked is gone.")
+                          .arg(RawStore::fileName()));
+    else
         m_page.report(Report::Info,
                       tr("The store is in step with its file %1 again.").arg(RawStore::fileName()));
-    else
-        m_page.report(Report::Warning, m_watch.text());
 }

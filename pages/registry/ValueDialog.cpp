@@ -46,8 +46,9 @@ QString shortened(const QString& text)
 
 } // namespace
 
-ValueDialog::ValueDialog(unsigned int type, QWidget* parent)
+ValueDialog::ValueDialog(unsigned int type, NameProblem nameProblem, QWidget* parent)
     : QDialog(parent),
+      m_nameProblem(std::move(nameProblem)),
       m_form(new QFormLayout(this)),
       m_name(new QLineEdit),
       m_type(new QComboBox),
@@ -66,7 +67,8 @@ ValueDialog::ValueDialog(unsigned int type, QWidget* parent)
 }
 
 ValueDialog::ValueDialog(const ListedValue& value, QWidget* parent)
-    : ValueDialog(value.isReadable() ? value.reading().type : REG_SZ, parent)
+    : ValueDialog(value.isReadable() ? value.reading().type : REG_SZ, &ValueInput::nameProblem,
+                  parent)
 {
     setWindowTitle(tr("Edit value"));
     m_original = {type(), value.isReadable() ? value.reading().data : QByteArray(), value.raw(),
@@ -193,7 +195,7 @@ void ValueDialog::arrangeField()
 void ValueDialog::check()
 {
     const ValueInput input(type(), m_data->text());
-    QString problem = m_name->isReadOnly() ? QString() : ValueInput::nameProblem(name());
+    QString problem = m_name->isReadOnly() ? QString() : m_nameProblem(name());
     if (problem.isEmpty() && !isUnchanged())
         problem = input.problem();
     m_ok->setEnabled(problem.isEmpty());

@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class DataField;
 class ListedValue;
 class QCheckBox;
@@ -22,8 +24,11 @@ class ValueDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// Why a value cannot have a name, in words; empty for one that it can have.
+    using NameProblem = std::function<QString(const QString& name)>;
+
     /// For a new value of the given type.
-    ValueDialog(unsigned int type, QWidget* parent);
+    ValueDialog(unsigned int type, NameProblem nameProblem, QWidget* parent);
     /// For a value that exists: its name is fixed. One that cannot be read is offered as an empty
     /// text.
     ValueDialog(const ListedValue& value, QWidget* parent);
@@ -53,6 +58,7 @@ private:
     void tellReplaced();
     void showNote(const QString& text, bool isProblem);
 
+    NameProblem m_nameProblem;
     QFormLayout* m_form;
     QLineEdit* m_name;
     QComboBox* m_type;

@@ -88,8 +88,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>已取消：未作任何更改。</translation>
     </message>
     <message>
-        <source>The store could not be backed up: %1 Nothing was changed.</source>
-        <translation>无法备份存储：%1未作任何更改。</translation>
+        <source>The store could not be backed up: %1. Nothing was changed.</source>
+        <translation>无法备份存储：%1。未作任何更改。</translation>
     </message>
     <message>
         <source>Backed the store up to %1.</source>
@@ -1484,8 +1484,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>存储中现有</translation>
     </message>
     <message>
-        <source>&amp;Only what is altered, refused or overwritten</source>
-        <translation>仅显示有改动、被拒绝或会覆盖的语句(&amp;O)</translation>
+        <source>&amp;Only what is altered, refused, overwritten or deleted</source>
+        <translation>仅显示有改动、被拒绝、会覆盖或会删除的语句(&amp;O)</translation>
     </message>
     <message>
         <source>Code page of the file</source>
@@ -3125,10 +3125,6 @@ Wide: %2</source>
         <translation>无法创建 %1。</translation>
     </message>
     <message>
-        <source>%1 has a value &quot;%2&quot; already. Nothing was changed.</source>
-        <translation>%1 中已有值“%2”。未做任何更改。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; stands in the root itself, where the registry can list it but not set it. Nothing was changed.</source>
         <translation>“%1”直接位于根中，注册表只能列出它，不能设置它。未做任何更改。</translation>
     </message>
@@ -3188,10 +3184,6 @@ Wide: %2</source>
         <translation>已完成：%1。</translation>
     </message>
     <message>
-        <source>Cancelled half-way: %1.</source>
-        <translation>中途取消：%1。</translation>
-    </message>
-    <message>
         <source>Undoing</source>
         <translation>正在撤消</translation>
     </message>
@@ -3226,6 +3218,14 @@ Wide: %2</source>
     <message>
         <source>Only the rest</source>
         <translation>仅其余部分</translation>
+    </message>
+    <message>
+        <source>Cancelled half-way: %1. Undo (Ctrl+Z) restores what was.</source>
+        <translation>中途取消：%1。撤销 (Ctrl+Z) 可恢复原状。</translation>
+    </message>
+    <message>
+        <source>Cancelled half-way: %1. Redo (Ctrl+Shift+Z) does the rest.</source>
+        <translation>中途取消：%1。重做 (Ctrl+Shift+Z) 可完成其余部分。</translation>
     </message>
 </context>
 <context>
@@ -3374,6 +3374,10 @@ Wide: %2</source>
     <message>
         <source>Values: %1. Found: %2.</source>
         <translation>值：%1 个。找到：%2 处。</translation>
+    </message>
+    <message>
+        <source>unreadable: %1</source>
+        <translation>无法读取：%1</translation>
     </message>
 </context>
 <context>
@@ -3570,6 +3574,10 @@ Wide: %2</source>
     <message>
         <source>The store is in step with its file %1 again.</source>
         <translation>存储与其文件 %1 再次一致。</translation>
+    </message>
+    <message>
+        <source>The store has been saved to %1; what the file lacked is gone.</source>
+        <translation>存储已保存到 %1；文件中缺少的内容已丢失。</translation>
     </message>
 </context>
 <context>
@@ -3836,6 +3844,10 @@ Wide: %2</source>
     <message>
         <source>&quot;\&quot; and &quot;/&quot; separate keys. Create one key at a time.</source>
         <translation>“\”和“/”用于分隔项。请逐级创建。</translation>
+    </message>
+    <message>
+        <source>%1 has a value &quot;%2&quot; already.</source>
+        <translation>%1 中已有值“%2”。</translation>
     </message>
 </context>
 <context>

@@ -88,7 +88,7 @@ std::unique_ptr<QWidget> reportOnInput(const WindowProbe& probe)
 template <unsigned int Type>
 std::unique_ptr<QWidget> value(const WindowProbe& probe)
 {
-    auto dialog = std::make_unique<ValueDialog>(Type, &probe.page());
+    auto dialog = std::make_unique<ValueDialog>(Type, &ValueInput::nameProblem, &probe.page());
     dialog->findChild<QLineEdit*>()->setText(QStringLiteral("name"));
     auto* data = dialog->findChild<DataField*>();
     data->setText(QStringLiteral("65\u4e2d\u6587"));

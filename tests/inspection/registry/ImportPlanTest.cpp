@@ -83,6 +83,20 @@ TEST_F(ImportPlanTest, OverwritesNothingThatItHasDeletedBefore)
          "[HKEY_CURRENT_USER\\C]\n\"v\"=-\n\"v\"=dword:2\n");
     EXPECT_TRUE(statement(2).before.isNull());
     EXPECT_TRUE(statement(5).before.isNull());
+    EXPECT_EQ(outcome(1), "Creates the key");
+    read("[-HKEY_CURRENT_USER\\A]\n[HKEY_CURRENT_USER\\A]\n");
+    EXPECT_EQ(outcome(1), "Creates the key");
+}
+
+TEST_F(ImportPlanTest, ShowsTheValueThatIsDeleted)
+{
+    store("A/v", "1$1");
+    read("[HKEY_CURRENT_USER\\A]\n\"v\"=-\n\"none\"=-\n");
+    EXPECT_EQ(before(1), "REG_DWORD 1 (0x00000001)");
+    EXPECT_TRUE(statement(1).isDeleting());
+    EXPECT_FALSE(statement(2).isDeleting());
+    EXPECT_EQ(outcome(1), "Deletes the value");
+    EXPECT_EQ(m_plan->overwritten(), 0);
 }
 
 TEST_F(ImportPlanTest, TellsThatTwoRootsAreOne)
@@ -104,6 +118,15 @@ TEST_F(ImportPlanTest, TellsThatAKeyOfAnotherRootIsDeleted)
     EXPECT_EQ(outcome(1), "Deletes the key with everything below it.");
     EXPECT_EQ(outcome(2), "Deletes the key with everything below it. Deletes what line 2 puts "
                           "under HKEY_CURRENT_USER: all root keys are one.");
+}
+
+TEST_F(ImportPlanTest, TellsThatItIsDeletedAlsoBesideAKeyOfASimilarName)
+{
+    read("[HKEY_CURRENT_USER\\Soft\\Maker]\n[HKEY_CURRENT_USER\\Soft-Old]\n"
+         "[-HKEY_LOCAL_MACHINE\\Soft]\n[-HKEY_LOCAL_MACHINE\\Sof]\n");
+    EXPECT_EQ(outcome(2), "Deletes the key with everything below it. Deletes what line 2 puts "
+                          "under HKEY_CURRENT_USER: all root keys are one.");
+    EXPECT_EQ(outcome(3), "Deletes the key with everything below it.");
 }
 
 TEST_F(ImportPlanTest, SaysNothingOfOneRootAlone)

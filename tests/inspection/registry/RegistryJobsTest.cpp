@@ -59,6 +59,19 @@ TEST_F(RegistryJobs, TellHowFarASearchHasCome)
     EXPECT_EQ(job.progress().toStdString(), "Values: 2. Found: 1.");
 }
 
+TEST_F(RegistryJobs, FindTheStoredTextOfWhatNoHostLibraryReads)
+{
+    store("A/owner", "Maria Lund");
+    store("A/other", "5$Marius");
+    store("loose", "Maria too");
+    RegistrySearchJob job({"Maria"});
+    finish(job);
+    ASSERT_EQ(job.hits().size(), 2U);
+    EXPECT_EQ(job.hits()[0].name.toStdString(), "loose");
+    EXPECT_EQ(job.hits()[1].name.toStdString(), "owner");
+    EXPECT_EQ(job.hits()[1].data.toStdString(), "unreadable: Maria Lund");
+}
+
 TEST_F(RegistryJobs, TellHowManyStatementsOfAnImportAreReadAndCarriedOut)
 {
     RegistryImportJob reading((regFileHeader + "\n[HKEY_USERS\\A]\n\"v\"=dword:1\n").toUtf8());

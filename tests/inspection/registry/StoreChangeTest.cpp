@@ -203,6 +203,77 @@ TEST_F(StoreChanges, OnlyTheMarkOfACreatedKeyMovesWithIt)
     }
 }
 
+// A move of a key that is cancelled after some number of steps.
+class CancelledMove : public StoreChanges
+{
+protected:
+    CancelledMove()
+    {
+        fill();
+        KeyMovePlanJob plan("A", "Z");
+        finish(plan);
+        m_change = std::make_shared<StoreChange>(plan.takeChange());
+        m_before = entries();
+        run(*m_change, Direction::Make);
+        m_after = entries();
+    }
+
+    static void put(const Entries& all)
+    {
+        g_globalSettings->clear();
+        for (auto at = all.cbegin(); at != all.cend(); ++at)
+            store(at.key(), at.value());
+    }
+
+    void expectNothingLost(int steps) const
+    {
+        for (auto at = m_before.cbegin(); at != m_before.cend(); ++at) {
+            const QString moved = at.key().startsWith("A/") ? "Z" + at.key().mid(1) : at.key();
+            EXPECT_TRUE(StoreEntry::read(at.key()) == at.value() ||
+                        StoreEntry::read(moved) == at.value())
+                << at.key().toStdString() << " after " << steps;
+        }
+    }
+
+    void expectSafe(Direction direction, const Entries& from, const Entries& to) const
+    {
+        const int all = 3 * static_cast<int>(m_change->size());
+        for (int steps = 0; steps <= all; ++steps) {
+            put(from);
+            StoreChangeJob job(m_change, direction, Others::StopAll);
+            for (int i = 0; i < steps; ++i)
+                job.step();
+            expectNothingLost(steps);
+            run(*m_change, direction);
+            EXPECT_EQ(entries(), to) << steps;
+        }
+    }
+
+    std::shared_ptr<const StoreChange> m_change;
+    Entries m_before;
+    Entries m_after;
+};
+
+TEST_F(CancelledMove, LosesNothingAndCanBeEnded)
+{
+    expectSafe(Direction::Make, m_before, m_after);
+}
+
+TEST_F(CancelledMove, LosesNothingOnTheWayBackEither)
+{
+    expectSafe(Direction::TakeBack, m_after, m_before);
+}
+
+TEST_F(CancelledMove, IsTakenBack)
+{
+    put(m_before);
+    StoreChangeJob job(m_change, Direction::Make, Others::StopAll);
+    for (std::size_t i = 0; i < m_change->size() * 5 / 2; ++i)
+        job.step();
+    run(*m_change, Direction::TakeBack);
+    EXPECT_EQ(entries(), m_before);
+}
+
 class ForeignChange : public StoreChanges
 {
 protected:
@@ -290,8 +361,8 @@ TEST_F(StoreChanges, LeaveALineOfTheAuditTrailEach)
     EXPECT_EQ(undoing.progress().toStdString(), "2");
     EXPECT_EQ(lines, QStringList({"HKEY_CURRENT_USER\\A: \"v\": \"1$1\" -> \"1$0\"",
                                   "HKEY_CURRENT_USER\\A: \"B\": absent -> \"@Invalid()\"",
-                                  "HKEY_CURRENT_USER\\A: \"B\": \"@Invalid()\" -> absent",
-                                  "HKEY_CURRENT_USER\\A: \"v\": \"1$0\" -> \"1$1\""}))
+                                  "HKEY_CURRENT_USER\\A: \"v\": \"1$0\" -> \"1$1\"",
+                                  "HKEY_CURRENT_USER\\A: \"B\": \"@Invalid()\" -> absent"}))
         << lines.join('\n').toStdString();
 }
 

@@ -69,6 +69,34 @@ TEST_F(StoreWatchTest, KnowsAFileThatHasGone)
     EXPECT_TRUE(m_watch->text().contains("is gone")) << m_watch->text().toStdString();
 }
 
+TEST_F(StoreWatchTest, KnowsAFileThatHasGoneBeforeItLooked)
+{
+    StoreFile::remove();
+    m_watch = std::make_unique<StoreWatch>();
+    EXPECT_EQ(settled(), State::Vanished);
+}
+
+TEST_F(StoreWatchTest, HasNothingReadAnewThatWasInStepFromTheBeginning)
+{
+    hasGrown();
+    EXPECT_EQ(m_watch->state(), State::Unknown);
+    EXPECT_EQ(settled(), State::InStep);
+    EXPECT_FALSE(hasGrown());
+}
+
+TEST_F(StoreWatchTest, TakesAStoreThatWasNeverSavedForInStep)
+{
+    StoreFile::remove();
+    g_globalSettings->clear();
+    g_globalSettings->sync();
+    m_watch = std::make_unique<StoreWatch>();
+    EXPECT_EQ(settled(), State::InStep);
+    store("A/v", "1$1");
+    m_watch = std::make_unique<StoreWatch>();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_watch->state(), State::InStep);
+}
+
 TEST_F(StoreWatchTest, KnowsAFileThatAnotherProgramHasReplaced)
 {
     StoreFile::replace("[A]\nv=1$7\n");

@@ -317,9 +317,10 @@ TEST_F(RegistryModels, SearchNamesAndDataWithoutRegardToCase)
             hits.append(RegistryPath::join(hit.path, hit.name));
         return hits;
     };
-    EXPECT_EQ(found(true, true), QStringList({"Blue/", "Other/blueish", "Vendor/Product/Path"}));
+    EXPECT_EQ(found(true, true),
+              QStringList({"Blue/", "Other/blueish", "Other/broken", "Vendor/Product/Path"}));
     EXPECT_EQ(found(true, false), QStringList({"Blue/", "Other/blueish"}));
-    EXPECT_EQ(found(false, true), QStringList("Vendor/Product/Path"));
+    EXPECT_EQ(found(false, true), QStringList({"Other/broken", "Vendor/Product/Path"}));
 }
 
 TEST_F(RegistryModels, SearchKeysNamesAndDataEachByItself)

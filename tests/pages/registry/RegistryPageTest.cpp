@@ -209,6 +209,63 @@ TEST_F(RegistryPageTest, GoesFromHitToHitByKeys)
     EXPECT_EQ(status().toStdString(), "Found place 2 of 3 (F3: next, Shift+F3: previous).");
 }
 
+TEST_F(RegistryPageTest, SearchesAnewByF3WhereSomethingElseIsAsked)
+{
+    store("A/blue", "1$1");
+    store("A/red", "1$1");
+    show();
+    m_page.find();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_TRUE(field);
+    const auto ask = [field](const char* text, Qt::Key key) {
+        field->setFocus();
+        field->setText(text);
+        QTest::keyClick(field, key);
+    };
+    ask("blue", Qt::Key_Return);
+    settle();
+    ask("red", Qt::Key_F3);
+    settle();
+    auto* found = m_page.findChild<QTableView*>("found")->model();
+    ASSERT_EQ(found->rowCount(), 1);
+    EXPECT_EQ(found->index(0, 1).data().toString().toStdString(), "red");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F3);
+    EXPECT_EQ(cell(table().currentIndex().row(), 0).toStdString(), "red");
+}
+
+TEST_F(RegistryPageTest, KeepsWhatIsBeingTypedWhileTheKeyIsTheSame)
+{
+    store("A/v", "1$1");
+    store("B/v", "1$1");
+    show();
+    m_page.goTo("A");
+    auto* line = m_page.findChild<QLineEdit*>("address");
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClicks(line, "typed");
+    m_page.refresh();
+    EXPECT_EQ(line->text().toStdString(), "typed");
+    line->setText("HKCU\\A\\Nowhere");
+    QTest::keyClick(line, Qt::Key_Return);
+    m_page.refresh();
+    EXPECT_EQ(line->text().toStdString(), "HKCU\\A\\Nowhere");
+    m_page.goTo("B");
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\B");
+}
+
+TEST_F(RegistryPageTest, CopiesTheWholeDataOfSeveralValuesAsATable)
+{
+    const QString text(700, 'x');
+    store("A/u", "5$" + text);
+    store("A/v", "5$one\ttwo\r\n\"three\"");
+    show();
+    m_page.goTo("A", "u");
+    table().selectAll();
+    QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
+              "u\tREG_SZ\t" + text.toStdString() + "\nv\tREG_SZ\t\"one\ttwo\r\n\"\"three\"\"\"");
+}
+
 TEST_F(RegistryPageTest, KeepsWhatIsTypedWhereItLeadsNowhere)
 {
     store("A/v", "1$1");

@@ -94,6 +94,18 @@ TEST_F(RegistryTransferTest, ImportShowsOldAndNewSideBySide)
     reject();
 }
 
+TEST_F(RegistryTransferTest, ImportShowsWhatItDeletesAmongWhatToLookAt)
+{
+    store("A/v", "5$old");
+    show();
+    importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=-\r\n\"w\"=-\r\n"));
+    auto* rows = dialog().findChild<QTableView*>()->model();
+    dialog().findChild<QCheckBox*>()->setChecked(true);
+    ASSERT_EQ(rows->rowCount(), 1);
+    EXPECT_EQ(rows->index(0, 3).data().toString().toStdString(), "REG_SZ old");
+    reject();
+}
+
 TEST_F(RegistryTransferTest, ImportBacksTheStoreUpFirst)
 {
     store("A/v", "5$old");

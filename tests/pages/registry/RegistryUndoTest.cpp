@@ -214,6 +214,15 @@ TEST_F(ChangedMeanwhile, IsKeptByTheButtonForEnter)
     EXPECT_FALSE(m_page.undoStack().canRedo());
 }
 
+TEST_F(ChangedMeanwhile, IsKeptByTheTitleBar)
+{
+    dialog().close();
+    ASSERT_TRUE(waitFor([] { return !QApplication::activeModalWidget(); }));
+    EXPECT_EQ(stored("A/number").toStdString(), "1$99");
+    EXPECT_TRUE(m_page.undoStack().canUndo());
+    EXPECT_FALSE(m_page.undoStack().canRedo());
+}
+
 TEST_F(ChangedMeanwhile, IsOverwrittenOnRequest)
 {
     press("Overwrite");

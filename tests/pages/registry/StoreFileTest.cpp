@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
@@ -59,6 +60,19 @@ TEST_F(StoreFileTest, AFileThatHasGoneIsTold)
     EXPECT_EQ(rows(), 1); // what a host library still reads
 }
 
+TEST_F(StoreFileTest, AFileThatHasGoneBeforeThePageWasMadeIsAskedAboutToo)
+{
+    store("A/v", "1$1");
+    QCoreApplication::processEvents();
+    StoreFile::remove();
+    RegistryPage page;
+    page.show();
+    ASSERT_TRUE(waitForActive(&page));
+    page.findChild<QMenu*>()->actions().first()->trigger();
+    EXPECT_TRUE(words().contains("is gone")) << words().toStdString();
+    reject();
+}
+
 TEST_F(StoreFileTest, AChangeOfAStoreWhoseFileHasGoneAsksAndCancelIsTheDefault)
 {
     open();
@@ -81,6 +95,15 @@ TEST_F(StoreFileTest, AChangeIsMadeWhenTheUserWantsIt)
     type("n", "7");
     ASSERT_TRUE(accept());
     EXPECT_EQ(stored("A/n").toStdString(), "1$7");
+}
+
+TEST_F(StoreFileTest, WhatIsLostBySavingAStoreWhoseFileHasGoneIsTold)
+{
+    open();
+    StoreFile::remove();
+    ASSERT_TRUE(tells("is gone: another program has deleted or moved it"));
+    store("A/w", "1$1");
+    EXPECT_TRUE(tells("what the file lacked is gone"));
 }
 
 class UndoInAStoreThatIsGone : public StoreFileTest
@@ -302,13 +325,20 @@ TEST_F(StoreFileTest, WhatIsSelectedTypedAndScrolledToStaysWhenOthersWrite)
 TEST_F(StoreFileTest, NothingIsReadAnewWithoutASign)
 {
     open();
-    QTest::qWait(1200); // the changes of the test itself are shown
     int resets = 0;
     QObject::connect(table().model(), &QAbstractItemModel::modelReset, [&resets] { ++resets; });
-    QTest::qWait(1200);
-    EXPECT_EQ(resets, 0);
+    const auto isReset = [this, &resets] {
+        const int before = resets;
+        m_page.lookForChanges();
+        QCoreApplication::processEvents();
+        return resets != before;
+    };
+    ASSERT_TRUE(waitFor([&isReset] { return !isReset(); })); // the test's own changes are shown
+    for (int looks = 0; looks < 5; ++looks)
+        EXPECT_FALSE(isReset());
     store("A/w", "1$2");
-    EXPECT_TRUE(waitFor([&resets] { return resets == 1; }));
+    EXPECT_TRUE(waitFor(isReset));
+    EXPECT_FALSE(isReset());
 }
 
 } // namespace

@@ -179,6 +179,22 @@ TEST_F(ValueDialogTest, ShowsLinesThatArePastedIntoTheLine)
     EXPECT_EQ(stored("A/v").toStdString(), "5$b\nc");
 }
 
+TEST_F(ValueDialogTest, AcceptsNoNameThatIsTaken)
+{
+    store("A/v", "no tag");
+    show();
+    m_page.goTo("A");
+    chooseNew(NewString);
+    type("v", "typed");
+    EXPECT_FALSE(accept());
+    EXPECT_TRUE(words().contains("HKEY_CURRENT_USER\\A has a value \"v\" already."))
+        << words().toStdString();
+    type("w", "typed");
+    ASSERT_TRUE(accept());
+    EXPECT_EQ(stored("A/w").toStdString(), "5$typed");
+    EXPECT_EQ(stored("A/v").toStdString(), "no tag");
+}
+
 TEST_F(ValueDialogTest, TakesTheFieldThatTheTypeNeeds)
 {
     show();
