@@ -1,11 +1,11 @@
 #include "host/HostLibraries.h"
-#include "window/PathEdit.h"
 #include "pages/registry/RegistryValueModel.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
 #include "tests/support/MessageGuard.h"
 #include "tests/support/WaitFor.h"
 #include "tests/window/EndlessJob.h"
+#include "window/PathEdit.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
