@@ -8,9 +8,8 @@
 StoreWatch::StoreWatch()
 {
     attach();
-    // What became of the file before is not known. Of a change that is still to be saved its saving
-    // will tell.
-    if (m_store && storeFault().isEmpty())
+    // Either it has gone before, or nothing has been saved yet.
+    if (m_store && !m_seen.exists && storeFault().isEmpty())
         m_state = State::Unknown;
 }
 

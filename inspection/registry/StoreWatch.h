@@ -27,8 +27,7 @@ public:
         Changed   ///< the file has been written to, and the store has not read it
     };
 
-    /// Takes nothing for known of a store that can be saved: whether it is in step with its file
-    /// is to be found out first.
+    /// Takes the store to be in step with its file; where there is none, that is to be found out.
     StoreWatch();
 
     State state();

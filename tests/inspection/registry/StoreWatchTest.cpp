@@ -76,14 +76,6 @@ TEST_F(StoreWatchTest, KnowsAFileThatHasGoneBeforeItLooked)
     EXPECT_EQ(settled(), State::Vanished);
 }
 
-TEST_F(StoreWatchTest, HasNothingReadAnewThatWasInStepFromTheBeginning)
-{
-    hasGrown();
-    EXPECT_EQ(m_watch->state(), State::Unknown);
-    EXPECT_EQ(settled(), State::InStep);
-    EXPECT_FALSE(hasGrown());
-}
-
 TEST_F(StoreWatchTest, TakesAStoreThatWasNeverSavedForInStep)
 {
     StoreFile::remove();
