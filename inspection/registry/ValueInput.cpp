@@ -82,7 +82,7 @@ QString ValueInput::nameProblem(const QString& name)
 // An entry that no host library can read takes a name too: writing would replace it.
 QString ValueInput::newNameProblem(const QString& path, const QString& name)
 {
-    const QString problem = nameProblem(name);
+    QString problem = nameProblem(name);
     if (!problem.isEmpty() || rawRegistryEntry(StoreEntry::ofValue(path, name)).isNull())
         return problem;
     return tr("%1 has a value \"%2\" already.").arg(RegistryPath::shown(path), name);
