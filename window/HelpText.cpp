@@ -45,7 +45,8 @@ constexpr KeyLine keyLines[] = {
 QString keyRow(const QString& keys, const QString& meaning)
 {
     QStringList native;
-    for (const QString& key : keys.split(QLatin1Char(' ')))
+    const QStringList all = keys.split(QLatin1Char(' '));
+    for (const QString& key : all)
         native << QKeySequence(key).toString(QKeySequence::NativeText).toHtmlEscaped();
     return QStringLiteral("<tr><td><b>%1</b></td><td>&nbsp;&nbsp;%2</td></tr>")
         .arg(native.join(QStringLiteral(", ")), meaning.toHtmlEscaped());

@@ -5,11 +5,11 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 namespace {
 
 constexpr qint64 pieceSize = qint64{256} * 1024;
+constexpr int mostDigits = 9; // an int holds them
 
 } // namespace
 
@@ -20,13 +20,14 @@ QString StoreBackupJob::nextFile()
         return {};
     const QString stem = store.completeBaseName() + QLatin1String(".backup-");
     const QString suffix = store.suffix().isEmpty() ? QString() : QLatin1Char('.') + store.suffix();
-    const QRegularExpression pattern(QRegularExpression::anchoredPattern(
-        QRegularExpression::escape(stem) + QLatin1String("(\\d{1,9})") +
-        QRegularExpression::escape(suffix)));
     int highest = 0;
     const QStringList files = store.dir().entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
-    for (const QString& file : files)
-        highest = qMax(highest, pattern.match(file).captured(1).toInt());
+    for (const QString& file : files) {
+        const int digits = file.size() - stem.size() - suffix.size();
+        const bool isNumber = digits > 0 && digits <= mostDigits;
+        if (isNumber && file.startsWith(stem) && file.endsWith(suffix))
+            highest = qMax(highest, file.midRef(stem.size(), digits).toInt()); // 0: no number
+    }
     return store.dir().filePath(stem + QString::number(highest + 1) + suffix);
 }
 

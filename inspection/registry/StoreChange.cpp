@@ -14,7 +14,7 @@ QString textOf(const std::optional<QVariant>& entry)
     if (entry->isNull())
         return QStringLiteral("@Invalid()");
     const QString text = rawRegistryText(*entry);
-    return text.isNull() ? QStringLiteral("") : text;
+    return text.isNull() ? QString(QLatin1String("")) : text;
 }
 
 } // namespace

@@ -35,7 +35,8 @@ QStringList StoreEntry::below(const QString& path)
 
 void StoreEntry::write(const QString& path, const QVariant& value)
 {
-    RawStore(RegistryPath::parent(path)).set(nameToAsk(path), value);
+    RawStore group(RegistryPath::parent(path));
+    group.set(nameToAsk(path), value);
 }
 
 void StoreEntry::remove(const QString& path)

@@ -46,7 +46,7 @@ QString meantBy(const QString& address)
     if (!isAbbreviatedRoot(first) && !isComputer(first))
         return {};
     const int rest = path.indexOf(QLatin1Char('/')) + 1;
-    return rest == 0 ? QStringLiteral("") : path.mid(rest);
+    return rest == 0 ? QString(QLatin1String("")) : path.mid(rest);
 }
 
 // The key below `parent` that the levels from `at` on lead to in any case, the exact one first.

@@ -97,7 +97,8 @@ void ProfileEditor::askAboutFate(const Request& request, const QString& question
     box->setAttribute(Qt::WA_DeleteOnClose);
     QAbstractButton* yes = box->button(QMessageBox::Yes);
     yes->setText(tr("&Write all the same"));
-    for (QAbstractButton* button : box->buttons())
+    const QList<QAbstractButton*> buttons = box->buttons();
+    for (QAbstractButton* button : buttons)
         glowing(qobject_cast<QPushButton*>(button));
     box->setDefaultButton(QMessageBox::Cancel);
     connect(box, &QMessageBox::buttonClicked, this, [this, yes, request](QAbstractButton* button) {

@@ -90,7 +90,8 @@ bool ProfileHistory::isAgreed(const ProfileRecord& record)
                     QMessageBox::Yes | QMessageBox::Cancel, m_window);
     box.setTextFormat(Qt::PlainText);
     box.button(QMessageBox::Yes)->setText(tr("&Put it back"));
-    for (QAbstractButton* button : box.buttons())
+    const QList<QAbstractButton*> buttons = box.buttons();
+    for (QAbstractButton* button : buttons)
         glowing(qobject_cast<QPushButton*>(button));
     box.setDefaultButton(QMessageBox::Cancel);
     return box.exec() == QMessageBox::Yes;

@@ -19,7 +19,8 @@ constexpr int mostNamed = 10;
 QString listOf(const QStringList& paths)
 {
     QStringList lines;
-    for (const QString& path : paths.mid(0, mostNamed))
+    const QStringList named = paths.mid(0, mostNamed);
+    for (const QString& path : named)
         lines.append(RegistryPath::shown(path));
     if (paths.size() > mostNamed)
         lines.append(
