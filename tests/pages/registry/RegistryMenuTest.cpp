@@ -108,6 +108,7 @@ TEST_F(RegistryMenuTest, CopiesSelectedValuesAsARegistryFileHasThem)
     m_page.goTo("A");
     table().selectAll();
     choose(table(), "Copy as .reg");
+    settle();
     EXPECT_EQ(copied(), "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n"
                         "\"u\"=\"text\"\r\n\"v\"=dword:0000002a\r\n");
     EXPECT_EQ(status().toStdString(),
@@ -119,6 +120,7 @@ TEST_F(RegistryMenuTest, CopiesAKeyAsARegistryFileHasIt)
     show();
     m_page.goTo("A");
     choose(tree(), "Copy key as .reg");
+    settle();
     const QString text = QString::fromStdString(copied());
     EXPECT_TRUE(text.contains("[HKEY_CURRENT_USER\\A]\r\n\"u\"=\"text\"")) << copied();
     EXPECT_TRUE(text.contains("[HKEY_CURRENT_USER\\A\\B]\r\n\"w\"=dword:00000001")) << copied();
@@ -131,6 +133,7 @@ TEST_F(RegistryMenuTest, OfAKeyWithABackslashInItsNameCopiesNothing)
     m_page.goTo("a\\b");
     QApplication::clipboard()->setText("before");
     choose(tree(), "Copy key as .reg");
+    settle();
     EXPECT_EQ(copied(), "before");
     EXPECT_TRUE(status().contains("a host library")) << status().toStdString();
 }
