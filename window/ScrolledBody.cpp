@@ -28,6 +28,12 @@ ScrolledBody::ScrolledBody(QVBoxLayout* layout, QWidget* parent) : QScrollArea(p
             [this](const QWidget* /*before*/, const QWidget* now) { showFocus(now); });
 }
 
+ScrolledBody::~ScrolledBody()
+{
+    // The focus leaves with the widgets, when this is no more than a QWidget.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize ScrolledBody::minimumSizeHint() const
 {
     const int lines = 8; // what is left of a page on the lowest of windows can still be used

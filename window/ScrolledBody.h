@@ -13,6 +13,7 @@ class ScrolledBody : public QScrollArea
 public:
     /// Takes the layout of the widgets, which has no margins of its own.
     explicit ScrolledBody(QVBoxLayout* layout, QWidget* parent = nullptr);
+    ~ScrolledBody() override;
 
     /// Some lines of text: the rest is scrolled to.
     QSize minimumSizeHint() const override;
