@@ -38,6 +38,7 @@ protected:
     static void answer(const WindowProbe& probe, const QString& caption,
                        const FileDialogAnswer& answer)
     {
+        ASSERT_TRUE(probe.settle());
         const auto buttons = probe.page().findChildren<QPushButton*>();
         for (QPushButton* button : buttons) {
             if (button->text() == caption && button->isVisible())

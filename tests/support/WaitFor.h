@@ -3,6 +3,8 @@
 #include <QTest>
 #include <QWidget>
 
+#include <gtest/gtest.h>
+
 /// Five minutes: long enough for a machine with too much to do, so that only what never comes about
 /// fails.
 constexpr int waitMilliseconds = 300000;
@@ -12,6 +14,16 @@ template <typename Condition>
 [[nodiscard]] bool waitFor(Condition condition)
 {
     return QTest::qWaitFor(condition, waitMilliseconds);
+}
+
+/// Waits until `actual()` equals what is expected; a failure names what it is instead.
+template <typename Actual, typename Expected>
+[[nodiscard]] testing::AssertionResult becomes(Actual actual, const Expected& expected)
+{
+    if (waitFor([&] { return actual() == expected; }))
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "is " << testing::PrintToString(actual()) << ", not "
+                                       << testing::PrintToString(expected);
 }
 
 /// Waits until a window is on the screen.

@@ -1,4 +1,5 @@
 #include "tests/pages/profiles/ProfilesPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCheckBox>
 
@@ -72,10 +73,10 @@ TEST_F(ProfileDifferencesTest, AreGoneThroughByAKeyAndAround)
     open();
     for (const int expected : {0, 2, 0}) {
         QTest::keyClick(&readings(), Qt::Key_F8);
-        EXPECT_EQ(readings().currentIndex().row(), expected);
+        EXPECT_TRUE(becomes([this] { return readings().currentIndex().row(); }, expected));
     }
     m_probe.click("nextDifference");
-    EXPECT_EQ(m_probe.text("key"), QStringLiteral("c"));
+    EXPECT_TRUE(becomes([this] { return m_probe.text("key"); }, QStringLiteral("c")));
 }
 
 TEST_F(ProfileDifferencesTest, AreLookedForAmongValuesThatHaveNotBeenAskedFor)
@@ -96,7 +97,8 @@ TEST_F(ProfileDifferencesTest, AreToldToBeNone)
     m_file.write("[Net]\nMask=255\n");
     open();
     QTest::keyClick(&readings(), Qt::Key_F8);
-    EXPECT_EQ(status(), QStringLiteral("The families read all values alike."));
+    EXPECT_TRUE(becomes([this] { return status(); },
+                        QStringLiteral("The families read all values alike.")));
     EXPECT_FALSE(readings().currentIndex().isValid());
 }
 

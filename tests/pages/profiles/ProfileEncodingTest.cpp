@@ -1,4 +1,5 @@
 #include "tests/pages/profiles/ProfilesPageFixture.h"
+#include "tests/support/WaitFor.h"
 
 #include <QLabel>
 #include <QTextCodec>
@@ -111,7 +112,8 @@ TEST_F(ProfileEncodingTest, FindsWhatIsShown)
     m_probe.page().find();
     m_probe.type("find", QString::fromUtf8("北"));
     QTest::keyClick(&m_probe.control<QWidget>("find"), Qt::Key_Return);
-    EXPECT_EQ(m_probe.control<QTableView>("lines").currentIndex().row(), 2);
+    const auto& lines = m_probe.control<QTableView>("lines");
+    EXPECT_TRUE(becomes([&] { return lines.currentIndex().row(); }, 2));
 }
 
 TEST_F(ProfileEncodingTest, ShowsTheLinesOfAnotherEncodingThatAMarkTells)

@@ -1,5 +1,6 @@
 #include "tests/inspection/profiles/ProfileFixture.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/WaitFor.h"
 
 #include <QLineEdit>
 #include <QTableView>
@@ -35,10 +36,10 @@ TEST_F(ProfileFindTest, GoesFromLineToLineAndAround)
     QTest::keyClicks(&field(), QStringLiteral("HOST"));
     for (const int expected : {2, 3, 2}) {
         QTest::keyClick(&field(), Qt::Key_Return);
-        EXPECT_EQ(line(), expected);
+        EXPECT_TRUE(becomes([this] { return line(); }, expected));
     }
     QTest::keyClick(&field(), Qt::Key_F3);
-    EXPECT_EQ(line(), 3);
+    EXPECT_TRUE(becomes([this] { return line(); }, 3));
     EXPECT_TRUE(field().hasFocus());
 }
 
@@ -48,7 +49,7 @@ TEST_F(ProfileFindTest, SaysThatNoLineContainsTheText)
     m_probe.page().find();
     QTest::keyClicks(&field(), QStringLiteral("absent"));
     QTest::keyClick(&field(), Qt::Key_Return);
-    EXPECT_EQ(status(), QStringLiteral("No line contains “absent”."));
+    EXPECT_TRUE(becomes([this] { return status(); }, QStringLiteral("No line contains “absent”.")));
     EXPECT_EQ(line(), 0);
 }
 
@@ -60,6 +61,7 @@ TEST_F(ProfileFindTest, TakesBackThatNoLineContainsTheTextWhereOneDoes)
     for (const char* text : {"absent", "Host=one"}) {
         m_probe.type("find", QLatin1String(text));
         QTest::keyClick(&field(), Qt::Key_Return);
+        ASSERT_TRUE(m_probe.settle());
     }
     EXPECT_TRUE(status().startsWith(QStringLiteral("Line 2. "))) << status().toStdString();
 }

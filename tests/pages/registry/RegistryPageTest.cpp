@@ -194,7 +194,7 @@ TEST_F(RegistryPageTest, GoesFromHitToHitByKeys)
     ASSERT_TRUE(field);
     QTest::keyClicks(field, "blue");
     QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(status().toStdString(), "Found: 3.");
+    EXPECT_TRUE(becomes([this] { return status(); }, QStringLiteral("Found: 3.")));
     const struct
     {
         Qt::KeyboardModifier modifier;
