@@ -408,9 +408,8 @@ public:
     /// a DWORD whose size is not 4, and of every QWORD, only the first byte is kept; a text is read
     /// up to its NUL, whatever the size. Null data, any other type and binary data of size 0 fail.
     /// A name of "\" alone makes a value that is listed with an empty name; after a restart it is
-    /// gone, except from a key directly under a root. Of a name that begins with U+FEFF that
-    /// character is left out. Directly under a root, "general" in any case of letters is "General"
-    /// after a restart.
+    /// gone, except from a key directly under a root. U+FEFF and "general" are treated as
+    /// `RegCreateKeyExW` says, the latter at once.
     virtual unsigned int RegSetValueExW(HKEY key, const wchar_t* valueName, unsigned int reserved,
                                         unsigned int type, const unsigned char* data,
                                         unsigned int byteCount) = 0;
