@@ -1,5 +1,6 @@
 #include "pages/registry/RegistryRemover.h"
 
+#include "inspection/registry/KeysAlongJob.h"
 #include "inspection/registry/ListedValue.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/RegistryRemovalJob.h"
@@ -64,9 +65,22 @@ void RegistryRemover::removeValues(const QString& path, const std::vector<Listed
     }
     if (going.empty())
         return;
+    m_page.startJob(tr("Counting what goes"),
+                    std::make_unique<KeysAlongJob>(std::move(going), RemovalText::mostNamed),
+                    [this, path](const KeysAlongJob& job, bool complete) {
+                        if (complete)
+                            confirmValues(path, job);
+                        else
+                            m_page.setStatus(tr("Cancelled: nothing was deleted."));
+                    });
+}
+
+void RegistryRemover::confirmValues(const QString& path, const KeysAlongJob& job)
+{
+    const Values& going = job.values();
     const QString question =
         going.size() == 1 ? tr("Delete this value of %1?") : tr("Delete these values of %1?");
-    ask(question.arg(RegistryPath::shown(path)), RemovalText::ofValues(going),
+    ask(question.arg(RegistryPath::shown(path)), RemovalText::ofValues(going, job.keys()),
         [this, path, going](const QString& backup) { removeAll(path, going, backup); });
 }
 

@@ -13,6 +13,7 @@ class QWidget;
 class RegistryCountJob;
 class RegistryHistory;
 class StoreGate;
+class KeysAlongJob;
 
 /// Deletes keys and values: asks first, saying what goes along, then deletes through the service.
 class RegistryRemover : public QObject
@@ -40,6 +41,7 @@ private:
     using Confirmed = std::function<void(const QString& backup)>;
 
     void ask(const QString& question, const QString& detail, const Confirmed& confirmed);
+    void confirmValues(const QString& path, const KeysAlongJob& job);
     void removeAll(const QString& path, const Values& values, const QString& backup);
     void confirmKey(const QString& path, const RegistryCountJob& count);
     void removeKeys(const QString& path, const QStringList& keys, const QString& backup);

@@ -66,6 +66,10 @@
         <source>Names are case-sensitive here: %1?</source>
         <translation>此处的名称区分大小写：是否为 %1？</translation>
     </message>
+    <message>
+        <source>There is a key %1: is that the one you mean?</source>
+        <translation>有一个项 %1：要找的是它吗？</translation>
+    </message>
 </context>
 <context>
     <name>BackupBox</name>
