@@ -7,5 +7,5 @@ void LimitedLines::end()
 {
     const int leftOut = std::exchange(m_count, 0) - most;
     if (leftOut > 0)
-        m_log(QStringLiteral("and %1 more entries").arg(leftOut));
+        m_log(QStringLiteral("further entries: %1").arg(leftOut));
 }

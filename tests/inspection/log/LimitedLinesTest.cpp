@@ -42,7 +42,7 @@ TEST_F(LimitedLinesTest, CountsTheRestWithoutMakingItsLines)
     lines.end();
     lines.end();
     EXPECT_EQ(m_logged.size(), LimitedLines::most + 1);
-    EXPECT_EQ(m_logged.last().toStdString(), "and 7 more entries");
+    EXPECT_EQ(m_logged.last().toStdString(), "further entries: 7");
 }
 
 TEST_F(LimitedLinesTest, TellTheRestWhenTheyGo)
@@ -51,7 +51,7 @@ TEST_F(LimitedLinesTest, TellTheRestWhenTheyGo)
         LimitedLines lines(m_log);
         add(lines, LimitedLines::most + 1);
     }
-    EXPECT_EQ(m_logged.last().toStdString(), "and 1 more entries");
+    EXPECT_EQ(m_logged.last().toStdString(), "further entries: 1");
 }
 
 TEST_F(LimitedLinesTest, LogNothingWithoutALog)

@@ -60,6 +60,11 @@ TEST_P(Statement, IsCheckedBeforeItIsCarriedOut)
 INSTANTIATE_TEST_SUITE_P(
     OfAKey, Statement,
     testing::Values(
+        Row{statement(Action::CreateKey, "HKEY_USERS\\general"), Outcome::Altered,
+            "After a restart the key \"general\" is called \"General\""},
+        Row{value(REG_DWORD, "01000000", "v", "HKEY_USERS\\GENERAL\\A"), Outcome::Altered,
+            "is called \"General\""},
+        Row{statement(Action::CreateKey, "HKEY_USERS\\A\\general"), Outcome::Done, ""},
         Row{statement(Action::CreateKey, "HKEY_CURRENT_USER\\K"), Outcome::Done, ""},
         Row{statement(Action::CreateKey, "hkey_users\\K"), Outcome::Done, ""},
         Row{statement(Action::CreateKey, "HKEY_CURRENT_CONFIG\\K"), Outcome::Refused, "root keys"},

@@ -215,12 +215,12 @@ TEST_F(RegistryUndoTest, TheLogTellsWhatGoesWithAKeyAndHowMuchOfItIsLeftOut)
     ASSERT_TRUE(accept());
     QString log = logged().mid(start);
     EXPECT_EQ(log.count("\"1$1\" -> absent"), LimitedLines::most);
-    EXPECT_EQ(log.count("and 5 more entries"), 1);
+    EXPECT_EQ(log.count("further entries: 5"), 1);
     start = logged().size();
     undo();
     log = logged().mid(start);
     EXPECT_EQ(log.count("Undone: HKEY_CURRENT_USER\\A: \"n"), LimitedLines::most);
-    EXPECT_EQ(log.count("Undone: and 5 more entries"), 1);
+    EXPECT_EQ(log.count("Undone: further entries: 5"), 1);
 }
 
 // Somebody else changes the value between the change and its undoing.
