@@ -60,7 +60,6 @@ QLayout* MetricsPanel::makeQuery()
 void MetricsPanel::refresh()
 {
     m_model.setRecords(systemMetrics());
-    fitColumnsToContents(*m_view);
     ask();
 }
 

@@ -32,5 +32,4 @@ std::vector<RecordColumn<Monitor>> MonitorTable::columns() const
 void MonitorTable::setMonitors(const std::vector<Monitor>& monitors)
 {
     m_model.setRecords(monitors);
-    fitColumnsToContents(*this);
 }

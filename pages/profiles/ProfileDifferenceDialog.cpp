@@ -1,6 +1,7 @@
 #include "pages/profiles/ProfileDifferenceDialog.h"
 
 #include "pages/profiles/DifferenceColumns.h"
+#include "window/ColumnFit.h"
 #include "window/Page.h"
 #include "window/ViewLook.h"
 
@@ -89,7 +90,7 @@ QTableView* ProfileDifferenceDialog::makeTable()
     arrangeTable(*table);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 4 / 3);
-    fitColumns(*table, DifferenceColumns::samples());
+    ColumnFit::of(*table).setSamples(DifferenceColumns::samples());
     return table;
 }
 

@@ -4,9 +4,9 @@
 #include "pages/profiles/ProfileReadingQueue.h"
 #include "pages/profiles/ProfileReadingsModel.h"
 #include "pages/profiles/ProfileTable.h"
+#include "window/ColumnFit.h"
 #include "window/EmptyHint.h"
 #include "window/Page.h"
-#include "window/ViewLook.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -56,9 +56,11 @@ ProfileReadingsPane::ProfileReadingsPane(PageContext& page, QWidget* parent)
 
 void ProfileReadingsPane::makeTable()
 {
-    fitColumns(*m_table, {QStringLiteral("Name of section"), QStringLiteral("Name of a key")});
-    m_table->setColumnWidth(ProfileColumns::DifferenceColumn, m_table->fontMetrics().height() * 2);
-    new ColumnBalancer(m_table, ProfileColumns::WideColumn, QStringLiteral("255.255.255.0"));
+    ColumnFit& columns = ColumnFit::of(*m_table);
+    columns.setSamples({QStringLiteral("Name of section"), QStringLiteral("Name of a key"),
+                        QStringLiteral("255.255.255.0"), QStringLiteral("≠"),
+                        QStringLiteral("255.255.255.0")});
+    columns.giveRestTo({ProfileColumns::WideColumn, ProfileColumns::NarrowColumn});
     updateHint();
     m_table->viewport()->installEventFilter(this);
     connect(m_model, &QAbstractItemModel::layoutChanged, &m_soon, QOverload<>::of(&QTimer::start));
