@@ -4,7 +4,6 @@
 #include "inspection/files/FoundEntryText.h"
 #include "window/ColumnFit.h"
 #include "window/FaintText.h"
-#include "window/KeptPlace.h"
 #include "window/MiddleElision.h"
 #include "window/ViewLook.h"
 
@@ -127,9 +126,19 @@ void FoundTable::append(std::vector<FoundEntry> entries)
 
 void FoundTable::replace(std::vector<FoundEntry> entries)
 {
-    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
-    const KeptPlace place(*this, [this](int row) { return m_entries->record(row).name; });
+    const KeptPlace kept = place();
     m_entries->setRecords(std::move(entries));
+    restore(kept);
+}
+
+KeptPlace FoundTable::place()
+{
+    return KeptPlace(*this, [this](int row) { return m_entries->record(row).name; });
+}
+
+void FoundTable::restore(const KeptPlace& place)
+{
+    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
     place.restore();
 }
 
