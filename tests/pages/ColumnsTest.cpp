@@ -1,6 +1,6 @@
 #include "tests/pages/PageInLanguage.h"
 #include "tests/pages/SmallFont.h"
-#include "tests/pages/StyleInUse.h"
+#include "tests/support/StyleInUse.h"
 
 #include "window/ScrolledBody.h"
 #include "window/WindowSize.h"
