@@ -7,6 +7,7 @@
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QLocale>
 
 namespace {
 
@@ -135,7 +136,7 @@ std::vector<RecordColumn<Line>> ProfileColumns::ofLines()
 {
     return {RecordColumn<Line>(
                 tr("No.", "number of a line"),
-                [](const Line& line) { return QString::number(line.number); },
+                [](const Line& line) { return QLocale().toString(line.number); },
                 [](const Line& line, int role) {
                     return role == Qt::TextAlignmentRole
                                ? QVariant(Qt::AlignRight | Qt::AlignVCenter)

@@ -110,7 +110,7 @@ QString ProfileDifferenceDialog::destroyed() const
         return {};
     QStringList numbers;
     for (std::size_t i = 0; i < lines.size() && i < most; ++i)
-        numbers << QString::number(lines[i]);
+        numbers << QLocale().toString(lines[i]);
     if (lines.size() > most)
         numbers << QStringLiteral("...");
     return tr("These lines are not in the file's encoding, and their bytes would be lost: %1.")

@@ -351,8 +351,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>以 null 调用 SetCursor 不会有任何变化。</translation>
     </message>
     <message>
-        <source>Levels added from here: %1.</source>
-        <translation>在此处增加的层数：%1。</translation>
+        <source>Levels added from here: %L1.</source>
+        <translation>在此处增加的层数：%L1。</translation>
     </message>
     <message>
         <source>GetCursorPos (screen):</source>
