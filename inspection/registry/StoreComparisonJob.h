@@ -1,7 +1,7 @@
 #pragma once
 
 #include "inspection/Job.h"
-#include "inspection/files/FileIdentity.h"
+#include "inspection/files/FileStamp.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
@@ -32,7 +32,7 @@ public:
     bool step() override;
 
     /// The file that was compared.
-    const FileIdentity& file() const { return m_file; }
+    const FileStamp& file() const { return m_file; }
     /// The first difference; none where the store holds what its file says.
     const std::optional<Difference>& difference() const { return m_difference; }
 
@@ -42,7 +42,7 @@ private:
     bool compareSome();
     void differAt(const QString& name);
 
-    FileIdentity m_file;
+    FileStamp m_file;
     QTemporaryDir m_folder; ///< of the copy; nobody else can read it
     std::unique_ptr<QSettings> m_copy;
     QStringList m_sections; ///< of the copy, still to be parsed

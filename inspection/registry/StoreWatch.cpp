@@ -9,7 +9,7 @@ StoreWatch::StoreWatch()
 {
     attach();
     // Either it has gone before, or nothing has been saved yet.
-    if (m_store && !m_seen.exists && storeFault().isEmpty())
+    if (m_store && !m_seen.exists() && storeFault().isEmpty())
         m_state = State::Unknown;
 }
 
@@ -27,7 +27,7 @@ bool StoreWatch::eventFilter(QObject* watched, QEvent* event)
     // program does to the file afterwards must not be taken for it: it is not put off for long.
     if (event->type() == QEvent::UpdateRequest) {
         m_isSaving = true;
-        if (m_state == State::Vanished && !FileIdentity::of(RawStore::fileName()).exists)
+        if (m_state == State::Vanished && !FileStamp::of(RawStore::fileName()).exists())
             m_hasLost = true;
         QMetaObject::invokeMethod(this, &StoreWatch::takeSaving, Qt::QueuedConnection);
     }
@@ -49,7 +49,7 @@ int StoreWatch::revision()
 // Saving reads the file first and adds the changes: whatever has happened to it is in the store.
 void StoreWatch::takeSaved()
 {
-    m_saved = m_seen = FileIdentity::of(RawStore::fileName());
+    m_saved = m_seen = FileStamp::of(RawStore::fileName());
     m_state = State::InStep;
     m_difference.reset();
     m_isSaving = false;
@@ -61,7 +61,7 @@ StoreWatch::State StoreWatch::state()
     if (m_store != RawStore::receiver())
         attach();
     takeSaving();
-    const FileIdentity now = FileIdentity::of(RawStore::fileName());
+    const FileStamp now = FileStamp::of(RawStore::fileName());
     if (!m_store)
         return State::InStep;
     if (now != m_seen)
@@ -89,7 +89,7 @@ bool StoreWatch::hasReadDifference() const
 
 void StoreWatch::settle(const StoreComparisonJob& comparison)
 {
-    if (comparison.file() != FileIdentity::of(RawStore::fileName()))
+    if (comparison.file() != FileStamp::of(RawStore::fileName()))
         return; // it has changed meanwhile
     if (!comparison.difference())
         return takeSame(comparison.file());
@@ -97,14 +97,14 @@ void StoreWatch::settle(const StoreComparisonJob& comparison)
     m_seen = comparison.file();
     m_difference = comparison.difference();
     ++m_revision;
-    if (!m_seen.exists)
+    if (!m_seen.exists())
         m_state = State::Vanished;
     else
         m_state = m_seen.isSameFile(m_saved) ? State::Changed : State::Replaced;
 }
 
 // The store that was found as it is shown need not be shown anew.
-void StoreWatch::takeSame(const FileIdentity& file)
+void StoreWatch::takeSame(const FileStamp& file)
 {
     if (m_state == State::Unknown && file == m_seen)
         m_state = State::InStep;
