@@ -19,7 +19,8 @@ using Marks = std::vector<bool>;
 Marks narrowMarks(const QString& path, const ProfileChange& change)
 {
     NarrowProfileFile file(path);
-    const QString text = file.open(QIODevice::ReadOnly) ? file.text() : QString();
+    const QString text =
+        file.open(QIODevice::ReadOnly) ? file.text().value_or(QString()) : QString();
     const QString header = QLatin1Char('[') + change.section + QLatin1Char(']');
     Marks marks;
     for (NarrowScanner line(text); line.next();) {
