@@ -168,10 +168,14 @@ void ProfilesPage::showDocument(std::shared_ptr<const ProfileDocument> document,
     m_path = document->path();
     m_stamp = m_readingStamp;
     m_wanted = wanted;
+    if (m_reread) // what the user has chosen meanwhile
+        m_place = currentPlace();
     m_document = std::move(document);
     m_editor->noteRead(m_path);
     m_lines->setDocument(m_document);
     m_readings->setDocument(m_document);
+    if (m_reread)
+        restorePlace(false);
 }
 
 // The answer may tell that a line only looked like an entry of the wide family.
@@ -227,6 +231,8 @@ void ProfilesPage::finishReread()
 {
     m_reread.reset();
     restorePlace(true);
+    m_place = currentPlace();
+    m_wanted = m_readings->chosenName();
     markRead();
     if (m_document->exists())
         setStatus(tr("The file has been changed by somebody else, and was read again. %1")
@@ -300,6 +306,8 @@ void ProfilesPage::showName(int name)
 void ProfilesPage::showReading(int name)
 {
     if (m_isRestoring)
+    if (m_reread && !m_reread->isLoaded())
+        m_reread->lookFor(m_document->name(name));
         m_panel->updateReading(m_readings->reading(name));
     else
         m_panel->setReading(m_readings->reading(name));

@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTimer>
 
 namespace {
 
@@ -100,6 +101,35 @@ TEST_F(ProfileLiveTest, KeepsTheScrollPosition)
     ASSERT_TRUE(rowBecomes("readings", 500, {"S", "last", "1", "=", "1"}));
     for (const char* view : {"lines", "readings"})
         EXPECT_EQ(table(view).verticalScrollBar()->value(), 100) << view;
+}
+
+QByteArray manyKeys(const QByteArray& value)
+{
+    QByteArray bytes = "[S]\n";
+    for (int i = 0; i < 40000; ++i)
+        bytes += "key" + QByteArray::number(i) + "=" + value + "\n";
+    return bytes;
+}
+
+TEST_F(ProfileLiveTest, KeepsWhatIsChosenWhileTheFileIsReadAgain)
+{
+    m_file.write(manyKeys("1"));
+    open();
+    int chosen = 0;
+    bool isShown = false;
+    const auto model = table("readings").model();
+    QObject::connect(model, &QAbstractItemModel::modelReset, [&isShown] { isShown = true; });
+    QTimer user; // who goes on choosing until the new lines are shown
+    QObject::connect(&user, &QTimer::timeout, [&] {
+        if (!isShown)
+            table("readings").selectRow(chosen = (chosen + 977) % 40000);
+    });
+    user.start(20);
+    m_file.write("; new\n" + manyKeys("2"));
+    EXPECT_TRUE(statusBecomes(QStringLiteral("changed by somebody else")));
+    EXPECT_TRUE(isShown);
+    EXPECT_EQ(table("readings").currentIndex().row(), chosen);
+    EXPECT_EQ(table("lines").currentIndex().row(), chosen + 2);
 }
 
 } // namespace
