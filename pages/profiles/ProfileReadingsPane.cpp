@@ -295,7 +295,9 @@ void ProfileReadingsPane::findDifference(int from, bool isAgain)
     m_page.startJob(tr("Looking for a difference"), makeAsking(next),
                     [this, at, isAgain](const ProfileAskingJob&, bool complete) {
                         const int found = complete ? m_model->nextCandidate(*at) : -1;
-                        if (found >= 0)
+                        if (found >= 0 && !m_model->isRead(found)) // of another document
+                            findDifference(found - 1, isAgain);
+                        else if (found >= 0)
                             m_table->selectRow(m_model->rowOf(found));
                         else if (complete && !isAgain)
                             findDifference(-1, true);
