@@ -21,6 +21,8 @@ public:
     /// what was deleted. Like everything below this is known when the job is done; where it is
     /// false, the rest is not looked at.
     bool isReadBack() const { return m_writing.isReadBack(); }
+    /// True where there was not memory enough.
+    bool isTooLarge() const { return m_isTooLarge; }
     /// The file as it was found; nothing where there was none.
     const std::optional<QByteArray>& bytes() const { return m_bytes; }
     /// What the family read before; null where it found nothing.
@@ -36,6 +38,7 @@ private:
     bool copyTo(const QString& path) const;
     bool tryOut();
     void compare();
+    bool stepTrial();
     void takeDifference();
 
     QString m_file;
@@ -47,3 +50,4 @@ private:
     std::shared_ptr<const ProfileDifference> m_difference;
     int m_stage = 0;
 };
+    bool m_isTooLarge = false;

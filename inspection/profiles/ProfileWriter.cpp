@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 
 namespace {
 
@@ -31,6 +32,9 @@ QString ProfileWriter::fault(const ProfileChange& change) const
         return tr("There is no such file: nothing can be deleted from it.");
     if (!isWritable(QFileInfo(m_file), change.family))
         return tr("%1 cannot be written.").arg(m_file);
+    if (QFileInfo(m_file).size() > ProfileDocument::largestWhole)
+        return tr("%1 is larger than %2 MiB: no change can be tried on a copy of it.")
+            .arg(m_file, QLocale().toString(ProfileDocument::largestWhole / 1024 / 1024));
     return {};
 }
 

@@ -124,6 +124,12 @@ void ProfileEditor::tryOut(const Request& request)
 
 void ProfileEditor::decide(const Request& request, const ProfileDryRun& dryRun)
 {
+    if (dryRun.isTooLarge()) {
+        m_page.report(Report::Error,
+                      nothingDone(request.change) + QLatin1Char(' ') +
+                          tr("There is not memory enough to try the change on a copy."));
+        return;
+    }
     if (!dryRun.isReadBack()) {
         m_page.report(Report::Error, ProfileWriter::unreadable(request.change));
         return;

@@ -123,6 +123,7 @@ void ProfileReadingsPane::setDocument(std::shared_ptr<const ProfileDocument> doc
     m_queue->setDocument(document);
     m_model->setDocument(std::move(document));
     updateButtons();
+    updateHint();
     m_soon.start();
 }
 
@@ -146,6 +147,11 @@ void ProfileReadingsPane::updateButtons()
 
 void ProfileReadingsPane::updateHint()
 {
+    const auto& document = m_model->document();
+    if (document && !document->restriction().isEmpty()) {
+        m_hint->setText(document->restriction());
+        return;
+    }
     m_hint->setText(m_onlyDifferences->isChecked()
                         ? tr("Of the values that have been asked for, none is read differently.")
                         : tr("What the wide and the narrow calls read stands here side by side."));

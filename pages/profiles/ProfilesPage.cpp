@@ -212,7 +212,8 @@ bool ProfilesPage::hasChanged()
     const FileStamp former = std::exchange(m_stamp, FileStamp::of(m_path));
     if (former != m_stamp)
         return true;
-    return !former.isSure() && ProfileDocument::bytesOf(m_path) != m_document->lines().bytes();
+    return !former.isSure() && m_document->lines().hasMarks() &&
+           ProfileDocument::bytesOf(m_path) != m_document->lines().bytes();
 }
 
 void ProfilesPage::lookForChanges()
@@ -230,9 +231,9 @@ void ProfilesPage::lookForChanges()
 void ProfilesPage::finishReread()
 {
     m_reread.reset();
-    restorePlace(true);
     m_place = currentPlace();
     m_wanted = m_readings->chosenName();
+    restorePlace(true);
     markRead();
     if (m_document->exists())
         setStatus(tr("The file has been changed by somebody else, and was read again. %1")
@@ -305,9 +306,9 @@ void ProfilesPage::showName(int name)
 
 void ProfilesPage::showReading(int name)
 {
-    if (m_isRestoring)
     if (m_reread && !m_reread->isLoaded())
         m_reread->lookFor(m_document->name(name));
+    if (m_isRestoring)
         m_panel->updateReading(m_readings->reading(name));
     else
         m_panel->setReading(m_readings->reading(name));

@@ -46,9 +46,6 @@ std::int64_t latestBeside(std::int64_t stamp)
     return latestStamp < stamp + farAhead ? latestStamp : 0;
 }
 
-// What a text of Qt holds, about.
-constexpr qint64 largestText = qint64{1000} * 1024 * 1024;
-
 bool isPipe(const QString& path)
 {
     struct stat status = {};

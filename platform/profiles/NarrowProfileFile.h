@@ -16,6 +16,9 @@ class NarrowProfile;
 class NarrowProfileFile
 {
 public:
+    /// What a text of Qt holds, about: characters, of which a file may have as many as bytes.
+    static constexpr qint64 largestText = qint64{1000} * 1024 * 1024;
+
     explicit NarrowProfileFile(const QString& path);
 
     /// Opens an existing file for reading, or any file, created where there is none, for reading

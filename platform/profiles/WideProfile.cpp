@@ -9,10 +9,6 @@
 
 namespace {
 
-// QSettings reads a file at once. One of 2 GiB it would take for empty, and with the next write all
-// that lies in it would be lost.
-constexpr off_t largestFile = 0x7fffffff - 4096;
-
 // Below that the memory is not asked: a process that has no more of it ends anyway.
 constexpr off_t largeFile = 1024 * 1024;
 
@@ -26,8 +22,8 @@ bool hasMemory(std::size_t bytes)
 bool isHeld(off_t size)
 {
     constexpr std::size_t reserve = 8 * 1024 * 1024;
-    return size < largeFile ||
-           (size <= largestFile && hasMemory(static_cast<std::size_t>(size) * 2 + reserve));
+    return size < largeFile || (size <= WideProfile::largestFile &&
+                                hasMemory(static_cast<std::size_t>(size) * 2 + reserve));
 }
 
 } // namespace

@@ -9,6 +9,10 @@
 class WideProfile
 {
 public:
+    /// QSettings reads a file at once. One of 2 GiB it would take for empty, and with the next
+    /// write all that lies in it would be lost.
+    static constexpr qint64 largestFile = 0x7fffffff - 4096;
+
     /// Does not touch what is no file to be read: pipes, sockets and devices, for which QSettings
     /// would wait or which it would replace, and what the memory does not hold.
     explicit WideProfile(const wchar_t* file);
