@@ -27,6 +27,8 @@ public:
     const std::optional<QByteArray>& bytes() const { return m_bytes; }
     /// What the family read before; null where it found nothing.
     QString former() const;
+    /// What goes with a section that is deleted.
+    const FormerEntries& formerEntries() const { return m_writing.formerEntries(); }
     /// True where the family reads the value already that is to be set: writing it would only lose
     /// what the family misreads.
     bool isReadAlready() const;
@@ -36,9 +38,9 @@ private:
     QString formerFile() const;
     QString writtenFile() const;
     bool copyTo(const QString& path) const;
+    bool stepTrial();
     bool tryOut();
     void compare();
-    bool stepTrial();
     void takeDifference();
 
     QString m_file;
@@ -49,5 +51,5 @@ private:
     std::unique_ptr<Computation<ProfileDifference>> m_comparison;
     std::shared_ptr<const ProfileDifference> m_difference;
     int m_stage = 0;
-};
     bool m_isTooLarge = false;
+};

@@ -26,7 +26,7 @@ QString ProfileWriter::fault(const ProfileChange& change) const
     if (change.key.isEmpty() && needsKey)
         return tr("Type a key first.");
     // Without a name stands what the wide family finds under [General] or before the first header.
-    if (change.section.isEmpty() && (change.family == ProfileFamily::Narrow || !needsKey))
+    if (change.section.isEmpty() && change.family == ProfileFamily::Narrow)
         return tr("Type a section first.");
     if (change.action != ProfileChange::Action::Set && !QFileInfo::exists(m_file))
         return tr("There is no such file: nothing can be deleted from it.");
@@ -40,6 +40,11 @@ QString ProfileWriter::fault(const ProfileChange& change) const
 
 QString ProfileWriter::unreadable(const ProfileChange& change)
 {
+    const bool isWide = change.family == ProfileFamily::Wide;
+    if (change.action != ProfileChange::Action::Set && isWide &&
+        change.section.compare(QLatin1String("general"), Qt::CaseInsensitive) == 0)
+        return tr("Nothing deleted: the wide family does not find that. What stands under "
+                  "[General] is in no section for it: leave the section empty.");
     if (change.action != ProfileChange::Action::Set)
         return change.family == ProfileFamily::Narrow
                    ? tr("Nothing deleted: the narrow family does not find that.")
