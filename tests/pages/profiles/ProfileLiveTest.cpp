@@ -1,9 +1,14 @@
+#include "inspection/profiles/ProfileLoadingJob.h"
+#include "pages/profiles/ProfileReadingsPane.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
 #include "tests/support/WaitFor.h"
 
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTimer>
+
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -103,10 +108,10 @@ TEST_F(ProfileLiveTest, KeepsTheScrollPosition)
         EXPECT_EQ(table(view).verticalScrollBar()->value(), 100) << view;
 }
 
-QByteArray manyKeys(const QByteArray& value)
+QByteArray manyKeys(const QByteArray& value, int count = 40000)
 {
     QByteArray bytes = "[S]\n";
-    for (int i = 0; i < 40000; ++i)
+    for (int i = 0; i < count; ++i)
         bytes += "key" + QByteArray::number(i) + "=" + value + "\n";
     return bytes;
 }
@@ -130,6 +135,24 @@ TEST_F(ProfileLiveTest, KeepsWhatIsChosenWhileTheFileIsReadAgain)
     EXPECT_TRUE(isShown);
     EXPECT_EQ(table("readings").currentIndex().row(), chosen);
     EXPECT_EQ(table("lines").currentIndex().row(), chosen + 2);
+}
+
+TEST_F(ProfileLiveTest, GoesToADifferenceOfTheLinesThatCameMeanwhile)
+{
+    constexpr int keys = 3000; // too many to be read when the file is opened
+    m_file.write(manyKeys("1", keys));
+    open();
+    m_file.write(manyKeys("1", keys).replace("key2999=1", "key2999=a,b"));
+    ProfileLoadingJob loading(m_file.path());
+    while (loading.step())
+        ;
+    m_probe.click("nextDifference");
+    ASSERT_TRUE(m_probe.page().isBusy());
+    m_probe.page().findChild<ProfileReadingsPane*>()->setDocument(
+        std::make_shared<const ProfileDocument>(std::move(loading.document())));
+    ASSERT_TRUE(waitForJob(m_probe.page()));
+    EXPECT_EQ(table("readings").currentIndex().row(), keys - 1);
+    EXPECT_EQ(row("readings", keys - 1).at(3), QStringLiteral("≠"));
 }
 
 } // namespace
