@@ -19,7 +19,8 @@ bool isDull(const LineReading& reading)
     case LineState::Blank:
     case LineState::Continuation:
     case LineState::Unreachable:
-    case LineState::NotFound: return true;
+    case LineState::NotFound:
+    case LineState::Untold: return true;
     default: return isLost(reading.state);
     }
 }

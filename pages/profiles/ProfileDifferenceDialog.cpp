@@ -17,13 +17,29 @@ namespace {
 
 using Action = ProfileChange::Action;
 
+// Which lines they are depends on the family.
+QString found(const ProfileChange& change)
+{
+    const bool isKey = change.action == Action::DeleteKey;
+    if (change.family == ProfileFamily::Narrow)
+        return isKey ? ProfileDifferenceDialog::tr("The narrow family finds the key “%1” here.")
+                           .arg(change.key)
+                     : ProfileDifferenceDialog::tr("The narrow family finds the section “%1” here.")
+                           .arg(change.section);
+    return isKey ? ProfileDifferenceDialog::tr("The wide family finds the key “%1” here.")
+                       .arg(change.key)
+                 : ProfileDifferenceDialog::tr("The wide family finds the section “%1” here.")
+                       .arg(change.section);
+}
+
 QString explanation(const ProfileChange& change)
 {
     if (change.action != Action::Set)
-        return ProfileDifferenceDialog::tr(
-            "No family of calls can delete: a null value is written as an empty one, "
-            "and a call without a key is refused. So these lines are taken out of "
-            "the file, and the others stay as they are.");
+        return found(change) + QLatin1Char(' ') +
+               ProfileDifferenceDialog::tr(
+                   "No family of calls can delete: a null value is written as an empty one, "
+                   "and a call without a key is refused. So these lines are taken out of "
+                   "the file, and the others stay as they are.");
     return change.family == ProfileFamily::Narrow
                ? ProfileDifferenceDialog::tr(
                      "The narrow family writes the whole file anew, sorted, and only what "

@@ -94,10 +94,13 @@ void ProfileLinesPane::showForm()
     const bool hasOtherLines = isThere && !document->lines().form().otherLines().empty();
     m_encodingLabel->setVisible(hasOtherLines);
     m_encoding->setVisible(hasOtherLines);
-    if (isThere)
+    if (isThere) {
+        const QString restriction = document->restriction();
         m_form->setText(withoutLongWords(
             tr("%1. %2", "name and form of a file")
-                .arg(QFileInfo(document->path()).fileName(), document->lines().form().text())));
+                .arg(QFileInfo(document->path()).fileName(),
+                     restriction.isEmpty() ? document->lines().form().text() : restriction)));
+    }
     showCodec();
     ColumnFit::of(*m_table).setSample(ProfileColumns::NumberColumn,
                                       QLocale().toString(std::max(m_model->rowCount(), 10000)));

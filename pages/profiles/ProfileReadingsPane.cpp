@@ -125,6 +125,7 @@ void ProfileReadingsPane::setDocument(std::shared_ptr<const ProfileDocument> doc
     m_queue->setDocument(document);
     m_model->setDocument(std::move(document));
     updateButtons();
+    updateHint();
     m_soon.start();
 }
 
@@ -148,6 +149,11 @@ void ProfileReadingsPane::updateButtons()
 
 void ProfileReadingsPane::updateHint()
 {
+    const auto& document = m_model->document();
+    if (document && !document->restriction().isEmpty()) {
+        m_hint->setText(document->restriction());
+        return;
+    }
     m_hint->setText(m_onlyDifferences->isChecked()
                         ? tr("Of the values that have been asked for, none is read differently.")
                         : tr("What the wide and the narrow calls read stands here side by side."));
@@ -297,7 +303,9 @@ void ProfileReadingsPane::findDifference(int from, bool isAgain)
     m_page.startJob(tr("Looking for a difference"), makeAsking(next),
                     [this, at, isAgain](const ProfileAskingJob&, bool complete) {
                         const int found = complete ? m_model->nextCandidate(*at) : -1;
-                        if (found >= 0)
+                        if (found >= 0 && !m_model->isRead(found)) // of another document
+                            findDifference(found - 1, isAgain);
+                        else if (found >= 0)
                             m_table->selectRow(m_model->rowOf(found));
                         else if (complete && !isAgain)
                             findDifference(-1, true);
