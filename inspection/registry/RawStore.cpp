@@ -33,6 +33,16 @@ bool RawStore::isWritable()
     return g_globalSettings && g_globalSettings->isWritable();
 }
 
+bool RawStore::hasMetDamage()
+{
+    return g_globalSettings && g_globalSettings->status() == QSettings::FormatError;
+}
+
+bool RawStore::hasFailed()
+{
+    return g_globalSettings && g_globalSettings->status() != QSettings::NoError;
+}
+
 QObject* RawStore::receiver()
 {
     return g_globalSettings;

@@ -4,6 +4,7 @@
 #include "inspection/registry/StoreSections.h"
 
 #include <QFile>
+#include <QSettings>
 
 #include <algorithm>
 
@@ -32,6 +33,12 @@ bool StoreComparisonJob::step()
     return true;
 }
 
+// The copy has been parsed as a whole by the time its entries are compared.
+bool StoreComparisonJob::isDamaged() const
+{
+    return m_copy && m_copy->status() == QSettings::FormatError;
+}
+
 void StoreComparisonJob::open()
 {
     const QString copy = m_folder.filePath(QStringLiteral("copy"));
@@ -41,7 +48,7 @@ void StoreComparisonJob::open()
     m_sections = storeSections(copy);
 }
 
-// The shorter list may be the beginning of the longer one.
+// Both lists are sorted: of two names in the same place the other list lacks the lower one.
 void StoreComparisonJob::list()
 {
     m_isListed = true;
@@ -49,9 +56,11 @@ void StoreComparisonJob::list()
     const QStringList held = RawStore({}, RawStore::Reach::OwnFile).allEntries();
     const auto [inFile, inStore] =
         std::mismatch(m_names.cbegin(), m_names.cend(), held.cbegin(), held.cend());
-    if (inFile != m_names.cend())
+    const bool isFileLonger = inFile != m_names.cend();
+    const bool isStoreLonger = inStore != held.cend();
+    if (isFileLonger && (!isStoreLonger || *inFile < *inStore))
         differAt(*inFile);
-    else if (inStore != held.cend())
+    else if (isStoreLonger)
         differAt(*inStore);
 }
 

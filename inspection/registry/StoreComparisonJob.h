@@ -35,6 +35,9 @@ public:
     const FileStamp& file() const { return m_file; }
     /// The first difference; none where the store holds what its file says.
     const std::optional<Difference>& difference() const { return m_difference; }
+    /// True where the file has lines that are no entries: the store leaves them out, and saves
+    /// itself without them.
+    bool isDamaged() const;
 
 private:
     void open();

@@ -24,11 +24,18 @@ public:
         Unknown,  ///< to be found out by a comparison
         Vanished, ///< the file is gone
         Replaced, ///< another file stands in its place, and the store has not read it
-        Changed   ///< the file has been written to, and the store has not read it
+        Changed,  ///< the file has been written to, and the store has not read it
+        Damaged,  ///< the file has lines that are no entries, which the next saving drops
+        Unsaved   ///< the last saving has failed: the store holds changes that the file lacks
     };
 
     /// Takes the store to be in step with its file; where there is none, that is to be found out.
+    /// Where others watch the store already, it begins with what the earliest of them has seen.
     StoreWatch();
+    ~StoreWatch() override;
+
+    StoreWatch(const StoreWatch&) = delete;
+    StoreWatch& operator=(const StoreWatch&) = delete;
 
     State state();
     /// Takes over what a comparison that has been finished has found out.
@@ -41,6 +48,9 @@ public:
     /// but its last changes.
     bool hasLost() const { return m_hasLost; }
 
+    /// Grows with each saving that has been found to have failed.
+    int failedSavings() const { return m_failedSavings; }
+
     /// Grows with everything that may have changed the store.
     int revision();
 
@@ -51,10 +61,13 @@ public:
 
 private:
     void attach();
+    void takeOver(StoreWatch& earlier);
     void takeSaving();
     void takeSaved();
     void takeSame(const FileStamp& file);
     State changedState();
+    State differenceState() const;
+    bool mayDiffer();
     bool hasReadDifference() const;
 
     QPointer<QObject> m_store;
@@ -63,6 +76,11 @@ private:
     State m_state = State::InStep;
     std::optional<StoreComparisonJob::Difference> m_difference;
     bool m_isSaving = false; ///< the store has saved itself, which is still to be taken over
+    FileStamp m_beforeSaving;
+    bool m_hasFailed = false;     ///< nothing has been written by that
+    bool m_isFirst = true;        ///< nobody has asked for the state yet
+    bool m_isDamageKnown = false; ///< whether the file is damaged
     bool m_hasLost = false;
+    int m_failedSavings = 0;
     int m_revision = 0;
 };

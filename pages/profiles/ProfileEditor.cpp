@@ -194,11 +194,12 @@ void ProfileEditor::finish(const Request& request, const Trial& trial, const Pro
         m_history->add(
             {request.path, request.change, trial.former, trial.entries, trial.bytes, after});
     m_presence.note(request.path);
+    const bool hasFailed = complete && !job.isReadBack();
+    if (!isChanged && !backup.isEmpty() && (!complete || hasFailed))
+        QFile::remove(backup);
     if (!complete && !isChanged) {
-        if (!backup.isEmpty())
-            QFile::remove(backup);
         m_page.setStatus(nothingDone(request.change));
-    } else if (complete && !job.isReadBack()) {
+    } else if (hasFailed) {
         m_page.report(Report::Error, tr("The value could not be written to %1.").arg(request.path));
     } else {
         const bool isAsShown = after == trial.difference->lines().after().bytes();

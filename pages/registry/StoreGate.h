@@ -42,6 +42,7 @@ private:
 
     void decide(const Action& write);
     void ask(const Action& write);
+    void writeAllTheSame(const Action& write);
 
     PageContext& m_page;
     StoreWatch& m_watch;

@@ -66,6 +66,10 @@
         <source>Names are case-sensitive here: %1?</source>
         <translation>此处的名称区分大小写：是否为 %1？</translation>
     </message>
+    <message>
+        <source>There is a key %1: is that the one you mean?</source>
+        <translation>有一个项 %1：要找的是它吗？</translation>
+    </message>
 </context>
 <context>
     <name>BackupBox</name>
@@ -3657,6 +3661,10 @@ Wide: %2</source>
         <source>An export first keeps what host libraries can read now.</source>
         <translation>先导出可保留主机库目前能读取的内容。</translation>
     </message>
+    <message>
+        <source>Before anything is written, a copy keeps the file as it is.</source>
+        <translation>写入之前，会先保留一份该文件的原样副本。</translation>
+    </message>
 </context>
 <context>
     <name>StoreWatch</name>
@@ -3675,6 +3683,14 @@ Wide: %2</source>
     <message>
         <source>Another program has changed the store&apos;s file %1.</source>
         <translation>其他程序已更改存储的文件 %1。</translation>
+    </message>
+    <message>
+        <source>The store&apos;s file %1 is damaged: it has lines that are no entries. The store leaves them out, and its next change writes the file without them.</source>
+        <translation>存储的文件 %1 已损坏：其中有不是条目的行。存储会忽略这些行，下一次更改写入的文件将不再包含它们。</translation>
+    </message>
+    <message>
+        <source>The store could not be saved to %1, for which a full disk may be the reason. The last changes are not in the file, and end with the program unless a later change is saved.</source>
+        <translation>存储未能保存到 %1，原因可能是磁盘已满。最近的更改不在该文件中；除非以后的更改保存成功，否则将随程序结束而丢失。</translation>
     </message>
 </context>
 <context>
@@ -3778,6 +3794,21 @@ Wide: %2</source>
     <message>
         <source>Only the first %1 bytes of the IV are used.</source>
         <translation>初始向量仅使用前 %1 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>UnkeptName</name>
+    <message>
+        <source>The first character of the name, the invisible U+FEFF, is left out by the registry.</source>
+        <translation>名称的第一个字符是不可见的 U+FEFF，注册表会将其略去。</translation>
+    </message>
+    <message>
+        <source>A value without a name is gone after a restart.</source>
+        <translation>没有名称的值在重新启动后将不复存在。</translation>
+    </message>
+    <message>
+        <source>After a restart the key &quot;%1&quot; is called &quot;%2&quot;: the store cannot tell the two apart.</source>
+        <translation>重新启动后，项“%1”将变为“%2”：存储无法区分二者。</translation>
     </message>
 </context>
 <context>
