@@ -14,7 +14,7 @@ constexpr int stepSize = 100; // entries
 
 } // namespace
 
-StoreComparisonJob::StoreComparisonJob() : m_file(FileIdentity::of(RawStore::fileName())) {}
+StoreComparisonJob::StoreComparisonJob() : m_file(FileStamp::of(RawStore::fileName())) {}
 
 StoreComparisonJob::~StoreComparisonJob() = default;
 
@@ -42,7 +42,7 @@ bool StoreComparisonJob::isDamaged() const
 void StoreComparisonJob::open()
 {
     const QString copy = m_folder.filePath(QStringLiteral("copy"));
-    if (m_file.exists)
+    if (m_file.exists())
         QFile::copy(RawStore::fileName(), copy);
     m_copy = RawStore::opened(copy);
     m_sections = storeSections(copy);

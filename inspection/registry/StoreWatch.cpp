@@ -63,8 +63,8 @@ bool StoreWatch::eventFilter(QObject* watched, QEvent* event)
     // program does to the file afterwards must not be taken for it: it is not put off for long.
     if (event->type() == QEvent::UpdateRequest) {
         m_isSaving = true;
-        m_beforeSaving = FileIdentity::of(RawStore::fileName());
-        if (m_state == State::Vanished && !m_beforeSaving.exists)
+        m_beforeSaving = FileStamp::of(RawStore::fileName());
+        if (m_state == State::Vanished && !m_beforeSaving.exists())
             m_hasLost = true;
         QMetaObject::invokeMethod(this, &StoreWatch::takeSaving, Qt::QueuedConnection);
     }
@@ -93,7 +93,7 @@ int StoreWatch::revision()
 // Saving reads the file first and adds the changes: whatever has happened to it is in the store.
 void StoreWatch::takeSaved()
 {
-    m_saved = m_seen = FileIdentity::of(RawStore::fileName());
+    m_saved = m_seen = FileStamp::of(RawStore::fileName());
     m_state = State::InStep;
     m_difference.reset();
     m_isSaving = m_hasFailed = m_isFirst = false;
@@ -106,7 +106,7 @@ StoreWatch::State StoreWatch::state()
     if (m_store != RawStore::receiver())
         attach();
     takeSaving();
-    const FileIdentity now = FileIdentity::of(RawStore::fileName());
+    const FileStamp now = FileStamp::of(RawStore::fileName());
     if (!m_store)
         return State::InStep;
     if (now != m_seen)
@@ -122,7 +122,7 @@ StoreWatch::State StoreWatch::state()
 // parses the file, which it does bit by bit.
 bool StoreWatch::mayDiffer()
 {
-    const bool isMissing = std::exchange(m_isFirst, false) && !m_seen.exists;
+    const bool isMissing = std::exchange(m_isFirst, false) && !m_seen.exists();
     const bool isDamageNew = !m_isDamageKnown && RawStore::hasMetDamage();
     return m_state == State::InStep && (isMissing || isDamageNew) && storeFault().isEmpty();
 }
@@ -147,7 +147,7 @@ bool StoreWatch::hasReadDifference() const
 
 void StoreWatch::settle(const StoreComparisonJob& comparison)
 {
-    if (comparison.file() != FileIdentity::of(RawStore::fileName()))
+    if (comparison.file() != FileStamp::of(RawStore::fileName()))
         return; // it has changed meanwhile
     if (!comparison.difference()) {
         takeSame(comparison.file());
@@ -170,13 +170,13 @@ StoreWatch::State StoreWatch::differenceState() const
 {
     if (m_hasFailed && m_seen == m_saved)
         return State::Unsaved;
-    if (!m_seen.exists)
+    if (!m_seen.exists())
         return State::Vanished;
     return m_seen.isSameFile(m_saved) ? State::Changed : State::Replaced;
 }
 
 // The store that was found as it is shown need not be shown anew.
-void StoreWatch::takeSame(const FileIdentity& file)
+void StoreWatch::takeSame(const FileStamp& file)
 {
     if (m_state == State::Unknown && file == m_seen)
         m_state = State::InStep;

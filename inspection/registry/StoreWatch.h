@@ -42,7 +42,7 @@ public:
     void settle(const StoreComparisonJob& comparison);
 
     /// The file that the state is about.
-    const FileIdentity& file() const { return m_seen; }
+    const FileStamp& file() const { return m_seen; }
 
     /// True when the store has saved itself while its file was gone: then it has lost everything
     /// but its last changes.
@@ -64,19 +64,19 @@ private:
     void takeOver(StoreWatch& earlier);
     void takeSaving();
     void takeSaved();
-    void takeSame(const FileIdentity& file);
+    void takeSame(const FileStamp& file);
     State changedState();
     State differenceState() const;
     bool mayDiffer();
     bool hasReadDifference() const;
 
     QPointer<QObject> m_store;
-    FileIdentity m_saved; ///< when the store and it were in step last
-    FileIdentity m_seen;  ///< the one that the state is about
+    FileStamp m_saved; ///< when the store and it were in step last
+    FileStamp m_seen;  ///< the one that the state is about
     State m_state = State::InStep;
     std::optional<StoreComparisonJob::Difference> m_difference;
     bool m_isSaving = false; ///< the store has saved itself, which is still to be taken over
-    FileIdentity m_beforeSaving;
+    FileStamp m_beforeSaving;
     bool m_hasFailed = false;     ///< nothing has been written by that
     bool m_isFirst = true;        ///< nobody has asked for the state yet
     bool m_isDamageKnown = false; ///< whether the file is damaged

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/files/FileIdentity.h"
+#include "inspection/files/FileStamp.h"
 
 #include <QObject>
 
@@ -49,5 +49,5 @@ private:
     Export m_export;
     QWidget* m_window;
     /// The file that may be written over: the user has said so since the last action began.
-    std::optional<FileIdentity> m_allowed;
+    std::optional<FileStamp> m_allowed;
 };

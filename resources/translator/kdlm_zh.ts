@@ -355,8 +355,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>以 null 调用 SetCursor 不会有任何变化。</translation>
     </message>
     <message>
-        <source>Levels added from here: %1.</source>
-        <translation>在此处增加的层数：%1。</translation>
+        <source>Levels added from here: %L1.</source>
+        <translation>在此处增加的层数：%L1。</translation>
     </message>
     <message>
         <source>GetCursorPos (screen):</source>
@@ -1819,6 +1819,14 @@ Put it in the place of the file to bring everything back.</source>
         <source>A backslash in it begins an escape.</source>
         <translation>其中的反斜杠开始一个转义序列。</translation>
     </message>
+    <message>
+        <source>untold</source>
+        <translation>未查看</translation>
+    </message>
+    <message>
+        <source>Not looked at: the file is too large for that.</source>
+        <translation>未查看：文件太大。</translation>
+    </message>
 </context>
 <context>
     <name>ListedValue</name>
@@ -2411,6 +2419,22 @@ Wide: %2</source>
         <comment>between numbers of lines</comment>
         <translation>、</translation>
     </message>
+    <message>
+        <source>The narrow family finds the key “%1” here.</source>
+        <translation>窄字符接口在此处找到键“%1”。</translation>
+    </message>
+    <message>
+        <source>The narrow family finds the section “%1” here.</source>
+        <translation>窄字符接口在此处找到节“%1”。</translation>
+    </message>
+    <message>
+        <source>The wide family finds the key “%1” here.</source>
+        <translation>宽字符接口在此处找到键“%1”。</translation>
+    </message>
+    <message>
+        <source>The wide family finds the section “%1” here.</source>
+        <translation>宽字符接口在此处找到节“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileDocument</name>
@@ -2431,8 +2455,20 @@ Wide: %2</source>
         <translation>无法读取 %1。</translation>
     </message>
     <message>
-        <source>%1 is larger than %2 MiB: no call of either family can read it.</source>
-        <translation>%1 大于 %2 MiB：两种接口都无法读取。</translation>
+        <source>The file is too large for more than its lines.</source>
+        <translation>文件太大，只能显示各行。</translation>
+    </message>
+    <message>
+        <source>They are the first %1.</source>
+        <translation>显示的是前 %1 行。</translation>
+    </message>
+    <message>
+        <source>The wide family cannot read it: it answers with the default.</source>
+        <translation>宽字符接口无法读取它：返回默认值。</translation>
+    </message>
+    <message>
+        <source>The narrow family reads it, but cannot write to it.</source>
+        <translation>窄字符接口可以读取它，但无法写入。</translation>
     </message>
 </context>
 <context>
@@ -2584,6 +2620,10 @@ Wide: %2</source>
         <source>The file differs from what was shown: look at its lines.</source>
         <translation>文件与预览的结果不同，请查看各行。</translation>
     </message>
+    <message>
+        <source>There is not memory enough to try the change on a copy.</source>
+        <translation>内存不足，无法在副本上试做此更改。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEncodingBox</name>
@@ -2603,6 +2643,33 @@ Wide: %2</source>
     <message>
         <source>UTF-8, as the calls read</source>
         <translation>UTF-8，与接口读取的一致</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFileBar</name>
+    <message>
+        <source>Profile file</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Path of an INI file</source>
+        <translation>INI 文件的路径</translation>
+    </message>
+    <message>
+        <source>Fil&amp;e:</source>
+        <translation>文件(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>Ope&amp;n...</source>
+        <translation>打开(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Open a profile</source>
+        <translation>打开配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles (*.ini);;All files (*)</source>
+        <translation>配置文件 (*.ini);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -2843,33 +2910,17 @@ Wide: %2</source>
         <source>Nothing deleted: the wide family does not find that.</source>
         <translation>未删除：宽字符接口找不到该项。</translation>
     </message>
+    <message>
+        <source>%1 is larger than %2 MiB: no change can be tried on a copy of it.</source>
+        <translation>%1 大于 %2 MiB：无法在其副本上试做更改。</translation>
+    </message>
+    <message>
+        <source>Nothing deleted: the wide family does not find that. What stands under [General] is in no section for it: leave the section empty.</source>
+        <translation>未删除任何内容：宽字符接口找不到它。对它而言，[General] 下的内容不属于任何节：请将节留空。</translation>
+    </message>
 </context>
 <context>
     <name>ProfilesPage</name>
-    <message>
-        <source>Profile file</source>
-        <translation>配置文件</translation>
-    </message>
-    <message>
-        <source>Path of an INI file</source>
-        <translation>INI 文件的路径</translation>
-    </message>
-    <message>
-        <source>Fil&amp;e:</source>
-        <translation>文件(&amp;E)：</translation>
-    </message>
-    <message>
-        <source>Ope&amp;n...</source>
-        <translation>打开(&amp;N)...</translation>
-    </message>
-    <message>
-        <source>Open a profile</source>
-        <translation>打开配置文件</translation>
-    </message>
-    <message>
-        <source>Profiles (*.ini);;All files (*)</source>
-        <translation>配置文件 (*.ini);;所有文件 (*)</translation>
-    </message>
     <message>
         <source>Type the path of a file first.</source>
         <translation>请先输入文件路径。</translation>
