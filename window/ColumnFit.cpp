@@ -37,6 +37,7 @@ std::vector<int> levelled(const std::vector<Range>& ranges, int room)
         (total(ranges, middle) <= room ? level : above) = middle;
     }
     std::vector<int> widths;
+    widths.reserve(ranges.size());
     for (const Range& range : ranges)
         widths.push_back(std::clamp(level, range.least, range.most));
     return widths;
