@@ -25,4 +25,13 @@ constexpr Column after{"after", QT_TRANSLATE_NOOP("Output", "After")};
 constexpr Column line{"line", QT_TRANSLATE_NOOP("Output", "Line")};
 constexpr Column outcome{"outcome", QT_TRANSLATE_NOOP("Output", "Outcome")};
 
+constexpr Column file{"file", QT_TRANSLATE_NOOP("Output", "File")};
+constexpr Column section{"section", QT_TRANSLATE_NOOP("Output", "Section")};
+constexpr Column family{"family", QT_TRANSLATE_NOOP("Output", "Family")};
+constexpr Column found{"found", QT_TRANSLATE_NOOP("Output", "Found by")};
+constexpr Column wide{"wide", QT_TRANSLATE_NOOP("Output", "Wide")};
+constexpr Column narrow{"narrow", QT_TRANSLATE_NOOP("Output", "Narrow")};
+constexpr Column reason{"reason", QT_TRANSLATE_NOOP("Output", "Reason")};
+constexpr Column difference{"difference", QT_TRANSLATE_NOOP("Output", "Difference")};
+
 } // namespace Columns

@@ -1,5 +1,12 @@
 #include "ctl/CommandTable.h"
 
+#include "ctl/profiles/ProfileCheckCommand.h"
+#include "ctl/profiles/ProfileCompareCommand.h"
+#include "ctl/profiles/ProfileDeleteCommand.h"
+#include "ctl/profiles/ProfileGetCommand.h"
+#include "ctl/profiles/ProfileListCommand.h"
+#include "ctl/profiles/ProfileMergeCommand.h"
+#include "ctl/profiles/ProfileSetCommand.h"
 #include "ctl/registry/RegistryCheckCommand.h"
 #include "ctl/registry/RegistryCompareCommand.h"
 #include "ctl/registry/RegistryCopyCommand.h"
@@ -13,8 +20,11 @@
 #include "ctl/registry/RegistrySetCommand.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
+
+constexpr int anyNumber = std::numeric_limits<int>::max();
 
 template <typename Made>
 std::unique_ptr<Command> made()
@@ -51,6 +61,25 @@ const std::vector<CommandTable::Row>& CommandTable::rows()
         {"registry", "check", "[KEY]",
          QT_TR_NOOP("Lists what host libraries cannot read or read otherwise than written."), 0, 1,
          Needs::Store, made<RegistryCheckCommand>},
+        {"profile", "list", "FILE [SECTION [KEY]]",
+         QT_TR_NOOP("Lists what the families find in a profile, and what they read."), 1, 3,
+         Needs::Nothing, made<ProfileListCommand>},
+        {"profile", "get", "FILE SECTION KEY", QT_TR_NOOP("Prints what the families read."), 3, 3,
+         Needs::Nothing, made<ProfileGetCommand>},
+        {"profile", "set", "FILE SECTION KEY VALUE",
+         QT_TR_NOOP("Writes a value through one of the families."), 4, 4, Needs::Nothing,
+         made<ProfileSetCommand>},
+        {"profile", "delete", "FILE SECTION [KEY]",
+         QT_TR_NOOP("Deletes what a family reads as a key or a section."), 2, 3, Needs::Nothing,
+         made<ProfileDeleteCommand>},
+        {"profile", "merge", "FILE",
+         QT_TR_NOOP("Writes all entries of the profile that is the standard input."), 1, 1,
+         Needs::Nothing, made<ProfileMergeCommand>},
+        {"profile", "check", "FILE...",
+         QT_TR_NOOP("Tells the lines that a family drops, replaces or reads otherwise."), 1,
+         anyNumber, Needs::Nothing, made<ProfileCheckCommand>},
+        {"profile", "compare", "FILE", QT_TR_NOOP("Lists what the two families read differently."),
+         1, 1, Needs::Nothing, made<ProfileCompareCommand>},
     };
     return all;
 }

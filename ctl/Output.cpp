@@ -150,6 +150,15 @@ QString Output::tableLine(const Row& row) const
     return m_hasColours && colour.size() > 0 ? colour + line + QLatin1String("\x1b[0m") : line;
 }
 
+void Output::line(const QStringList& cells, const QString& text)
+{
+    Interruption::check();
+    if (m_form == Form::Json)
+        jsonRecord(cells);
+    else if (m_form != Form::Quiet)
+        m_device.put(shownCell(text).toLocal8Bit() + '\n');
+}
+
 void Output::whole(const QByteArray& bytes, const Column& column)
 {
     if (m_form == Form::Json) {

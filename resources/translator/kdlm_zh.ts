@@ -336,6 +336,34 @@ Put it in the place of the file to bring everything back.</source>
         <source>Lists what host libraries cannot read or read otherwise than written.</source>
         <translation>列出主机库无法读取或读出与所写不同的内容。</translation>
     </message>
+    <message>
+        <source>Lists what the families find in a profile, and what they read.</source>
+        <translation>列出两族函数在配置文件中找到和读出的内容。</translation>
+    </message>
+    <message>
+        <source>Prints what the families read.</source>
+        <translation>输出两族函数读出的内容。</translation>
+    </message>
+    <message>
+        <source>Writes a value through one of the families.</source>
+        <translation>通过其中一族函数写入一个值。</translation>
+    </message>
+    <message>
+        <source>Deletes what a family reads as a key or a section.</source>
+        <translation>删除一族函数读作键或节的内容。</translation>
+    </message>
+    <message>
+        <source>Writes all entries of the profile that is the standard input.</source>
+        <translation>写入来自标准输入的配置文件的所有条目。</translation>
+    </message>
+    <message>
+        <source>Tells the lines that a family drops, replaces or reads otherwise.</source>
+        <translation>指出一族函数丢弃、替换或读作其他内容的行。</translation>
+    </message>
+    <message>
+        <source>Lists what the two families read differently.</source>
+        <translation>列出两族函数读出不同的内容。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -813,6 +841,25 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>left out: &quot;%1&quot;: %2</source>
         <translation>已略过：“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FamilyOption</name>
+    <message>
+        <source>The wide family of calls.</source>
+        <translation>宽字符函数族。</translation>
+    </message>
+    <message>
+        <source>The narrow family of calls.</source>
+        <translation>窄字符函数族。</translation>
+    </message>
+    <message>
+        <source>Either --wide or --narrow, not both.</source>
+        <translation>--wide 与 --narrow 只能选其一。</translation>
+    </message>
+    <message>
+        <source>Say --wide or --narrow: the families write differently.</source>
+        <translation>请指定 --wide 或 --narrow：两族函数的写法不同。</translation>
     </message>
 </context>
 <context>
@@ -2195,6 +2242,38 @@ Put it in the place of the file to bring everything back.</source>
         <source>Outcome</source>
         <translation>结果</translation>
     </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>节</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>函数族</translation>
+    </message>
+    <message>
+        <source>Found by</source>
+        <translation>找到者</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>宽字符</translation>
+    </message>
+    <message>
+        <source>Narrow</source>
+        <translation>窄字符</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差异</translation>
+    </message>
 </context>
 <context>
     <name>PageCatalogue</name>
@@ -2402,6 +2481,20 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>ProfileCheckCommand</name>
+    <message>
+        <source>Tells comments too.</source>
+        <translation>也指出注释。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileCheckJob</name>
+    <message>
+        <source>The line is not UTF-8.</source>
+        <translation>该行不是 UTF-8。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileColumns</name>
     <message>
         <source>Narrow: %1
@@ -2552,6 +2645,29 @@ Wide: %2</source>
     <message>
         <source>%1 is larger than %2 MiB: no call of either family can read it.</source>
         <translation>%1 大于 %2 MiB：两种接口都无法读取。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileEdit</name>
+    <message>
+        <source>Prints the difference, and writes nothing.</source>
+        <translation>输出差异，不写入任何内容。</translation>
+    </message>
+    <message>
+        <source>Writes even where other lines change.</source>
+        <translation>即使其他行会改变也写入。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be written.</source>
+        <translation>未能写入 %1。</translation>
+    </message>
+    <message>
+        <source>Not written: other lines of %1 would change, as --dry-run shows; --force writes it.</source>
+        <translation>未写入：%1 的其他行会改变（见 --dry-run）；--force 可强制写入。</translation>
     </message>
 </context>
 <context>
@@ -2725,6 +2841,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ProfileEntries</name>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1：没有此文件。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileFindBar</name>
     <message>
         <source>Text to find</source>
@@ -2784,6 +2907,13 @@ Wide: %2</source>
     <message>
         <source>The last line gets a line end.</source>
         <translation>最后一行将加上行尾。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileGetCommand</name>
+    <message>
+        <source>%1 has no entry &quot;%2&quot; in the section &quot;%3&quot;.</source>
+        <translation>%1 的节“%3”中没有条目“%2”。</translation>
     </message>
 </context>
 <context>
@@ -2863,6 +2993,17 @@ Wide: %2</source>
     <message>
         <source>Stopped before all lines were searched.</source>
         <translation>已停止：尚未查找完所有行。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMergeCommand</name>
+    <message>
+        <source>The standard input cannot be read: %1</source>
+        <translation>无法读取标准输入：%1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>
