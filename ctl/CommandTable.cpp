@@ -1,5 +1,10 @@
 #include "ctl/CommandTable.h"
 
+#include "ctl/files/FilesFindCommand.h"
+#include "ctl/files/FilesStatCommand.h"
+#include "ctl/graphics/DisplaysListCommand.h"
+#include "ctl/graphics/FontsListCommand.h"
+#include "ctl/input/InputKeysCommand.h"
 #include "ctl/profiles/ProfileCheckCommand.h"
 #include "ctl/profiles/ProfileCompareCommand.h"
 #include "ctl/profiles/ProfileDeleteCommand.h"
@@ -80,6 +85,18 @@ const std::vector<CommandTable::Row>& CommandTable::rows()
          anyNumber, Needs::Nothing, made<ProfileCheckCommand>},
         {"profile", "compare", "FILE", QT_TR_NOOP("Lists what the two families read differently."),
          1, 1, Needs::Nothing, made<ProfileCompareCommand>},
+        {"files", "find", "PATTERN",
+         QT_TR_NOOP("Lists the find records that a host library gets for a pattern."), 1, 1,
+         Needs::Nothing, made<FilesFindCommand>},
+        {"files", "stat", "PATH",
+         QT_TR_NOOP("Prints what the directory service answers about a path."), 1, 1,
+         Needs::Nothing, made<FilesStatCommand>},
+        {"fonts", "list", "[FACE]", QT_TR_NOOP("Lists the records of the font service."), 0, 1,
+         Needs::Display, made<FontsListCommand>},
+        {"displays", "list", "", QT_TR_NOOP("Lists the monitors as the service answers them."), 0,
+         0, Needs::Display, made<DisplaysListCommand>},
+        {"input", "keys", "", QT_TR_NOOP("Lists what the key-state service answers."), 0, 0,
+         Needs::Display, made<InputKeysCommand>},
     };
     return all;
 }

@@ -364,6 +364,26 @@ Put it in the place of the file to bring everything back.</source>
         <source>Lists what the two families read differently.</source>
         <translation>列出两族函数读出不同的内容。</translation>
     </message>
+    <message>
+        <source>Lists the find records that a host library gets for a pattern.</source>
+        <translation>列出主机库按模式得到的查找记录。</translation>
+    </message>
+    <message>
+        <source>Prints what the directory service answers about a path.</source>
+        <translation>输出目录服务对一个路径的回答。</translation>
+    </message>
+    <message>
+        <source>Lists the records of the font service.</source>
+        <translation>列出字体服务的记录。</translation>
+    </message>
+    <message>
+        <source>Lists the monitors as the service answers them.</source>
+        <translation>按服务的回答列出显示器。</translation>
+    </message>
+    <message>
+        <source>Lists what the key-state service answers.</source>
+        <translation>列出按键状态服务的回答。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -776,6 +796,13 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>DisplaysListCommand</name>
+    <message>
+        <source>Lists the system metrics instead.</source>
+        <translation>改为列出系统指标。</translation>
+    </message>
+</context>
+<context>
     <name>DisplaysPage</name>
     <message>
         <source>Details</source>
@@ -1113,6 +1140,17 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Left out, because their names do not fit a record: %1.</source>
         <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>FontsListCommand</name>
+    <message>
+        <source>There is no character set &quot;%1&quot;.</source>
+        <translation>没有字符集“%1”。</translation>
+    </message>
+    <message>
+        <source>Only records of this character set, by its code.</source>
+        <translation>仅限此字符集（以代码指定）的记录。</translation>
     </message>
 </context>
 <context>
@@ -2273,6 +2311,98 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Difference</source>
         <translation>差异</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>读取时间</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>写入时间</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>回答</translation>
+    </message>
+    <message>
+        <source>Face</source>
+        <translation>字体名</translation>
+    </message>
+    <message>
+        <source>Full name</source>
+        <translation>全名</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>Character set</source>
+        <translation>字符集</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>粗细</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>斜体</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>已安装</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>Full area</source>
+        <translation>全部区域</translation>
+    </message>
+    <message>
+        <source>Work area</source>
+        <translation>工作区</translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation>主显示器</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>索引</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Known</source>
+        <translation>已知</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
     </message>
 </context>
 <context>
