@@ -58,4 +58,6 @@ constexpr Column code{"code", QT_TRANSLATE_NOOP("Output", "Code")};
 constexpr Column known{"known", QT_TRANSLATE_NOOP("Output", "Known")};
 constexpr Column state{"state", QT_TRANSLATE_NOOP("Output", "State")};
 
+constexpr Column digest{"digest", QT_TRANSLATE_NOOP("Output", "Digest")};
+
 } // namespace Columns

@@ -1,5 +1,9 @@
 #include "ctl/CommandTable.h"
 
+#include "ctl/crypto/CryptoBase64Command.h"
+#include "ctl/crypto/CryptoDecryptCommand.h"
+#include "ctl/crypto/CryptoDigestCommand.h"
+#include "ctl/crypto/CryptoEncryptCommand.h"
 #include "ctl/files/FilesFindCommand.h"
 #include "ctl/files/FilesStatCommand.h"
 #include "ctl/graphics/DisplaysListCommand.h"
@@ -97,6 +101,17 @@ const std::vector<CommandTable::Row>& CommandTable::rows()
          0, Needs::Display, made<DisplaysListCommand>},
         {"input", "keys", "", QT_TR_NOOP("Lists what the key-state service answers."), 0, 0,
          Needs::Display, made<InputKeysCommand>},
+        {"crypto", "encrypt", "[FILE]",
+         QT_TR_NOOP("Encrypts a file or the standard input as host libraries do it."), 0, 1,
+         Needs::Nothing, made<CryptoEncryptCommand>},
+        {"crypto", "decrypt", "[FILE]",
+         QT_TR_NOOP("Decrypts a file or the standard input, or tells why that fails."), 0, 1,
+         Needs::Nothing, made<CryptoDecryptCommand>},
+        {"crypto", "digest", "[FILE]",
+         QT_TR_NOOP("Prints the digests of a file or the standard input."), 0, 1, Needs::Nothing,
+         made<CryptoDigestCommand>},
+        {"crypto", "base64", "[FILE]", QT_TR_NOOP("Encodes or decodes URL-safe Base64."), 0, 1,
+         Needs::Nothing, made<CryptoBase64Command>},
     };
     return all;
 }

@@ -190,6 +190,28 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>ByteInput</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ByteResult</name>
+    <message>
+        <source>Writes into this file.</source>
+        <translation>写入此文件。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file by --output.</source>
+        <translation>使用 --json 时，请用 --output 指定文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>ChangeReport</name>
     <message>
         <source>%1 %2</source>
@@ -384,6 +406,22 @@ Put it in the place of the file to bring everything back.</source>
         <source>Lists what the key-state service answers.</source>
         <translation>列出按键状态服务的回答。</translation>
     </message>
+    <message>
+        <source>Encrypts a file or the standard input as host libraries do it.</source>
+        <translation>按主机库的方式加密文件或标准输入。</translation>
+    </message>
+    <message>
+        <source>Decrypts a file or the standard input, or tells why that fails.</source>
+        <translation>解密文件或标准输入，或说明失败的原因。</translation>
+    </message>
+    <message>
+        <source>Prints the digests of a file or the standard input.</source>
+        <translation>输出文件或标准输入的摘要。</translation>
+    </message>
+    <message>
+        <source>Encodes or decodes URL-safe Base64.</source>
+        <translation>编码或解码 URL 安全的 Base64。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -394,6 +432,31 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Copy: %1</source>
         <translation>复制：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoBase64Command</name>
+    <message>
+        <source>Decodes instead of encoding.</source>
+        <translation>解码而不是编码。</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoDecryptCommand</name>
+    <message>
+        <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
+        <translation>库在第一个零字节之前结束文本。略去的字节数：%L1。</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoDigestCommand</name>
+    <message>
+        <source>Prints the digest of both this text and the first one, too.</source>
+        <translation>同时输出此文本与第一个文本的合并摘要。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -1763,6 +1826,41 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>KeyOptions</name>
+    <message>
+        <source>Pass phrase</source>
+        <translation>口令</translation>
+    </message>
+    <message>
+        <source>A descriptor is a number, not &quot;%1&quot;.</source>
+        <translation>描述符是数字，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>The pass phrase is the contents of this file; without any such option it is asked for on the terminal.</source>
+        <translation>口令为此文件的内容；若无此类选项，则在终端上询问。</translation>
+    </message>
+    <message>
+        <source>The pass phrase is read from this descriptor.</source>
+        <translation>从此描述符读取口令。</translation>
+    </message>
+    <message>
+        <source>The key is the contents of this file.</source>
+        <translation>密钥为此文件的内容。</translation>
+    </message>
+    <message>
+        <source>The IV is the contents of this file.</source>
+        <translation>IV 为此文件的内容。</translation>
+    </message>
+    <message>
+        <source>Key and IV are pairs of hexadecimal digits.</source>
+        <translation>密钥和 IV 为成对的十六进制数字。</translation>
+    </message>
+    <message>
+        <source>Give a pass phrase, or both --key-file and --iv-file.</source>
+        <translation>请给出口令，或同时给出 --key-file 和 --iv-file。</translation>
+    </message>
+</context>
+<context>
     <name>KeyPanel</name>
     <message>
         <source>Unknown to the service, as every other code: these always read as up.</source>
@@ -2403,6 +2501,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>State</source>
         <translation>状态</translation>
+    </message>
+    <message>
+        <source>Digest</source>
+        <translation>摘要</translation>
     </message>
 </context>
 <context>
@@ -4203,6 +4305,21 @@ Wide: %2</source>
     <message>
         <source>The value &quot;%1&quot; of %2 goes with it.</source>
         <translation>%2 的值“%1”也会一并删除。</translation>
+    </message>
+</context>
+<context>
+    <name>Secret</name>
+    <message>
+        <source>The secret cannot be read: %1</source>
+        <translation>无法读取密钥信息：%1</translation>
+    </message>
+    <message>
+        <source>There is no terminal to ask for the secret on: name a file.</source>
+        <translation>没有可供询问密钥信息的终端：请指定文件。</translation>
+    </message>
+    <message>
+        <source>The terminal would show the secret: name a file.</source>
+        <translation>终端会显示密钥信息：请指定文件。</translation>
     </message>
 </context>
 <context>
