@@ -117,7 +117,9 @@ void Output::jsonRecord(const QStringList& cells)
 
 void Output::flushTable()
 {
-    if (m_records++ == 0 && !m_rows.empty() && m_columns.size() > 1) {
+    if (m_rows.empty())
+        return;
+    if (m_records++ == 0 && m_columns.size() > 1) {
         QStringList titles;
         for (const Column& column : m_columns)
             titles.append(tr(column.title));
@@ -173,6 +175,12 @@ void Output::note(const QString& text) const
 {
     if (m_form != Form::Quiet)
         showMessage(text);
+}
+
+void Output::flush()
+{
+    flushTable();
+    m_device.finish();
 }
 
 void Output::finish(ExitStatus status, const QString& error)

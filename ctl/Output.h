@@ -62,6 +62,8 @@ public:
     /// A remark beside the records, on the standard error; not when quiet.
     void note(const QString& text) const;
 
+    /// Writes what is still in the buffers.
+    void flush();
     /// Ends the document and writes everything.
     void finish(ExitStatus status, const QString& error = {});
 

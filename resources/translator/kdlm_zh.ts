@@ -422,6 +422,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Encodes or decodes URL-safe Base64.</source>
         <translation>编码或解码 URL 安全的 Base64。</translation>
     </message>
+    <message>
+        <source>Prints changes as they are saved, until it is interrupted.</source>
+        <translation>在更改保存时输出更改，直到被中断。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
