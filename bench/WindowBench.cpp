@@ -5,8 +5,14 @@
 #include "bench/Ratio.h"
 
 #include "host/HostLibraries.h"
+#include "inspection/registry/CompletionJob.h"
+#include "inspection/registry/KeysAlongJob.h"
+#include "inspection/registry/NearestKeyJob.h"
+#include "inspection/registry/RegistryImportJob.h"
 #include "inspection/registry/RegistrySearchJob.h"
+#include "inspection/registry/RemovalText.h"
 #include "inspection/registry/StoreOpeningJob.h"
+#include "inspection/registry/TypedAddress.h"
 #include "pages/files/FilesPage.h"
 #include "pages/registry/RegistryPage.h"
 #include "platform/PlatformServicesImp.h"
@@ -97,23 +103,12 @@ void searchAgainstPlainReading(benchmark::State& state)
     compare(state, searchAll, readAll);
 }
 
-double longestSearchStep()
+double longestStep(Job&& job)
 {
-    RegistrySearchJob search({QStringLiteral("no such text")});
     double longest = 0;
     bool more = true;
     while (more)
-        longest = qMax(longest, stall([&more, &search] { more = search.step(); }));
-    return longest;
-}
-
-double longestOpeningStep()
-{
-    StoreOpeningJob opening;
-    double longest = 0;
-    bool more = true;
-    while (more)
-        longest = qMax(longest, stall([&more, &opening] { more = opening.step(); }));
+        longest = qMax(longest, stall([&more, &job] { more = job.step(); }));
     return longest;
 }
 
@@ -153,6 +148,28 @@ void measureFilesPage()
     print("files page: scroll, the longest", longestScroll(*table));
 }
 
+// The work that looks at each name of one very large key.
+void measureHugeKey()
+{
+    std::vector<RegistryValueName> names;
+    QByteArray file("Windows Registry Editor Version 5.00\n[HKEY_CURRENT_USER\\Huge]\n");
+    for (int i = 0; i < values; ++i) {
+        names.push_back({QStringLiteral("Huge"), QStringLiteral("Value%1").arg(i)});
+        g_globalSettings->setValue(names.back().key + QLatin1Char('/') + names.back().name,
+                                   QStringLiteral("1$1"));
+        file += "\"Value" + QByteArray::number(i) + "\"=dword:00000001\n";
+    }
+    const auto index = RegistryIndex::read();
+    const QString typed = QStringLiteral("HKLM\\Huge\\Vaule1");
+    print("a key of 100,000: complete, the longest step",
+          longestStep(CompletionJob(index, QStringLiteral("HKLM\\Huge\\v"), 100)));
+    print("a key of 100,000: mistyped, the longest step",
+          longestStep(NearestKeyJob(index, pathsOfAddress(typed))));
+    print("a key of 100,000: delete all, the longest step",
+          longestStep(KeysAlongJob(std::move(names), RemovalText::mostNamed)));
+    print("a key of 100,000: import, the longest step", longestStep(RegistryImportJob(file)));
+}
+
 void measureRegistryPage()
 {
     std::unique_ptr<RegistryPage> made;
@@ -162,14 +179,15 @@ void measureRegistryPage()
               made->show();
           }));
     RegistryPage& page = *made;
-    print("registry page: open the store, the longest", longestOpeningStep());
+    print("registry page: open the store, the longest", longestStep(StoreOpeningJob()));
     print("registry page: list the store first", stall([&page] { page.refresh(); }));
     print("registry page: refresh", stall([&page] { page.refresh(); }));
     print("registry page: a key of 10,000 values",
           stall([&page] { page.goTo(QStringLiteral("Vendor0/Large")); }));
     auto* table = page.findChild<QTableView*>(QStringLiteral("values"));
     print("registry page: scroll, the longest", longestScroll(*table));
-    print("registry page: search, the longest step", longestSearchStep());
+    print("registry page: search, the longest step",
+          longestStep(RegistrySearchJob({QStringLiteral("no such text")})));
 
     QTableView plain;
     QStringListModel model;
@@ -210,5 +228,6 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     measureFilesPage();
     measureRegistryPage();
+    measureHugeKey();
     return 0;
 }

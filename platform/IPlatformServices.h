@@ -385,7 +385,9 @@ public:
 
     /// Makes a key exist: at first as an entry of its parent, not yet as a sub-key that is listed.
     /// Never delivers a handle: `result` itself is left pointing at nothing and the caller's HKEY
-    /// stays as it was. Open the key to get one.
+    /// stays as it was. Open the key to get one. Of a name that begins with U+FEFF that character
+    /// is left out. Directly under a root, "general" in any case of letters is "General" after a
+    /// restart, once the key has values or keys.
     virtual unsigned int RegCreateKeyExW(HKEY key, const wchar_t* subKey, unsigned int reserved,
                                          wchar_t* keyClass, unsigned int options,
                                          unsigned int access, _SECURITY_ATTRIBUTES* attributes,
@@ -405,7 +407,9 @@ public:
     /// Writes a value of type REG_DWORD, REG_NONE (as a DWORD), REG_SZ, REG_BINARY or REG_QWORD. Of
     /// a DWORD whose size is not 4, and of every QWORD, only the first byte is kept; a text is read
     /// up to its NUL, whatever the size. Null data, any other type and binary data of size 0 fail.
-    /// A name of "\" alone makes a value that is listed with an empty name.
+    /// A name of "\" alone makes a value that is listed with an empty name; after a restart it is
+    /// gone, except from a key directly under a root. U+FEFF and "general" are treated as
+    /// `RegCreateKeyExW` says, the latter at once.
     virtual unsigned int RegSetValueExW(HKEY key, const wchar_t* valueName, unsigned int reserved,
                                         unsigned int type, const unsigned char* data,
                                         unsigned int byteCount) = 0;

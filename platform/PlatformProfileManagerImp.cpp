@@ -2,34 +2,31 @@
 
 #include "platform/profiles/NarrowProfile.h"
 #include "platform/profiles/NarrowProfileFile.h"
+#include "platform/profiles/NarrowSearch.h"
+#include "platform/profiles/WideProfile.h"
 
-#include <QSettings>
 #include <QString>
 #include <QStringList>
-#include <QVariant>
 
 #include <cstring>
 #include <cwchar>
+#include <new>
+#include <optional>
 #include <string>
 
 namespace {
 
-// One file as the wide calls see it, for the length of one call. Saved when it is destroyed.
-class WideProfile
+// What the operation answers, or `failure` where there is no memory for it: callers know of no
+// exceptions. QSettings and the containers of Qt throw this one alone.
+template <typename Result, typename Operation>
+Result unlessTooLarge(const Result& failure, Operation operation)
 {
-public:
-    explicit WideProfile(const wchar_t* file)
-        : m_settings(QString::fromWCharArray(file), QSettings::IniFormat)
-    {
-        m_settings.setIniCodec("utf-8"); // before the first read: what is read stays as it is
+    try {
+        return operation();
+    } catch (const std::bad_alloc&) {
+        return failure;
     }
-
-    QSettings* operator->() { return &m_settings; }
-    QSettings& operator*() { return m_settings; }
-
-private:
-    QSettings m_settings;
-};
+}
 
 QString entryName(const wchar_t* section, const wchar_t* key)
 {
@@ -55,9 +52,71 @@ QString valueOf(const QSettings& section, const QString& key)
     return section.value(key.isEmpty() ? QStringLiteral("/") : key).toString();
 }
 
+// A file that cannot be read has no value.
+QByteArray narrowValue(const char* section, const char* key, const char* file)
+{
+    NarrowProfileFile profileFile(QString::fromUtf8(file));
+    NarrowSearch search(headerOf(section), QString::fromUtf8(key));
+    const bool isRead = profileFile.open(QIODevice::ReadOnly) &&
+                        profileFile.read([&search](const QString& piece) { search.add(piece); });
+    return isRead ? search.finish().toUtf8() : QByteArray();
+}
+
+int writeNarrow(const char* section, const char* key, const char* value, const char* file)
+{
+    NarrowProfileFile profileFile(QString::fromUtf8(file));
+    if (!profileFile.open(QIODevice::ReadWrite))
+        return 0;
+    const QString header = headerOf(section);
+    const QString name = QString::fromUtf8(key);
+    const QString written = QString::fromUtf8(value);
+    const std::optional<QString> text = profileFile.text();
+    if (!text)
+        return 0;
+    NarrowProfile profile(*text);
+    profile.setValue(header, name, written);
+    profileFile.rewrite(profile);
+    return 1;
+}
+
+QString wideValue(const wchar_t* section, const wchar_t* key, const wchar_t* fallback,
+                  const wchar_t* file)
+{
+    const QString otherwise = QString::fromWCharArray(fallback);
+    WideProfile profile(file);
+    return profile.isReadable() ? profile->value(entryName(section, key), otherwise).toString()
+                                : otherwise;
+}
+
 wchar_t* copied(const QString& text, wchar_t* out)
 {
     return out + text.toWCharArray(out);
+}
+
+// Each entry with a NUL behind it; returns the end.
+wchar_t* copiedSection(const wchar_t* section, const wchar_t* file, wchar_t* out)
+{
+    WideProfile profile(file);
+    if (!profile.isReadable())
+        return out;
+    profile->beginGroup(QString::fromWCharArray(section));
+    const QStringList keys = keysOf(*profile);
+    for (const QString& key : keys) {
+        out = copied(key + QLatin1Char('=') + valueOf(*profile, key), out);
+        *out++ = L'\0';
+    }
+    return out;
+}
+
+// Saved here and not when the settings are destroyed, which would not tell that no memory was left.
+int writeWide(const wchar_t* section, const wchar_t* key, const wchar_t* value, const wchar_t* file)
+{
+    WideProfile profile(file);
+    if (!profile.isReadable())
+        return 0;
+    const QString text = value ? QString::fromWCharArray(value) : QLatin1String("");
+    profile.write(entryName(section, key), text);
+    return 1;
 }
 
 } // namespace
@@ -70,12 +129,12 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileStringW(const wchar_t* 
 {
     if (!section || !key || !buffer || !file || size == 0)
         return 0;
-    WideProfile profile(file);
-    const QVariant otherwise = QString::fromWCharArray(fallback);
-    const QString text = profile->value(entryName(section, key), otherwise).toString();
+    const std::wstring text = unlessTooLarge(std::wstring(fallback ? fallback : L""), [&] {
+        return wideValue(section, key, fallback, file).toStdWString();
+    });
     // That many bytes, not characters. Intended: callers see the rest of their buffer untouched.
     std::memset(buffer, 0, size);
-    std::wcsncpy(buffer, text.toStdWString().c_str(), size - 1);
+    std::wcsncpy(buffer, text.c_str(), size - 1);
     return static_cast<unsigned int>(std::wcslen(buffer));
 }
 
@@ -87,11 +146,9 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileStringA(const char* sec
 {
     if (!section || !key || !buffer || !file || size == 0)
         return 0;
-    NarrowProfileFile profileFile(QString::fromUtf8(file));
-    const QString text = profileFile.open(QIODevice::ReadOnly) ? profileFile.text() : QString();
-    const NarrowProfile profile(text);
     // The fallback does not stand in for a missing value. Intended: callers test for empty text.
-    const QByteArray value = profile.value(headerOf(section), QString::fromUtf8(key)).toUtf8();
+    const QByteArray value =
+        unlessTooLarge(QByteArray(), [&] { return narrowValue(section, key, file); });
     std::strncpy(buffer, value.constData(), size - 1);
     return static_cast<unsigned int>(std::strlen(buffer));
 }
@@ -102,8 +159,12 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileIntW(const wchar_t* sec
 {
     if (!section || !key || !file)
         return static_cast<unsigned int>(fallback);
-    WideProfile profile(file);
-    return static_cast<unsigned int>(profile->value(entryName(section, key), fallback).toInt());
+    const int value = unlessTooLarge(fallback, [&] {
+        WideProfile profile(file);
+        return profile.isReadable() ? profile->value(entryName(section, key), fallback).toInt()
+                                    : fallback;
+    });
+    return static_cast<unsigned int>(value);
 }
 
 unsigned int PlatformProfileManagerImp::GetPrivateProfileIntA(const char* /*section*/,
@@ -127,15 +188,8 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileSectionW(const wchar_t*
 {
     if (!section || !buffer || !file)
         return 0;
-    WideProfile profile(file);
-    profile->beginGroup(QString::fromWCharArray(section));
-    const QStringList keys = keysOf(*profile);
     // The size bounds nothing. Intended.
-    wchar_t* end = buffer;
-    for (const QString& key : keys) {
-        end = copied(key + QLatin1Char('=') + valueOf(*profile, key), end);
-        *end++ = L'\0';
-    }
+    wchar_t* end = unlessTooLarge(buffer, [&] { return copiedSection(section, file, buffer); });
     *end++ = L'\0';
     return static_cast<unsigned int>(end - buffer);
 }
@@ -146,10 +200,7 @@ int PlatformProfileManagerImp::WritePrivateProfileStringW(const wchar_t* section
 {
     if (!section || !key || !file)
         return 0;
-    WideProfile profile(file);
-    const QString text = value ? QString::fromWCharArray(value) : QLatin1String("");
-    profile->setValue(entryName(section, key), text);
-    return 1;
+    return unlessTooLarge(0, [&] { return writeWide(section, key, value, file); });
 }
 
 int PlatformProfileManagerImp::WritePrivateProfileStringA(const char* section, const char* key,
@@ -157,17 +208,7 @@ int PlatformProfileManagerImp::WritePrivateProfileStringA(const char* section, c
 {
     if (!section || !key || !file)
         return 0;
-    NarrowProfileFile profileFile(QString::fromUtf8(file));
-    if (!profileFile.open(QIODevice::ReadWrite))
-        return 0;
-    const QString header = headerOf(section);
-    const QString name = QString::fromUtf8(key);
-    const QString written = QString::fromUtf8(value);
-    const QString text = profileFile.text();
-    NarrowProfile profile(text);
-    profile.setValue(header, name, written);
-    profileFile.rewrite(profile.toText());
-    return 1;
+    return unlessTooLarge(0, [&] { return writeNarrow(section, key, value, file); });
 }
 
 int PlatformProfileManagerImp::OpenPrivateProfile(const wchar_t* /*file*/)

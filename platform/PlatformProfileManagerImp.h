@@ -6,6 +6,11 @@
 /// INI file in UTF-8 with case-sensitive names, the narrow ones on `NarrowProfile`. Nothing is kept
 /// between calls but for the last time stamp given.
 ///
+/// Neither family waits or throws: a pipe, a device that has no end, and what the memory does not
+/// hold read as a file without entries, and a write to them answers 0 and leaves them as they are.
+/// The narrow read keeps no more of a file than the value; the narrow write needs a file of up to
+/// 1,000 MiB, the wide calls one below 2 GiB.
+///
 /// The limits of `QSettings` are those of the wide calls. The section "General" is "[%General]" in
 /// the file; what stands under "[General]" is out of their reach. A value with an unquoted comma is
 /// a list and reads as empty text; an unquoted semicolon ends a value. Characters beyond the BMP

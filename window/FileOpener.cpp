@@ -25,12 +25,12 @@ bool isDrag(const QEvent& event)
 } // namespace
 
 FileOpener::FileOpener(QWidget* window, PageRail* rail, PageStack* stack)
-    : QObject(window), m_window(window), m_rail(rail), m_stack(stack)
+    : QObject(window), m_window(window), m_rail(rail), m_stack(stack), m_waiting(new QTimer(this))
 {
     window->setAcceptDrops(true);
     qApp->installEventFilter(this);
-    m_waiting.setInterval(waitMilliseconds);
-    connect(&m_waiting, &QTimer::timeout, this, &FileOpener::deliver);
+    m_waiting->setInterval(waitMilliseconds);
+    connect(m_waiting, &QTimer::timeout, this, &FileOpener::deliver);
 }
 
 int FileOpener::pageFor(const QString& path) const
@@ -50,7 +50,7 @@ void FileOpener::open(const QString& path)
     m_path = path;
     m_rail->setChosen(page);
     m_stack->slideTo(page);
-    m_waiting.start();
+    m_waiting->start();
     deliver();
 }
 
@@ -60,11 +60,11 @@ void FileOpener::deliver()
 {
     const int index = pageFor(m_path);
     if (m_rail->choice() != index)
-        return m_waiting.stop();
+        return m_waiting->stop();
     Page* page = m_stack->current() == index ? m_stack->page(index) : nullptr;
     if (!page || page->isBusy() || QApplication::activeModalWidget())
         return;
-    m_waiting.stop();
+    m_waiting->stop();
     page->openFile(m_path);
 }
 

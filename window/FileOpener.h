@@ -39,5 +39,5 @@ private:
     PageRail* m_rail;
     PageStack* m_stack;
     QString m_path; ///< that is to be opened
-    QTimer m_waiting;
+    QTimer* m_waiting;
 };

@@ -3,6 +3,7 @@
 #include "app/ApplicationLog.h"
 #include "app/HostInformation.h"
 #include "inspection/registry/RawStore.h"
+#include "inspection/registry/StoreWatch.h"
 #include "window/AccessibleRole.h"
 #include "window/FaintText.h"
 #include "window/FileOpener.h"
@@ -40,7 +41,8 @@ QSize firstSize(const QWidget& window)
 
 } // namespace
 
-MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
+MainWindow::MainWindow(QWidget* parent)
+    : QWidget(parent), m_storeWatch(std::make_unique<StoreWatch>())
 {
     logInfo(QStringLiteral("Host library %1, settings store %2")
                 .arg(HostInformation::libraryPath(), RawStore::fileName()));
@@ -76,6 +78,8 @@ MainWindow::MainWindow(QWidget* parent) : QWidget(parent)
     setMinimumSize(smallestWindow.expandedTo(minimumSizeHint()));
     resize(firstSize(*this).expandedTo(minimumSize()));
 }
+
+MainWindow::~MainWindow() = default;
 
 void MainWindow::addShortcuts(int pages)
 {

@@ -3,12 +3,14 @@
 #include <QString>
 #include <QWidget>
 
+#include <memory>
 #include <vector>
 
 class HelpWindow;
 class Page;
 class PageRail;
 class PageStack;
+class StoreWatch;
 
 /// The application's window: a rail of buttons, the pages, and a status line. Construct it after
 /// the translators are installed. That takes little time, because a page is made on its first
@@ -19,6 +21,7 @@ class MainWindow : public QWidget
 
 public:
     explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     /// Opens on the page of this name, without sliding. Each page has one, such as "registry"; an
     /// unknown name changes nothing. Call it before the window is shown.
@@ -37,6 +40,8 @@ private:
     void showHelp();
     void logPage(int page);
 
+    /// Watches from the beginning, so that a page knows what happens before it is made.
+    std::unique_ptr<const StoreWatch> m_storeWatch;
     std::vector<QString> m_names;
     PageRail* m_rail;
     PageStack* m_stack;

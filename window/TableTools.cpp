@@ -1,5 +1,6 @@
 #include "window/TableTools.h"
 
+#include "window/MenuKey.h"
 #include "window/SortableTableModel.h"
 
 #include <QAction>
@@ -46,6 +47,7 @@ TableTools::TableTools(QTableView* table) : QObject(table), m_table(table)
     connect(model, &QAbstractItemModel::modelAboutToBeReset, &m_runner, &JobRunner::cancel);
     connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, &m_runner, &JobRunner::cancel);
     connect(model, &QAbstractItemModel::layoutAboutToBeChanged, &m_runner, &JobRunner::cancel);
+    new MenuKey(table);
     table->installEventFilter(this);
     table->viewport()->installEventFilter(this);
 }
@@ -107,16 +109,12 @@ bool TableTools::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-// Where an action of the page has one of these keys, the key does not come here.
+// Where an action of the page has this key, it does not come here.
 bool TableTools::takesKey(const QKeyEvent& press)
 {
-    if (press.matches(QKeySequence::Copy)) {
-        copy(TableCopyJob::WithoutHeader);
-        return true;
-    }
-    if (press.key() != Qt::Key_F10 || press.modifiers() != Qt::ShiftModifier)
+    if (!press.matches(QKeySequence::Copy))
         return false;
-    showMenu(currentPlace());
+    copy(TableCopyJob::WithoutHeader);
     return true;
 }
 

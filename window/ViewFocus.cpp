@@ -74,6 +74,9 @@ void ViewFocus::arrange()
 
 bool ViewFocus::eventFilter(QObject* watched, QEvent* event)
 {
+    // The focus leaves a view that goes when this is no more than a QWidget.
+    if (!qobject_cast<QAbstractItemView*>(watched))
+        return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::FocusIn:
     case QEvent::FocusOut:

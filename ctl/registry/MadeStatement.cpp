@@ -17,6 +17,8 @@ struct MadeStatementTexts
 std::shared_ptr<const ImportPlan> MadeStatement::planOf(const RegFileEntry& entry)
 {
     auto plan = std::make_shared<ImportPlan>();
+    while (plan->readSome(entry)) {
+    }
     plan->add(entry);
     return plan;
 }

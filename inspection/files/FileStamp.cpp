@@ -42,8 +42,14 @@ FileStamp FileStamp::of(const QString& path)
     return stamp;
 }
 
+bool FileStamp::isSameFile(const FileStamp& other) const
+{
+    return std::tie(m_exists, m_device, m_number) ==
+           std::tie(other.m_exists, other.m_device, other.m_number);
+}
+
 bool operator==(const FileStamp& a, const FileStamp& b)
 {
-    return std::tie(a.m_exists, a.m_device, a.m_number, a.m_size, a.m_written, a.m_changed) ==
-           std::tie(b.m_exists, b.m_device, b.m_number, b.m_size, b.m_written, b.m_changed);
+    return a.isSameFile(b) && std::tie(a.m_size, a.m_written, a.m_changed) ==
+                                  std::tie(b.m_size, b.m_written, b.m_changed);
 }

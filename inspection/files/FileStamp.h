@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// In which state a file or a folder is, as one call of `stat` tells: two stamps of the same path
-/// are equal where nothing has changed between them.
+/// Which file or folder stands at a path and in which state, as one call of `stat` tells: two
+/// stamps of the same path are equal where nothing has changed between them.
 class FileStamp
 {
 public:
@@ -12,6 +12,10 @@ public:
 
     /// Of what stands there now, which may be nothing.
     static FileStamp of(const QString& path);
+
+    bool exists() const { return m_exists; }
+    /// True where it is the same file, which may have been written to meanwhile.
+    bool isSameFile(const FileStamp& other) const;
 
     /// False where the last change was so shortly before that another one may get the same time:
     /// the system counts it in steps.

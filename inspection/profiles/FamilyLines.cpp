@@ -14,7 +14,8 @@ std::vector<LineReading> readingsOf(const QString& path, ProfileFamily family)
     if (family == ProfileFamily::Wide)
         return WideLines(ProfileDocument::bytesOf(path)).readings();
     NarrowProfileFile file(path);
-    const QString text = file.open(QIODevice::ReadOnly) ? file.text() : QString();
+    const QString text =
+        file.open(QIODevice::ReadOnly) ? file.text().value_or(QString()) : QString();
     return NarrowLines(text).readings();
 }
 

@@ -14,6 +14,7 @@ class FamilyLines
 public:
     FamilyLines(const QString& path, ProfileFamily family);
 
+    int count() const { return static_cast<int>(m_readings.size()); }
     /// A blank one beyond the last line.
     const LineReading& at(int line) const;
     /// True for the entry that a change sets or deletes, as the family finds it.

@@ -2,10 +2,12 @@
 
 #include "platform/profiles/NarrowProfileFile.h"
 
+#include <QFileInfo>
+
 std::optional<QByteArray> ProfileBytes::of(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) // a pipe would be waited for
         return std::nullopt;
     return file.readAll();
 }

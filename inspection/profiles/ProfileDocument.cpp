@@ -1,13 +1,13 @@
 #include "inspection/profiles/ProfileDocument.h"
 
+#include "inspection/profiles/ProfileBytes.h"
+#include "platform/profiles/WideProfile.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 
 namespace {
-
-// What a text of Qt holds: beyond it the calls of the narrow family would end the program.
-constexpr qint64 largestFile = qint64{1000} * 1024 * 1024;
 
 // Bytes of a line that anybody looks at.
 constexpr int longestText = 8192;
@@ -27,20 +27,33 @@ QString ProfileDocument::fault(const QString& path)
         return tr("%1 is not a regular file.").arg(file.filePath());
     if (file.exists() && !file.isReadable())
         return tr("%1 cannot be read.").arg(file.filePath());
-    if (file.size() > largestFile)
-        return tr("%1 is larger than %2 MiB: no call of either family can read it.")
-            .arg(file.filePath(), QLocale().toString(largestFile / 1024 / 1024));
     return {};
 }
 
 QByteArray ProfileDocument::bytesOf(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return ProfileBytes::of(path).value_or(QByteArray());
+}
+
+QString ProfileDocument::restriction() const
+{
+    if (m_lines.hasMarks())
+        return {};
+    QStringList sentences = {tr("The file is too large for more than its lines.")};
+    if (m_lines.count() == FileLines::mostLines)
+        sentences << tr("They are the first %1.").arg(QLocale().toString(m_lines.count()));
+    if (m_size > WideProfile::largestFile)
+        sentences << tr("The wide family cannot read it: it answers with the default.");
+    if (m_size > NarrowProfileFile::largestText)
+        sentences << tr("The narrow family reads it, but cannot write to it.");
+    return sentences.join(QLatin1Char(' '));
 }
 
 ProfileDocument::ProfileDocument(const QString& path)
-    : m_path(path), m_exists(QFileInfo::exists(path)), m_isLarge(QFileInfo(path).size() > largeFile)
+    : m_path(path),
+      m_exists(QFileInfo::exists(path)),
+      m_isLarge(QFileInfo(path).size() > largeFile),
+      m_size(QFileInfo(path).size())
 {
 }
 

@@ -2,6 +2,7 @@
 
 #include "inspection/profiles/ProfileNames.h"
 #include "platform/profiles/LineReading.h"
+#include "platform/profiles/NarrowProfileFile.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -27,6 +28,9 @@ public:
     /// Section and key.
     using Name = ProfileNames::Name;
 
+    /// Bytes of the largest file of which more than the lines is kept.
+    static constexpr qint64 largestWhole = NarrowProfileFile::largestText;
+
     /// Why the path cannot be a profile, or an empty text.
     static QString fault(const QString& path);
 
@@ -39,6 +43,8 @@ public:
 
     const QString& path() const { return m_path; }
     bool exists() const { return m_exists; }
+    /// What is not told of a file of which only the lines are kept, in sentences; otherwise empty.
+    QString restriction() const;
     /// True where the services take milliseconds for one call.
     bool isLarge() const { return m_isLarge; }
 
@@ -56,6 +62,7 @@ private:
     QString m_path;
     bool m_exists = false;
     bool m_isLarge = false;
+    qint64 m_size = 0;
     ProfileLines m_lines;
     ProfileNames m_names;
 };

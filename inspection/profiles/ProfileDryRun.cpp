@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+#include <new>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -37,6 +39,16 @@ QString ProfileDryRun::writtenFile() const
 }
 
 bool ProfileDryRun::step()
+{
+    try {
+        return stepTrial();
+    } catch (const std::bad_alloc&) {
+        m_isTooLarge = true;
+        return false;
+    }
+}
+
+bool ProfileDryRun::stepTrial()
 {
     switch (m_stage++) {
     case 0: m_bytes = ProfileBytes::of(m_file); return true;

@@ -21,10 +21,14 @@ public:
     /// what was deleted. Like everything below this is known when the job is done; where it is
     /// false, the rest is not looked at.
     bool isReadBack() const { return m_writing.isReadBack(); }
+    /// True where there was not memory enough.
+    bool isTooLarge() const { return m_isTooLarge; }
     /// The file as it was found; nothing where there was none.
     const std::optional<QByteArray>& bytes() const { return m_bytes; }
     /// What the family read before; null where it found nothing.
     QString former() const;
+    /// What goes with a section that is deleted.
+    const FormerEntries& formerEntries() const { return m_writing.formerEntries(); }
     /// True where the family reads the value already that is to be set: writing it would only lose
     /// what the family misreads.
     bool isReadAlready() const;
@@ -34,6 +38,7 @@ private:
     QString formerFile() const;
     QString writtenFile() const;
     bool copyTo(const QString& path) const;
+    bool stepTrial();
     bool tryOut();
     void compare();
     void takeDifference();
@@ -46,4 +51,5 @@ private:
     std::unique_ptr<Computation<ProfileDifference>> m_comparison;
     std::shared_ptr<const ProfileDifference> m_difference;
     int m_stage = 0;
+    bool m_isTooLarge = false;
 };

@@ -19,7 +19,8 @@ using Marks = std::vector<bool>;
 Marks narrowMarks(const QString& path, const ProfileChange& change)
 {
     NarrowProfileFile file(path);
-    const QString text = file.open(QIODevice::ReadOnly) ? file.text() : QString();
+    const QString text =
+        file.open(QIODevice::ReadOnly) ? file.text().value_or(QString()) : QString();
     const QString header = QLatin1Char('[') + change.section + QLatin1Char(']');
     Marks marks;
     for (NarrowScanner line(text); line.next();) {
@@ -35,16 +36,31 @@ bool isWideHeader(const ByteLines& lines, int line, const QString& section)
     const std::string_view content = lines.at(line);
     const QByteArray bytes(content.data(), static_cast<int>(content.size()));
     const QByteArray header = bytes.mid(line == 0 ? lines.markSize() : 0).trimmed();
-    return IniName::sectionPrefix(header) == section + QLatin1Char('/');
+    return IniName::sectionPrefix(header) ==
+           (section.isEmpty() ? QString() : section + QLatin1Char('/'));
 }
 
+bool isEntry(LineState state)
+{
+    return state == LineState::Entry || state == LineState::ReplacedKey ||
+           state == LineState::NotFound;
+}
+
+// What the wide family finds in no section stands under [General], and before the first header.
+// There a comment speaks of the file, and stays.
 Marks wideSectionMarks(const ByteLines& lines, const FamilyLines& readings, const QString& section)
 {
     Marks marks;
     bool isInside = false;
+    bool isBeforeHeaders = true;
     for (int line = 0; line < lines.count(); ++line) {
-        if (readings.at(line).state == LineState::Header)
+        const LineState state = readings.at(line).state;
+        if (state == LineState::Header) {
             isInside = isWideHeader(lines, line, section);
+            isBeforeHeaders = false;
+        } else if (isBeforeHeaders && state != LineState::Continuation) {
+            isInside = section.isEmpty() && isEntry(state);
+        }
         marks.push_back(isInside);
     }
     return marks;

@@ -30,8 +30,17 @@ ProfileLines::ProfileLines(const QByteArray& bytes)
         m_decoder.reset(m_form.codec()->makeDecoder());
 }
 
+ProfileLines ProfileLines::ofLargeFile(const QString& path)
+{
+    ProfileLines lines;
+    lines.m_file = std::make_unique<FileLines>(path);
+    return lines;
+}
+
 bool ProfileLines::step()
 {
+    if (m_file)
+        return m_file->step();
     const auto stage = [this] {
         switch (m_stage) {
         case 0: return decode();
@@ -107,6 +116,8 @@ bool ProfileLines::survey()
 
 QByteArray ProfileLines::shown(int line) const
 {
+    if (m_file)
+        return m_file->line(line);
     const auto number = static_cast<std::size_t>(line);
     const int begin = index().begin(number);
     return QByteArray::fromRawData(m_shown.constData() + begin, index().end(number) - begin);
@@ -116,7 +127,8 @@ QString ProfileLines::text(int line, const QTextCodec* codec, int mostBytes) con
 {
     QByteArray bytes = shown(line);
     const int size = bytes.size() - (bytes.endsWith('\n') ? 1 : 0);
-    bytes = QByteArray::fromRawData(bytes.constData(), std::min(size, mostBytes));
+    bytes = m_file ? bytes.left(std::min(size, mostBytes))
+                   : QByteArray::fromRawData(bytes.constData(), std::min(size, mostBytes));
     if (codec && !m_form.isUtf8(line))
         return codec->toUnicode(bytes).remove(QLatin1Char('\r'));
     return decoded(bytes, line == 0);
@@ -124,6 +136,8 @@ QString ProfileLines::text(int line, const QTextCodec* codec, int mostBytes) con
 
 LineMark ProfileLines::narrowMark(int line) const
 {
+    if (m_file)
+        return LineMark(LineState::Untold);
     const auto number = static_cast<std::size_t>(line);
     return number < m_narrow.size() ? m_narrow[number] : LineMark();
 }
@@ -132,6 +146,8 @@ LineMark ProfileLines::narrowMark(int line) const
 // is not always a line of the text.
 LineMark ProfileLines::wideMark(int line) const
 {
+    if (m_file)
+        return LineMark(LineState::Untold);
     const auto number = static_cast<std::size_t>(line);
     return number < m_wide.lines().size() ? m_wide.mark(number) : LineMark();
 }
@@ -159,5 +175,5 @@ LineReading ProfileLines::narrow(int line) const
 LineReading ProfileLines::wide(int line) const
 {
     const auto number = static_cast<std::size_t>(line);
-    return number < m_wide.lines().size() ? m_wide.reading(number) : LineReading();
+    return number < m_wide.lines().size() ? m_wide.reading(number) : readingOf(wideMark(line));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inspection/profiles/FileLines.h"
 #include "inspection/profiles/ProfileForm.h"
 #include "platform/profiles/NarrowLines.h"
 #include "platform/profiles/NarrowText.h"
@@ -15,13 +16,19 @@ class ProfileLines
 {
 public:
     explicit ProfileLines(const QByteArray& bytes = {});
+    /// Of a file that is too large to be kept: the lines alone, which are read when they are asked
+    /// for, and nothing of what the families make of them.
+    static ProfileLines ofLargeFile(const QString& path);
 
     /// Reads a small piece; false when all has been read, and everything below is known.
     bool step();
 
-    int count() const { return static_cast<int>(index().size()); }
+    /// False where there are only the lines.
+    bool hasMarks() const { return !m_file; }
+
+    int count() const { return m_file ? m_file->count() : static_cast<int>(index().size()); }
     const ProfileForm& form() const { return m_form; }
-    /// The file as it lies on disk.
+    /// The file as it lies on disk; empty where there are only the lines.
     const QByteArray& bytes() const { return m_bytes; }
 
     /// What the line says, as the narrow family decodes it, or what its first `mostBytes` say. A
@@ -63,4 +70,5 @@ private:
     int m_position = 0; ///< how far the stage has come: bytes, or lines
     std::unique_ptr<QTextDecoder> m_decoder;
     std::unique_ptr<Narrowing> m_narrowing;
+    std::unique_ptr<FileLines> m_file;
 };

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include <new>
 #include <utility>
 
 namespace {
@@ -17,6 +18,18 @@ ProfileLoadingJob::ProfileLoadingJob(const QString& path)
 
 bool ProfileLoadingJob::step()
 {
+    try {
+        return stepWhole();
+    } catch (const std::bad_alloc&) {
+        if (!m_document.lines().hasMarks() || !m_lines.hasMarks())
+            throw; // not even the lines
+    }
+    readLinesAlone();
+    return true;
+}
+
+bool ProfileLoadingJob::stepWhole()
+{
     switch (m_stage) {
     case 0: m_stage += readFile() ? 0 : 1; return true;
     case 1: m_stage += readLines() ? 0 : 1; return true;
@@ -25,11 +38,25 @@ bool ProfileLoadingJob::step()
     }
 }
 
+// Gives back the memory of all that has been read.
+void ProfileLoadingJob::readLinesAlone()
+{
+    m_bytes = QByteArray();
+    m_names = ProfileNames();
+    m_document = ProfileDocument(m_document.path());
+    m_lines = ProfileLines::ofLargeFile(m_document.path());
+    m_stage = 1;
+}
+
 bool ProfileLoadingJob::readFile()
 {
     if (!m_file.isOpen()) {
-        if (!m_file.open(QIODevice::ReadOnly))
+        if (!QFileInfo(m_file).isFile() || !m_file.open(QIODevice::ReadOnly))
             return false;
+        if (m_file.size() > ProfileDocument::largestWhole) {
+            m_lines = ProfileLines::ofLargeFile(m_document.path());
+            return false;
+        }
         m_bytes.reserve(static_cast<int>(m_file.size()));
     }
     const QByteArray piece = m_file.read(bytesAStep);
@@ -51,7 +78,7 @@ bool ProfileLoadingJob::readLines()
 
 bool ProfileLoadingJob::readNames()
 {
-    if (m_names.step(m_document.lines()))
+    if (m_document.lines().hasMarks() && m_names.step(m_document.lines()))
         return true;
     m_document.setNames(std::move(m_names));
     return false;

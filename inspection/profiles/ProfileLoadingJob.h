@@ -6,7 +6,8 @@
 #include <QByteArray>
 #include <QFile>
 
-/// Reads a profile and finds out what either family makes of its lines.
+/// Reads a profile and finds out what either family makes of its lines. Of one that is too large
+/// for that, or for the memory, the lines alone are read.
 class ProfileLoadingJob : public Job
 {
 public:
@@ -25,6 +26,8 @@ public:
     const QByteArray& bytes() const { return m_document.lines().bytes(); }
 
 private:
+    bool stepWhole();
+    void readLinesAlone();
     bool readFile();
     bool readLines();
     bool readNames();

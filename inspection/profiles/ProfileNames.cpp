@@ -15,12 +15,32 @@ bool isNamed(LineState state)
 
 } // namespace
 
+void ProfileNames::lookFor(const Name& name)
+{
+    m_wanted = name;
+    m_found = -1;
+    m_unlookedAt = count();
+}
+
 bool ProfileNames::step(const ProfileLines& lines)
 {
+    if (m_unlookedAt > 0) {
+        lookAgain(lines);
+        return true;
+    }
     const int end = std::min(lines.count(), m_next + linesAStep);
     for (; m_next < end; ++m_next)
         addLine(lines, m_next);
     return m_next < lines.count();
+}
+
+void ProfileNames::lookAgain(const ProfileLines& lines)
+{
+    const int end = std::max(0, m_unlookedAt - linesAStep);
+    for (; m_unlookedAt > end; --m_unlookedAt) {
+        if (name(lines, m_unlookedAt - 1) == m_wanted)
+            m_found = m_unlookedAt - 1;
+    }
 }
 
 // Neither family finds a name twice. So a name that both find in one line is new.

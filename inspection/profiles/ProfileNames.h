@@ -23,11 +23,12 @@ public:
         ProfileFamily family = ProfileFamily::Wide;
     };
 
-    /// Looks for this name too while names are collected.
-    void lookFor(const Name& name) { m_wanted = name; }
+    /// Looks for this name, and for no other one any more, also among those that have been
+    /// collected already.
+    void lookFor(const Name& name);
 
-    /// Collects the names of some lines, which have to be the same each time; false when all names
-    /// are known.
+    /// Collects the names of some lines, which have to be the same each time, or looks at some
+    /// again; false when all names are known.
     bool step(const ProfileLines& lines);
 
     int count() const { return static_cast<int>(m_places.size()); }
@@ -46,6 +47,7 @@ private:
         int name = 0;
     };
 
+    void lookAgain(const ProfileLines& lines);
     void addLine(const ProfileLines& lines, int line);
     void addUnlessKnown(const ProfileLines& lines, const Place& place, const Name& name);
     void add(const Place& place, const Name& name);
@@ -55,5 +57,6 @@ private:
     NameTable m_single; ///< names that the families do not find in the same line
     std::optional<Name> m_wanted;
     int m_found = -1;
-    int m_next = 0; ///< line
+    int m_next = 0;       ///< line
+    int m_unlookedAt = 0; ///< so many names have been collected before one was looked for
 };

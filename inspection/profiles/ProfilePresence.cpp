@@ -6,8 +6,8 @@ void ProfilePresence::note(const QString& path)
     if (path != m_path)
         forget();
     m_path = path;
-    const FileIdentity file = FileIdentity::of(path);
-    if (file.exists)
+    const FileStamp file = FileStamp::of(path);
+    if (file.exists())
         m_file = file;
 }
 
@@ -18,10 +18,10 @@ void ProfilePresence::forget()
 
 ProfilePresence::Fate ProfilePresence::fate(const QString& path) const
 {
-    if (!m_file.exists || path != m_path)
+    if (!m_file.exists() || path != m_path)
         return Fate::Same;
-    const FileIdentity file = FileIdentity::of(path);
-    if (!file.exists)
+    const FileStamp file = FileStamp::of(path);
+    if (!file.exists())
         return Fate::Deleted;
     return file.isSameFile(m_file) ? Fate::Same : Fate::Replaced;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/files/FileIdentity.h"
+#include "inspection/files/FileStamp.h"
 
 /// Remembers which file a profile was when it was read, to tell whether it is still the same one.
 class ProfilePresence
@@ -22,5 +22,5 @@ public:
 
 private:
     QString m_path;
-    FileIdentity m_file; ///< of the file when it was there last
+    FileStamp m_file; ///< of the file when it was there last
 };

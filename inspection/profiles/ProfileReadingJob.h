@@ -24,7 +24,7 @@ public:
     ProfileReadingJob(const QString& path, Receiver receiver);
     ~ProfileReadingJob() override;
 
-    /// Looks for this name while the file is read.
+    /// Looks for this name, and for no other one any more; not to be called once `isLoaded`.
     void lookFor(const ProfileDocument::Name& name) { m_loading->lookFor(name); }
 
     bool step() override;

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 
 namespace {
 
@@ -25,17 +26,25 @@ QString ProfileWriter::fault(const ProfileChange& change) const
     if (change.key.isEmpty() && needsKey)
         return tr("Type a key first.");
     // Without a name stands what the wide family finds under [General] or before the first header.
-    if (change.section.isEmpty() && (change.family == ProfileFamily::Narrow || !needsKey))
+    if (change.section.isEmpty() && change.family == ProfileFamily::Narrow)
         return tr("Type a section first.");
     if (change.action != ProfileChange::Action::Set && !QFileInfo::exists(m_file))
         return tr("There is no such file: nothing can be deleted from it.");
     if (!isWritable(QFileInfo(m_file), change.family))
         return tr("%1 cannot be written.").arg(m_file);
+    if (QFileInfo(m_file).size() > ProfileDocument::largestWhole)
+        return tr("%1 is larger than %2 MiB: no change can be tried on a copy of it.")
+            .arg(m_file, QLocale().toString(ProfileDocument::largestWhole / 1024 / 1024));
     return {};
 }
 
 QString ProfileWriter::unreadable(const ProfileChange& change)
 {
+    const bool isWide = change.family == ProfileFamily::Wide;
+    if (change.action != ProfileChange::Action::Set && isWide &&
+        change.section.compare(QLatin1String("general"), Qt::CaseInsensitive) == 0)
+        return tr("Nothing deleted: the wide family does not find that. What stands under "
+                  "[General] is in no section for it: leave the section empty.");
     if (change.action != ProfileChange::Action::Set)
         return change.family == ProfileFamily::Narrow
                    ? tr("Nothing deleted: the narrow family does not find that.")

@@ -91,8 +91,12 @@ void ProfileWritingJob::parse() const
 
 void ProfileWritingJob::readFormer()
 {
-    if (!m_tried.isNull() || m_change.action == Action::DeleteSection || !QFile::exists(m_file))
+    if (!m_tried.isNull() || !QFile::exists(m_file))
         return;
+    if (m_change.action == Action::DeleteSection) {
+        m_formerEntries = FormerEntries::of(m_file, m_change);
+        return;
+    }
     const ProfileReader reader(m_file);
     m_former = isWide() ? reader.wide(m_change.section, m_change.key).value_or(QString())
                         : reader.narrow(m_change.section, m_change.key);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "inspection/Job.h"
+#include "inspection/profiles/FormerEntries.h"
 #include "inspection/profiles/ProfileWriter.h"
 
 #include <QTemporaryDir>
@@ -31,6 +32,9 @@ public:
 
     /// What the family read before; null where there was no file, or the change has been tried.
     const QString& former() const { return m_former; }
+    /// What the family read in a section that is deleted, as many entries as a log may hold, and
+    /// how many there were; nothing where the change has been tried.
+    const FormerEntries& formerEntries() const { return m_formerEntries; }
     /// True once the service says that it has written, or lines have been deleted.
     bool isWritten() const { return m_isWritten; }
     /// True once the family has found the value in what lies on disk, or no longer finds what was
@@ -53,6 +57,7 @@ private:
     QByteArray m_tried; ///< null where it has not been tried
     QTemporaryDir m_folder;
     QString m_former;
+    FormerEntries m_formerEntries;
     std::unique_ptr<ParsedProfileCache> m_cache;
     int m_stage = 0;
     bool m_isWritten = false;

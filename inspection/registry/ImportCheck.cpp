@@ -3,6 +3,7 @@
 #include "inspection/registry/RegistryKey.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
+#include "inspection/registry/UnkeptName.h"
 #include "platform/registry/ValueChange.h"
 
 using Action = RegFileEntry::Action;
@@ -60,6 +61,8 @@ void ImportCheck::checkKey()
         return refuse(tr("\"%1\" is not one of the root keys.").arg(root));
     if (m_entry.key.contains(QLatin1Char('/')))
         remark(tr("\"/\" in a key's name separates keys like \"\\\"."));
+    if (m_entry.action == Action::CreateKey)
+        remark(unkeptKeyText({}, m_path));
     if (m_entry.action == Action::DeleteKey)
         checkKeyDeletion();
 }
@@ -99,9 +102,10 @@ void ImportCheck::checkName()
         remark(deletes ? tr("The separators in the name lead to a value of a sub-key.")
                        : tr("The separators in the name put the value into a sub-key."));
     if (deletes)
-        checkValueDeletion(name);
-    else if (m_path.isEmpty())
+        return checkValueDeletion(name);
+    if (m_path.isEmpty())
         remark(tr("Directly under a root, it is kept in a key of its own name."));
+    remark(unkeptValueText(m_path, m_entry.name));
 }
 
 void ImportCheck::checkData()

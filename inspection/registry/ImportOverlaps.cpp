@@ -20,13 +20,12 @@ QString newTwin(QMultiHash<QString, QString>& names, const QString& name)
     return other;
 }
 
-QMultiHash<QString, QString> folded(const QStringList& names)
+constexpr int namesAtOnce = 250;
+
+// Where the value of a statement is kept.
+QString valuePath(const QString& key, const QString& name)
 {
-    QMultiHash<QString, QString> hash;
-    hash.reserve(names.size());
-    for (const QString& name : names)
-        hash.insert(name.toCaseFolded(), name);
-    return hash;
+    return RegistryPath::join(key, RegistryPath::slashed(name));
 }
 
 bool isBelow(const QString& path, const QString& key)
@@ -43,10 +42,48 @@ ImportOverlaps::Place ImportOverlaps::placeOf(const RegFileEntry& entry)
     return {entry.key.section(QLatin1Char('\\'), 0, 0).toUpper(), entry.line};
 }
 
-QStringList ImportOverlaps::add(const RegFileEntry& entry)
+bool ImportOverlaps::readSome(const RegFileEntry& entry)
 {
     if (!m_index)
         m_index = RegistryIndex::read();
+    if (!m_reader) {
+        const std::optional<QString> key = unreadKey(entry);
+        if (!key)
+            return false;
+        m_readKey = *key;
+        m_reader.emplace(*m_index, m_readKey);
+    }
+    for (int i = 0; i < namesAtOnce && m_reader; ++i) {
+        if (m_reader->next()) {
+            auto& names = m_reader->isGroup() ? m_subKeys : m_valueNames;
+            names[m_readKey].insert(m_reader->name().toCaseFolded(), m_reader->name());
+        } else {
+            m_read.insert(m_readKey);
+            m_reader.reset();
+        }
+    }
+    return true;
+}
+
+// One of the keys in which the statement names something.
+std::optional<QString> ImportOverlaps::unreadKey(const RegFileEntry& entry) const
+{
+    QString path;
+    RegistryPath::parse(entry.key, path);
+    if (entry.action == Action::SetValue || entry.action == Action::DeleteValue)
+        path = valuePath(path, entry.name);
+    while (!path.isEmpty()) {
+        path = RegistryPath::parent(path);
+        if (!m_read.contains(path))
+            return path;
+    }
+    return std::nullopt;
+}
+
+QStringList ImportOverlaps::add(const RegFileEntry& entry)
+{
+    while (readSome(entry)) {
+    }
     m_replacedLine = 0;
     QString path;
     RegistryPath::parse(entry.key, path);
@@ -55,9 +92,9 @@ QStringList ImportOverlaps::add(const RegFileEntry& entry)
         remarks += sameKey(entry, path);
     } else if (entry.action == Action::DeleteKey) {
         remarks += deletedBelow(entry, path);
-        m_deletedKeys.append(path);
+        m_deletedKeys.insert(path);
     } else {
-        const QString entryPath = RegistryPath::join(path, RegistryPath::slashed(entry.name));
+        const QString entryPath = valuePath(path, entry.name);
         remarks += valueTwins(RegistryPath::parent(entryPath), RegistryPath::name(entryPath));
         remarks += sameValue(entry, entryPath);
         if (entry.action == Action::DeleteValue)
@@ -71,29 +108,38 @@ QString ImportOverlaps::sameKey(const RegFileEntry& entry, const QString& path)
 {
     const Place place = placeOf(entry);
     const auto first = m_keys.constFind(path);
-    if (first == m_keys.cend())
+    if (first == m_keys.cend()) {
         m_keys.insert(path, place);
-    else if (first->root != place.root)
+        m_keysOfRoots[place.root].insert(path, place.line);
+    } else if (first->root != place.root) {
         return tr("The same key as under %1 in line %2: all root keys are one.")
             .arg(first->root, QLocale().toString(first->line));
+    }
     return {};
 }
 
+// Of the keys under another root the key itself comes first, and then the first one below it.
 QString ImportOverlaps::deletedBelow(const RegFileEntry& entry, const QString& path) const
 {
     const QString root = placeOf(entry).root;
-    const auto isForeign = [&root](const Place& place) { return place.root != root; };
-    auto at = m_keys.constFind(path);
-    if (at == m_keys.cend() || !isForeign(*at)) {
-        // Names like "Key-Old" stand between "Key" and what is below it.
-        at = m_keys.lowerBound(path + QLatin1Char('/'));
-        while (at != m_keys.cend() && isBelow(at.key(), path) && !isForeign(*at))
-            ++at;
-        if (at == m_keys.cend() || !isBelow(at.key(), path))
-            return {};
+    QString found;
+    Place place;
+    for (auto keys = m_keysOfRoots.cbegin(); keys != m_keysOfRoots.cend(); ++keys) {
+        if (keys.key() == root)
+            continue;
+        auto at = keys->constFind(path);
+        if (at == keys->cend()) // names like "Key-Old" stand between "Key" and what is below it
+            at = keys->lowerBound(path + QLatin1Char('/'));
+        const bool isDeleted = at != keys->cend() && (at.key() == path || isBelow(at.key(), path));
+        if (!isDeleted || (!found.isNull() && found < at.key()))
+            continue;
+        found = at.key();
+        place = {keys.key(), at.value()};
     }
+    if (found.isNull())
+        return {};
     return tr("Deletes what line %2 puts under %1: all root keys are one.")
-        .arg(at->root, QLocale().toString(at->line));
+        .arg(place.root, QLocale().toString(place.line));
 }
 
 // Under one and the same root a later statement wins on Windows too.
@@ -120,7 +166,6 @@ QStringList ImportOverlaps::keyTwins(const QString& path)
     const QStringList levels = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     for (const QString& level : levels) {
         const QString key = RegistryPath::join(parent, level);
-        list(parent);
         const QString other = newTwin(m_subKeys[parent], level);
         if (!other.isEmpty())
             remarks += tr("%1 differs from \"%2\" in case only: two keys here, one on Windows.")
@@ -132,7 +177,6 @@ QStringList ImportOverlaps::keyTwins(const QString& path)
 
 QStringList ImportOverlaps::valueTwins(const QString& path, const QString& name)
 {
-    list(path);
     const QString other = newTwin(m_valueNames[path], name);
     if (other.isEmpty())
         return {};
@@ -140,22 +184,12 @@ QStringList ImportOverlaps::valueTwins(const QString& path, const QString& name)
                 .arg(name, other)};
 }
 
-void ImportOverlaps::list(const QString& path)
-{
-    if (m_subKeys.contains(path))
-        return;
-    const RegistryIndex::Children children = m_index->children(path);
-    m_subKeys.insert(path, folded(children.groups));
-    m_valueNames.insert(path, folded(children.entries));
-}
-
 bool ImportOverlaps::isDeletedBefore(const QString& path) const
 {
     if (m_deletedValues.contains(path))
         return true;
-    for (const QString& key : m_deletedKeys) {
-        if (path == key || isBelow(path, key))
-            return true;
-    }
-    return false;
+    QString key = path;
+    while (!key.isEmpty() && !m_deletedKeys.contains(key))
+        key = RegistryPath::parent(key);
+    return !key.isEmpty();
 }

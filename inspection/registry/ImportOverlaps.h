@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/registry/RegistryIndex.h"
+#include "inspection/registry/RegistryIndexReader.h"
 #include "regfile/RegFileEntry.h"
 
 #include <QCoreApplication>
@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <memory>
+#include <optional>
 
 /// What the statements of a registry file have to do with each other, and with names in the store
 /// that differ in case only: all root keys are one here, and "Key" and "key" are two.
@@ -17,11 +18,15 @@ class ImportOverlaps
     Q_DECLARE_TR_FUNCTIONS(ImportOverlaps)
 
 public:
-    /// Quick: the store is listed for the first statement.
+    /// Quick: the store is read when the first statement comes.
     ImportOverlaps();
 
+    /// Reads a few names that the store has where this statement leads to: a key may have very
+    /// many. False when they have all been read.
+    bool readSome(const RegFileEntry& entry);
+
     /// Takes the next statement of the file, which is well-formed; what is to be said of it, in
-    /// sentences.
+    /// sentences. Reads the names that `readSome` has not been asked for.
     QStringList add(const RegFileEntry& entry);
 
     /// The line of an earlier statement under another root whose value this last one has replaced
@@ -46,14 +51,18 @@ private:
     QString sameValue(const RegFileEntry& entry, const QString& entryPath);
     QStringList keyTwins(const QString& path);
     QStringList valueTwins(const QString& path, const QString& name);
-    void list(const QString& path);
+    std::optional<QString> unreadKey(const RegFileEntry& entry) const;
 
     std::shared_ptr<const RegistryIndex> m_index;
-    QMap<QString, Place> m_keys;
+    std::optional<RegistryIndexReader> m_reader; ///< of the key that is being read
+    QString m_readKey;
+    QSet<QString> m_read; ///< keys whose names have been read
+    QHash<QString, Place> m_keys;
+    QHash<QString, QMap<QString, int>> m_keysOfRoots; ///< the lines of the same, by root and path
     QHash<QString, Place> m_values;
-    QHash<QString, Names> m_subKeys;    ///< of the keys that have been listed
-    QHash<QString, Names> m_valueNames; ///< of the same keys
-    QStringList m_deletedKeys;
+    QHash<QString, Names> m_subKeys;
+    QHash<QString, Names> m_valueNames;
+    QSet<QString> m_deletedKeys;
     QSet<QString> m_deletedValues;
     int m_replacedLine = 0;
 };

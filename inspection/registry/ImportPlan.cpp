@@ -36,6 +36,11 @@ QString entryPathOf(const QString& path, const QString& name)
 
 } // namespace
 
+bool ImportPlan::readSome(const RegFileEntry& entry)
+{
+    return entry.action != Action::Malformed && m_overlaps.readSome(entry);
+}
+
 void ImportPlan::add(const RegFileEntry& entry)
 {
     const ImportCheck check(entry);

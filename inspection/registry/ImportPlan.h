@@ -40,6 +40,9 @@ public:
         }
     };
 
+    /// Reads a few of the names in the store that the statement will be compared with; false when
+    /// they have all been read, and adding it is quick.
+    bool readSome(const RegFileEntry& entry);
     /// Checks a statement against the store as it is now and against the statements before it, and
     /// adds it with what will become of it.
     void add(const RegFileEntry& entry);

@@ -45,6 +45,16 @@ bool RawStore::save()
     return g_globalSettings && !isInaccessible();
 }
 
+bool RawStore::hasMetDamage()
+{
+    return g_globalSettings && g_globalSettings->status() == QSettings::FormatError;
+}
+
+bool RawStore::hasFailed()
+{
+    return g_globalSettings && g_globalSettings->status() != QSettings::NoError;
+}
+
 QObject* RawStore::receiver()
 {
     return g_globalSettings;

@@ -43,6 +43,12 @@ public:
     /// Writes what has changed into the file, and reads what others have changed there, at once.
     /// False where that could not be done, and without a store.
     static bool save();
+    /// True when QSettings has met lines that are no entries in a part of the file that it has
+    /// parsed, since it was opened: it never forgets that.
+    static bool hasMetDamage();
+    /// True when QSettings has failed to read, to parse or to save the file since it was opened. It
+    /// tells the first failure only, and never forgets it.
+    static bool hasFailed();
     /// The object that gets the store's events; null without a store. Owned by the host library.
     static QObject* receiver();
 

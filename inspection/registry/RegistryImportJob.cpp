@@ -5,6 +5,8 @@
 #include <QIODevice>
 #include <QLocale>
 
+#include <utility>
+
 RegistryImportJob::RegistryImportJob(std::unique_ptr<QIODevice> file, const QByteArray& codePage,
                                      const QString& prefix)
     : m_reader(std::move(file), codePage), m_prefix(prefix)
@@ -18,11 +20,16 @@ RegistryImportJob::RegistryImportJob(const QByteArray& file, const QByteArray& c
 
 bool RegistryImportJob::step()
 {
+    if (m_statement) {
+        if (!m_plan->readSome(*m_statement))
+            m_plan->add(*std::exchange(m_statement, std::nullopt));
+        return true;
+    }
     RegFileEntry entry;
     const RegFileReader::Step step = m_reader.next(entry);
     if (step == RegFileReader::Step::Statement) {
         addPrefix(entry);
-        m_plan->add(entry);
+        m_statement = entry;
     }
     return step != RegFileReader::Step::End;
 }

@@ -5,6 +5,7 @@
 #include "regfile/RegFileReader.h"
 
 #include <memory>
+#include <optional>
 
 /// Reads a registry file into a plan of what importing it will do. Writes nothing: RegistryApplyJob
 /// carries the plan out.
@@ -18,7 +19,7 @@ public:
     /// A file that is in memory already, as those of the tests are.
     explicit RegistryImportJob(const QByteArray& file, const QByteArray& codePage = {});
 
-    /// Reads one statement or a small piece of the file.
+    /// Reads one statement or a small piece of the file, or compares a statement with the store.
     bool step() override;
     /// The number of statements read.
     QString progress() const override;
@@ -36,5 +37,6 @@ private:
 
     RegFileReader m_reader;
     QString m_prefix;
+    std::optional<RegFileEntry> m_statement; ///< read, and still to be added to the plan
     std::shared_ptr<ImportPlan> m_plan = std::make_shared<ImportPlan>();
 };

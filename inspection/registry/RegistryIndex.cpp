@@ -1,20 +1,9 @@
 #include "inspection/registry/RegistryIndex.h"
 
 #include "inspection/registry/RawStore.h"
+#include "inspection/registry/RegistryIndexReader.h"
 
 #include <algorithm>
-
-namespace {
-
-using Position = QStringList::const_iterator;
-
-// Everything below a group lies between its name with "/" and its name with the next character.
-Position endOfGroup(Position first, Position last, const QString& group)
-{
-    return std::lower_bound(first, last, group + QChar(u'/' + 1));
-}
-
-} // namespace
 
 std::shared_ptr<const RegistryIndex> RegistryIndex::read()
 {
@@ -26,20 +15,9 @@ std::shared_ptr<const RegistryIndex> RegistryIndex::read()
 RegistryIndex::Children RegistryIndex::children(const QString& path) const
 {
     Children found;
-    const QString prefix = path.isEmpty() ? path : path + QLatin1Char('/');
-    Position at = std::lower_bound(m_entries.cbegin(), m_entries.cend(), prefix);
-    const Position end = path.isEmpty() ? m_entries.cend() : endOfGroup(at, m_entries.cend(), path);
-    while (at != end) {
-        const int slash = at->indexOf(QLatin1Char('/'), prefix.size());
-        if (slash < 0) {
-            found.entries.append(at->mid(prefix.size()));
-            ++at;
-            continue;
-        }
-        const QString group = at->left(slash);
-        found.groups.append(group.mid(prefix.size()));
-        at = endOfGroup(at, end, group);
-    }
+    RegistryIndexReader reader(*this, path);
+    while (reader.next())
+        (reader.isGroup() ? found.groups : found.entries).append(reader.name());
     // With their "/" the groups were in another order.
     std::sort(found.groups.begin(), found.groups.end());
     return found;

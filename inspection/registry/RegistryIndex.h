@@ -20,9 +20,13 @@ public:
 
     static std::shared_ptr<const RegistryIndex> read();
 
-    /// What is right below a key, each kind sorted.
+    /// What is right below a key, each kind sorted. All of them: where there may be very many, a
+    /// RegistryIndexReader reads a few at a time.
     Children children(const QString& path) const;
 
+    /// The full paths of all entries, sorted.
+    const QStringList& entries() const { return m_entries; }
+
 private:
-    QStringList m_entries; ///< full paths, sorted
+    QStringList m_entries;
 };

@@ -8,17 +8,14 @@
 
 namespace {
 
-using Value = ValueRemovalJob::Value;
-
 struct RemovalTexts
 {
     Q_DECLARE_TR_FUNCTIONS(RemovalText)
 };
 
-constexpr std::size_t mostNamed = 10;
-
-QString namesOf(const std::vector<Value>& values)
+QString namesOf(const std::vector<RegistryValueName>& values)
 {
+    constexpr std::size_t mostNamed = RemovalText::mostNamed;
     QStringList lines;
     for (std::size_t i = 0; i < values.size() && i < mostNamed; ++i)
         lines.append(values[i].name);
@@ -29,26 +26,16 @@ QString namesOf(const std::vector<Value>& values)
     return lines.join(QLatin1Char('\n'));
 }
 
-// The service deletes a key of the same name along with a value; the mark of a created key is all
-// that there is of that key.
-QStringList keysAlong(const std::vector<Value>& values)
-{
-    QStringList keys;
-    for (const Value& value : values) {
-        const QString key = RegistryPath::join(value.key, value.name);
-        if (keys.size() < static_cast<int>(mostNamed) && isRegistryKey(key))
-            keys.append(RegistryPath::shown(key));
-    }
-    return keys;
-}
-
 } // namespace
 
-QString RemovalText::ofValues(const std::vector<Value>& values)
+QString RemovalText::ofValues(const std::vector<RegistryValueName>& values,
+                              const QStringList& keysAlong)
 {
-    const QStringList keys = keysAlong(values);
-    if (keys.isEmpty())
+    if (keysAlong.isEmpty())
         return namesOf(values);
+    QStringList keys;
+    for (const QString& key : keysAlong)
+        keys.append(RegistryPath::shown(key));
     return namesOf(values) + QStringLiteral("\n\n") +
            RemovalTexts::tr("Keys of the same name go with everything in them:") +
            QLatin1Char('\n') + keys.join(QLatin1Char('\n'));

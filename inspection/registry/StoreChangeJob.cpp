@@ -8,7 +8,7 @@
 
 StoreChangeJob::StoreChangeJob(std::shared_ptr<const StoreChange> change, Direction direction,
                                Others others, StoreRecorder::Log log)
-    : m_change(std::move(change)), m_direction(direction), m_others(others), m_log(std::move(log))
+    : m_change(std::move(change)), m_direction(direction), m_others(others), m_lines(std::move(log))
 {
 }
 
@@ -19,8 +19,10 @@ bool StoreChangeJob::step()
 {
     const std::size_t count = m_change->size();
     const std::size_t at = count > 0 ? m_next % count : 0;
-    if (m_next >= 3 * count || (m_next >= count && isStopped()))
+    if (m_next >= 3 * count || (m_next >= count && isStopped())) {
+        m_lines.end();
         return false;
+    }
     switch (m_next++ / count) {
     case 0: look((*m_change)[at]); break;
     case 1: writeEntry((*m_change)[at]); break;
@@ -84,6 +86,5 @@ void StoreChangeJob::writeEntry(const EntryChange& change)
 void StoreChangeJob::told(const EntryChange& change, const Entry& before)
 {
     ++m_changed;
-    if (m_log)
-        m_log(auditLine({change.path, before, to(change)}));
+    m_lines.add([&] { return auditLine({change.path, before, to(change)}); });
 }

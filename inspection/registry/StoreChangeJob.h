@@ -29,7 +29,7 @@ public:
         Overwrite ///< they get what they are to be all the same
     };
 
-    /// `log` gets a line of the audit trail for each entry.
+    /// `log` gets a line of the audit trail for each entry, as that of a StoreRecorder does.
     StoreChangeJob(std::shared_ptr<const StoreChange> change, Direction direction, Others others,
                    StoreRecorder::Log log = {});
 
@@ -60,7 +60,7 @@ private:
     std::shared_ptr<const StoreChange> m_change;
     Direction m_direction;
     Others m_others;
-    StoreRecorder::Log m_log;
+    LimitedLines m_lines;
     std::size_t m_next = 0; ///< counts through all entries three times
     QStringList m_foreign;
     QSet<QString> m_left;

@@ -4,6 +4,7 @@
 #include "inspection/registry/StoreSections.h"
 
 #include <QFile>
+#include <QSettings>
 
 #include <algorithm>
 
@@ -13,7 +14,7 @@ constexpr int stepSize = 100; // entries
 
 } // namespace
 
-StoreComparisonJob::StoreComparisonJob() : m_file(FileIdentity::of(RawStore::fileName())) {}
+StoreComparisonJob::StoreComparisonJob() : m_file(FileStamp::of(RawStore::fileName())) {}
 
 StoreComparisonJob::~StoreComparisonJob() = default;
 
@@ -32,16 +33,22 @@ bool StoreComparisonJob::step()
     return true;
 }
 
+// The copy has been parsed as a whole by the time its entries are compared.
+bool StoreComparisonJob::isDamaged() const
+{
+    return m_copy && m_copy->status() == QSettings::FormatError;
+}
+
 void StoreComparisonJob::open()
 {
     const QString copy = m_folder.filePath(QStringLiteral("copy"));
-    if (m_file.exists)
+    if (m_file.exists())
         QFile::copy(RawStore::fileName(), copy);
     m_copy = RawStore::opened(copy);
     m_sections = storeSections(copy);
 }
 
-// The shorter list may be the beginning of the longer one.
+// Both lists are sorted: of two names in the same place the other list lacks the lower one.
 void StoreComparisonJob::list()
 {
     m_isListed = true;
@@ -49,9 +56,11 @@ void StoreComparisonJob::list()
     const QStringList held = RawStore({}, RawStore::Reach::OwnFile).allEntries();
     const auto [inFile, inStore] =
         std::mismatch(m_names.cbegin(), m_names.cend(), held.cbegin(), held.cend());
-    if (inFile != m_names.cend())
+    const bool isFileLonger = inFile != m_names.cend();
+    const bool isStoreLonger = inStore != held.cend();
+    if (isFileLonger && (!isStoreLonger || *inFile < *inStore))
         differAt(*inFile);
-    else if (inStore != held.cend())
+    else if (isStoreLonger)
         differAt(*inStore);
 }
 

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-StoreRecorder::StoreRecorder(Log log) : m_log(std::move(log)) {}
+StoreRecorder::StoreRecorder(Log log) : m_lines(std::move(log)) {}
 
 void StoreRecorder::watch(const QString& path)
 {
@@ -29,8 +29,7 @@ void StoreRecorder::record()
         std::optional<QVariant> now = StoreEntry::read(at->first);
         if (now == state.after)
             continue;
-        if (m_log)
-            m_log(auditLine({at->first, state.after, now}));
+        m_lines.add([&] { return auditLine({at->first, state.after, now}); });
         state.after = std::move(now);
     }
     m_watched.clear();

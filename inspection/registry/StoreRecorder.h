@@ -1,8 +1,8 @@
 #pragma once
 
+#include "inspection/log/LimitedLines.h"
 #include "inspection/registry/StoreChange.h"
 
-#include <functional>
 #include <map>
 
 /// Records what a change makes of entries of the settings store, so that it can be taken back. Each
@@ -10,8 +10,9 @@
 class StoreRecorder
 {
 public:
-    /// Gets a line of the audit trail for each entry that has changed.
-    using Log = std::function<void(const QString& line)>;
+    /// Gets a line of the audit trail for each entry that has changed, and for very many of them
+    /// the number of the rest.
+    using Log = LimitedLines::Log;
 
     explicit StoreRecorder(Log log = {});
 
@@ -21,6 +22,9 @@ public:
     void watchTree(const QString& path);
     /// To be called after that: reads what has been watched since the last call.
     void record();
+
+    /// To be called when the change is complete: what the log lacks is told.
+    void endLog() { m_lines.end(); }
 
     /// What has been changed so far.
     StoreChange change() const;
@@ -33,7 +37,7 @@ private:
     };
     using States = std::map<QString, State>;
 
-    Log m_log;
+    LimitedLines m_lines;
     States m_states;
     std::vector<States::iterator> m_watched;
 };

@@ -5,12 +5,46 @@
 
 #include <QEvent>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+// The earliest first. The window watches the store from its beginning, and a page from its first
+// visit: what has happened to the file in between is known to the first of them.
+std::vector<StoreWatch*>& living()
+{
+    static std::vector<StoreWatch*> watches;
+    return watches;
+}
+
+} // namespace
+
 StoreWatch::StoreWatch()
 {
     attach();
-    // Either it has gone before, or nothing has been saved yet.
-    if (m_store && !m_seen.exists && storeFault().isEmpty())
-        m_state = State::Unknown;
+    if (!living().empty())
+        takeOver(*living().front());
+    living().push_back(this);
+}
+
+StoreWatch::~StoreWatch()
+{
+    std::vector<StoreWatch*>& watches = living();
+    watches.erase(std::remove(watches.begin(), watches.end(), this), watches.end());
+}
+
+void StoreWatch::takeOver(StoreWatch& earlier)
+{
+    earlier.takeSaving();
+    if (earlier.m_store != m_store)
+        return;
+    m_saved = earlier.m_saved;
+    m_seen = earlier.m_seen;
+    m_state = earlier.m_state;
+    m_difference = earlier.m_difference;
+    m_hasFailed = earlier.m_hasFailed;
 }
 
 void StoreWatch::attach()
@@ -19,6 +53,8 @@ void StoreWatch::attach()
     if (m_store)
         m_store->installEventFilter(this);
     takeSaved();
+    m_isFirst = true;
+    m_isDamageKnown = false;
 }
 
 bool StoreWatch::eventFilter(QObject* watched, QEvent* event)
@@ -27,17 +63,25 @@ bool StoreWatch::eventFilter(QObject* watched, QEvent* event)
     // program does to the file afterwards must not be taken for it: it is not put off for long.
     if (event->type() == QEvent::UpdateRequest) {
         m_isSaving = true;
-        if (m_state == State::Vanished && !FileIdentity::of(RawStore::fileName()).exists)
+        m_beforeSaving = FileStamp::of(RawStore::fileName());
+        if (m_state == State::Vanished && !m_beforeSaving.exists())
             m_hasLost = true;
         QMetaObject::invokeMethod(this, &StoreWatch::takeSaving, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }
 
+// A saving that has failed leaves the file alone, as one does that has nothing to save. The store
+// never forgets a failure: where there has been one, a comparison tells the two apart.
 void StoreWatch::takeSaving()
 {
-    if (m_isSaving)
-        takeSaved();
+    if (!m_isSaving)
+        return;
+    takeSaved();
+    if (m_seen != m_beforeSaving || !RawStore::hasFailed() || !storeFault().isEmpty())
+        return;
+    m_hasFailed = true;
+    m_state = State::Unknown;
 }
 
 int StoreWatch::revision()
@@ -49,10 +93,11 @@ int StoreWatch::revision()
 // Saving reads the file first and adds the changes: whatever has happened to it is in the store.
 void StoreWatch::takeSaved()
 {
-    m_saved = m_seen = FileIdentity::of(RawStore::fileName());
+    m_saved = m_seen = FileStamp::of(RawStore::fileName());
     m_state = State::InStep;
     m_difference.reset();
-    m_isSaving = false;
+    m_isSaving = m_hasFailed = m_isFirst = false;
+    m_isDamageKnown = true; // the store saves no lines but entries
     ++m_revision;
 }
 
@@ -61,12 +106,25 @@ StoreWatch::State StoreWatch::state()
     if (m_store != RawStore::receiver())
         attach();
     takeSaving();
-    const FileIdentity now = FileIdentity::of(RawStore::fileName());
+    const FileStamp now = FileStamp::of(RawStore::fileName());
     if (!m_store)
         return State::InStep;
     if (now != m_seen)
         return changedState();
-    return m_difference && hasReadDifference() ? State::Unknown : m_state;
+    if (m_difference)
+        return hasReadDifference() ? State::Unknown : m_state;
+    if (mayDiffer())
+        m_state = State::Unknown;
+    return m_state;
+}
+
+// Without a file it has gone before, or nothing has been saved yet. The store meets damage when it
+// parses the file, which it does bit by bit.
+bool StoreWatch::mayDiffer()
+{
+    const bool isMissing = std::exchange(m_isFirst, false) && !m_seen.exists();
+    const bool isDamageNew = !m_isDamageKnown && RawStore::hasMetDamage();
+    return m_state == State::InStep && (isMissing || isDamageNew) && storeFault().isEmpty();
 }
 
 // A store that cannot be saved does no harm to any file, and that it cannot is told elsewhere.
@@ -89,22 +147,36 @@ bool StoreWatch::hasReadDifference() const
 
 void StoreWatch::settle(const StoreComparisonJob& comparison)
 {
-    if (comparison.file() != FileIdentity::of(RawStore::fileName()))
+    if (comparison.file() != FileStamp::of(RawStore::fileName()))
         return; // it has changed meanwhile
-    if (!comparison.difference())
-        return takeSame(comparison.file());
+    if (!comparison.difference()) {
+        takeSame(comparison.file());
+        m_isDamageKnown = true;
+        if (comparison.isDamaged())
+            m_state = State::Damaged;
+        return;
+    }
     m_hasLost = false;
     m_seen = comparison.file();
     m_difference = comparison.difference();
     ++m_revision;
-    if (!m_seen.exists)
-        m_state = State::Vanished;
-    else
-        m_state = m_seen.isSameFile(m_saved) ? State::Changed : State::Replaced;
+    m_state = differenceState();
+    if (m_state == State::Unsaved)
+        ++m_failedSavings;
+}
+
+// After a saving that has failed the file is as it was before.
+StoreWatch::State StoreWatch::differenceState() const
+{
+    if (m_hasFailed && m_seen == m_saved)
+        return State::Unsaved;
+    if (!m_seen.exists())
+        return State::Vanished;
+    return m_seen.isSameFile(m_saved) ? State::Changed : State::Replaced;
 }
 
 // The store that was found as it is shown need not be shown anew.
-void StoreWatch::takeSame(const FileIdentity& file)
+void StoreWatch::takeSame(const FileStamp& file)
 {
     if (m_state == State::Unknown && file == m_seen)
         m_state = State::InStep;
@@ -127,6 +199,15 @@ QString StoreWatch::text()
     case State::Replaced:
         return tr("Another program has replaced the store's file %1.").arg(file) +
                QLatin1Char(' ') + rest;
+    case State::Damaged:
+        return tr("The store's file %1 is damaged: it has lines that are no entries. The store "
+                  "leaves them out, and its next change writes the file without them.")
+            .arg(file);
+    case State::Unsaved:
+        return tr("The store could not be saved to %1, for which a full disk may be the reason. "
+                  "The last changes are not in the file, and end with the program unless a later "
+                  "change is saved.")
+            .arg(file);
     case State::Unknown:
     case State::Changed: break;
     }

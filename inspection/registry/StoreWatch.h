@@ -24,22 +24,32 @@ public:
         Unknown,  ///< to be found out by a comparison
         Vanished, ///< the file is gone
         Replaced, ///< another file stands in its place, and the store has not read it
-        Changed   ///< the file has been written to, and the store has not read it
+        Changed,  ///< the file has been written to, and the store has not read it
+        Damaged,  ///< the file has lines that are no entries, which the next saving drops
+        Unsaved   ///< the last saving has failed: the store holds changes that the file lacks
     };
 
     /// Takes the store to be in step with its file; where there is none, that is to be found out.
+    /// Where others watch the store already, it begins with what the earliest of them has seen.
     StoreWatch();
+    ~StoreWatch() override;
+
+    StoreWatch(const StoreWatch&) = delete;
+    StoreWatch& operator=(const StoreWatch&) = delete;
 
     State state();
     /// Takes over what a comparison that has been finished has found out.
     void settle(const StoreComparisonJob& comparison);
 
     /// The file that the state is about.
-    const FileIdentity& file() const { return m_seen; }
+    const FileStamp& file() const { return m_seen; }
 
     /// True when the store has saved itself while its file was gone: then it has lost everything
     /// but its last changes.
     bool hasLost() const { return m_hasLost; }
+
+    /// Grows with each saving that has been found to have failed.
+    int failedSavings() const { return m_failedSavings; }
 
     /// Grows with everything that may have changed the store.
     int revision();
@@ -51,18 +61,26 @@ public:
 
 private:
     void attach();
+    void takeOver(StoreWatch& earlier);
     void takeSaving();
     void takeSaved();
-    void takeSame(const FileIdentity& file);
+    void takeSame(const FileStamp& file);
     State changedState();
+    State differenceState() const;
+    bool mayDiffer();
     bool hasReadDifference() const;
 
     QPointer<QObject> m_store;
-    FileIdentity m_saved; ///< when the store and it were in step last
-    FileIdentity m_seen;  ///< the one that the state is about
+    FileStamp m_saved; ///< when the store and it were in step last
+    FileStamp m_seen;  ///< the one that the state is about
     State m_state = State::InStep;
     std::optional<StoreComparisonJob::Difference> m_difference;
     bool m_isSaving = false; ///< the store has saved itself, which is still to be taken over
+    FileStamp m_beforeSaving;
+    bool m_hasFailed = false;     ///< nothing has been written by that
+    bool m_isFirst = true;        ///< nobody has asked for the state yet
+    bool m_isDamageKnown = false; ///< whether the file is damaged
     bool m_hasLost = false;
+    int m_failedSavings = 0;
     int m_revision = 0;
 };

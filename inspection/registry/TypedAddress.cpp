@@ -1,11 +1,6 @@
 #include "inspection/registry/TypedAddress.h"
 
-#include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-
-#include <QRegularExpression>
-
-#include <algorithm>
 
 namespace {
 
@@ -49,25 +44,6 @@ QString meantBy(const QString& address)
     return rest == 0 ? QString(QLatin1String("")) : path.mid(rest);
 }
 
-// The key below `parent` that the levels from `at` on lead to in any case, the exact one first.
-QString foundBelow(const RegistryIndex& index, const QString& parent, const QStringList& levels,
-                   int at)
-{
-    if (at == levels.size())
-        return parent;
-    QStringList names = listRegistryKey(index, parent).allKeys();
-    std::stable_partition(names.begin(), names.end(),
-                          [&](const QString& name) { return name == levels.at(at); });
-    for (const QString& name : qAsConst(names)) {
-        if (name.compare(levels.at(at), Qt::CaseInsensitive) != 0)
-            continue;
-        QString found = foundBelow(index, RegistryPath::join(parent, name), levels, at + 1);
-        if (!found.isEmpty())
-            return found;
-    }
-    return {};
-}
-
 } // namespace
 
 QStringList pathsOfAddress(const QString& address)
@@ -84,29 +60,4 @@ QStringList pathsOfAddress(const QString& address)
         return paths;
     const QStringList others = pathsOfAddress(meant);
     return others.isEmpty() ? others : paths + others;
-}
-
-QString keyInOtherCase(const RegistryIndex& index, const QString& path)
-{
-    const QString found =
-        foundBelow(index, {}, path.split(QLatin1Char('/'), Qt::SkipEmptyParts), 0);
-    return found == path ? QString() : found;
-}
-
-QStringList completionsOf(const RegistryIndex& index, const QString& typed, int most)
-{
-    const int separator = typed.lastIndexOf(QRegularExpression(QStringLiteral("[\\\\/]")));
-    const QString before = typed.left(separator + 1);
-    const QString rest = typed.mid(separator + 1);
-    QStringList names = before.isEmpty() ? RegistryPath::rootNames() : QStringList();
-    const QStringList paths = pathsOfAddress(before);
-    for (const QString& path : paths)
-        names += listRegistryKey(index, path).allKeys();
-    names.removeDuplicates();
-    QStringList completions;
-    for (const QString& name : qAsConst(names)) {
-        if (completions.size() < most && name.startsWith(rest, Qt::CaseInsensitive))
-            completions.append(before + name);
-    }
-    return completions;
 }

@@ -5,6 +5,7 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/UnkeptName.h"
 #include "platform/registry/ValueChange.h"
 
 #include <QtEndian>
@@ -83,6 +84,8 @@ QString ValueInput::nameProblem(const QString& name)
 QString ValueInput::newNameProblem(const QString& path, const QString& name)
 {
     QString problem = nameProblem(name);
+    if (problem.isEmpty())
+        problem = unkeptValueText(path, name);
     if (!problem.isEmpty() || rawRegistryEntry(StoreEntry::ofValue(path, name)).isNull())
         return problem;
     return tr("%1 has a value \"%2\" already.").arg(RegistryPath::shown(path), name);
@@ -95,4 +98,10 @@ QString ValueInput::keyNameProblem(const QString& name)
     if (hasSeparator(name))
         return tr("\"\\\" and \"/\" separate keys. Create one key at a time.");
     return QString();
+}
+
+QString ValueInput::newKeyNameProblem(const QString& parent, const QString& name)
+{
+    const QString problem = keyNameProblem(name);
+    return problem.isEmpty() ? unkeptKeyText(parent, name) : problem;
 }

@@ -28,6 +28,8 @@ public:
     static QString newNameProblem(const QString& path, const QString& name);
     /// Why a key cannot have this name, or an empty text.
     static QString keyNameProblem(const QString& name);
+    /// Why a new key of this one cannot have this name, or an empty text.
+    static QString newKeyNameProblem(const QString& parent, const QString& name);
 
 private:
     void readNumber(const QString& text, int size);

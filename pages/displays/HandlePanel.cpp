@@ -103,6 +103,9 @@ QSpinBox* HandlePanel::addSize(QHBoxLayout* row, const QString& caption)
     auto* spin = new QSpinBox;
     spin->setRange(1, largestSide);
     spin->setValue(firstSide);
+    // Some styles make the buttons as wide as a word, and leave room for those that there are not.
+    spin->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    spin->setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000000000")));
     spin->setAccessibleName(caption);
     spin->setToolTip(caption);
     row->addWidget(spin);
@@ -121,7 +124,6 @@ void HandlePanel::refresh()
 {
     const KeptPlace place(*m_view, [this](int row) { return handleName(m_model.record(row)); });
     m_model.setRecords(graphicsHandles());
-    fitColumnsToContents(*m_view);
     place.restore();
 }
 

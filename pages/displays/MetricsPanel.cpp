@@ -1,6 +1,7 @@
 #include "pages/displays/MetricsPanel.h"
 
 #include "window/AnswerField.h"
+#include "window/KeptPlace.h"
 #include "window/ViewLook.h"
 
 #include <QHBoxLayout>
@@ -59,8 +60,10 @@ QLayout* MetricsPanel::makeQuery()
 
 void MetricsPanel::refresh()
 {
+    const KeptPlace place(*m_view,
+                          [this](int row) { return QString::number(m_model.record(row).index); });
     m_model.setRecords(systemMetrics());
-    fitColumnsToContents(*m_view);
+    place.restore();
     ask();
 }
 

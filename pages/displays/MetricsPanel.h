@@ -17,7 +17,7 @@ class MetricsPanel : public QWidget
 public:
     explicit MetricsPanel(QWidget* parent = nullptr);
 
-    /// Asks anew.
+    /// Asks anew; what is selected stays so.
     void refresh();
     /// Asks anew, and says whether an answer has changed.
     bool lookForChanges();

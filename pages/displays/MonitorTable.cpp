@@ -1,5 +1,6 @@
 #include "pages/displays/MonitorTable.h"
 
+#include "window/KeptPlace.h"
 #include "window/ViewLook.h"
 
 MonitorTable::MonitorTable(QWidget* parent) : QTableView(parent), m_model(columns())
@@ -31,6 +32,8 @@ std::vector<RecordColumn<Monitor>> MonitorTable::columns() const
 
 void MonitorTable::setMonitors(const std::vector<Monitor>& monitors)
 {
+    const KeptPlace place(*this,
+                          [this](int row) { return handleText(m_model.record(row).handle); });
     m_model.setRecords(monitors);
-    fitColumnsToContents(*this);
+    place.restore();
 }

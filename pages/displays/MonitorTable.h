@@ -13,6 +13,7 @@ class MonitorTable : public QTableView
 public:
     explicit MonitorTable(QWidget* parent = nullptr);
 
+    /// What is selected stays so, as far as it is still there.
     void setMonitors(const std::vector<Monitor>& monitors);
 
 private:

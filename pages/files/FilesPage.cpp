@@ -83,7 +83,7 @@ void FilesPage::refresh()
 {
     m_paths->ask();
     if (!m_searched.isEmpty())
-        searchFor(m_searched);
+        searchFor(m_searched, [this, place = m_table->place()] { m_table->restore(place); });
 }
 
 void FilesPage::lookForChanges()
@@ -121,7 +121,7 @@ void FilesPage::search()
     searchFor(pattern);
 }
 
-void FilesPage::searchFor(const QString& pattern, const QString& chosen)
+void FilesPage::searchFor(const QString& pattern, const std::function<void()>& goThere)
 {
     if (isBusy())
         return;
@@ -134,9 +134,9 @@ void FilesPage::searchFor(const QString& pattern, const QString& chosen)
              std::make_unique<FileSearchJob>(
                  pattern,
                  [this](std::vector<FoundEntry> entries) { m_table->append(std::move(entries)); }),
-             [this, chosen](const FileSearchJob& job, bool complete) {
+             [this, goThere](const FileSearchJob& job, bool complete) {
                  finish(job, complete);
-                 m_table->choose(chosen);
+                 goThere();
              });
 }
 
@@ -200,7 +200,7 @@ void FilesPage::openParent()
     const int separator = path.lastIndexOf(QLatin1Char('/'));
     m_typed = path.left(separator + 1) + QLatin1Char('*');
     m_pattern->setText(m_typed);
-    searchFor(m_typed, path.mid(separator + 1));
+    searchFor(m_typed, [this, name = path.mid(separator + 1)] { m_table->choose(name); });
 }
 
 // The rows stay until something else has been found, but nobody shall take them for the answer to

@@ -3,6 +3,8 @@
 #include "inspection/files/FileSearch.h"
 #include "window/Page.h"
 
+#include <functional>
+
 class EmptyHint;
 class FileSearchJob;
 class FoundTable;
@@ -31,8 +33,9 @@ private:
     void connectTable();
     void browse();
     void search();
-    /// `chosen` is the entry to be chosen when it is found.
-    void searchFor(const QString& pattern, const QString& chosen = {});
+    /// `goThere` chooses among what has been found.
+    void searchFor(
+        const QString& pattern, const std::function<void()>& goThere = [] {});
     void finish(const FileSearchJob& job, bool complete);
     void showAgain(const FileSearchJob& job, const std::vector<FoundEntry>& entries);
     QString foundText(const FileSearchJob& job);

@@ -2,8 +2,9 @@
 
 #include "inspection/files/FileAttributes.h"
 #include "inspection/files/FoundEntryText.h"
+#include "window/ColumnFit.h"
 #include "window/FaintText.h"
-#include "window/KeptPlace.h"
+#include "window/MiddleElision.h"
 #include "window/ViewLook.h"
 
 #include <QAction>
@@ -83,9 +84,11 @@ FoundTable::FoundTable(QWidget* parent)
     arrangeTable(*this);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     const QString time = QStringLiteral("2000-00-00 00:00:00");
-    fitColumns(*this,
-               {QStringLiteral("Name of a file with date.ext"), QStringLiteral("0x10 DIRECTORY"),
-                QStringLiteral("999,999,999"), time, time, time});
+    ColumnFit& columns = ColumnFit::of(*this);
+    columns.setSamples({QStringLiteral("Name of a file.ext"), QStringLiteral("0x10 DIRECTORY"),
+                        QStringLiteral("999,999,999"), time, time, time});
+    columns.giveRestTo({0, 1}); // what every entry has
+    setItemDelegateForColumn(0, new MiddleElision(this));
     addActions();
     connect(this, &QTableView::activated, this, &FoundTable::openFolder);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -123,9 +126,19 @@ void FoundTable::append(std::vector<FoundEntry> entries)
 
 void FoundTable::replace(std::vector<FoundEntry> entries)
 {
-    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
-    const KeptPlace place(*this, [this](int row) { return m_entries->record(row).name; });
+    const KeptPlace kept = place();
     m_entries->setRecords(std::move(entries));
+    restore(kept);
+}
+
+KeptPlace FoundTable::place()
+{
+    return KeptPlace(*this, [this](int row) { return m_entries->record(row).name; });
+}
+
+void FoundTable::restore(const KeptPlace& place)
+{
+    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
     place.restore();
 }
 

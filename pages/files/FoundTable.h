@@ -1,6 +1,7 @@
 #pragma once
 
 #include "inspection/files/FileSearch.h"
+#include "window/KeptPlace.h"
 #include "window/RecordsModel.h"
 
 #include <QTableView>
@@ -21,6 +22,10 @@ public:
     /// Shows what a new search for the same pattern has found. What is selected and where the table
     /// is scrolled to stays; nothing is told of that.
     void replace(std::vector<FoundEntry> entries);
+    /// What is selected and where the table is scrolled to.
+    KeptPlace place();
+    /// Goes back there; nothing is told of that.
+    void restore(const KeptPlace& place);
     /// Makes the entry of this name the current one where there is one.
     void choose(const QString& name);
 

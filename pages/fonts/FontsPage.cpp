@@ -4,6 +4,7 @@
 #include "inspection/fonts/FontPreview.h"
 #include "inspection/fonts/FontRegistrationJob.h"
 #include "window/AnswerField.h"
+#include "window/ColumnFit.h"
 #include "window/EmptyHint.h"
 #include "window/FaintText.h"
 #include "window/KeptPlace.h"
@@ -120,10 +121,11 @@ QTableView* FontsPage::makeTable()
     arrangeTable(*table);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 7 / 4);
-    fitColumns(*table,
-               {QStringLiteral("Family"), QStringLiteral("Demi Oblique "),
-                CharacterSets::title(CHINESEBIG5_CHARSET), QStringLiteral("CHINESE_GB2312")});
-    new ColumnBalancer(table, 0, QStringLiteral("WenQuanYi Micro"));
+    ColumnFit& columns = ColumnFit::of(*table);
+    columns.setSamples({QStringLiteral("WenQuanYi Micro"), QStringLiteral("Demi Oblique "),
+                        CharacterSets::title(CHINESEBIG5_CHARSET),
+                        QStringLiteral("CHINESE_GB2312")});
+    columns.giveRestTo({0, 4}); // the family and the preview
     connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
                 if (current.isValid() && !m_isRestoring)

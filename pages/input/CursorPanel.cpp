@@ -64,7 +64,7 @@ void CursorPanel::setCursorShape()
     m_levels.add(static_cast<Qt::CursorShape>(shape.toInt()));
     refresh();
     m_page.report(PageContext::Report::Info,
-                  tr("Levels added from here: %1.").arg(m_levels.count()));
+                  tr("Levels added from here: %L1.").arg(m_levels.count()));
 }
 
 void CursorPanel::takeBack()

@@ -95,6 +95,9 @@ QLayout* KeyPanel::makeQuery()
     m_code->setRange(0, lastCode);
     m_code->setDisplayIntegerBase(16);
     m_code->setPrefix(QStringLiteral("0x"));
+    // Some styles make the buttons as wide as a word, and leave room for those that there are not.
+    m_code->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    m_code->setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0x00000000")));
     m_code->setValue('A');
     m_code->setAccessibleName(tr("Code of a virtual key"));
     m_state = new AnswerField(tr("State"), QStringLiteral("state"));

@@ -6,6 +6,7 @@
 #include "pages/log/LogFilter.h"
 #include "pages/log/LogTable.h"
 #include "pages/log/TailFollower.h"
+#include "window/ColumnFit.h"
 #include "window/EmptyHint.h"
 #include "window/FileDialog.h"
 #include "window/PathLabel.h"
@@ -65,8 +66,8 @@ void LogPage::makeTable()
     m_table->setModel(m_filter);
     arrangeTable(*m_table);
     m_table->setAccessibleName(tr("Log"));
-    fitColumns(*m_table,
-               {QStringLiteral("2000-00-00 00:00:00"), QStringLiteral("[x] Information")});
+    ColumnFit::of(*m_table).setSamples(
+        {QStringLiteral("2000-00-00 00:00:00"), QStringLiteral("[x] Information")});
     new EmptyHint(m_table, ApplicationLog::isWritable()
                                ? tr("No line of the log has this level and this text.")
                                : lostText());

@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QFont>
 #include <QGuiApplication>
+#include <QLocale>
 
 namespace {
 
@@ -38,7 +39,7 @@ QString spokenSign(const DifferenceRow& row)
 
 QString number(int line)
 {
-    return line < 0 ? QString() : QString::number(line + 1);
+    return line < 0 ? QString() : QLocale().toString(line + 1);
 }
 
 ReadableLine line(const ProfileDifference& difference, const DifferenceRow& row)
@@ -122,11 +123,13 @@ QVariant signLook(const QPalette& palette, const DifferenceRow& row, int role)
 RecordColumn<DifferenceRow> numberColumn(const QString& title, int DifferenceRow::*line,
                                          const QPalette& palette)
 {
-    return {title, [line](const DifferenceRow& row) { return number(row.*line); },
-            [palette](const DifferenceRow& row, int role) {
-                return role == Qt::TextAlignmentRole ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                                                     : look(palette, row, role);
-            }};
+    const auto right = [palette](const DifferenceRow& row, int role) {
+        return role == Qt::TextAlignmentRole ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                                             : look(palette, row, role);
+    };
+    return RecordColumn<DifferenceRow>(
+               title, [line](const DifferenceRow& row) { return number(row.*line); }, right)
+        .sortedBy([line](const DifferenceRow& row) { return SortKey::number(row.*line); });
 }
 
 } // namespace

@@ -30,6 +30,6 @@ public:
     static std::vector<RecordColumn<DifferenceRow>>
     of(const std::shared_ptr<const ProfileDifference>& difference, const QPalette& palette);
 
-    /// See fitColumns.
+    /// See ColumnFit.
     static QStringList samples();
 };

@@ -7,6 +7,7 @@
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QLocale>
 
 namespace {
 
@@ -18,7 +19,8 @@ bool isDull(const LineReading& reading)
     case LineState::Blank:
     case LineState::Continuation:
     case LineState::Unreachable:
-    case LineState::NotFound: return true;
+    case LineState::NotFound:
+    case LineState::Untold: return true;
     default: return isLost(reading.state);
     }
 }
@@ -135,7 +137,7 @@ std::vector<RecordColumn<Line>> ProfileColumns::ofLines()
 {
     return {RecordColumn<Line>(
                 tr("No.", "number of a line"),
-                [](const Line& line) { return QString::number(line.number); },
+                [](const Line& line) { return QLocale().toString(line.number); },
                 [](const Line& line, int role) {
                     return role == Qt::TextAlignmentRole
                                ? QVariant(Qt::AlignRight | Qt::AlignVCenter)

@@ -1,6 +1,7 @@
 #include "pages/profiles/ProfileDifferenceDialog.h"
 
 #include "pages/profiles/DifferenceColumns.h"
+#include "window/ColumnFit.h"
 #include "window/Page.h"
 #include "window/ViewLook.h"
 
@@ -16,13 +17,29 @@ namespace {
 
 using Action = ProfileChange::Action;
 
+// Which lines they are depends on the family.
+QString found(const ProfileChange& change)
+{
+    const bool isKey = change.action == Action::DeleteKey;
+    if (change.family == ProfileFamily::Narrow)
+        return isKey ? ProfileDifferenceDialog::tr("The narrow family finds the key “%1” here.")
+                           .arg(change.key)
+                     : ProfileDifferenceDialog::tr("The narrow family finds the section “%1” here.")
+                           .arg(change.section);
+    return isKey ? ProfileDifferenceDialog::tr("The wide family finds the key “%1” here.")
+                       .arg(change.key)
+                 : ProfileDifferenceDialog::tr("The wide family finds the section “%1” here.")
+                       .arg(change.section);
+}
+
 QString explanation(const ProfileChange& change)
 {
     if (change.action != Action::Set)
-        return ProfileDifferenceDialog::tr(
-            "No family of calls can delete: a null value is written as an empty one, "
-            "and a call without a key is refused. So these lines are taken out of "
-            "the file, and the others stay as they are.");
+        return found(change) + QLatin1Char(' ') +
+               ProfileDifferenceDialog::tr(
+                   "No family of calls can delete: a null value is written as an empty one, "
+                   "and a call without a key is refused. So these lines are taken out of "
+                   "the file, and the others stay as they are.");
     return change.family == ProfileFamily::Narrow
                ? ProfileDifferenceDialog::tr(
                      "The narrow family writes the whole file anew, sorted, and only what "
@@ -89,7 +106,7 @@ QTableView* ProfileDifferenceDialog::makeTable()
     arrangeTable(*table);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 4 / 3);
-    fitColumns(*table, DifferenceColumns::samples());
+    ColumnFit::of(*table).setSamples(DifferenceColumns::samples());
     return table;
 }
 
@@ -109,7 +126,7 @@ QString ProfileDifferenceDialog::destroyed() const
         return {};
     QStringList numbers;
     for (std::size_t i = 0; i < lines.size() && i < most; ++i)
-        numbers << QString::number(lines[i]);
+        numbers << QLocale().toString(lines[i]);
     if (lines.size() > most)
         numbers << QStringLiteral("...");
     return tr("These lines are not in the file's encoding, and their bytes would be lost: %1.")

@@ -124,11 +124,17 @@ void ProfileEditor::tryOut(const Request& request)
 
 void ProfileEditor::decide(const Request& request, const ProfileDryRun& dryRun)
 {
+    if (dryRun.isTooLarge()) {
+        m_page.report(Report::Error,
+                      nothingDone(request.change) + QLatin1Char(' ') +
+                          tr("There is not memory enough to try the change on a copy."));
+        return;
+    }
     if (!dryRun.isReadBack()) {
         m_page.report(Report::Error, ProfileWriter::unreadable(request.change));
         return;
     }
-    const Trial trial{dryRun.bytes(), dryRun.former(), dryRun.difference()};
+    const Trial trial{dryRun.bytes(), dryRun.former(), dryRun.formerEntries(), dryRun.difference()};
     if (dryRun.isReadAlready())
         m_page.setStatus(tr("Nothing written: the family reads this value already."));
     else if (trial.difference->isAskedFor())
@@ -185,13 +191,15 @@ void ProfileEditor::finish(const Request& request, const Trial& trial, const Pro
     const std::optional<QByteArray> after = ProfileBytes::of(request.path);
     const bool isChanged = after != trial.bytes;
     if (isChanged)
-        m_history->add({request.path, request.change, trial.former, trial.bytes, after});
+        m_history->add(
+            {request.path, request.change, trial.former, trial.entries, trial.bytes, after});
     m_presence.note(request.path);
+    const bool hasFailed = complete && !job.isReadBack();
+    if (!isChanged && !backup.isEmpty() && (!complete || hasFailed))
+        QFile::remove(backup);
     if (!complete && !isChanged) {
-        if (!backup.isEmpty())
-            QFile::remove(backup);
         m_page.setStatus(nothingDone(request.change));
-    } else if (complete && !job.isReadBack()) {
+    } else if (hasFailed) {
         m_page.report(Report::Error, tr("The value could not be written to %1.").arg(request.path));
     } else {
         const bool isAsShown = after == trial.difference->lines().after().bytes();

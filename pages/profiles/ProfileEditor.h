@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inspection/profiles/FormerEntries.h"
 #include "inspection/profiles/ProfilePresence.h"
 #include "inspection/profiles/ProfileWriter.h"
 
@@ -50,6 +51,7 @@ private:
     {
         std::optional<QByteArray> bytes; ///< the file as it was; nothing where there was none
         QString former;
+        FormerEntries entries;
         std::shared_ptr<const ProfileDifference> difference;
     };
 

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QUndoStack>
 
 namespace {
@@ -46,6 +47,12 @@ QString placeOf(const ProfileRecord& record)
            record.change.section + QLatin1Char(']');
 }
 
+// As its header names it.
+QString sectionOf(const ProfileChange& change)
+{
+    return change.section.isEmpty() ? QStringLiteral("General") : change.section;
+}
+
 } // namespace
 
 ProfileHistory::ProfileHistory(PageContext& page, QWidget* window)
@@ -58,26 +65,44 @@ void ProfileHistory::add(ProfileRecord record)
     if (m_latest == record.before)
         record.before = m_latest;
     m_latest = record.after;
-    log(record, false);
+    log(record, QString(), false);
     m_page.undoStack().push(new ProfileUndo(*this, std::move(record)));
 }
 
 bool ProfileHistory::putBack(const ProfileRecord& record, bool isUndone)
 {
+    if (m_isStaying)
+        return true;
     const std::optional<QByteArray>& expected = isUndone ? record.after : record.before;
     const std::optional<QByteArray>& wanted = isUndone ? record.before : record.after;
     if (ProfileBytes::of(record.path) != expected && !isAgreed(record)) {
         m_page.setStatus(tr("The file stays as it is."));
-        return false;
+        stay(isUndone);
+        return true;
     }
     if (!ProfileBytes::restore(record.path, wanted)) {
         m_page.report(Report::Error, tr("%1 could not be put back.").arg(record.path));
         return false;
     }
-    log(record, isUndone);
+    log(record, isUndone ? QStringLiteral("Undone: ") : QStringLiteral("Redone: "), isUndone);
     const QString summary = isUndone ? tr("Undone: %1.") : tr("Made again: %1.");
     emit restored(record.path, summary.arg(title(record)));
     return true;
+}
+
+// The undo stack moves on when this call of it has ended, and then goes back.
+void ProfileHistory::stay(bool isUndone)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, isUndone] {
+            const QScopedValueRollback staying(m_isStaying, true);
+            if (isUndone)
+                m_page.undoStack().redo();
+            else
+                m_page.undoStack().undo();
+        },
+        Qt::QueuedConnection);
 }
 
 bool ProfileHistory::isAgreed(const ProfileRecord& record)
@@ -97,14 +122,23 @@ bool ProfileHistory::isAgreed(const ProfileRecord& record)
     return box.exec() == QMessageBox::Yes;
 }
 
-void ProfileHistory::log(const ProfileRecord& record, bool isUndone)
+void ProfileHistory::log(const ProfileRecord& record, const QString& prefix, bool isUndone)
 {
     const ProfileChange& change = record.change;
-    const bool isSection = change.action == Action::DeleteSection;
-    const QString former = isSection ? QStringLiteral("section") : record.former;
-    const QString value = change.action == Action::Set ? change.value : QString();
-    m_page.log(changeLine(placeOf(record), isSection ? QString() : change.key,
-                          isUndone ? value : former, isUndone ? former : value));
+    const QString place = prefix + placeOf(record);
+    const auto add = [&](const QString& name, const QString& before, const QString& after) {
+        m_page.log(changeLine(place, name, isUndone ? after : before, isUndone ? before : after));
+    };
+    if (change.action != Action::DeleteSection) {
+        add(change.key, record.former, change.action == Action::Set ? change.value : QString());
+        return;
+    }
+    add(QString(), QStringLiteral("section"), QString());
+    for (const auto& [key, value] : record.entries.shown)
+        add(key, value, QString());
+    const int rest = record.entries.count - static_cast<int>(record.entries.shown.size());
+    if (rest > 0)
+        m_page.log(QStringLiteral("%1: and %2 more keys").arg(place).arg(rest));
 }
 
 QString ProfileHistory::title(const ProfileRecord& record)
@@ -114,7 +148,7 @@ QString ProfileHistory::title(const ProfileRecord& record)
     switch (change.action) {
     case Action::Set: return tr("Set \"%1\" in %2").arg(change.key, file);
     case Action::DeleteKey: return tr("Delete \"%1\" from %2").arg(change.key, file);
-    case Action::DeleteSection: return tr("Delete [%1] from %2").arg(change.section, file);
+    case Action::DeleteSection: return tr("Delete [%1] from %2").arg(sectionOf(change), file);
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inspection/profiles/FormerEntries.h"
 #include "inspection/profiles/ProfileWriter.h"
 
 #include <QByteArray>
@@ -16,6 +17,7 @@ struct ProfileRecord
     QString path;
     ProfileChange change;
     QString former;                   ///< what the family read before; null where it found nothing
+    FormerEntries entries;            ///< of a section that is deleted
     std::optional<QByteArray> before; ///< nothing where there was no file
     std::optional<QByteArray> after;
 };
@@ -34,7 +36,8 @@ public:
     void add(ProfileRecord record);
 
     /// Makes the file what it was before the change, or after it. Asks first where others have
-    /// changed the file since. False, with a report, where the file stays as it is.
+    /// changed the file since: where the answer is no, the undo stack goes back to the change,
+    /// which can be tried again. False, with a report, where the file cannot be written.
     bool putBack(const ProfileRecord& record, bool isUndone);
 
     /// A change in a few words: the text of its entry.
@@ -46,9 +49,11 @@ signals:
 
 private:
     bool isAgreed(const ProfileRecord& record);
-    void log(const ProfileRecord& record, bool isUndone);
+    void stay(bool isUndone);
+    void log(const ProfileRecord& record, const QString& prefix, bool isUndone);
 
     PageContext& m_page;
     QWidget* m_window;
+    bool m_isStaying = false;           ///< the stack goes back, and no file with it
     std::optional<QByteArray> m_latest; ///< shares its memory with the record that comes next
 };

@@ -6,13 +6,13 @@
 #include "pages/profiles/ProfileLinesModel.h"
 #include "pages/profiles/ProfileTable.h"
 #include "platform/profiles/LineStateText.h"
+#include "window/ColumnFit.h"
 #include "window/EmptyHint.h"
 #include "window/PageContext.h"
 #include "window/ShownText.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
 #include <QSignalBlocker>
@@ -63,13 +63,12 @@ QLayout* ProfileLinesPane::makeFormRow()
 void ProfileLinesPane::makeLines()
 {
     const QFontMetrics metrics = m_table->fontMetrics();
-    int margin = 0;
-    const QStringList texts = shortTexts();
-    for (const QString& text : texts)
-        margin = std::max(margin, metrics.horizontalAdvance(text));
-    QHeaderView* header = m_table->horizontalHeader();
-    header->resizeSection(ProfileColumns::NarrowStateColumn, margin + metrics.height());
-    header->resizeSection(ProfileColumns::WideStateColumn, margin + metrics.height());
+    const QStringList states = shortTexts();
+    const QString widest = *std::max_element(
+        states.begin(), states.end(), [&metrics](const QString& one, const QString& other) {
+            return metrics.horizontalAdvance(one) < metrics.horizontalAdvance(other);
+        });
+    ColumnFit::of(*m_table).setSamples({QString(), widest, widest});
     new EmptyHint(m_table,
                   tr("Open a profile, or drop one here: each line appears with a margin that "
                      "tells how either family of calls reads it."));
@@ -95,16 +94,16 @@ void ProfileLinesPane::showForm()
     const bool hasOtherLines = isThere && !document->lines().form().otherLines().empty();
     m_encodingLabel->setVisible(hasOtherLines);
     m_encoding->setVisible(hasOtherLines);
-    if (isThere)
+    if (isThere) {
+        const QString restriction = document->restriction();
         m_form->setText(withoutLongWords(
             tr("%1. %2", "name and form of a file")
-                .arg(QFileInfo(document->path()).fileName(), document->lines().form().text())));
+                .arg(QFileInfo(document->path()).fileName(),
+                     restriction.isEmpty() ? document->lines().form().text() : restriction)));
+    }
     showCodec();
-    const QString widest =
-        QString::number(std::max(m_model->rowCount(), 10000)).replace(QLatin1Char('1'), '9');
-    const QFontMetrics metrics = m_table->fontMetrics();
-    m_table->horizontalHeader()->resizeSection(
-        ProfileColumns::NumberColumn, metrics.horizontalAdvance(widest) + metrics.height());
+    ColumnFit::of(*m_table).setSample(ProfileColumns::NumberColumn,
+                                      QLocale().toString(std::max(m_model->rowCount(), 10000)));
 }
 
 void ProfileLinesPane::showCodec()

@@ -4,9 +4,9 @@
 #include "pages/profiles/ProfileReadingQueue.h"
 #include "pages/profiles/ProfileReadingsModel.h"
 #include "pages/profiles/ProfileTable.h"
+#include "window/ColumnFit.h"
 #include "window/EmptyHint.h"
 #include "window/Page.h"
-#include "window/ViewLook.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -56,9 +56,11 @@ ProfileReadingsPane::ProfileReadingsPane(PageContext& page, QWidget* parent)
 
 void ProfileReadingsPane::makeTable()
 {
-    fitColumns(*m_table, {QStringLiteral("Name of section"), QStringLiteral("Name of a key")});
-    m_table->setColumnWidth(ProfileColumns::DifferenceColumn, m_table->fontMetrics().height() * 2);
-    new ColumnBalancer(m_table, ProfileColumns::WideColumn, QStringLiteral("255.255.255.0"));
+    ColumnFit& columns = ColumnFit::of(*m_table);
+    columns.setSamples({QStringLiteral("Name of section"), QStringLiteral("Name of a key"),
+                        QStringLiteral("255.255.255.0"), QStringLiteral("≠"),
+                        QStringLiteral("255.255.255.0")});
+    columns.giveRestTo({ProfileColumns::WideColumn, ProfileColumns::NarrowColumn});
     updateHint();
     m_table->viewport()->installEventFilter(this);
     connect(m_model, &QAbstractItemModel::layoutChanged, &m_soon, QOverload<>::of(&QTimer::start));
@@ -123,6 +125,7 @@ void ProfileReadingsPane::setDocument(std::shared_ptr<const ProfileDocument> doc
     m_queue->setDocument(document);
     m_model->setDocument(std::move(document));
     updateButtons();
+    updateHint();
     m_soon.start();
 }
 
@@ -146,6 +149,11 @@ void ProfileReadingsPane::updateButtons()
 
 void ProfileReadingsPane::updateHint()
 {
+    const auto& document = m_model->document();
+    if (document && !document->restriction().isEmpty()) {
+        m_hint->setText(document->restriction());
+        return;
+    }
     m_hint->setText(m_onlyDifferences->isChecked()
                         ? tr("Of the values that have been asked for, none is read differently.")
                         : tr("What the wide and the narrow calls read stands here side by side."));
@@ -295,7 +303,9 @@ void ProfileReadingsPane::findDifference(int from, bool isAgain)
     m_page.startJob(tr("Looking for a difference"), makeAsking(next),
                     [this, at, isAgain](const ProfileAskingJob&, bool complete) {
                         const int found = complete ? m_model->nextCandidate(*at) : -1;
-                        if (found >= 0)
+                        if (found >= 0 && !m_model->isRead(found)) // of another document
+                            findDifference(found - 1, isAgain);
+                        else if (found >= 0)
                             m_table->selectRow(m_model->rowOf(found));
                         else if (complete && !isAgain)
                             findDifference(-1, true);

@@ -1,20 +1,15 @@
 #include "pages/profiles/ProfilesPage.h"
 
-#include "inspection/files/TypedPath.h"
 #include "pages/profiles/ProfileEditPanel.h"
 #include "pages/profiles/ProfileEditor.h"
+#include "pages/profiles/ProfileFileBar.h"
 #include "pages/profiles/ProfileLinesPane.h"
 #include "pages/profiles/ProfileReadingsPane.h"
-#include "window/FileDialog.h"
 
 #include <QAction>
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMimeData>
-#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -34,13 +29,13 @@ QString draggedFile(const QMimeData& data)
 
 ProfilesPage::ProfilesPage(QWidget* parent)
     : Page(parent),
-      m_file(new QLineEdit),
+      m_file(new ProfileFileBar),
       m_lines(new ProfileLinesPane(*this)),
       m_readings(new ProfileReadingsPane(*this)),
       m_panel(new ProfileEditPanel),
       m_editor(new ProfileEditor(*this, this))
 {
-    body()->addLayout(makeFileRow());
+    body()->addWidget(m_file);
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_lines);
@@ -48,6 +43,7 @@ ProfilesPage::ProfilesPage(QWidget* parent)
     splitter->setSizes({3000, 2000}); // shares: where the window is low, lines come first
     body()->addWidget(splitter, 1);
     body()->addWidget(m_panel);
+    connect(m_file, &ProfileFileBar::openRequested, this, &ProfilesPage::open);
     connect(m_lines, &ProfileLinesPane::lineChosen, this, &ProfilesPage::showLine);
     connect(m_readings, &ProfileReadingsPane::nameChosen, this, &ProfilesPage::showName);
     connect(m_readings, &ProfileReadingsPane::answered, this, &ProfilesPage::updateReading);
@@ -72,25 +68,6 @@ void ProfilesPage::connectEditor()
     connect(m_editor, &ProfileEditor::restored, this, &ProfilesPage::showRestored);
 }
 
-QLayout* ProfilesPage::makeFileRow()
-{
-    m_file->setObjectName(QStringLiteral("file"));
-    m_file->setAccessibleName(tr("Profile file"));
-    m_file->setPlaceholderText(tr("Path of an INI file"));
-    m_file->setAcceptDrops(false); // files dropped here are for the page
-    auto* label = new QLabel(tr("Fil&e:"));
-    label->setBuddy(m_file);
-    auto* choose = glowing(new QPushButton(tr("Ope&n...")));
-    choose->setObjectName(QStringLiteral("open"));
-    auto* row = new QHBoxLayout;
-    row->addWidget(label);
-    row->addWidget(m_file, 1);
-    row->addWidget(choose);
-    connect(m_file, &QLineEdit::returnPressed, this, [this] { open(typedPath(m_file->text())); });
-    connect(choose, &QPushButton::clicked, this, &ProfilesPage::chooseFile);
-    return row;
-}
-
 void ProfilesPage::addKey(int key, const QString& text, void (ProfilesPage::*operation)())
 {
     auto* action = new QAction(text, this);
@@ -98,16 +75,6 @@ void ProfilesPage::addKey(int key, const QString& text, void (ProfilesPage::*ope
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     addAction(action);
     connect(action, &QAction::triggered, this, operation);
-}
-
-void ProfilesPage::chooseFile()
-{
-    auto* dialog = new FileDialog(this, tr("Open a profile"), "profiles");
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilter(tr("Profiles (*.ini);;All files (*)"));
-    dialog->startAt(m_path);
-    connect(dialog, &QFileDialog::fileSelected, this, &ProfilesPage::open);
-    dialog->open();
 }
 
 void ProfilesPage::openFile(const QString& path)
@@ -127,7 +94,7 @@ void ProfilesPage::open(const QString& path)
         return;
     m_summary.clear();
     const QString whole = QFileInfo(path).absoluteFilePath();
-    m_file->setText(whole);
+    m_file->setPath(whole);
     m_place = whole == m_path ? currentPlace() : Place();
     read(whole);
 }
@@ -201,10 +168,14 @@ void ProfilesPage::showDocument(std::shared_ptr<const ProfileDocument> document,
     m_path = document->path();
     m_stamp = m_readingStamp;
     m_wanted = wanted;
+    if (m_reread) // what the user has chosen meanwhile
+        m_place = currentPlace();
     m_document = std::move(document);
     m_editor->noteRead(m_path);
     m_lines->setDocument(m_document);
     m_readings->setDocument(m_document);
+    if (m_reread)
+        restorePlace(false);
 }
 
 // The answer may tell that a line only looked like an entry of the wide family.
@@ -241,7 +212,8 @@ bool ProfilesPage::hasChanged()
     const FileStamp former = std::exchange(m_stamp, FileStamp::of(m_path));
     if (former != m_stamp)
         return true;
-    return !former.isSure() && ProfileDocument::bytesOf(m_path) != m_document->lines().bytes();
+    return !former.isSure() && m_document->lines().hasMarks() &&
+           ProfileDocument::bytesOf(m_path) != m_document->lines().bytes();
 }
 
 void ProfilesPage::lookForChanges()
@@ -259,6 +231,8 @@ void ProfilesPage::lookForChanges()
 void ProfilesPage::finishReread()
 {
     m_reread.reset();
+    m_place = currentPlace();
+    m_wanted = m_readings->chosenName();
     restorePlace(true);
     markRead();
     if (m_document->exists())
@@ -332,6 +306,8 @@ void ProfilesPage::showName(int name)
 
 void ProfilesPage::showReading(int name)
 {
+    if (m_reread && !m_reread->isLoaded())
+        m_reread->lookFor(m_document->name(name));
     if (m_isRestoring)
         m_panel->updateReading(m_readings->reading(name));
     else
@@ -381,7 +357,7 @@ void ProfilesPage::showWritten(const ProfileChange& change, const QString& summa
 void ProfilesPage::showRestored(const QString& path, const QString& summary)
 {
     if (path != m_path)
-        m_file->setText(path);
+        m_file->setPath(path);
     m_place = path == m_path ? currentPlace() : Place();
     m_summary = summary;
     m_summaryKind = Report::Info;

@@ -12,10 +12,9 @@
 
 class ProfileEditPanel;
 class ProfileEditor;
+class ProfileFileBar;
 class ProfileLinesPane;
 class ProfileReadingsPane;
-class QLayout;
-class QLineEdit;
 
 /// A profile (INI file): how each of the two families of calls reads its lines, and writing through
 /// either of them.
@@ -54,11 +53,9 @@ private:
         int readingsPosition = 0;
     };
 
-    QLayout* makeFileRow();
     void addKey(int key, const QString& text, void (ProfilesPage::*operation)());
     void findNext();
     void nextDifference();
-    void chooseFile();
     bool isRefused(const QString& path);
     bool hasChanged();
     void read(const QString& path);
@@ -80,7 +77,7 @@ private:
     void showWritten(const ProfileChange& change, const QString& summary, bool isAsShown);
     void showRestored(const QString& path, const QString& summary);
 
-    QLineEdit* m_file;
+    ProfileFileBar* m_file;
     ProfileLinesPane* m_lines;
     ProfileReadingsPane* m_readings;
     ProfileEditPanel* m_panel;

@@ -45,6 +45,8 @@ AddressBar::AddressBar(PageContext& page, RegistryTreeModel& keys, QWidget* pare
     m_line->setCompleter(m_completer);
     connect(m_line, &QLineEdit::textEdited, this, &AddressBar::complete);
     connect(m_line, &QLineEdit::returnPressed, this, &AddressBar::submit);
+    connect(&m_completing, &JobRunner::finished, this, &AddressBar::showCompletions);
+    connect(&m_seeking, &JobRunner::finished, this, &AddressBar::offerNearest);
 }
 
 QWidget* AddressBar::makeLine()
@@ -87,6 +89,7 @@ void AddressBar::setPath(const QString& path)
 {
     if (std::exchange(m_path, path) == path && m_line->isModified())
         return;
+    stopLooking();
     m_line->setText(RegistryPath::shown(path));
     m_offer->hide();
 }
@@ -99,14 +102,30 @@ void AddressBar::addButton(QWidget* button)
 void AddressBar::complete(const QString& typed)
 {
     m_offer->hide();
+    stopLooking();
+    m_completion = std::make_unique<CompletionJob>(m_keys.sharedNames(), typed, mostCompletions);
+    if (m_completing.start(*m_completion))
+        showCompletions();
+}
+
+void AddressBar::showCompletions()
+{
     auto& model = static_cast<QStringListModel&>(*m_completer->model());
-    model.setStringList(completionsOf(m_keys.names(), typed, mostCompletions));
+    model.setStringList(m_completion->completions());
     m_completer->complete();
+}
+
+// What is being looked for is for an address that is no longer the one in the line.
+void AddressBar::stopLooking()
+{
+    m_completing.cancel();
+    m_seeking.cancel();
 }
 
 // With a completion chosen the completer puts that into the line afterwards.
 void AddressBar::submit()
 {
+    stopLooking();
     if (m_completer->popup()->isVisible())
         QMetaObject::invokeMethod(this, &AddressBar::open, Qt::QueuedConnection);
     else
@@ -139,21 +158,22 @@ void AddressBar::openNearest(const QStringList& paths)
     emit missed(paths.last());
     m_line->setText(typed);
     m_line->setModified(true);
-    QString other;
-    for (const QString& path : paths) {
-        if (other.isEmpty())
-            other = keyInOtherCase(m_keys.names(), path);
-    }
     m_page.report(Report::Warning,
                   tr("There is no key %1.").arg(RegistryPath::shown(paths.last())));
-    if (!other.isEmpty())
-        offer(other);
+    stopLooking();
+    m_nearest = std::make_unique<NearestKeyJob>(m_keys.sharedNames(), paths);
+    if (m_seeking.start(*m_nearest))
+        offerNearest();
 }
 
-void AddressBar::offer(const QString& path)
+void AddressBar::offerNearest()
 {
-    m_offered = path;
-    m_offerText->setText(
-        withoutLongWords(tr("Names are case-sensitive here: %1?").arg(RegistryPath::shown(path))));
+    if (m_nearest->difference() == NearestKeyJob::Difference::None)
+        return;
+    m_offered = m_nearest->path();
+    const QString sentence = m_nearest->difference() == NearestKeyJob::Difference::Case
+                                 ? tr("Names are case-sensitive here: %1?")
+                                 : tr("There is a key %1: is that the one you mean?");
+    m_offerText->setText(withoutLongWords(sentence.arg(RegistryPath::shown(m_offered))));
     m_offer->show();
 }

@@ -1,6 +1,12 @@
 #pragma once
 
+#include "inspection/JobRunner.h"
+#include "inspection/registry/CompletionJob.h"
+#include "inspection/registry/NearestKeyJob.h"
+
 #include <QWidget>
+
+#include <memory>
 
 class PageContext;
 class PathEdit;
@@ -10,7 +16,7 @@ class QLabel;
 class RegistryTreeModel;
 
 /// The line with the path of the key in view, in which another one can be typed. It completes what
-/// is typed, keeps it where it leads nowhere, and offers the key that differs in case only.
+/// is typed, keeps it where it leads nowhere, and offers the key that seems to be meant.
 class AddressBar : public QWidget
 {
     Q_OBJECT
@@ -35,12 +41,14 @@ private:
     QWidget* makeLine();
     QWidget* makeOffer();
     void complete(const QString& typed);
+    void showCompletions();
+    void stopLooking();
     void submit();
     void enter(const QString& path);
     void open();
     bool isThere(const QString& path) const;
     void openNearest(const QStringList& paths);
-    void offer(const QString& path);
+    void offerNearest();
 
     PageContext& m_page;
     RegistryTreeModel& m_keys;
@@ -51,4 +59,8 @@ private:
     QLabel* m_offerText;
     QWidget* m_offer; ///< in view while there is a key to offer
     QString m_offered;
+    JobRunner m_completing;
+    std::unique_ptr<CompletionJob> m_completion; ///< the one that runs
+    JobRunner m_seeking;
+    std::unique_ptr<NearestKeyJob> m_nearest; ///< the one that runs
 };

@@ -1,6 +1,7 @@
 #include "pages/registry/FindPane.h"
 
 #include "inspection/registry/RegistryPath.h"
+#include "window/ColumnFit.h"
 #include "window/EmptyHint.h"
 #include "window/Page.h"
 #include "window/ViewLook.h"
@@ -73,7 +74,10 @@ void FindPane::makeTable()
     m_table->setObjectName(QStringLiteral("found"));
     m_table->setAccessibleName(tr("Found"));
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    fitColumns(*m_table, {QStringLiteral("HKEY_CURRENT_USER\\Software\\Maker\\Program")});
+    ColumnFit& columns = ColumnFit::of(*m_table);
+    columns.setSamples(
+        {QStringLiteral("HKEY_CURRENT_USER\\Maker"), QStringLiteral("Name of a value")});
+    columns.giveRestTo({0, 2}); // the key and the data
     m_hint = new EmptyHint(m_table, tr("What is found is listed here; Enter goes to it."));
     connect(m_table, &QTableView::activated, this, &FindPane::choose);
 }

@@ -3,6 +3,7 @@
 #include "inspection/registry/CodePages.h"
 #include "inspection/registry/ImportText.h"
 #include "pages/registry/StoreBackup.h"
+#include "window/ColumnFit.h"
 #include "window/GlyphIcon.h"
 #include "window/Page.h"
 #include "window/ViewLook.h"
@@ -126,10 +127,12 @@ QWidget* ImportDialog::makeTable()
     table->setAccessibleName(tr("Statements of the file"));
     table->setTextElideMode(Qt::ElideMiddle);
     // Old and new are to be seen beside each other in a window of 800 pixels, too.
-    fitColumns(*table,
-               {QStringLiteral("[x] Refused: a sentence that says why"),
-                QStringLiteral("HKEY_CURRENT_USER\\S"), QStringLiteral("Name of one"),
-                QStringLiteral("REG_SZ the old text"), QStringLiteral("REG_SZ the new text")});
+    ColumnFit& columns = ColumnFit::of(*table);
+    columns.setSamples({QStringLiteral("[x] Refused: a sentence that says why"),
+                        QStringLiteral("HKEY_CURRENT_USER\\S"), QStringLiteral("Name of one"),
+                        QStringLiteral("REG_SZ the old text"),
+                        QStringLiteral("REG_SZ the new text"), QStringLiteral("99,999")});
+    columns.giveRestTo({1, 3, 4}); // the key, and what it held and will hold
     return table;
 }
 

@@ -32,8 +32,11 @@ void RegistryEditor::newKey(const QString& parentPath)
 {
     if (isKeyRefused(m_page, parentPath))
         return;
-    auto* dialog = new NameDialog(tr("New key"), RegistryPath::shown(parentPath),
-                                  &ValueInput::keyNameProblem, m_window);
+    const auto problem = [parentPath](const QString& name) {
+        return ValueInput::newKeyNameProblem(parentPath, name);
+    };
+    auto* dialog =
+        new NameDialog(tr("New key"), RegistryPath::shown(parentPath), problem, m_window);
     m_gate.open(dialog, [this, dialog, parentPath] { createKey(parentPath, dialog->name()); });
 }
 

@@ -87,9 +87,9 @@ RegistryHistory::RegistryHistory(PageContext& page, Gate gate, QWidget* window)
 {
 }
 
-StoreRecorder::Log RegistryHistory::log() const
+StoreRecorder::Log RegistryHistory::log(const QString& prefix) const
 {
-    return [&page = m_page](const QString& line) { page.log(line); };
+    return [&page = m_page, prefix](const QString& line) { page.log(prefix + line); };
 }
 
 std::shared_ptr<StoreRecorder> RegistryHistory::recorder() const
@@ -97,15 +97,18 @@ std::shared_ptr<StoreRecorder> RegistryHistory::recorder() const
     return std::make_shared<StoreRecorder>(log());
 }
 
-void RegistryHistory::add(const Description& description, const StoreRecorder& recorder)
+bool RegistryHistory::add(const Description& description, StoreRecorder& recorder)
 {
-    push({description, std::make_shared<StoreChange>(recorder.change())});
+    recorder.endLog();
+    return push({description, std::make_shared<StoreChange>(recorder.change())});
 }
 
-void RegistryHistory::push(const Change& change)
+bool RegistryHistory::push(const Change& change)
 {
-    if (!change.entries->empty())
-        m_stack->push(new Step(*this, change));
+    if (change.entries->empty())
+        return false;
+    m_stack->push(new Step(*this, change));
+    return true;
 }
 
 void RegistryHistory::make(const Description& description, StoreChange change)
@@ -150,8 +153,10 @@ void RegistryHistory::request(const Change& change, Direction direction)
 void RegistryHistory::restore(const Change& change, Direction direction, Others others)
 {
     const bool isUndo = direction == Direction::TakeBack;
+    // Like all lines of the audit trail they are not translated.
+    const auto log = this->log(isUndo ? QStringLiteral("Undone: ") : QStringLiteral("Redone: "));
     m_page.startJob(isUndo ? tr("Undoing") : tr("Redoing"),
-                    std::make_unique<StoreChangeJob>(change.entries, direction, others, log()),
+                    std::make_unique<StoreChangeJob>(change.entries, direction, others, log),
                     [this, change, direction](const StoreChangeJob& job, bool complete) {
                         endRestoring(change, direction, job, complete);
                     });

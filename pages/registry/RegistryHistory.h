@@ -46,8 +46,9 @@ public:
     /// Records a change, with a line of the page's log for each entry.
     std::shared_ptr<StoreRecorder> recorder() const;
 
-    /// Puts a change that has been recorded onto the undo stack, unless nothing has changed.
-    void add(const Description& description, const StoreRecorder& recorder);
+    /// Puts a change that has been recorded onto the undo stack. False where nothing has changed,
+    /// and nothing is put there.
+    bool add(const Description& description, StoreRecorder& recorder);
     /// Makes a planned change, and puts it onto the undo stack.
     void make(const Description& description, StoreChange change);
 
@@ -69,8 +70,8 @@ private:
         std::shared_ptr<const StoreChange> entries;
     };
 
-    StoreRecorder::Log log() const;
-    void push(const Change& change);
+    StoreRecorder::Log log(const QString& prefix = {}) const;
+    bool push(const Change& change);
     void endMaking(const Change& change, const StoreChangeJob& job, bool complete);
     void request(const Change& change, Direction direction);
     void restore(const Change& change, Direction direction, Others others);

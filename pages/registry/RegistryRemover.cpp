@@ -1,5 +1,6 @@
 #include "pages/registry/RegistryRemover.h"
 
+#include "inspection/registry/KeysAlongJob.h"
 #include "inspection/registry/ListedValue.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/RegistryRemovalJob.h"
@@ -34,7 +35,7 @@ RegistryRemover::RegistryRemover(PageContext& page, StoreGate& gate, RegistryHis
 }
 
 void RegistryRemover::ask(const QString& question, const QString& detail,
-                          const std::function<void()>& confirmed)
+                          const Confirmed& confirmed)
 {
     auto* box = new QMessageBox(QMessageBox::Warning, tr("Delete"), question, QMessageBox::Cancel,
                                 m_window);
@@ -64,20 +65,34 @@ void RegistryRemover::removeValues(const QString& path, const std::vector<Listed
     }
     if (going.empty())
         return;
-    const QString question =
-        going.size() == 1 ? tr("Delete this value of %1?") : tr("Delete these values of %1?");
-    ask(question.arg(RegistryPath::shown(path)), RemovalText::ofValues(going),
-        [this, path, going] { removeAll(path, going); });
+    m_page.startJob(tr("Counting what goes"),
+                    std::make_unique<KeysAlongJob>(std::move(going), RemovalText::mostNamed),
+                    [this, path](const KeysAlongJob& job, bool complete) {
+                        if (complete)
+                            confirmValues(path, job);
+                        else
+                            m_page.setStatus(tr("Cancelled: nothing was deleted."));
+                    });
 }
 
-void RegistryRemover::removeAll(const QString& path, const Values& values)
+void RegistryRemover::confirmValues(const QString& path, const KeysAlongJob& job)
+{
+    const Values& going = job.values();
+    const QString question =
+        going.size() == 1 ? tr("Delete this value of %1?") : tr("Delete these values of %1?");
+    ask(question.arg(RegistryPath::shown(path)), RemovalText::ofValues(going, job.keys()),
+        [this, path, going](const QString& backup) { removeAll(path, going, backup); });
+}
+
+void RegistryRemover::removeAll(const QString& path, const Values& values, const QString& backup)
 {
     const QString first = values.front().name;
     const auto recorder = m_history.recorder();
-    const auto finished = [this, path, first, recorder](const ValueRemovalJob& job, bool complete) {
+    const auto finished = [=](const ValueRemovalJob& job, bool complete) {
         const QString text = tr("Delete %1 from %2")
                                  .arg(deletedText(first, job.removed()), RegistryPath::shown(path));
-        m_history.add({text, Place{path, first}, Place{path, QString()}}, *recorder);
+        if (!m_history.add({text, Place{path, first}, Place{path, QString()}}, *recorder))
+            removeUnusedBackup(m_page, backup);
         emit changed(path);
         reportChange(m_page, complete ? Report::Info : Report::Warning,
                      tr("Deleted from %1: %2.")
@@ -105,17 +120,19 @@ void RegistryRemover::confirmKey(const QString& path, const RegistryCountJob& co
 {
     const QStringList& keys = count.keys();
     ask(tr("Delete the key %1?").arg(RegistryPath::shown(path)), RemovalText::ofKey(path, count),
-        [this, path, keys] { removeKeys(path, keys); });
+        [this, path, keys](const QString& backup) { removeKeys(path, keys, backup); });
 }
 
-void RegistryRemover::removeKeys(const QString& path, const QStringList& keys)
+void RegistryRemover::removeKeys(const QString& path, const QStringList& keys,
+                                 const QString& backup)
 {
     const auto recorder = m_history.recorder();
-    const auto finished = [this, path, recorder](const RegistryRemovalJob& job, bool complete) {
+    const auto finished = [=](const RegistryRemovalJob& job, bool complete) {
         const QString parent = RegistryPath::parent(path);
-        m_history.add({tr("Delete the key %1").arg(RegistryPath::shown(path)),
-                       Place{path, QString()}, Place{parent, QString()}},
-                      *recorder);
+        if (!m_history.add({tr("Delete the key %1").arg(RegistryPath::shown(path)),
+                            Place{path, QString()}, Place{parent, QString()}},
+                           *recorder))
+            removeUnusedBackup(m_page, backup);
         emit changed(parent);
         const bool whole = complete && job.succeeded();
         const QString text =

@@ -13,6 +13,7 @@ class QWidget;
 class RegistryCountJob;
 class RegistryHistory;
 class StoreGate;
+class KeysAlongJob;
 
 /// Deletes keys and values: asks first, saying what goes along, then deletes through the service.
 class RegistryRemover : public QObject
@@ -36,11 +37,14 @@ signals:
 private:
     using Values = std::vector<ValueRemovalJob::Value>;
 
-    void ask(const QString& question, const QString& detail,
-             const std::function<void()>& confirmed);
-    void removeAll(const QString& path, const Values& values);
+    /// Gets the file of the backup that has been made first; empty where there is none.
+    using Confirmed = std::function<void(const QString& backup)>;
+
+    void ask(const QString& question, const QString& detail, const Confirmed& confirmed);
+    void confirmValues(const QString& path, const KeysAlongJob& job);
+    void removeAll(const QString& path, const Values& values, const QString& backup);
     void confirmKey(const QString& path, const RegistryCountJob& count);
-    void removeKeys(const QString& path, const QStringList& keys);
+    void removeKeys(const QString& path, const QStringList& keys, const QString& backup);
 
     PageContext& m_page;
     StoreGate& m_gate;

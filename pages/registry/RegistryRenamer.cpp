@@ -5,6 +5,7 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/UnkeptName.h"
 #include "inspection/registry/ValueInput.h"
 #include "pages/registry/ChangeReport.h"
 #include "pages/registry/NameDialog.h"
@@ -19,9 +20,12 @@ using Report = PageContext::Report;
 // A value stands for a key of its name, as the service sees it.
 QString keyProblem(const QString& path, const QString& name)
 {
-    QString problem = ValueInput::keyNameProblem(name);
-    const QString target = RegistryPath::join(RegistryPath::parent(path), name);
-    if (!problem.isEmpty() || target == path)
+    const QString parent = RegistryPath::parent(path);
+    const QString target = RegistryPath::join(parent, name);
+    if (target == path)
+        return ValueInput::keyNameProblem(name);
+    QString problem = ValueInput::newKeyNameProblem(parent, name);
+    if (!problem.isEmpty())
         return problem;
     const bool isTaken = isRegistryKey(target) || StoreEntry::read(target);
     return isTaken ? RegistryRenamer::tr("%1 is there already.").arg(RegistryPath::shown(target))
@@ -31,6 +35,8 @@ QString keyProblem(const QString& path, const QString& name)
 QString valueProblem(const QString& path, const QString& oldName, const QString& name)
 {
     QString problem = ValueInput::nameProblem(name);
+    if (problem.isEmpty() && name != oldName)
+        problem = unkeptValueText(path, name);
     if (!problem.isEmpty() || name == oldName || !StoreEntry::read(StoreEntry::ofValue(path, name)))
         return problem;
     return RegistryRenamer::tr("%1 has a value \"%2\" already.")

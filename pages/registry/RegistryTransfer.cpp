@@ -146,7 +146,9 @@ void RegistryTransfer::preview(const QString& file, const RegistryImportJob& job
     connect(dialog, &QDialog::accepted, this, [this, dialog, file, plan] {
         const bool isBackupWanted = dialog->isBackupWanted();
         m_gate.passAgain([=] {
-            changeWithBackup(m_page, isBackupWanted, [this, file, plan] { apply(file, plan); });
+            changeWithBackup(m_page, isBackupWanted, [this, file, plan](const QString& backup) {
+                apply(file, plan, backup);
+            });
         });
     });
     connect(dialog, &ImportDialog::codePageChosen, this,
@@ -154,14 +156,17 @@ void RegistryTransfer::preview(const QString& file, const RegistryImportJob& job
     dialog->open();
 }
 
-void RegistryTransfer::apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan)
+void RegistryTransfer::apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan,
+                             const QString& backup)
 {
     const int refused = plan->count(ImportPlan::Outcome::Refused);
     const auto recorder = m_history.recorder();
     m_page.startJob(
         tr("Importing"), std::make_unique<RegistryApplyJob>(plan, recorder),
-        [this, file, refused, recorder](RegistryApplyJob& job, bool complete) {
-            m_history.add({tr("Import %1").arg(QFileInfo(file).fileName()), {}, {}}, *recorder);
+        [this, file, refused, recorder, backup](RegistryApplyJob& job, bool complete) {
+            if (!m_history.add({tr("Import %1").arg(QFileInfo(file).fileName()), {}, {}},
+                               *recorder))
+                removeUnusedBackup(m_page, backup);
             emit changed();
             reportImport(file, job.applied(), refused + job.failed(), complete);
         });

@@ -47,7 +47,8 @@ private:
     bool reportExport(RegistryExportJob& job, const QString& file, bool complete);
     void endReading(const RegistryImportJob& job, const QString& file, bool complete);
     void preview(const QString& file, const RegistryImportJob& job);
-    void apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan);
+    void apply(const QString& file, const std::shared_ptr<const ImportPlan>& plan,
+               const QString& backup);
     void reportImport(const QString& file, int applied, int refused, bool complete);
     void refuse(const QString& file, const QString& why);
 

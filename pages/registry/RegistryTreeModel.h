@@ -29,6 +29,8 @@ public:
 
     /// The names that the items come from.
     const RegistryIndex& names() const { return *m_names; }
+    /// The same, for whoever looks at it for longer: a refresh replaces it.
+    const std::shared_ptr<const RegistryIndex>& sharedNames() const { return m_names; }
 
     QModelIndex rootItem() const;
 

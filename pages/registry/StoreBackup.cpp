@@ -4,6 +4,7 @@
 #include "window/PageContext.h"
 #include "window/ShownText.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 using Report = PageContext::Report;
@@ -23,10 +24,11 @@ BackupBox::BackupBox(QWidget* parent) : QCheckBox(parent)
                 .arg(file)));
 }
 
-void changeWithBackup(PageContext& page, bool isBackupWanted, const std::function<void()>& change)
+void changeWithBackup(PageContext& page, bool isBackupWanted,
+                      const std::function<void(const QString& backup)>& change)
 {
     if (!isBackupWanted)
-        return change();
+        return change({});
     const auto finished = [&page, change](const StoreBackupJob& job, bool complete) {
         if (!complete)
             return page.setStatus(BackupBox::tr("Cancelled: nothing was changed."));
@@ -36,8 +38,14 @@ void changeWithBackup(PageContext& page, bool isBackupWanted, const std::functio
                 BackupBox::tr("The store could not be backed up: %1. Nothing was changed.")
                     .arg(job.error()));
         page.report(Report::Info, BackupBox::tr("Backed the store up to %1.").arg(job.file()));
-        change();
+        change(job.file());
     };
     page.startJob(BackupBox::tr("Backing the store up"), std::make_unique<StoreBackupJob>(),
                   finished);
+}
+
+void removeUnusedBackup(PageContext& page, const QString& backup)
+{
+    if (!backup.isEmpty() && QFile::remove(backup))
+        page.log(QStringLiteral("Removed the backup %1: nothing was changed.").arg(backup));
 }

@@ -3,6 +3,8 @@
 #include "inspection/registry/RawStore.h"
 #include "window/PageContext.h"
 
+#include <utility>
+
 using Report = PageContext::Report;
 using State = StoreWatch::State;
 
@@ -38,7 +40,8 @@ void StoreFollower::endComparison()
 void StoreFollower::tell()
 {
     const State state = m_watch.state();
-    if (state == m_told || state == State::Unknown)
+    const int failures = std::exchange(m_toldFailures, m_watch.failedSavings());
+    if (state == State::Unknown || (state == m_told && m_toldFailures == failures))
         return;
     m_told = state;
     if (state != State::InStep)

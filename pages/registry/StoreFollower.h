@@ -38,5 +38,6 @@ private:
     JobRunner m_runner;
     std::unique_ptr<StoreComparisonJob> m_comparison; ///< the one that runs
     StoreWatch::State m_told = StoreWatch::State::InStep;
-    int m_shown = 0; ///< the revision that the page shows
+    int m_toldFailures = 0; ///< savings that are told to have failed
+    int m_shown = 0;        ///< the revision that the page shows
 };

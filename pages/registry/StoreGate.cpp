@@ -1,6 +1,7 @@
 #include "pages/registry/StoreGate.h"
 
 #include "inspection/registry/StoreWatch.h"
+#include "pages/registry/StoreBackup.h"
 #include "window/Page.h"
 
 #include <QMessageBox>
@@ -82,10 +83,19 @@ void StoreGate::open(QDialog* dialog, const Action& accepted)
 
 void StoreGate::decide(const Action& write)
 {
-    if (m_watch.state() == State::InStep)
+    const State state = m_watch.state();
+    // The next change may be saved, and the ones before it with it.
+    if (state == State::InStep || state == State::Unsaved)
         write();
     else
         ask(write);
+}
+
+void StoreGate::writeAllTheSame(const Action& write)
+{
+    m_allowed = m_watch.file();
+    changeWithBackup(m_page, m_watch.state() == State::Damaged,
+                     [write](const QString& /*backup*/) { write(); });
 }
 
 void StoreGate::ask(const Action& write)
@@ -93,7 +103,10 @@ void StoreGate::ask(const Action& write)
     auto* box = new QMessageBox(QMessageBox::Warning, tr("The store's file"), m_watch.text(),
                                 QMessageBox::Cancel, m_window);
     box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(tr("An export first keeps what host libraries can read now."));
+    const QString exported = tr("An export first keeps what host libraries can read now.");
+    box->setInformativeText(m_watch.state() == State::Damaged
+                                ? tr("Before anything is written, a copy keeps the file as it is.")
+                                : exported);
     box->setAttribute(Qt::WA_DeleteOnClose);
     QPushButton* yes = glowing(box->addButton(tr("Write"), QMessageBox::AcceptRole));
     QPushButton* first = glowing(box->addButton(tr("Export first..."), QMessageBox::ActionRole));
@@ -101,8 +114,7 @@ void StoreGate::ask(const Action& write)
     box->setDefaultButton(QMessageBox::Cancel);
     connect(box, &QMessageBox::buttonClicked, this, [=](const QAbstractButton* button) {
         if (button == yes) {
-            m_allowed = m_watch.file();
-            write();
+            writeAllTheSame(write);
         } else if (button == first) {
             m_export([this, write] { pass(write); });
         }

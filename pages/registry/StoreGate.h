@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/files/FileIdentity.h"
+#include "inspection/files/FileStamp.h"
 
 #include <QObject>
 
@@ -42,11 +42,12 @@ private:
 
     void decide(const Action& write);
     void ask(const Action& write);
+    void writeAllTheSame(const Action& write);
 
     PageContext& m_page;
     StoreWatch& m_watch;
     Export m_export;
     QWidget* m_window;
     /// The file that may be written over: the user has said so since the last action began.
-    std::optional<FileIdentity> m_allowed;
+    std::optional<FileStamp> m_allowed;
 };

@@ -1,6 +1,7 @@
 #include "pages/registry/ValueTable.h"
 
 #include "inspection/registry/RegistryListing.h"
+#include "window/ColumnFit.h"
 #include "window/EmptyHint.h"
 #include "window/ViewLook.h"
 
@@ -11,8 +12,10 @@ ValueTable::ValueTable(QWidget* parent) : QTableView(parent), m_values(new Regis
     setObjectName(QStringLiteral("values"));
     setAccessibleName(tr("Values"));
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    fitColumns(*this, {QStringLiteral("[x] Value name"), QStringLiteral("REG_QWORD")});
-    new ColumnBalancer(this, RegistryValueModel::Data, QStringLiteral("1234 (0x4d2)"));
+    ColumnFit& columns = ColumnFit::of(*this);
+    columns.setSamples({QStringLiteral("[x] Value name"), QStringLiteral("REG_QWORD"),
+                        QStringLiteral("1234 (0x4d2)")});
+    columns.giveRestTo({RegistryValueModel::Data, RegistryValueModel::Raw});
     m_hint = new EmptyHint(this, QString());
     const auto tellSelected = [this] { emit selectedChanged(selectionModel()->hasSelection()); };
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, tellSelected);

@@ -23,7 +23,8 @@ enum class LineState : unsigned char
     ReplacedKey,    ///< dropped: the same key comes again in the section
     Unreachable,    ///< kept in the file, but no section name leads there
     Continuation,   ///< part of the line above
-    NotFound        ///< looks like an entry, but the family does not find it
+    NotFound,       ///< looks like an entry, but the family does not find it
+    Untold          ///< nobody has looked: the file is too large for that
 };
 
 struct LineReading

@@ -24,6 +24,7 @@ QString shortText(LineState state)
     case LineState::Unreachable: return LineStateText::tr("unreachable");
     case LineState::Continuation: return LineStateText::tr("continued");
     case LineState::NotFound: return LineStateText::tr("not found");
+    case LineState::Untold: return LineStateText::tr("untold");
     }
     return {};
 }
@@ -55,6 +56,8 @@ QString sentence(LineState state, ProfileFamily family)
     case LineState::Continuation: return LineStateText::tr("Part of the line above.");
     case LineState::NotFound:
         return LineStateText::tr("An entry, but the family does not find it under its name.");
+    case LineState::Untold:
+        return LineStateText::tr("Not looked at: the file is too large for that.");
     }
     return {};
 }
@@ -91,7 +94,7 @@ QString shortText(const LineReading& reading)
 QStringList shortTexts()
 {
     QStringList texts = {cutText(), listText(), escapeText()};
-    for (int state = 0; state <= static_cast<int>(LineState::NotFound); ++state)
+    for (int state = 0; state <= static_cast<int>(LineState::Untold); ++state)
         texts << shortText(static_cast<LineState>(state));
     return texts;
 }

@@ -1,22 +1,18 @@
 #include "platform/profiles/NarrowProfile.h"
 
+#include "platform/profiles/NarrowOutput.h"
 #include "platform/profiles/NarrowScanner.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr QChar lineFeed = QLatin1Char('\n');
-constexpr QChar equalsSign = QLatin1Char('=');
-
-void append(QString& text, QStringView part)
-{
-    text.append(part.data(), static_cast<int>(part.size()));
-}
+constexpr QStringView lineFeed = u"\n";
+constexpr QStringView equalsSign = u"=";
 
 } // namespace
 
-NarrowProfile::NarrowProfile(QStringView text)
+NarrowProfile::NarrowProfile(QStringView text) : m_text(text)
 {
     Entries* section = nullptr;
     for (NarrowScanner scanner(text); scanner.next();) {
@@ -25,62 +21,70 @@ NarrowProfile::NarrowProfile(QStringView text)
             // Intended: of several sections with one header the last one counts.
             section->clear();
         } else if (scanner.isEntry()) {
-            section->push_back({scanner.key(), scanner.value()});
+            section->push_back(entryOf(scanner.key(), scanner.value()));
         }
     }
 }
 
-QString NarrowProfile::value(QStringView header, QStringView key) const
+NarrowProfile::Entry NarrowProfile::entryOf(QStringView key, QStringView value) const
 {
-    const auto section = m_sections.find(header);
-    if (section == m_sections.end())
-        return {};
-    const Entries& entries = section->second;
-    const auto entry = std::find_if(entries.rbegin(), entries.rend(),
-                                    [key](const Entry& each) { return each.key == key; });
-    return entry == entries.rend() ? QString() : entry->value.toString();
+    const auto number = [](qsizetype size) { return static_cast<std::uint32_t>(size); };
+    return {number(key.data() - m_text.data()), number(key.size()),
+            number(value.data() - m_text.data()), number(value.size())};
+}
+
+QStringView NarrowProfile::keyOf(const Entry& entry) const
+{
+    return entry.keySize == isSet ? m_set[entry.value].first : m_text.mid(entry.key, entry.keySize);
+}
+
+QStringView NarrowProfile::valueOf(const Entry& entry) const
+{
+    return entry.keySize == isSet ? m_set[entry.value].second
+                                  : m_text.mid(entry.value, entry.valueSize);
 }
 
 void NarrowProfile::setValue(QStringView header, QStringView key, QStringView value)
 {
     Entries& entries = m_sections[header];
     sort(entries);
-    const auto place =
-        std::lower_bound(entries.begin(), entries.end(), key,
-                         [](const Entry& entry, QStringView name) { return entry.key < name; });
-    if (place != entries.end() && place->key == key)
-        place->value = value;
+    const Entry entry{0, isSet, static_cast<std::uint32_t>(m_set.size()), 0};
+    m_set.emplace_back(key, value);
+    const auto place = std::lower_bound(
+        entries.begin(), entries.end(), key,
+        [this](const Entry& each, QStringView name) { return keyOf(each) < name; });
+    if (place != entries.end() && keyOf(*place) == key)
+        *place = entry;
     else
-        entries.insert(place, {key, value});
+        entries.insert(place, entry);
 }
 
-QString NarrowProfile::toText()
+void NarrowProfile::writeTo(NarrowOutput& output)
 {
-    QString text;
     for (auto& [header, entries] : m_sections) {
-        append(text, header);
-        text.append(lineFeed);
+        output.append(header);
+        output.append(lineFeed);
         sort(entries);
         for (const Entry& entry : entries) {
-            append(text, entry.key);
-            text.append(equalsSign);
-            append(text, entry.value);
-            text.append(lineFeed);
+            output.append(keyOf(entry));
+            output.append(equalsSign);
+            output.append(valueOf(entry));
+            output.append(lineFeed);
         }
     }
-    return text;
 }
 
-// Leaves the last one of the entries with the same key. A file that was written by toText() is in
+// Leaves the last one of the entries with the same key. A file that was written by writeTo() is in
 // order already.
-void NarrowProfile::sort(Entries& entries)
+void NarrowProfile::sort(Entries& entries) const
 {
-    const auto notBefore = [](const Entry& a, const Entry& b) { return !(a.key < b.key); };
+    const auto isBefore = [this](const Entry& a, const Entry& b) { return keyOf(a) < keyOf(b); };
+    const auto notBefore = [&](const Entry& a, const Entry& b) { return !isBefore(a, b); };
     if (std::adjacent_find(entries.begin(), entries.end(), notBefore) == entries.end())
         return;
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const Entry& a, const Entry& b) { return a.key < b.key; });
-    const auto kept = std::unique(entries.rbegin(), entries.rend(),
-                                  [](const Entry& a, const Entry& b) { return a.key == b.key; });
+    std::stable_sort(entries.begin(), entries.end(), isBefore);
+    const auto kept =
+        std::unique(entries.rbegin(), entries.rend(),
+                    [this](const Entry& a, const Entry& b) { return keyOf(a) == keyOf(b); });
     entries.erase(entries.begin(), kept.base());
 }

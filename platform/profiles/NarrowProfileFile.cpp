@@ -1,12 +1,15 @@
 #include "platform/profiles/NarrowProfileFile.h"
 
+#include "platform/profiles/NarrowProfile.h"
 #include "platform/profiles/NarrowText.h"
 
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -43,39 +46,109 @@ std::int64_t latestBeside(std::int64_t stamp)
     return latestStamp < stamp + farAhead ? latestStamp : 0;
 }
 
+bool isPipe(const QString& path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
+// Does not wait for whatever the path leads to. Negative for a folder, and where it cannot be
+// opened.
+int openedDescriptor(const QString& path, QIODevice::OpenMode mode)
+{
+    const int access =
+        mode.testFlag(QIODevice::WriteOnly) ? O_RDWR | O_CREAT : static_cast<int>(O_RDONLY);
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), access | O_CLOEXEC | O_NONBLOCK, 0666);
+    struct stat status = {};
+    if (descriptor < 0 || (fstat(descriptor, &status) == 0 && !S_ISDIR(status.st_mode)))
+        return descriptor;
+    close(descriptor);
+    return -1;
+}
+
 } // namespace
 
 NarrowProfileFile::NarrowProfileFile(const QString& path) : m_file(path) {}
 
+// A pipe is not even opened: that alone would wake who waits at its other end.
 bool NarrowProfileFile::open(QIODevice::OpenMode mode)
 {
-    if (m_file.fileName().isEmpty() || !m_file.open(mode | QIODevice::Unbuffered))
+    const QString path = m_file.fileName();
+    if (path.isEmpty() || isPipe(path))
         return false;
-    m_foundStamp = stampOf(m_file.handle());
-    return true;
+    const int descriptor = openedDescriptor(path, mode);
+    if (descriptor < 0)
+        return false;
+    if (!m_file.open(descriptor, mode | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+        close(descriptor);
+        return false;
+    }
+    m_foundStamp = stampOf(descriptor);
+    return !isEndless();
 }
 
-QString NarrowProfileFile::text()
+// Devices that have no text, and take one, are files all the same. Intended: callers have always
+// been able to write to those that take everything.
+bool NarrowProfileFile::isEndless()
+{
+    struct stat status = {};
+    if (fstat(m_file.handle(), &status) == 0 && S_ISREG(status.st_mode))
+        return false;
+    char byte = 0;
+    return ::read(m_file.handle(), &byte, sizeof byte) != 0;
+}
+
+bool NarrowProfileFile::read(const Receiver& receive)
 {
     std::array<char, NarrowText::chunkSize> chunk;
     NarrowText text;
-    text.reserve(m_file.size());
-    for (qint64 size = 0; (size = m_file.read(chunk.data(), NarrowText::chunkSize)) > 0;)
-        text.append(QByteArray::fromRawData(chunk.data(), static_cast<int>(size)));
-    return text.take();
+    qint64 size = 0;
+    while ((size = m_file.read(chunk.data(), NarrowText::chunkSize)) > 0)
+        receive(text.decoded(QByteArray::fromRawData(chunk.data(), static_cast<int>(size))));
+    return size == 0;
+}
+
+std::optional<QString> NarrowProfileFile::text()
+{
+    if (m_file.size() > largestText)
+        return std::nullopt;
+    QString text;
+    text.reserve(static_cast<int>(m_file.size()));
+    const bool isRead = read([&text](const QString& piece) { text += piece; });
+    return isRead ? std::make_optional(text) : std::nullopt;
+}
+
+void NarrowProfileFile::rewrite(const QByteArray& bytes)
+{
+    rewrite([&bytes](const NarrowOutput::Write& write) { write(bytes); });
+}
+
+void NarrowProfileFile::rewrite(NarrowProfile& profile)
+{
+    rewrite([&profile](const NarrowOutput::Write& write) {
+        NarrowOutput output(write);
+        profile.writeTo(output);
+        output.finish();
+    });
 }
 
 // Overwrites and then cuts: at no time is the file empty, and file systems that flush a file which
 // was emptied and written anew have no reason to.
-void NarrowProfileFile::rewrite(const QByteArray& bytes)
+void NarrowProfileFile::rewrite(
+    const std::function<void(const NarrowOutput::Write& write)>& produce)
 {
-    if (m_file.isSequential()) { // a device, which keeps no text and has its stamp from others
-        m_file.write(bytes);
+    const bool isDevice = m_file.isSequential(); // keeps no text, and has its stamp from others
+    if (!isDevice)
+        m_file.seek(0);
+    bool isTaken = true;
+    produce([this, &isTaken](const QByteArray& bytes) {
+        isTaken = isTaken && m_file.write(bytes) == bytes.size();
+    });
+    if (isDevice)
         return;
-    }
-    m_file.seek(0);
-    if (m_file.write(bytes) == bytes.size())
-        m_file.resize(bytes.size());
+    if (isTaken)
+        m_file.resize(m_file.pos());
     advanceStamp();
     latestStamp = stampOf(m_file.handle());
 }

@@ -17,7 +17,11 @@ class NarrowScanner
 public:
     /// Lines end with a line feed; carriage returns are characters like others. What follows the
     /// last line feed is a line unless it is empty.
-    explicit NarrowScanner(QStringView text) : m_rest(text) {}
+    /// Where the text goes on in a section, `header` is that section's.
+    explicit NarrowScanner(QStringView text, QStringView header = {})
+        : m_rest(text), m_header(header)
+    {
+    }
 
     /// Goes to the first line, then to the next one; false behind the last one.
     bool next();

@@ -17,8 +17,10 @@ public:
 
     /// Makes room for the text of so many bytes.
     void reserve(qint64 bytes) { m_text.reserve(static_cast<int>(bytes)); }
-    /// Adds the next chunk: of `chunkSize` bytes, but for the last one.
-    void append(const QByteArray& chunk);
+    /// The text of the next chunk: of `chunkSize` bytes, but for the last one.
+    QString decoded(const QByteArray& chunk);
+    /// Adds that text.
+    void append(const QByteArray& chunk) { m_text += decoded(chunk); }
     /// The text so far; leaves nothing behind.
     QString take() { return std::move(m_text); }
 

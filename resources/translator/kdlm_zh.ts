@@ -66,6 +66,10 @@
         <source>Names are case-sensitive here: %1?</source>
         <translation>此处的名称区分大小写：是否为 %1？</translation>
     </message>
+    <message>
+        <source>There is a key %1: is that the one you mean?</source>
+        <translation>有一个项 %1：要找的是它吗？</translation>
+    </message>
 </context>
 <context>
     <name>BackupBox</name>
@@ -513,8 +517,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>以 null 调用 SetCursor 不会有任何变化。</translation>
     </message>
     <message>
-        <source>Levels added from here: %1.</source>
-        <translation>在此处增加的层数：%1。</translation>
+        <source>Levels added from here: %L1.</source>
+        <translation>在此处增加的层数：%L1。</translation>
     </message>
     <message>
         <source>GetCursorPos (screen):</source>
@@ -2067,6 +2071,14 @@ Put it in the place of the file to bring everything back.</source>
         <source>A backslash in it begins an escape.</source>
         <translation>其中的反斜杠开始一个转义序列。</translation>
     </message>
+    <message>
+        <source>untold</source>
+        <translation>未查看</translation>
+    </message>
+    <message>
+        <source>Not looked at: the file is too large for that.</source>
+        <translation>未查看：文件太大。</translation>
+    </message>
 </context>
 <context>
     <name>ListedValue</name>
@@ -2859,6 +2871,22 @@ Wide: %2</source>
         <comment>between numbers of lines</comment>
         <translation>、</translation>
     </message>
+    <message>
+        <source>The narrow family finds the key “%1” here.</source>
+        <translation>窄字符接口在此处找到键“%1”。</translation>
+    </message>
+    <message>
+        <source>The narrow family finds the section “%1” here.</source>
+        <translation>窄字符接口在此处找到节“%1”。</translation>
+    </message>
+    <message>
+        <source>The wide family finds the key “%1” here.</source>
+        <translation>宽字符接口在此处找到键“%1”。</translation>
+    </message>
+    <message>
+        <source>The wide family finds the section “%1” here.</source>
+        <translation>宽字符接口在此处找到节“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileDocument</name>
@@ -2879,8 +2907,20 @@ Wide: %2</source>
         <translation>无法读取 %1。</translation>
     </message>
     <message>
-        <source>%1 is larger than %2 MiB: no call of either family can read it.</source>
-        <translation>%1 大于 %2 MiB：两种接口都无法读取。</translation>
+        <source>The file is too large for more than its lines.</source>
+        <translation>文件太大，只能显示各行。</translation>
+    </message>
+    <message>
+        <source>They are the first %1.</source>
+        <translation>显示的是前 %1 行。</translation>
+    </message>
+    <message>
+        <source>The wide family cannot read it: it answers with the default.</source>
+        <translation>宽字符接口无法读取它：返回默认值。</translation>
+    </message>
+    <message>
+        <source>The narrow family reads it, but cannot write to it.</source>
+        <translation>窄字符接口可以读取它，但无法写入。</translation>
     </message>
 </context>
 <context>
@@ -3055,6 +3095,10 @@ Wide: %2</source>
         <source>The file differs from what was shown: look at its lines.</source>
         <translation>文件与预览的结果不同，请查看各行。</translation>
     </message>
+    <message>
+        <source>There is not memory enough to try the change on a copy.</source>
+        <translation>内存不足，无法在副本上试做此更改。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEncodingBox</name>
@@ -3081,6 +3125,33 @@ Wide: %2</source>
     <message>
         <source>%1: there is no such file.</source>
         <translation>%1：没有此文件。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFileBar</name>
+    <message>
+        <source>Profile file</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Path of an INI file</source>
+        <translation>INI 文件的路径</translation>
+    </message>
+    <message>
+        <source>Fil&amp;e:</source>
+        <translation>文件(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>Ope&amp;n...</source>
+        <translation>打开(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Open a profile</source>
+        <translation>打开配置文件</translation>
+    </message>
+    <message>
+        <source>Profiles (*.ini);;All files (*)</source>
+        <translation>配置文件 (*.ini);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -3339,33 +3410,17 @@ Wide: %2</source>
         <source>Nothing deleted: the wide family does not find that.</source>
         <translation>未删除：宽字符接口找不到该项。</translation>
     </message>
+    <message>
+        <source>%1 is larger than %2 MiB: no change can be tried on a copy of it.</source>
+        <translation>%1 大于 %2 MiB：无法在其副本上试做更改。</translation>
+    </message>
+    <message>
+        <source>Nothing deleted: the wide family does not find that. What stands under [General] is in no section for it: leave the section empty.</source>
+        <translation>未删除任何内容：宽字符接口找不到它。对它而言，[General] 下的内容不属于任何节：请将节留空。</translation>
+    </message>
 </context>
 <context>
     <name>ProfilesPage</name>
-    <message>
-        <source>Profile file</source>
-        <translation>配置文件</translation>
-    </message>
-    <message>
-        <source>Path of an INI file</source>
-        <translation>INI 文件的路径</translation>
-    </message>
-    <message>
-        <source>Fil&amp;e:</source>
-        <translation>文件(&amp;E)：</translation>
-    </message>
-    <message>
-        <source>Ope&amp;n...</source>
-        <translation>打开(&amp;N)...</translation>
-    </message>
-    <message>
-        <source>Open a profile</source>
-        <translation>打开配置文件</translation>
-    </message>
-    <message>
-        <source>Profiles (*.ini);;All files (*)</source>
-        <translation>配置文件 (*.ini);;所有文件 (*)</translation>
-    </message>
     <message>
         <source>Type the path of a file first.</source>
         <translation>请先输入文件路径。</translation>
@@ -4434,6 +4489,10 @@ Wide: %2</source>
         <source>An export first keeps what host libraries can read now.</source>
         <translation>先导出可保留主机库目前能读取的内容。</translation>
     </message>
+    <message>
+        <source>Before anything is written, a copy keeps the file as it is.</source>
+        <translation>写入之前，会先保留一份该文件的原样副本。</translation>
+    </message>
 </context>
 <context>
     <name>StoreWatch</name>
@@ -4452,6 +4511,14 @@ Wide: %2</source>
     <message>
         <source>Another program has changed the store&apos;s file %1.</source>
         <translation>其他程序已更改存储的文件 %1。</translation>
+    </message>
+    <message>
+        <source>The store&apos;s file %1 is damaged: it has lines that are no entries. The store leaves them out, and its next change writes the file without them.</source>
+        <translation>存储的文件 %1 已损坏：其中有不是条目的行。存储会忽略这些行，下一次更改写入的文件将不再包含它们。</translation>
+    </message>
+    <message>
+        <source>The store could not be saved to %1, for which a full disk may be the reason. The last changes are not in the file, and end with the program unless a later change is saved.</source>
+        <translation>存储未能保存到 %1，原因可能是磁盘已满。最近的更改不在该文件中；除非以后的更改保存成功，否则将随程序结束而丢失。</translation>
     </message>
 </context>
 <context>
@@ -4555,6 +4622,21 @@ Wide: %2</source>
     <message>
         <source>Only the first %1 bytes of the IV are used.</source>
         <translation>初始向量仅使用前 %1 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>UnkeptName</name>
+    <message>
+        <source>The first character of the name, the invisible U+FEFF, is left out by the registry.</source>
+        <translation>名称的第一个字符是不可见的 U+FEFF，注册表会将其略去。</translation>
+    </message>
+    <message>
+        <source>A value without a name is gone after a restart.</source>
+        <translation>没有名称的值在重新启动后将不复存在。</translation>
+    </message>
+    <message>
+        <source>After a restart the key &quot;%1&quot; is called &quot;%2&quot;: the store cannot tell the two apart.</source>
+        <translation>重新启动后，项“%1”将变为“%2”：存储无法区分二者。</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,4 @@
-#include "tests/pages/PageNames.h"
-#include "tests/pages/WindowProbe.h"
+#include "tests/pages/PageInLanguage.h"
 
 #include "host/HostLibraries.h"
 #include "pages/input/KeyLamp.h"
@@ -24,8 +23,6 @@
 #include <algorithm>
 
 namespace {
-
-using Language = WindowProbe::Language;
 
 QAccessibleInterface* interfaceOf(QObject* object)
 {
@@ -71,12 +68,12 @@ void walk(QAccessibleInterface* node, QStringList& faults, int& nodes)
         walk(node->child(child), faults, nodes);
 }
 
-class AccessibleTree : public testing::TestWithParam<std::tuple<std::string, Language>>
+class AccessibleTree : public TestOfPageInLanguage
 {
 protected:
     QWidget& window() { return *m_probe.page().window(); }
 
-    WindowProbe m_probe{std::get<0>(GetParam()), std::get<1>(GetParam())};
+    WindowProbe m_probe{GetParam().page, GetParam().language};
 };
 
 TEST_P(AccessibleTree, NamesAllThatCanBeReached)
@@ -103,19 +100,13 @@ TEST_P(AccessibleTree, IsThatOfAWindowWithAPageInIt)
     EXPECT_EQ(page->role(), QAccessible::PropertyPage);
     const auto pages = pageCatalogue();
     const auto entry = std::find_if(pages.begin(), pages.end(), [](const PageEntry& each) {
-        return each.name.toStdString() == std::get<0>(GetParam());
+        return each.name.toStdString() == GetParam().page;
     });
     EXPECT_EQ(nameOf(*page), withoutMnemonic(entry->title).toStdString());
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, AccessibleTree,
-                         testing::Combine(testing::ValuesIn(pageNames()),
-                                          testing::Values(Language::English, Language::Chinese)),
-                         [](const auto& row) {
-                             return std::get<0>(row.param) +
-                                    (std::get<1>(row.param) == Language::English ? "English"
-                                                                                 : "Chinese");
-                         });
+INSTANTIATE_TEST_SUITE_P(Pages, AccessibleTree, testing::ValuesIn(pagesInLanguages()),
+                         nameOfPageInLanguage);
 
 TEST(AccessibleRoles, TheRailIsAListOfPageTabs)
 {

@@ -1,4 +1,4 @@
-#include "tests/pages/Contrast.h"
+#include "tests/support/Contrast.h"
 #include "tests/pages/PageNames.h"
 #include "tests/pages/SmallFont.h"
 #include "tests/pages/WindowProbe.h"

@@ -5,12 +5,15 @@
 
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
+#include "window/FileOpener.h"
 
 #include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTimer>
 #include <QTreeView>
 
 namespace {
@@ -53,6 +56,10 @@ protected:
         QApplication::sendEvent(&target, &drop);
         return drop.isAccepted();
     }
+
+    // By which the window looks whether a page can open the file that is waiting for it.
+    QTimer* waiting() { return m_window.findChild<FileOpener*>()->findChild<QTimer*>(); }
+    bool isFileWaiting() { return waiting()->isActive(); }
 
     template <typename Control>
     Control* shown(const char* name)
@@ -155,11 +162,11 @@ TEST_F(DroppedFiles, AFileDoesNotWaitWhereAnotherPageIsChosenMeanwhile)
     EXPECT_TRUE(drop(m_window, m_file.path()));
     QTest::keyClick(&m_window, Qt::Key_3, Qt::AltModifier);
     ASSERT_TRUE(waitFor([&] { return page() && page() != profiles; }));
-    QTest::qWait(200); // several looks
+    EXPECT_TRUE(waitFor([this] { return !isFileWaiting(); }));
     profiles->cancelJob();
     QTest::keyClick(&m_window, Qt::Key_2, Qt::AltModifier);
     ASSERT_TRUE(waitFor([&] { return page() == profiles; }));
-    QTest::qWait(200);
+    EXPECT_FALSE(isFileWaiting() || profiles->isBusy());
     EXPECT_EQ(profiles->findChild<QTableView*>("lines")->model()->rowCount(), 0);
 }
 
@@ -168,7 +175,9 @@ TEST_F(DroppedFiles, AFileWaitsForAPageThatIsAtWork)
     open("profiles");
     page()->startJob("Endless", std::make_unique<EndlessJob>(), [](EndlessJob&, bool) {});
     EXPECT_TRUE(drop(m_window, m_file.path()));
-    QTest::qWait(200);
+    const QSignalSpy looks(waiting(), &QTimer::timeout);
+    EXPECT_TRUE(waitFor([&] { return looks.size() >= 2 || !isFileWaiting(); }));
+    EXPECT_TRUE(isFileWaiting());
     EXPECT_EQ(page()->findChild<QTableView*>("lines")->model()->rowCount(), 0);
     page()->cancelJob();
     expectProfile();

@@ -1,5 +1,4 @@
-#include "tests/pages/PageNames.h"
-#include "tests/pages/WindowProbe.h"
+#include "tests/pages/PageInLanguage.h"
 
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
@@ -15,8 +14,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-using Language = WindowProbe::Language;
 
 QStringList textsOf(const QWidget& widget)
 {
@@ -51,7 +48,7 @@ QMap<QString, QStringList> mnemonics(const QWidget& window)
     return found;
 }
 
-class Mnemonics : public testing::TestWithParam<std::tuple<std::string, Language>>
+class Mnemonics : public TestOfPageInLanguage
 {
 protected:
     Mnemonics() { setPlatformServices(&g_PlatformServices); }
@@ -59,7 +56,7 @@ protected:
 
 TEST_P(Mnemonics, AreUniqueInTheWindow)
 {
-    const WindowProbe probe(std::get<0>(GetParam()), std::get<1>(GetParam()));
+    const WindowProbe probe(GetParam().page, GetParam().language);
     probe.page().find(); // with the search of the registry
     auto* tabs = probe.page().findChild<QTabWidget*>();
     for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
@@ -74,13 +71,7 @@ TEST_P(Mnemonics, AreUniqueInTheWindow)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, Mnemonics,
-                         testing::Combine(testing::ValuesIn(pageNames()),
-                                          testing::Values(Language::English, Language::Chinese)),
-                         [](const auto& row) {
-                             return std::get<0>(row.param) +
-                                    (std::get<1>(row.param) == Language::English ? "English"
-                                                                                 : "Chinese");
-                         });
+INSTANTIATE_TEST_SUITE_P(Pages, Mnemonics, testing::ValuesIn(pagesInLanguages()),
+                         nameOfPageInLanguage);
 
 } // namespace

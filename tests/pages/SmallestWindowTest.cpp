@@ -1,7 +1,6 @@
 #include "tests/pages/CutTexts.h"
-#include "tests/pages/PageNames.h"
+#include "tests/pages/PageInLanguage.h"
 #include "tests/pages/SmallFont.h"
-#include "tests/pages/WindowProbe.h"
 
 #include "tests/support/WaitFor.h"
 #include "window/ScrolledBody.h"
@@ -16,9 +15,7 @@
 
 namespace {
 
-using Language = WindowProbe::Language;
-
-class SmallestWindow : public testing::TestWithParam<std::tuple<std::string, Language>>
+class SmallestWindow : public TestOfPageInLanguage
 {
 protected:
     SmallestWindow()
@@ -31,7 +28,7 @@ protected:
     const ScrolledBody& body() { return *m_probe.page().findChild<ScrolledBody*>(); }
 
     SmallFont m_font;
-    WindowProbe m_probe{std::get<0>(GetParam()), std::get<1>(GetParam())};
+    WindowProbe m_probe{GetParam().page, GetParam().language};
 };
 
 TEST_P(SmallestWindow, ShowsAllOfThePage)
@@ -51,13 +48,7 @@ TEST_P(SmallestWindow, ShowsAllOfThePage)
     EXPECT_TRUE(window().rect().contains(status.geometry()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, SmallestWindow,
-                         testing::Combine(testing::ValuesIn(pageNames()),
-                                          testing::Values(Language::English, Language::Chinese)),
-                         [](const auto& row) {
-                             return std::get<0>(row.param) +
-                                    (std::get<1>(row.param) == Language::English ? "English"
-                                                                                 : "Chinese");
-                         });
+INSTANTIATE_TEST_SUITE_P(Pages, SmallestWindow, testing::ValuesIn(pagesInLanguages()),
+                         nameOfPageInLanguage);
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "tests/inspection/profiles/ProfileFixture.h"
-#include "tests/pages/Contrast.h"
-#include "tests/pages/StyleInUse.h"
 #include "tests/pages/WindowProbe.h"
+#include "tests/support/Contrast.h"
+#include "tests/support/TestInStyle.h"
 
 #include "pages/displays/MonitorMap.h"
 #include "tests/support/WaitFor.h"
@@ -16,16 +16,9 @@
 namespace {
 
 // What is told by colour alone, looked at in every style.
-class Styles : public testing::TestWithParam<StyleName>
+class Styles : public TestInStyle
 {
 protected:
-    void SetUp() override
-    {
-        if (QUAYSIDE_CROSS_BUILT && !m_style.isThere())
-            GTEST_SKIP() << "not installed for that processor: " << GetParam().key;
-        ASSERT_TRUE(m_style.isThere()) << "not installed: " << GetParam().key;
-    }
-
     static int differingPixels(const QImage& one, const QImage& other)
     {
         EXPECT_EQ(one.size(), other.size());
@@ -51,8 +44,6 @@ protected:
         const QRect inside = with.rect().adjusted(4, 4, -4, -4);
         EXPECT_EQ(differingPixels(with.copy(inside), without.copy(inside)), 0);
     }
-
-    const StyleInUse m_style{GetParam()};
 };
 
 TEST_P(Styles, TheFocusedMapOfTheMonitorsCanStillBeRead)
@@ -129,7 +120,6 @@ TEST_P(Styles, APlaceholderIsFainterThanWhatIsTyped)
     EXPECT_GE(placeholder, 3.0);
 }
 
-INSTANTIATE_TEST_SUITE_P(, Styles, testing::ValuesIn(stylesInUse),
-                         [](const auto& style) { return StyleInUse::nameOf(style.param); });
+INSTANTIATE_TEST_SUITE_P(, Styles, testing::ValuesIn(stylesInUse), nameOfStyle);
 
 } // namespace

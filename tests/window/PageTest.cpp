@@ -1,6 +1,7 @@
 #include "window/Page.h"
 
 #include "app/ApplicationLog.h"
+#include "tests/support/TimerEvents.h"
 #include "tests/support/WaitFor.h"
 #include "widgets/QProgressIndicator.h"
 #include "window/BusyOverlay.h"
@@ -336,16 +337,20 @@ TEST_F(PageTest, APageInViewLooksForChanges)
 TEST_F(PageTest, NothingLooksForChangesOutOfViewOrBesideAJobOrBelowADialog)
 {
     start(1000000);
-    QTest::qWait(1200);
+    const TimerEvents besideJob(&m_page);
+    EXPECT_TRUE(waitFor([&] { return besideJob.count() >= 2; }));
     EXPECT_EQ(m_page.looks, 0);
     m_page.cancelJob();
     QDialog dialog(&m_page);
     dialog.open();
-    QTest::qWait(1200);
+    const TimerEvents belowDialog(&m_page);
+    EXPECT_TRUE(waitFor([&] { return belowDialog.count() >= 2; }));
     EXPECT_EQ(m_page.looks, 0);
     dialog.close();
     m_page.hide();
-    QTest::qWait(1200);
+    OnePage inView;
+    inView.show();
+    EXPECT_TRUE(waitFor([&] { return inView.looks >= 2; }));
     EXPECT_EQ(m_page.looks, 0);
 }
 

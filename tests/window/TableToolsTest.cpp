@@ -192,7 +192,15 @@ TEST_F(TableToolsTest, OpenTheMenuByShiftF10AtTheCurrentRow)
                         "Name\tWhole\nclara\tclara\n"));
 }
 
-// The menu key arrives as such an event from the system.
+TEST_F(TableToolsTest, OpenTheMenuByTheMenuKey)
+{
+    const ExpectMessage ofPopups(offscreenLimits);
+    QTest::keyClick(&m_table, Qt::Key_Menu);
+    ASSERT_NE(openMenu(), nullptr);
+    openMenu()->close();
+}
+
+// Some systems send such an event for the menu key.
 TEST_F(TableToolsTest, OpenTheMenuForTheMenuKeyAndTheMouse)
 {
     const ExpectMessage ofPopups(offscreenLimits);

@@ -38,6 +38,34 @@ TEST_F(FileStampTest, TellsAFileFromNone)
     EXPECT_NE(FileStamp::of(path()), none);
 }
 
+TEST_F(FileStampTest, APathThatLeadsNowhereHasNone)
+{
+    EXPECT_FALSE(FileStamp::of(path()).exists());
+    EXPECT_FALSE(FileStamp::of(QString()).exists());
+    write("");
+    EXPECT_TRUE(FileStamp::of(path()).exists());
+}
+
+TEST_F(FileStampTest, IsThatOfTheSameFileWhenItHasBeenWritten)
+{
+    write("a");
+    const FileStamp before = FileStamp::of(path());
+    write("ab");
+    EXPECT_NE(FileStamp::of(path()), before);
+    EXPECT_TRUE(before.isSameFile(FileStamp::of(path())));
+}
+
+TEST_F(FileStampTest, AnotherFileUnderTheNameIsNotTheSame)
+{
+    write("a");
+    const FileStamp before = FileStamp::of(path());
+    ASSERT_TRUE(QFile::rename(path(), path("old")));
+    write("a");
+    EXPECT_FALSE(before.isSameFile(FileStamp::of(path())));
+    ASSERT_TRUE(QFile::remove(path()));
+    EXPECT_FALSE(before.isSameFile(FileStamp::of(path())));
+}
+
 TEST_F(FileStampTest, TellsAFileThatWasReplaced)
 {
     write("12345");

@@ -159,6 +159,30 @@ TEST_F(ImportPlanTest, TellsOfValuesThatDifferInCaseOnly)
     EXPECT_EQ(outcome(3), "Sets the value");
 }
 
+TEST_F(ImportPlanTest, ReadsTheNamesOfALargeKeyAFewAStep)
+{
+    for (int i = 0; i < 5000; ++i)
+        store(QString("A/value %1").arg(i), "1$1");
+    RegistryImportJob job("Windows Registry Editor Version 5.00\n[HKEY_CURRENT_USER\\A]\n"
+                          "\"VALUE 77\"=dword:1\n");
+    int steps = 0;
+    while (job.step())
+        ++steps;
+    EXPECT_GE(steps, 20);
+    const auto& statements = job.plan()->statements();
+    ASSERT_EQ(statements.size(), 2U);
+    EXPECT_TRUE(statements[1].remark.contains("differs from \"value 77\" in case only"))
+        << statements[1].remark.toStdString();
+}
+
+TEST_F(ImportPlanTest, TellsOfTheFirstOfTheKeysThatGoWithADeletion)
+{
+    read("[HKEY_USERS\\A\\Z]\n[HKEY_LOCAL_MACHINE\\A\\B]\n[HKEY_CURRENT_USER\\A\\A]\n"
+         "[-HKEY_CURRENT_USER\\A]\n");
+    EXPECT_TRUE(statement(3).remark.contains("Deletes what line 3 puts under HKEY_LOCAL_MACHINE"))
+        << statement(3).remark.toStdString();
+}
+
 TEST_F(ImportPlanTest, TakesAValueWithoutTypeAndDataAsWindowsWritesIt)
 {
     read("[HKEY_CURRENT_USER\\A]\n\"n\"=hex(0):\n\"b\"=hex:\n");

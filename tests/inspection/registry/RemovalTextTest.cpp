@@ -18,22 +18,19 @@ protected:
 
 TEST_F(RemovalTextTest, NamesTheFirstTenValues)
 {
-    std::vector<ValueRemovalJob::Value> values;
+    std::vector<RegistryValueName> values;
     for (const char* name : {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"})
         values.push_back({"A", name});
-    EXPECT_EQ(RemovalText::ofValues(values).toStdString(), "a\nb\nc\nd\ne\nf\ng\nh\ni\nj");
+    EXPECT_EQ(RemovalText::ofValues(values, {}).toStdString(), "a\nb\nc\nd\ne\nf\ng\nh\ni\nj");
     values.push_back({"A", "k"});
     values.push_back({"A", "l"});
-    EXPECT_EQ(RemovalText::ofValues(values).toStdString(),
+    EXPECT_EQ(RemovalText::ofValues(values, {}).toStdString(),
               "a\nb\nc\nd\ne\nf\ng\nh\ni\nj\nand 2 more");
 }
 
 TEST_F(RemovalTextTest, TellsOfKeysThatAreNamedLikeTheValues)
 {
-    store("A/twin", "1$1");
-    store("A/twin/inside", "1$1");
-    store("A/v", "1$1");
-    EXPECT_EQ(RemovalText::ofValues({{"A", "twin"}, {"A", "v"}}).toStdString(),
+    EXPECT_EQ(RemovalText::ofValues({{"A", "twin"}, {"A", "v"}}, {"A/twin"}).toStdString(),
               "twin\nv\n\nKeys of the same name go with everything in them:\n"
               "HKEY_CURRENT_USER\\A\\twin");
 }

@@ -2,7 +2,10 @@
 
 #include "tests/inspection/registry/StoreFileFixture.h"
 
+#include "tests/support/FullDisk.h"
+
 #include <QCoreApplication>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -156,6 +159,16 @@ TEST_F(StoreWatchTest, LeavesTheStoreAsItIs)
     EXPECT_EQ(StoreFile::bytes().toStdString(), before.toStdString());
 }
 
+TEST_F(StoreWatchTest, ComesToAnEndWhereverTheFirstDifferenceIs)
+{
+    for (const char* text : {"[A]\na=1$1\nv=1$1\n[B]\nw=5$text\n", "[B]\nw=5$text\n",
+                             "[A]\nv=1$1\n", "[A]\nv=1$1\n[B]\nw=5$text\nz=1$1\n"}) {
+        StoreFile::replace(text);
+        EXPECT_EQ(settled(), State::Replaced) << text;
+        EXPECT_EQ(m_watch->state(), State::Replaced) << text;
+    }
+}
+
 // A store of an organisation and an application answers from the organisation's file, too.
 TEST_F(StoreWatchTest, ComparesNothingButTheStoresOwnFile)
 {
@@ -176,6 +189,38 @@ TEST_F(StoreWatchTest, ComparesNothingButTheStoresOwnFile)
     g_globalSettings = hosts;
 }
 
+TEST_F(StoreWatchTest, BeginsWithWhatAnEarlierOneHasSeen)
+{
+    StoreFile::append("[C]\nx=1$7\n");
+    const auto earlier = std::exchange(m_watch, std::make_unique<StoreWatch>());
+    EXPECT_EQ(settled(), State::Changed);
+    m_watch = std::make_unique<StoreWatch>();
+    EXPECT_EQ(settled(), State::Changed);
+    StoreFile::replace("[A]\nv=1$9\n");
+    m_watch = std::make_unique<StoreWatch>();
+    EXPECT_EQ(settled(), State::Replaced);
+}
+
+TEST_F(StoreWatchTest, TakesWhatTheStoreSavedUnderAnEarlierOneForInStep)
+{
+    const auto earlier = std::exchange(m_watch, nullptr);
+    store("A/v", "1$2");
+    m_watch = std::make_unique<StoreWatch>();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_watch->state(), State::InStep);
+    store("A/v", "1$3");
+    QCoreApplication::processEvents();
+    m_watch = std::make_unique<StoreWatch>();
+    EXPECT_EQ(m_watch->state(), State::InStep);
+}
+
+TEST_F(StoreWatchTest, AsksNobodyToCompareWhatHasNotChanged)
+{
+    EXPECT_EQ(m_watch->state(), State::InStep);
+    m_watch = std::make_unique<StoreWatch>();
+    EXPECT_EQ(m_watch->state(), State::InStep);
+}
+
 TEST_F(StoreWatchTest, IsInStepWithoutAStore)
 {
     QSettings* hosts = std::exchange(g_globalSettings, nullptr);
@@ -183,6 +228,86 @@ TEST_F(StoreWatchTest, IsInStepWithoutAStore)
     EXPECT_EQ(m_watch->text().toStdString(), "");
     g_globalSettings = hosts;
     EXPECT_EQ(m_watch->state(), State::InStep);
+}
+
+// A store never forgets a failure, so these have one of their own.
+class StoreInTroubleTest : public StoreWatchTest
+{
+protected:
+    StoreInTroubleTest() { m_watch.reset(); }
+    ~StoreInTroubleTest() override { g_globalSettings = m_hosts; }
+
+    void open(const QByteArray& text)
+    {
+        const QString path = m_folder.filePath("store.ini");
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        m_own = std::make_unique<QSettings>(path, QSettings::IniFormat);
+        g_globalSettings = m_own.get();
+        m_watch = std::make_unique<StoreWatch>();
+    }
+
+    QTemporaryDir m_folder;
+    QSettings* m_hosts = g_globalSettings;
+    std::unique_ptr<QSettings> m_own;
+};
+
+TEST_F(StoreInTroubleTest, KnowsADamagedFileOnceItHasBeenParsed)
+{
+    for (const QByteArray& text : {QByteArray("[A]\nv=1$1\nnonsense\n"), QByteArray(4096, '\0')}) {
+        open(text);
+        EXPECT_EQ(m_watch->state(), State::InStep);
+        g_globalSettings->allKeys();
+        EXPECT_EQ(settled(), State::Damaged);
+        EXPECT_TRUE(m_watch->text().contains("is damaged")) << m_watch->text().toStdString();
+        EXPECT_EQ(StoreFile::bytes().toStdString(), text.toStdString());
+        store("A/w", "1$2");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(settled(), State::InStep);
+    }
+}
+
+TEST_F(StoreInTroubleTest, TakesNoSoundFileForADamagedOne)
+{
+    open("[A]\n; a remark\n\nv=1$1\n");
+    g_globalSettings->allKeys();
+    EXPECT_EQ(m_watch->state(), State::InStep);
+}
+
+TEST_F(StoreInTroubleTest, KnowsThatASavingHasFailed)
+{
+    open("[A]\nv=1$1\nx=1$1\n");
+    for (int failures = 1; failures <= 2; ++failures) {
+        const FullDisk full;
+        store("A/w", QString::number(failures));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(m_watch->state(), State::Unknown);
+        EXPECT_EQ(m_watch->state(), State::Unknown);
+    }
+    EXPECT_EQ(settled(), State::Unsaved);
+    EXPECT_EQ(m_watch->failedSavings(), 1);
+    EXPECT_TRUE(m_watch->text().contains("could not be saved")) << m_watch->text().toStdString();
+    store("A/w", "1$3");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_watch->state(), State::InStep);
+    EXPECT_TRUE(StoreFile::bytes().contains("w=1$3"));
+}
+
+TEST_F(StoreInTroubleTest, TakesASavingOfNothingForInStepAfterAFailure)
+{
+    open("[A]\nv=1$1\n");
+    {
+        const FullDisk full;
+        store("A/w", "1$2");
+        QCoreApplication::processEvents();
+    }
+    g_globalSettings->sync();
+    EXPECT_EQ(settled(), State::InStep);
+    g_globalSettings->remove("absent");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(settled(), State::InStep);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "inspection/registry/ValueInput.h"
 
+#include "tests/inspection/registry/RegistryTest.h"
+
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryKey.h"
 
@@ -81,6 +83,36 @@ TEST(ValueInput, RefusesNamesThatWouldLandElsewhere)
     }
     EXPECT_TRUE(ValueInput::nameProblem("a b$c").isEmpty());
     EXPECT_TRUE(ValueInput::keyNameProblem("a b$c").isEmpty());
+}
+
+class NewNames : public RegistryTest
+{
+};
+
+TEST_F(NewNames, AreRefusedWhereTheStoreWouldNotKeepThem)
+{
+    const QString marked = QChar(QChar::ByteOrderMark) + QStringLiteral("x");
+    for (const QString& name : {QStringLiteral("general"), QStringLiteral("GENERAL"), marked}) {
+        EXPECT_FALSE(ValueInput::newKeyNameProblem({}, name).isEmpty()) << name.toStdString();
+        EXPECT_FALSE(ValueInput::newNameProblem({}, name).isEmpty()) << name.toStdString();
+    }
+    EXPECT_EQ(ValueInput::newKeyNameProblem({}, "general").toStdString(),
+              "After a restart the key \"general\" is called \"General\": the store cannot tell "
+              "the two apart.");
+    EXPECT_FALSE(ValueInput::newKeyNameProblem("A", marked).isEmpty());
+    EXPECT_FALSE(ValueInput::newNameProblem("A", marked).isEmpty());
+    EXPECT_FALSE(ValueInput::newNameProblem("general/A", "v").isEmpty());
+}
+
+TEST_F(NewNames, AreTakenWhereTheStoreKeepsThem)
+{
+    EXPECT_EQ(ValueInput::newKeyNameProblem({}, "General").toStdString(), "");
+    EXPECT_EQ(ValueInput::newKeyNameProblem("A", "general").toStdString(), "");
+    EXPECT_EQ(ValueInput::newNameProblem("A", "general").toStdString(), "");
+    EXPECT_EQ(ValueInput::newNameProblem({}, "General").toStdString(), "");
+    EXPECT_EQ(
+        ValueInput::newNameProblem("A", QString("x") + QChar(QChar::ByteOrderMark)).toStdString(),
+        "");
 }
 
 TEST(RegistryFormat, ShowsWhatCanBeTypedInAgain)

@@ -4,6 +4,7 @@
 #include "pages/displays/MonitorMap.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/platform/graphics/VirtualScreen.h"
+#include "tests/support/TimerEvents.h"
 #include "tests/support/WaitFor.h"
 
 #include <QLabel>
@@ -141,6 +142,22 @@ TEST_F(DisplaysPageTest, ShowsTheMetricsThatAreAnsweredAndThoseThatAreNot)
                                    std::to_string(service()->GetSystemMetrics(SM_CYFULLSCREEN)));
 }
 
+TEST_F(DisplaysPageTest, KeepsTheSelectedMonitorAndMetric)
+{
+    auto* monitors = control<QTableView>("Monitors");
+    monitors->selectRow(0);
+    page()->refresh();
+    EXPECT_TRUE(monitors->selectionModel()->isRowSelected(0, {}));
+    chooseTab(1);
+    auto* metrics = control<QTableView>("System metrics");
+    metrics->selectRow(2);
+    QSignalSpy resets(metrics->model(), &QAbstractItemModel::modelReset);
+    page()->refresh();
+    EXPECT_EQ(resets.size(), 1);
+    EXPECT_EQ(metrics->currentIndex().row(), 2);
+    EXPECT_TRUE(metrics->selectionModel()->isRowSelected(2, {}));
+}
+
 class HandlePanelTest : public DisplaysPageTest
 {
 protected:
@@ -214,7 +231,8 @@ TEST_F(HandlePanelTest, KeepsItsPlaceWhereNothingChanges)
     refresh();
     auto* view = control<QTableView>("Graphics handles");
     QSignalSpy resets(view->model(), &QAbstractItemModel::modelReset);
-    QTest::qWait(1100); // the page has looked for changes twice
+    const TimerEvents looks(page());
+    EXPECT_TRUE(waitFor([&] { return looks.count() >= 2; }));
     EXPECT_EQ(resets.size(), 0);
     view->verticalScrollBar()->setValue(40);
     made(service()->createBrush(2));

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -122,6 +123,25 @@ TEST_F(FilesPageTest, RefreshSearchesAgain)
     m_probe.page().refresh();
     ASSERT_TRUE(m_probe.settle());
     EXPECT_EQ(model().rowCount(), 2);
+}
+
+TEST_F(FilesPageTest, RefreshKeepsTheRowAndWhereTheTableIsScrolledTo)
+{
+    for (int i = 0; i < 200; ++i)
+        makeFile(QString::number(1000 + i));
+    search(path("*"));
+    auto& table = m_probe.control<QTableView>("entries");
+    table.selectRow(150);
+    table.verticalScrollBar()->setValue(120);
+    m_probe.type("path", QStringLiteral("/typed"));
+    makeFile(QStringLiteral("0"));
+    m_probe.page().refresh();
+    ASSERT_TRUE(m_probe.settle());
+    EXPECT_EQ(model().rowCount(), 201);
+    EXPECT_EQ(table.currentIndex().data().toString(), QStringLiteral("1150"));
+    EXPECT_TRUE(table.selectionModel()->isRowSelected(151, {}));
+    EXPECT_EQ(table.verticalScrollBar()->value(), 120);
+    EXPECT_EQ(m_probe.text("path"), QStringLiteral("/typed"));
 }
 
 TEST_F(FilesPageTest, ReturnInThePatternSearches)

@@ -5,7 +5,29 @@
 #include "tests/support/Display.h"
 #include "tests/support/WaitFor.h"
 
+#include <QKeyEvent>
+#include <QSet>
+
 namespace {
+
+// The keys that were pressed in the window since.
+class PressedKeys : public QObject
+{
+public:
+    PressedKeys() { QApplication::instance()->installEventFilter(this); }
+
+    bool has(int key) const { return m_keys.contains(key); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress)
+            m_keys.insert(static_cast<const QKeyEvent*>(event)->key());
+        return false;
+    }
+
+private:
+    QSet<int> m_keys;
+};
 
 class RealInputTest : public PageFixture
 {
@@ -69,12 +91,15 @@ TEST_F(RealInputTest, ALetterLeavesEveryLampDark)
 {
     openActive("input");
     control<KeyLamp>("VK_SHIFT"); // the page is there
-    ASSERT_TRUE(Display::xdotool({"keydown", "a"}));
-    QTest::qWait(200);
+    const PressedKeys pressed;
+    ASSERT_TRUE(Display::xdotool({"keydown", "a"}) && Display::xdotool({"keydown", "b"}));
+    EXPECT_TRUE(waitFor([&pressed] { return pressed.has(Qt::Key_B); })); // so "a" was delivered
+    EXPECT_TRUE(pressed.has(Qt::Key_A));
+    page()->refresh();
     const auto all = page()->findChildren<KeyLamp*>();
     for (const KeyLamp* lamp : all)
         EXPECT_FALSE(lamp->isLit()) << lamp->accessibleName().toStdString();
-    ASSERT_TRUE(Display::xdotool({"keyup", "a"}));
+    ASSERT_TRUE(Display::xdotool({"keyup", "a"}) && Display::xdotool({"keyup", "b"}));
 }
 
 TEST_F(RealInputTest, TheMapFollowsThePointer)

@@ -1,4 +1,5 @@
 #include "app/ApplicationLog.h"
+#include "inspection/profiles/FormerEntries.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
 
 #include <QLineEdit>
@@ -74,6 +75,81 @@ TEST_F(ProfileDeletionTest, CanBeUndone)
     const QByteArray log = ProfileFixture::bytesOf(ApplicationLog::path());
     EXPECT_TRUE(log.contains(" (wide) [Net]: \"section\" -> absent\n"));
     EXPECT_TRUE(log.contains(" (wide) [Net]: absent -> \"section\"\n"));
+}
+
+TEST_F(ProfileDeletionTest, OfASectionLogsEachKeyWithItsValue)
+{
+    for (const int family : {wide, narrow}) {
+        m_file.write("[Net]\nHost=one\nMask=255\nPassword=hunter2\nEmpty=\n");
+        open();
+        choose(family);
+        requestDeletion(sectionEntry, "Net", "");
+        accept();
+        m_probe.page().undoStack().undo();
+        ASSERT_TRUE(m_probe.settle());
+        const QByteArray log = ProfileFixture::bytesOf(ApplicationLog::path());
+        const QByteArray place =
+            m_file.path().toUtf8() + (family == wide ? " (wide) [Net]: " : " (narrow) [Net]: ");
+        EXPECT_TRUE(log.contains(place + "\"Host\": \"one\" -> absent\n"));
+        EXPECT_TRUE(log.contains(place + "\"Mask\": \"255\" -> absent\n"));
+        EXPECT_TRUE(log.contains(place + "\"Empty\": \"\" -> absent\n"));
+        EXPECT_TRUE(log.contains(place + "\"Password\": (not logged) -> absent\n"));
+        EXPECT_TRUE(log.contains("Undone: " + place + "\"Host\": absent -> \"one\"\n"));
+    }
+}
+
+TEST_F(ProfileDeletionTest, OfALongSectionLogsHowManyKeysAreLeftOut)
+{
+    QByteArray bytes = "[Long]\n";
+    for (int key = 0; key < FormerEntries::most + 5; ++key)
+        bytes += "k" + QByteArray::number(key) + "=v\n";
+    m_file.write(bytes);
+    open();
+    requestDeletion(sectionEntry, "Long", "");
+    accept();
+    const QByteArray log = ProfileFixture::bytesOf(ApplicationLog::path());
+    EXPECT_EQ(log.count("[Long]: \"k"), FormerEntries::most);
+    EXPECT_TRUE(log.contains(" (wide) [Long]: and 5 more keys\n"));
+}
+
+TEST_F(ProfileDeletionTest, TakesOutWhatIsInNoSectionOfTheWideFamily)
+{
+    m_file.write("; by hand\nbefore=1\n[App]\na=1\n[General]\n; why\nk=v\n[Net]\nHost=one\n");
+    open();
+    requestDeletion(sectionEntry, "", "");
+    ASSERT_NE(question(), nullptr);
+    accept();
+    EXPECT_EQ(m_file.bytes(), "; by hand\n[App]\na=1\n[Net]\nHost=one\n");
+    EXPECT_EQ(m_probe.page().undoStack().undoText(),
+              QStringLiteral("Delete [General] from profile.ini"));
+}
+
+TEST_F(ProfileDeletionTest, SaysHowToNameWhatIsInNoSection)
+{
+    m_file.write("[General]\nk=v\n");
+    open();
+    requestDeletion(sectionEntry, "General", "");
+    EXPECT_TRUE(status().endsWith(QStringLiteral("leave the section empty.")));
+    EXPECT_EQ(question(), nullptr);
+}
+
+TEST_F(ProfileDeletionTest, NamesTheFamilyThatFindsTheLines)
+{
+    for (const int family : {wide, narrow}) {
+        open();
+        choose(family);
+        requestDeletion(keyEntry, "Net", "Mask");
+        ASSERT_NE(question(), nullptr);
+        EXPECT_TRUE(sentence("explanation")
+                        .startsWith(family == wide
+                                        ? QStringLiteral("The wide family finds the key “Mask”")
+                                        : QStringLiteral("The narrow family finds the key “Mask”")))
+            << sentence("explanation").toStdString();
+        question()->reject();
+        requestDeletion(sectionEntry, "Net", "");
+        EXPECT_TRUE(sentence("explanation").contains(QStringLiteral("finds the section “Net”")));
+        question()->reject();
+    }
 }
 
 TEST_F(ProfileDeletionTest, TheDeleteKeyDeletesTheChosenReading)

@@ -1,8 +1,14 @@
+#include "inspection/profiles/ProfileLoadingJob.h"
+#include "pages/profiles/ProfileReadingsPane.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
 #include "tests/support/WaitFor.h"
 
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTimer>
+
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -100,6 +106,53 @@ TEST_F(ProfileLiveTest, KeepsTheScrollPosition)
     ASSERT_TRUE(rowBecomes("readings", 500, {"S", "last", "1", "=", "1"}));
     for (const char* view : {"lines", "readings"})
         EXPECT_EQ(table(view).verticalScrollBar()->value(), 100) << view;
+}
+
+QByteArray manyKeys(const QByteArray& value, int count = 40000)
+{
+    QByteArray bytes = "[S]\n";
+    for (int i = 0; i < count; ++i)
+        bytes += "key" + QByteArray::number(i) + "=" + value + "\n";
+    return bytes;
+}
+
+TEST_F(ProfileLiveTest, KeepsWhatIsChosenWhileTheFileIsReadAgain)
+{
+    m_file.write(manyKeys("1"));
+    open();
+    int chosen = 0;
+    bool isShown = false;
+    const auto model = table("readings").model();
+    QObject::connect(model, &QAbstractItemModel::modelReset, [&isShown] { isShown = true; });
+    QTimer user; // who goes on choosing until the new lines are shown
+    QObject::connect(&user, &QTimer::timeout, [&] {
+        if (!isShown)
+            table("readings").selectRow(chosen = (chosen + 977) % 40000);
+    });
+    user.start(20);
+    m_file.write("; new\n" + manyKeys("2"));
+    EXPECT_TRUE(statusBecomes(QStringLiteral("changed by somebody else")));
+    EXPECT_TRUE(isShown);
+    EXPECT_EQ(table("readings").currentIndex().row(), chosen);
+    EXPECT_EQ(table("lines").currentIndex().row(), chosen + 2);
+}
+
+TEST_F(ProfileLiveTest, GoesToADifferenceOfTheLinesThatCameMeanwhile)
+{
+    constexpr int keys = 3000; // too many to be read when the file is opened
+    m_file.write(manyKeys("1", keys));
+    open();
+    m_file.write(manyKeys("1", keys).replace("key2999=1", "key2999=a,b"));
+    ProfileLoadingJob loading(m_file.path());
+    while (loading.step())
+        ;
+    m_probe.click("nextDifference");
+    ASSERT_TRUE(m_probe.page().isBusy());
+    m_probe.page().findChild<ProfileReadingsPane*>()->setDocument(
+        std::make_shared<const ProfileDocument>(std::move(loading.document())));
+    ASSERT_TRUE(waitForJob(m_probe.page()));
+    EXPECT_EQ(table("readings").currentIndex().row(), keys - 1);
+    EXPECT_EQ(row("readings", keys - 1).at(3), QStringLiteral("≠"));
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "pages/profiles/DifferenceColumns.h"
 #include "pages/profiles/ProfileLinesModel.h"
 #include "pages/profiles/ProfileReadingsModel.h"
 
@@ -33,6 +34,32 @@ TEST(ProfileModels, ShowMarkupInToolTipsAsItStands)
     };
     EXPECT_EQ(tip(ProfileColumns::KeyColumn), "<span>&lt;b&gt;key&lt;/b&gt;</span>");
     EXPECT_EQ(tip(ProfileColumns::SectionColumn), "S");
+}
+
+TEST(ProfileModels, GroupTheDigitsOfLineNumbers)
+{
+    ProfileDocument::Line line;
+    line.number = 12345;
+    const auto lines = ProfileColumns::ofLines();
+    EXPECT_EQ(lines[ProfileColumns::NumberColumn].text(line), "12,345");
+    DifferenceRow row;
+    row.before = 12344;
+    row.after = -1;
+    const auto columns = DifferenceColumns::of(nullptr, {});
+    EXPECT_EQ(columns[DifferenceColumns::BeforeColumn].text(row), "12,345");
+    EXPECT_EQ(columns[DifferenceColumns::AfterColumn].text(row), "");
+}
+
+TEST(ProfileModels, SortTheLinesOfADifferenceByTheirNumbers)
+{
+    RecordsModel<DifferenceRow> model(DifferenceColumns::of(nullptr, {}));
+    DifferenceRow tenth;
+    tenth.before = 9;
+    DifferenceRow ninth;
+    ninth.before = 8;
+    model.setRecords({tenth, ninth});
+    model.sort(DifferenceColumns::BeforeColumn, Qt::AscendingOrder);
+    EXPECT_TRUE(becomes([&model] { return model.record(0).before; }, 8));
 }
 
 // Three names, of which the first two are read differently.

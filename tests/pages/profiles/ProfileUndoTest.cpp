@@ -1,6 +1,7 @@
 #include "app/ApplicationLog.h"
 #include "tests/pages/MessageBoxes.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
+#include "tests/support/WaitFor.h"
 #include "window/BusyOverlay.h"
 
 #include <QCheckBox>
@@ -119,9 +120,25 @@ TEST_F(ProfileUndoTest, AsksBeforeItLosesWhatOthersWrote)
     EXPECT_TRUE(cancel.text().contains(QStringLiteral("is no longer as the change")));
     EXPECT_EQ(m_file.bytes(), others);
     EXPECT_EQ(status(), QStringLiteral("The file stays as it is."));
+    EXPECT_TRUE(becomes([this] { return changes().canRedo(); }, false)); // as before
     const MessageBoxAnswer yes(QMessageBox::Yes);
     undo();
-    EXPECT_EQ(m_file.bytes(), tidy);
+    EXPECT_EQ(m_file.bytes(), "[Net]\nHost=one\nMask=1\n");
+    EXPECT_TRUE(changes().canUndo());
+}
+
+TEST_F(ProfileUndoTest, ARedoThatIsNotWantedCanBeMadeLater)
+{
+    constexpr char others[] = "[Net]\nMask=3\n";
+    open();
+    setMask("1");
+    undo();
+    m_file.write(others);
+    const MessageBoxAnswer cancel(QMessageBox::Cancel);
+    redo();
+    EXPECT_EQ(m_file.bytes(), others);
+    EXPECT_TRUE(becomes([this] { return changes().canRedo(); }, true));
+    EXPECT_FALSE(changes().canUndo());
 }
 
 TEST_F(ProfileUndoTest, SaysWhenTheFileCannotBePutBack)
@@ -144,7 +161,10 @@ TEST_F(ProfileUndoTest, TheLogTellsOfEachChange)
     EXPECT_TRUE(logged().endsWith(" (wide) [Net]: \"Mask\": \"255\" -> \"1\"\n") ||
                 logged().contains(" (wide) [Net]: \"Mask\": \"255\" -> \"1\"\n"));
     undo();
-    EXPECT_TRUE(logged().contains(" (wide) [Net]: \"Mask\": \"1\" -> \"255\"\n"));
+    const QByteArray place = m_file.path().toUtf8() + " (wide) [Net]: \"Mask\": ";
+    EXPECT_TRUE(logged().contains("Undone: " + place + "\"1\" -> \"255\"\n"));
+    redo();
+    EXPECT_TRUE(logged().contains("Redone: " + place + "\"255\" -> \"1\"\n"));
     request(QStringLiteral("Net"), QStringLiteral("Password"), QStringLiteral("hunter2"), narrow);
     EXPECT_TRUE(logged().contains(" (narrow) [Net]: \"Password\": absent -> (not logged)\n"));
     EXPECT_FALSE(logged().contains("hunter2"));

@@ -300,6 +300,17 @@ TEST_F(RegistryPageTest, OffersTheKeyThatDiffersInCaseOnly)
     EXPECT_FALSE(jump->isVisible());
 }
 
+TEST_F(RegistryPageTest, OffersTheKeyThatIsMistyped)
+{
+    store("Software/Maker 06/v", "1$1");
+    show();
+    enterAddress("HKLM\\Sofware\\Maker 06");
+    auto* jump = m_page.findChild<QPushButton*>("jump");
+    ASSERT_TRUE(waitFor([jump] { return jump->isVisible(); }));
+    jump->click();
+    EXPECT_EQ(address().toStdString(), "HKEY_CURRENT_USER\\Software\\Maker 06");
+}
+
 TEST_F(RegistryPageTest, GoesToAPathAsItIsCopiedOnWindows)
 {
     store("A/B/v", "1$1");

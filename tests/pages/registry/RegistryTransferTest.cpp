@@ -1,3 +1,4 @@
+#include "host/HostLibraries.h"
 #include "inspection/registry/StoreBackupJob.h"
 #include "tests/inspection/registry/StoreFileFixture.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
@@ -120,6 +121,31 @@ TEST_F(RegistryTransferTest, ImportBacksTheStoreUpFirst)
     QFile copy(file);
     ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
     EXPECT_EQ(copy.readAll().toStdString(), before.toStdString());
+}
+
+TEST_F(RegistryTransferTest, ABackupOfNoChangeIsRemoved)
+{
+    store("A/v", "5$same");
+    QCoreApplication::processEvents();
+    show();
+    importFile(written(header + "[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"same\"\r\n"));
+    const QString file = StoreBackupJob::nextFile();
+    ASSERT_TRUE(accept());
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_TRUE(logged().contains("Removed the backup " + file));
+}
+
+TEST_F(RegistryTransferTest, ABackupOfADeletionThatFindsNothingIsRemoved)
+{
+    store("A/v", "5$old");
+    QCoreApplication::processEvents();
+    show();
+    m_page.goTo("A");
+    pressDelete(tree());
+    const QString file = StoreBackupJob::nextFile();
+    g_globalSettings->remove("A");
+    ASSERT_TRUE(accept());
+    EXPECT_FALSE(QFile::exists(file));
 }
 
 TEST_F(RegistryTransferTest, ImportMakesNoBackupThatIsNotWanted)

@@ -1,4 +1,5 @@
 #include "host/HostLibraries.h"
+#include "inspection/log/LimitedLines.h"
 #include "pages/registry/RegistryValueModel.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
 #include "tests/support/WaitFor.h"
@@ -186,6 +187,40 @@ TEST_F(RegistryUndoTest, ALineOfTheLogTellsOfEachChange)
     EXPECT_TRUE(log.contains("\"Password\": (not logged) -> (not logged)"));
     EXPECT_FALSE(log.contains("hidden"));
     EXPECT_FALSE(log.contains("covered"));
+}
+
+TEST_F(RegistryUndoTest, TheLogTellsUndoingAndRedoingFromChanges)
+{
+    fill();
+    show();
+    const int start = logged().size();
+    setValue("number", "43");
+    undo();
+    redo();
+    const QString log = logged().mid(start);
+    const QString line = "HKEY_CURRENT_USER\\A: \"number\": ";
+    EXPECT_EQ(log.count("Undone: " + line + "\"1$43\" -> \"1$42\""), 1);
+    EXPECT_EQ(log.count("Redone: " + line + "\"1$42\" -> \"1$43\""), 1);
+    EXPECT_EQ(log.count(line), 3);
+}
+
+TEST_F(RegistryUndoTest, TheLogTellsWhatGoesWithAKeyAndHowMuchOfItIsLeftOut)
+{
+    for (int i = 0; i < LimitedLines::most + 5; ++i)
+        store(QString("A/n%1").arg(i), "1$1");
+    show();
+    m_page.goTo("A");
+    int start = logged().size();
+    pressDelete(tree());
+    ASSERT_TRUE(accept());
+    QString log = logged().mid(start);
+    EXPECT_EQ(log.count("\"1$1\" -> absent"), LimitedLines::most);
+    EXPECT_EQ(log.count("and 5 more entries"), 1);
+    start = logged().size();
+    undo();
+    log = logged().mid(start);
+    EXPECT_EQ(log.count("Undone: HKEY_CURRENT_USER\\A: \"n"), LimitedLines::most);
+    EXPECT_EQ(log.count("Undone: and 5 more entries"), 1);
 }
 
 // Somebody else changes the value between the change and its undoing.

@@ -1,6 +1,7 @@
 #include "pages/registry/RegistryValueModel.h"
 #include "tests/inspection/registry/StoreFileFixture.h"
 #include "tests/pages/FileDialogAnswer.h"
+#include "tests/pages/WindowProbe.h"
 #include "tests/pages/registry/RegistryPageFixture.h"
 #include "tests/support/WaitFor.h"
 
@@ -71,6 +72,20 @@ TEST_F(StoreFileTest, AFileThatHasGoneBeforeThePageWasMadeIsAskedAboutToo)
     page.findChild<QMenu*>()->actions().first()->trigger();
     EXPECT_TRUE(words().contains("is gone")) << words().toStdString();
     reject();
+}
+
+TEST_F(StoreFileTest, AFileThatWasReplacedBeforeThePageWasMadeIsTold)
+{
+    store("A/v", "1$1");
+    QCoreApplication::processEvents();
+    const WindowProbe probe("files");
+    StoreFile::replace("[A]\nv=1$7\n");
+    QTest::keyClick(probe.page().window(), Qt::Key_1, Qt::AltModifier);
+    const auto* window = dynamic_cast<MainWindow*>(probe.page().window());
+    ASSERT_TRUE(waitFor([&] { return dynamic_cast<RegistryPage*>(window->currentPage()); }));
+    EXPECT_TRUE(waitFor([&] {
+        return window->currentPage()->statusText().contains("has replaced the store's file");
+    })) << window->currentPage()->statusText().toStdString();
 }
 
 TEST_F(StoreFileTest, AChangeOfAStoreWhoseFileHasGoneAsksAndCancelIsTheDefault)
