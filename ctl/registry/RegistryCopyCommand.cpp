@@ -9,6 +9,7 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/UnkeptName.h"
 
 namespace {
 
@@ -35,6 +36,9 @@ ExitStatus RegistryCopyCommand::run(const Arguments& arguments, Output& output)
         throw Failure(ExitStatus::No, tr("%1 is there already.").arg(RegistryPath::shown(to)));
     if (isBelow(to, from))
         throw Failure(tr("%1 is below the key that is to be copied.").arg(RegistryPath::shown(to)));
+    const QString unkept = unkeptKeyText(RegistryPath::parent(to), RegistryPath::name(to));
+    if (!unkept.isEmpty())
+        throw Failure(ExitStatus::No, unkept);
     KeyMovePlanJob plan(from, to, KeyMovePlanJob::Original::Stays);
     finish(plan);
     StoreChange change = plan.takeChange();

@@ -9,6 +9,7 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/UnkeptName.h"
 #include "inspection/registry/ValueInput.h"
 
 namespace {
@@ -24,6 +25,7 @@ StoreChange keyChange(const QString& path, const QString& name)
     refuse(ExitStatus::WrongUsage, ValueInput::keyNameProblem(name));
     if (path.isEmpty())
         throw Failure(RegistryRenameCommand::tr("The root itself cannot be renamed."));
+    refuse(ExitStatus::No, unkeptKeyText(RegistryPath::parent(path), name));
     const QString to = RegistryPath::join(RegistryPath::parent(path), name);
     if (isRegistryKey(to) || StoreEntry::read(to))
         throw Failure(
@@ -37,6 +39,7 @@ StoreChange keyChange(const QString& path, const QString& name)
 StoreChange valueChange(const QString& path, const QString& name, const QString& newName)
 {
     refuse(ExitStatus::WrongUsage, ValueInput::nameProblem(newName));
+    refuse(ExitStatus::No, unkeptValueText(path, newName));
     const QString from = StoreEntry::ofValue(path, name);
     const auto entry = StoreEntry::read(from);
     if (!entry || entry->isNull())

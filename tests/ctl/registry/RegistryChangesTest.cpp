@@ -122,6 +122,16 @@ TEST_F(CtlRegistryChanges, RefuseNamesThatAreTakenOrNone)
     EXPECT_EQ(storeBytes(), "[A]\nv=5$x\n[B]\nv=5$x\n");
 }
 
+// The store would call it otherwise after a restart.
+TEST_F(CtlRegistryChanges, RefuseNamesThatTheStoreDoesNotKeep)
+{
+    writeStore("[A]\nv=5$x\n");
+    const QString unkept = QStringLiteral("general");
+    EXPECT_EQ(status({"registry", "rename", "A", unkept}), 1);
+    EXPECT_EQ(status({"registry", "copy", "A", unkept}), 1);
+    EXPECT_EQ(storeBytes(), "[A]\nv=5$x\n");
+}
+
 TEST_F(CtlRegistryChanges, CopyAKeyWithEverythingBelowIt)
 {
     writeStore("[A]\nB\\v=broken\nw=5$x\n");
