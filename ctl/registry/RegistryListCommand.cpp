@@ -32,9 +32,11 @@ void printValue(const QString& path, const ListedValue& value, Output& output)
 void printValues(const QString& path, Output& output)
 {
     const auto names = path.isEmpty() ? RegistryIndex::read() : std::make_shared<RegistryIndex>();
-    const std::vector<ListedValue> values = ListedValue::ofKey(path, *names);
-    for (ListedValue value : values)
+    std::vector<ListedValue> values = ListedValue::ofKey(path, *names);
+    for (ListedValue& value : values) {
         printValue(path, value, output);
+        value.forget(); // a key may have very many
+    }
 }
 
 void listBelow(const QString& path, Output& output)
