@@ -25,7 +25,8 @@ QByteArray json(const QString& text)
 int widthOf(const QString& text)
 {
     int width = 0;
-    for (const uint character : text.toUcs4())
+    const QVector<uint> characters = text.toUcs4();
+    for (const uint character : characters)
         width += qMax(0, wcwidth(static_cast<wchar_t>(character)));
     return width;
 }

@@ -32,7 +32,8 @@ ExitStatus ProfileCheckCommand::run(const Arguments& arguments, Output& output)
                                                     : ProfileCheckJob::Comments::Skip;
     output.begin({Columns::file, Columns::line, Columns::family, Columns::reason});
     bool isAny = false;
-    for (const QString& file : arguments.from(0)) {
+    const QStringList files = arguments.from(0);
+    for (const QString& file : files) {
         ProfileCheckJob job(ProfileDocument::bytesOf(existingProfile(file)), comments);
         finish(job);
         for (const ProfileCheckJob::Finding& finding : job.findings()) {
