@@ -3,7 +3,7 @@
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Quayside)
-install(TARGETS quayside RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS quayside quaysidectl RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS
     quayside_support quayside_platform quayside_crypto quayside_widgets quayside_resources
     quayside_app quayside_regfile quayside_inspection quayside_window quayside_pages
@@ -33,6 +33,11 @@ foreach(header IN LISTS public_headers)
 endforeach()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/run/translations
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quayside)
+
+install(FILES ${PROJECT_SOURCE_DIR}/docs/quaysidectl.1
+  DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/quaysidectl.bash
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME quaysidectl)
 
 install(EXPORT QuaysideTargets NAMESPACE Quayside:: DESTINATION ${package_folder})
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/QuaysideConfig.cmake.in

@@ -194,6 +194,28 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>ByteInput</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ByteResult</name>
+    <message>
+        <source>Writes into this file.</source>
+        <translation>写入此文件。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file by --output.</source>
+        <translation>使用 --json 时，请用 --output 指定文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>ChangeReport</name>
     <message>
         <source>%1 %2</source>
@@ -295,6 +317,121 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>CommandTable</name>
+    <message>
+        <source>Lists sub-keys and values.</source>
+        <translation>列出子键和值。</translation>
+    </message>
+    <message>
+        <source>Prints the data of a value.</source>
+        <translation>输出一个值的数据。</translation>
+    </message>
+    <message>
+        <source>Sets a value.</source>
+        <translation>设置一个值。</translation>
+    </message>
+    <message>
+        <source>Deletes a value or a key.</source>
+        <translation>删除一个值或一个键。</translation>
+    </message>
+    <message>
+        <source>Renames a key or a value.</source>
+        <translation>重命名一个键或一个值。</translation>
+    </message>
+    <message>
+        <source>Copies a key with everything below it.</source>
+        <translation>复制一个键及其下的全部内容。</translation>
+    </message>
+    <message>
+        <source>Looks for a text in names and data.</source>
+        <translation>在名称和数据中查找文本。</translation>
+    </message>
+    <message>
+        <source>Writes a key with everything below it into a registry file.</source>
+        <translation>将一个键及其下的全部内容写入注册表文件。</translation>
+    </message>
+    <message>
+        <source>Carries out the statements of a registry file.</source>
+        <translation>执行注册表文件中的语句。</translation>
+    </message>
+    <message>
+        <source>Compares two keys, stores or registry files.</source>
+        <translation>比较两个键、存储或注册表文件。</translation>
+    </message>
+    <message>
+        <source>Lists what host libraries cannot read or read otherwise than written.</source>
+        <translation>列出主机库无法读取或读出与所写不同的内容。</translation>
+    </message>
+    <message>
+        <source>Lists what the families find in a profile, and what they read.</source>
+        <translation>列出两族函数在配置文件中找到和读出的内容。</translation>
+    </message>
+    <message>
+        <source>Prints what the families read.</source>
+        <translation>输出两族函数读出的内容。</translation>
+    </message>
+    <message>
+        <source>Writes a value through one of the families.</source>
+        <translation>通过其中一族函数写入一个值。</translation>
+    </message>
+    <message>
+        <source>Deletes what a family reads as a key or a section.</source>
+        <translation>删除一族函数读作键或节的内容。</translation>
+    </message>
+    <message>
+        <source>Writes all entries of the profile that is the standard input.</source>
+        <translation>写入来自标准输入的配置文件的所有条目。</translation>
+    </message>
+    <message>
+        <source>Tells the lines that a family drops, replaces or reads otherwise.</source>
+        <translation>指出一族函数丢弃、替换或读作其他内容的行。</translation>
+    </message>
+    <message>
+        <source>Lists what the two families read differently.</source>
+        <translation>列出两族函数读出不同的内容。</translation>
+    </message>
+    <message>
+        <source>Lists the find records that a host library gets for a pattern.</source>
+        <translation>列出主机库按模式得到的查找记录。</translation>
+    </message>
+    <message>
+        <source>Prints what the directory service answers about a path.</source>
+        <translation>输出目录服务对一个路径的回答。</translation>
+    </message>
+    <message>
+        <source>Lists the records of the font service.</source>
+        <translation>列出字体服务的记录。</translation>
+    </message>
+    <message>
+        <source>Lists the monitors as the service answers them.</source>
+        <translation>按服务的回答列出显示器。</translation>
+    </message>
+    <message>
+        <source>Lists what the key-state service answers.</source>
+        <translation>列出按键状态服务的回答。</translation>
+    </message>
+    <message>
+        <source>Encrypts a file or the standard input as host libraries do it.</source>
+        <translation>按主机库的方式加密文件或标准输入。</translation>
+    </message>
+    <message>
+        <source>Decrypts a file or the standard input, or tells why that fails.</source>
+        <translation>解密文件或标准输入，或说明失败的原因。</translation>
+    </message>
+    <message>
+        <source>Prints the digests of a file or the standard input.</source>
+        <translation>输出文件或标准输入的摘要。</translation>
+    </message>
+    <message>
+        <source>Encodes or decodes URL-safe Base64.</source>
+        <translation>编码或解码 URL 安全的 Base64。</translation>
+    </message>
+    <message>
+        <source>Prints changes as they are saved, until it is interrupted.</source>
+        <translation>在更改保存时输出更改，直到被中断。</translation>
+    </message>
+</context>
+<context>
     <name>CopyButton</name>
     <message>
         <source>Copy</source>
@@ -303,6 +440,31 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Copy: %1</source>
         <translation>复制：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoBase64Command</name>
+    <message>
+        <source>Decodes instead of encoding.</source>
+        <translation>解码而不是编码。</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoDecryptCommand</name>
+    <message>
+        <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
+        <translation>库在第一个零字节之前结束文本。略去的字节数：%L1。</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoDigestCommand</name>
+    <message>
+        <source>Prints the digest of both this text and the first one, too.</source>
+        <translation>同时输出此文本与第一个文本的合并摘要。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -705,6 +867,13 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>DisplaysListCommand</name>
+    <message>
+        <source>Lists the system metrics instead.</source>
+        <translation>改为列出系统指标。</translation>
+    </message>
+</context>
+<context>
     <name>DisplaysPage</name>
     <message>
         <source>Details</source>
@@ -770,6 +939,25 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>left out: &quot;%1&quot;: %2</source>
         <translation>已略过：“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FamilyOption</name>
+    <message>
+        <source>The wide family of calls.</source>
+        <translation>宽字符函数族。</translation>
+    </message>
+    <message>
+        <source>The narrow family of calls.</source>
+        <translation>窄字符函数族。</translation>
+    </message>
+    <message>
+        <source>Either --wide or --narrow, not both.</source>
+        <translation>--wide 与 --narrow 只能选其一。</translation>
+    </message>
+    <message>
+        <source>Say --wide or --narrow: the families write differently.</source>
+        <translation>请指定 --wide 或 --narrow：两族函数的写法不同。</translation>
     </message>
 </context>
 <context>
@@ -1023,6 +1211,17 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Left out, because their names do not fit a record: %1.</source>
         <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>FontsListCommand</name>
+    <message>
+        <source>There is no character set &quot;%1&quot;.</source>
+        <translation>没有字符集“%1”。</translation>
+    </message>
+    <message>
+        <source>Only records of this character set, by its code.</source>
+        <translation>仅限此字符集（以代码指定）的记录。</translation>
     </message>
 </context>
 <context>
@@ -1582,6 +1781,24 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>Interruption</name>
+    <message>
+        <source>Interrupted: nothing more has been done.</source>
+        <translation>已中断：未再执行任何操作。</translation>
+    </message>
+</context>
+<context>
+    <name>KeyArgument</name>
+    <message>
+        <source>%1 begins with no known root.</source>
+        <translation>%1 的开头不是已知的根。</translation>
+    </message>
+    <message>
+        <source>%1: there is no such key.</source>
+        <translation>%1：没有此键。</translation>
+    </message>
+</context>
+<context>
     <name>KeyInput</name>
     <message>
         <source>&amp;Under a pass phrase, as DecryptionAES_Export does</source>
@@ -1614,6 +1831,41 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Show what is typ&amp;ed</source>
         <translation>显示输入内容(&amp;E)</translation>
+    </message>
+</context>
+<context>
+    <name>KeyOptions</name>
+    <message>
+        <source>Pass phrase</source>
+        <translation>口令</translation>
+    </message>
+    <message>
+        <source>A descriptor is a number, not &quot;%1&quot;.</source>
+        <translation>描述符是数字，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>The pass phrase is the contents of this file; without any such option it is asked for on the terminal.</source>
+        <translation>口令为此文件的内容；若无此类选项，则在终端上询问。</translation>
+    </message>
+    <message>
+        <source>The pass phrase is read from this descriptor.</source>
+        <translation>从此描述符读取口令。</translation>
+    </message>
+    <message>
+        <source>The key is the contents of this file.</source>
+        <translation>密钥为此文件的内容。</translation>
+    </message>
+    <message>
+        <source>The IV is the contents of this file.</source>
+        <translation>IV 为此文件的内容。</translation>
+    </message>
+    <message>
+        <source>Key and IV are pairs of hexadecimal digits.</source>
+        <translation>密钥和 IV 为成对的十六进制数字。</translation>
+    </message>
+    <message>
+        <source>Give a pass phrase, or both --key-file and --iv-file.</source>
+        <translation>请给出口令，或同时给出 --key-file 和 --iv-file。</translation>
     </message>
 </context>
 <context>
@@ -1973,6 +2225,13 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>MadeStatement</name>
+    <message>
+        <source>The registry service has failed %L1 of the changes: nothing is saved.</source>
+        <translation>注册表服务未能完成 %L1 项更改：未保存任何内容。</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Quayside</source>
@@ -2083,6 +2342,185 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
+    </message>
+</context>
+<context>
+    <name>Output</name>
+    <message>
+        <source>Kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Stored text</source>
+        <translation>存储的文本</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>之后</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>节</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>函数族</translation>
+    </message>
+    <message>
+        <source>Found by</source>
+        <translation>找到者</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>宽字符</translation>
+    </message>
+    <message>
+        <source>Narrow</source>
+        <translation>窄字符</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差异</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>读取时间</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>写入时间</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>回答</translation>
+    </message>
+    <message>
+        <source>Face</source>
+        <translation>字体名</translation>
+    </message>
+    <message>
+        <source>Full name</source>
+        <translation>全名</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>Character set</source>
+        <translation>字符集</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>粗细</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>斜体</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>已安装</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>Full area</source>
+        <translation>全部区域</translation>
+    </message>
+    <message>
+        <source>Work area</source>
+        <translation>工作区</translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation>主显示器</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>索引</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Known</source>
+        <translation>已知</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Digest</source>
+        <translation>摘要</translation>
     </message>
 </context>
 <context>
@@ -2291,6 +2729,20 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>ProfileCheckCommand</name>
+    <message>
+        <source>Tells comments too.</source>
+        <translation>也指出注释。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileCheckJob</name>
+    <message>
+        <source>The line is not UTF-8.</source>
+        <translation>该行不是 UTF-8。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileColumns</name>
     <message>
         <source>Narrow: %1
@@ -2472,6 +2924,29 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ProfileEdit</name>
+    <message>
+        <source>Prints the difference, and writes nothing.</source>
+        <translation>输出差异，不写入任何内容。</translation>
+    </message>
+    <message>
+        <source>Writes even where other lines change.</source>
+        <translation>即使其他行会改变也写入。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be written.</source>
+        <translation>未能写入 %1。</translation>
+    </message>
+    <message>
+        <source>Not written: other lines of %1 would change, as --dry-run shows; --force writes it.</source>
+        <translation>未写入：%1 的其他行会改变（见 --dry-run）；--force 可强制写入。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileEditPanel</name>
     <message>
         <source>Change or add a value</source>
@@ -2646,6 +3121,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ProfileEntries</name>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1：没有此文件。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileFileBar</name>
     <message>
         <source>Profile file</source>
@@ -2735,6 +3217,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ProfileGetCommand</name>
+    <message>
+        <source>%1 has no entry &quot;%2&quot; in the section &quot;%3&quot;.</source>
+        <translation>%1 的节“%3”中没有条目“%2”。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileHistory</name>
     <message>
         <source>The file stays as it is.</source>
@@ -2811,6 +3300,17 @@ Wide: %2</source>
     <message>
         <source>Stopped before all lines were searched.</source>
         <translation>已停止：尚未查找完所有行。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMergeCommand</name>
+    <message>
+        <source>The standard input cannot be read: %1</source>
+        <translation>无法读取标准输入：%1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -2964,6 +3464,53 @@ Wide: %2</source>
     <message>
         <source>This value has not been read yet.</source>
         <translation>此值尚未读取。</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>Shows this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Works on this file instead of the usual store.</source>
+        <translation>使用此文件代替通常的存储。</translation>
+    </message>
+    <message>
+        <source>Prints one JSON document.</source>
+        <translation>输出一个 JSON 文档。</translation>
+    </message>
+    <message>
+        <source>Prints nothing but errors.</source>
+        <translation>只输出错误。</translation>
+    </message>
+    <message>
+        <source>Which command?</source>
+        <translation>要执行哪个命令？</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>没有命令“%1”。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>Try &quot;quaysidectl --help&quot;.</source>
+        <translation>请试用“quaysidectl --help”。</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>命令：</translation>
+    </message>
+    <message>
+        <source>Status: 0 done, found or equal; 1 a clean no; 2 wrong usage; 3 could not be done.</source>
+        <translation>状态：0 已完成、已找到或相等；1 明确的否；2 用法错误；3 无法完成。</translation>
     </message>
 </context>
 <context>
@@ -3166,6 +3713,73 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RegistryCompareCommand</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Statements that the registry would refuse: %L1.</source>
+        <translation>注册表将拒绝的语句：%L1。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryContents</name>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>无法读取该文件。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryCopyCommand</name>
+    <message>
+        <source>Names what would be copied, and does nothing.</source>
+        <translation>列出将被复制的内容，不执行任何操作。</translation>
+    </message>
+    <message>
+        <source>The root itself cannot be copied, and nothing can take its place.</source>
+        <translation>不能复制根本身，也不能取代它。</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 is below the key that is to be copied.</source>
+        <translation>%1 位于要复制的键之下。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryDeleteCommand</name>
+    <message>
+        <source>%1 is not empty. %2 Use -r to delete all of it.</source>
+        <translation>%1 不为空。%2 请用 -r 删除全部内容。</translation>
+    </message>
+    <message>
+        <source>A key with everything in it.</source>
+        <translation>连同键中的全部内容。</translation>
+    </message>
+    <message>
+        <source>Names what would go, and deletes nothing.</source>
+        <translation>列出将被删除的内容，不执行删除。</translation>
+    </message>
+    <message>
+        <source>%1 has no value &quot;%2&quot;.</source>
+        <translation>%1 中没有值“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryDifference</name>
+    <message>
+        <source>unreadable: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryEditor</name>
     <message>
         <source>%1 is there already.</source>
@@ -3218,6 +3832,91 @@ Wide: %2</source>
     <message>
         <source>Set &quot;%1&quot; in %2</source>
         <translation>设置 %2 中的“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryExportCommand</name>
+    <message>
+        <source>There is no encoding &quot;%1&quot;.</source>
+        <translation>没有编码“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written: %1</source>
+        <translation>无法写入标准输出：%1</translation>
+    </message>
+    <message>
+        <source>utf-16, as Windows writes it, or utf-8.</source>
+        <translation>utf-16（Windows 所写的编码）或 utf-8。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file to export to.</source>
+        <translation>使用 --json 时，请指定要导出到的文件。</translation>
+    </message>
+    <message>
+        <source>Left out, with the reasons in comments of the file: %L1.</source>
+        <translation>已略去（原因见文件中的注释）：%L1。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryFindCommand</name>
+    <message>
+        <source>&quot;%1&quot;: %2</source>
+        <translation>“%1”：%2</translation>
+    </message>
+    <message>
+        <source>In names of keys.</source>
+        <translation>在键名中。</translation>
+    </message>
+    <message>
+        <source>In names of values.</source>
+        <translation>在值名中。</translation>
+    </message>
+    <message>
+        <source>In data.</source>
+        <translation>在数据中。</translation>
+    </message>
+    <message>
+        <source>Upper and lower case letters differ.</source>
+        <translation>区分大小写字母。</translation>
+    </message>
+    <message>
+        <source>Whole words only.</source>
+        <translation>仅限整个单词。</translation>
+    </message>
+    <message>
+        <source>TEXT is a regular expression.</source>
+        <translation>TEXT 是正则表达式。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryGetCommand</name>
+    <message>
+        <source>Prints the type instead of the data.</source>
+        <translation>输出类型而不是数据。</translation>
+    </message>
+    <message>
+        <source>Prints the text that the store keeps.</source>
+        <translation>输出存储中保存的文本。</translation>
+    </message>
+    <message>
+        <source>How the data is written: text, hex (the bytes that a host library gets) or c.</source>
+        <translation>数据的书写形式：text、hex（主机库得到的字节）或 c。</translation>
+    </message>
+    <message>
+        <source>There is no format &quot;%1&quot;.</source>
+        <translation>没有格式“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 has no value &quot;%2&quot;.</source>
+        <translation>%1 中没有值“%2”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of %2 cannot be read: %3</source>
+        <translation>无法读取 %2 中的“%1”：%3</translation>
     </message>
 </context>
 <context>
@@ -3281,6 +3980,44 @@ Wide: %2</source>
     <message>
         <source>Cancelled half-way: %1. Redo (Ctrl+Shift+Z) does the rest.</source>
         <translation>中途取消：%1。重做 (Ctrl+Shift+Z) 可完成其余部分。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryImportCommand</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Prints what becomes of each statement, and does nothing.</source>
+        <translation>输出每条语句的结果，不执行任何操作。</translation>
+    </message>
+    <message>
+        <source>Takes all keys of the file to be below this one.</source>
+        <translation>将文件中的所有键视为位于此键之下。</translation>
+    </message>
+    <message>
+        <source>The code page of a file of version 4.</source>
+        <translation>版本 4 文件的代码页。</translation>
+    </message>
+    <message>
+        <source>Copies the store&apos;s file there first.</source>
+        <translation>先将存储的文件复制到该处。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryListCommand</name>
+    <message>
+        <source>Everything below the key, too.</source>
+        <translation>也包括键下的全部内容。</translation>
     </message>
 </context>
 <context>
@@ -3366,6 +4103,29 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RegistryRenameCommand</name>
+    <message>
+        <source>The root itself cannot be renamed.</source>
+        <translation>不能重命名根本身。</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 has no value &quot;%2&quot;.</source>
+        <translation>%1 中没有值“%2”。</translation>
+    </message>
+    <message>
+        <source>%1 has a value &quot;%2&quot; already.</source>
+        <translation>%1 中已有值“%2”。</translation>
+    </message>
+    <message>
+        <source>Names what would be renamed, and does nothing.</source>
+        <translation>列出将被重命名的内容，不执行任何操作。</translation>
+    </message>
+</context>
+<context>
     <name>RegistryRenamer</name>
     <message>
         <source>%1 is there already.</source>
@@ -3433,6 +4193,33 @@ Wide: %2</source>
     <message>
         <source>unreadable: %1</source>
         <translation>无法读取：%1</translation>
+    </message>
+</context>
+<context>
+    <name>RegistrySetCommand</name>
+    <message>
+        <source>There is no type &quot;%1&quot;.</source>
+        <translation>没有类型“%1”。</translation>
+    </message>
+    <message>
+        <source>A host library reads of it: %1</source>
+        <translation>主机库从中读到：%1</translation>
+    </message>
+    <message>
+        <source>The type, such as REG_SZ or DWORD.</source>
+        <translation>类型，例如 REG_SZ 或 DWORD。</translation>
+    </message>
+    <message>
+        <source>Sets nothing where the service would alter it.</source>
+        <translation>若服务会更改数据，则不设置。</translation>
+    </message>
+    <message>
+        <source>Tells what would be done, and does nothing.</source>
+        <translation>说明将执行什么，不执行任何操作。</translation>
+    </message>
+    <message>
+        <source>Not set: %1</source>
+        <translation>未设置：%1</translation>
     </message>
 </context>
 <context>
@@ -3580,10 +4367,32 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>Secret</name>
+    <message>
+        <source>The secret cannot be read: %1</source>
+        <translation>无法读取密钥信息：%1</translation>
+    </message>
+    <message>
+        <source>There is no terminal to ask for the secret on: name a file.</source>
+        <translation>没有可供询问密钥信息的终端：请指定文件。</translation>
+    </message>
+    <message>
+        <source>The terminal would show the secret: name a file.</source>
+        <translation>终端会显示密钥信息：请指定文件。</translation>
+    </message>
+</context>
+<context>
     <name>SetValueCheck</name>
     <message>
         <source>nothing</source>
         <translation>空</translation>
+    </message>
+</context>
+<context>
+    <name>StandardOutput</name>
+    <message>
+        <source>The standard output cannot be written: %1.</source>
+        <translation>无法写入标准输出：%1。</translation>
     </message>
 </context>
 <context>
@@ -3615,6 +4424,25 @@ Wide: %2</source>
     <message>
         <source>F1: what each page answers, what wide and narrow calls are, and keys</source>
         <translation>F1：各页面回答什么、什么是宽字符调用和窄字符调用，以及按键</translation>
+    </message>
+</context>
+<context>
+    <name>Store</name>
+    <message>
+        <source>The host library has set up no store.</source>
+        <translation>主机库未设置存储。</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1：没有此文件。</translation>
+    </message>
+    <message>
+        <source>The store %1 cannot be read.</source>
+        <translation>无法读取存储 %1。</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be saved.</source>
+        <translation>无法保存存储 %1。</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,85 @@
+#include "app/StartUp.h"
+#include "ctl/Interruption.h"
+#include "ctl/Message.h"
+#include "ctl/Program.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QTextCodec>
+#include <QTranslator>
+
+#include <cstdlib>
+#include <langinfo.h>
+#include <memory>
+
+namespace {
+
+// Where no locale is chosen, as in many scripts, names of files and texts are UTF-8 all the same:
+// Qt would lose all characters that are not ASCII.
+void takeUtf8WithoutLocale()
+{
+    if (qstrcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+// Qt warns of surroundings, such as a folder that a session would have, that are none of the user's
+// concern here.
+void tellQtFailures(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        showMessage(text);
+}
+
+bool isChineseLocale()
+{
+    const QLocale locale = QLocale::system();
+    return locale.language() == QLocale::Chinese && locale.script() == QLocale::SimplifiedHanScript;
+}
+
+// The screens and the keys of the display that there is; without one, and for fonts, Qt's own that
+// shows nothing.
+void choosePlatform(bool isForFonts)
+{
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return;
+    QByteArray platforms = "offscreen";
+    if (!isForFonts && !qEnvironmentVariableIsEmpty("DISPLAY"))
+        platforms.prepend("xcb;");
+    qputenv("QT_QPA_PLATFORM", platforms);
+}
+
+// Qt's graphical start takes many times as long as the other one: only for the commands that need
+// it, before the arguments can be read. A word that only looks like one does no harm.
+std::unique_ptr<QCoreApplication> application(int& argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray word(argv[i]);
+        if (word != "fonts" && word != "displays" && word != "input")
+            continue;
+        choosePlatform(word == "fonts");
+        return std::make_unique<QApplication>(argc, argv);
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qInstallMessageHandler(tellQtFailures);
+    const std::unique_ptr<QCoreApplication> started = application(argc, argv);
+    // The application's, by which its host library finds the store.
+    QCoreApplication::setApplicationName(QStringLiteral("quayside"));
+    takeUtf8WithoutLocale();
+    QTranslator appTranslator;
+    QTranslator qtTranslator;
+    if (isChineseLocale())
+        StartUp::installChinese(appTranslator, qtTranslator);
+    Interruption::note();
+    Program program(QCoreApplication::arguments());
+    const int status = static_cast<int>(program.run());
+    // Without the destructors of the store, which would save what a failed command has changed.
+    if (program.isToBeDropped())
+        std::_Exit(status);
+    return status;
+}
