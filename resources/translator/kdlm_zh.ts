@@ -1551,6 +1551,33 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>HostTrial</name>
+    <message>
+        <source>The library was loaded.</source>
+        <translation>库已加载。</translation>
+    </message>
+    <message>
+        <source>The library was not loaded: %1</source>
+        <translation>库未加载：%1</translation>
+    </message>
+    <message>
+        <source>The process crashed while it loaded the library: %1</source>
+        <translation>进程在加载库时崩溃：%1</translation>
+    </message>
+    <message>
+        <source>The library ended the process with status %1 while it was loaded.</source>
+        <translation>库在加载时以状态 %1 结束了进程。</translation>
+    </message>
+    <message>
+        <source>Loading the library was not finished within %1 seconds.</source>
+        <translation>在 %1 秒内没有完成库的加载。</translation>
+    </message>
+    <message>
+        <source>The library could not be tried: %1</source>
+        <translation>无法试验该库：%1</translation>
+    </message>
+</context>
+<context>
     <name>HostWay</name>
     <message>
         <source>not found</source>
