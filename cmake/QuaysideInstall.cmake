@@ -3,7 +3,7 @@
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Quayside)
-install(TARGETS quayside RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS quayside quaysidectl RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS
     quayside_support quayside_platform quayside_crypto quayside_widgets quayside_resources
     quayside_app quayside_regfile quayside_inspection quayside_window quayside_pages

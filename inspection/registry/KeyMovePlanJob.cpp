@@ -4,7 +4,10 @@
 
 #include <QLocale>
 
-KeyMovePlanJob::KeyMovePlanJob(const QString& from, const QString& to) : m_from(from), m_to(to) {}
+KeyMovePlanJob::KeyMovePlanJob(const QString& from, const QString& to, Original original)
+    : m_from(from), m_to(to), m_original(original)
+{
+}
 
 bool KeyMovePlanJob::step()
 {
@@ -17,7 +20,8 @@ bool KeyMovePlanJob::step()
         return false;
     const QString& path = m_paths.at(m_next++);
     const auto entry = StoreEntry::read(path);
-    m_change.push_back({path, entry, std::nullopt});
+    if (m_original == Original::Goes)
+        m_change.push_back({path, entry, std::nullopt});
     m_change.push_back({m_to + path.mid(m_from.size()), std::nullopt, entry});
     return true;
 }

@@ -33,6 +33,18 @@ bool RawStore::isWritable()
     return g_globalSettings && g_globalSettings->isWritable();
 }
 
+bool RawStore::isInaccessible()
+{
+    return g_globalSettings && g_globalSettings->status() == QSettings::AccessError;
+}
+
+bool RawStore::save()
+{
+    if (g_globalSettings)
+        g_globalSettings->sync();
+    return g_globalSettings && !isInaccessible();
+}
+
 QObject* RawStore::receiver()
 {
     return g_globalSettings;

@@ -38,6 +38,11 @@ public:
     static QString fileName();
     /// What QSettings knows of its right to write the file; false without a store.
     static bool isWritable();
+    /// True where the store's file is there and could not be read, and where saving has failed.
+    static bool isInaccessible();
+    /// Writes what has changed into the file, and reads what others have changed there, at once.
+    /// False where that could not be done, and without a store.
+    static bool save();
     /// The object that gets the store's events; null without a store. Owned by the host library.
     static QObject* receiver();
 

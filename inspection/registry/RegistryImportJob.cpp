@@ -1,10 +1,13 @@
 #include "inspection/registry/RegistryImportJob.h"
 
+#include "inspection/registry/RegistryPath.h"
+
 #include <QIODevice>
 #include <QLocale>
 
-RegistryImportJob::RegistryImportJob(std::unique_ptr<QIODevice> file, const QByteArray& codePage)
-    : m_reader(std::move(file), codePage)
+RegistryImportJob::RegistryImportJob(std::unique_ptr<QIODevice> file, const QByteArray& codePage,
+                                     const QString& prefix)
+    : m_reader(std::move(file), codePage), m_prefix(prefix)
 {
 }
 
@@ -17,9 +20,20 @@ bool RegistryImportJob::step()
 {
     RegFileEntry entry;
     const RegFileReader::Step step = m_reader.next(entry);
-    if (step == RegFileReader::Step::Statement)
+    if (step == RegFileReader::Step::Statement) {
+        addPrefix(entry);
         m_plan->add(entry);
+    }
     return step != RegFileReader::Step::End;
+}
+
+// A key whose root is not known keeps it: that is why it is refused.
+void RegistryImportJob::addPrefix(RegFileEntry& entry) const
+{
+    QString path;
+    if (m_prefix.isEmpty() || !RegistryPath::parse(entry.key, path))
+        return;
+    entry.key = RegistryPath::shown(path.isEmpty() ? m_prefix : RegistryPath::join(m_prefix, path));
 }
 
 QString RegistryImportJob::progress() const

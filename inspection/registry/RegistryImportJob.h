@@ -12,7 +12,9 @@ class RegistryImportJob : public Job
 {
 public:
     /// `file` is open for reading; `codePage` is that of a file of version 4, see RegFileReader.
-    explicit RegistryImportJob(std::unique_ptr<QIODevice> file, const QByteArray& codePage = {});
+    /// All keys of the file are taken to be below the key of the path `prefix`.
+    explicit RegistryImportJob(std::unique_ptr<QIODevice> file, const QByteArray& codePage = {},
+                               const QString& prefix = {});
     /// A file that is in memory already, as those of the tests are.
     explicit RegistryImportJob(const QByteArray& file, const QByteArray& codePage = {});
 
@@ -30,6 +32,9 @@ public:
     std::shared_ptr<const ImportPlan> plan() const { return m_plan; }
 
 private:
+    void addPrefix(RegFileEntry& entry) const;
+
     RegFileReader m_reader;
+    QString m_prefix;
     std::shared_ptr<ImportPlan> m_plan = std::make_shared<ImportPlan>();
 };

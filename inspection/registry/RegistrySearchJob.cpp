@@ -20,13 +20,20 @@ bool isPartOfWord(const QString& text, int at)
 
 bool RegistrySearchJob::Query::operator==(const Query& other) const
 {
-    return std::tie(text, inKeys, inNames, inData, mindsCase, wholeWords) ==
+    return std::tie(text, inKeys, inNames, inData, mindsCase, wholeWords, isPattern) ==
            std::tie(other.text, other.inKeys, other.inNames, other.inData, other.mindsCase,
-                    other.wholeWords);
+                    other.wholeWords, other.isPattern);
 }
 
-RegistrySearchJob::RegistrySearchJob(const Query& query, const QString& path)
-    : m_query(query), m_digits(query.text.toLower().toLatin1()), m_walk(path)
+RegistrySearchJob::RegistrySearchJob(const Query& query, const QString& path, std::size_t most)
+    : m_query(query),
+      m_digits(query.text.toLower().toLatin1()),
+      m_pattern(query.isPattern ? query.text : QString(),
+                query.mindsCase ? QRegularExpression::UseUnicodePropertiesOption
+                                : QRegularExpression::UseUnicodePropertiesOption |
+                                      QRegularExpression::CaseInsensitiveOption),
+      m_most(most),
+      m_walk(path)
 {
 }
 
@@ -56,8 +63,22 @@ void RegistrySearchJob::lookAtKey()
         m_hits.push_back({m_walk.path(), {}, {}});
 }
 
+bool RegistrySearchJob::matchesPattern(const QString& text) const
+{
+    QRegularExpressionMatchIterator found = m_pattern.globalMatch(text);
+    while (found.hasNext()) {
+        const QRegularExpressionMatch match = found.next();
+        if (!m_query.wholeWords || (!isPartOfWord(text, match.capturedStart() - 1) &&
+                                    !isPartOfWord(text, match.capturedEnd())))
+            return true;
+    }
+    return false;
+}
+
 bool RegistrySearchJob::matches(const QString& text) const
 {
+    if (m_query.isPattern)
+        return matchesPattern(text);
     const auto sensitivity = m_query.mindsCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
     int at = text.indexOf(m_query.text, 0, sensitivity);
     while (m_query.wholeWords && at >= 0 &&
@@ -78,6 +99,8 @@ bool RegistrySearchJob::matches(const RegistryReading& reading) const
 // Without blanks, digits that begin in the middle of a byte are no match.
 bool RegistrySearchJob::matchesBytes(const QByteArray& data) const
 {
+    if (m_query.isPattern)
+        return matchesPattern(QString::fromLatin1(data.toHex(' ')));
     if (data.toHex(' ').contains(m_digits))
         return true;
     const QByteArray digits = data.toHex();

@@ -4,6 +4,7 @@
 #include "inspection/registry/RegistryWalk.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <vector>
 
@@ -24,6 +25,7 @@ public:
         bool inData = true;
         bool mindsCase = false;  ///< upper and lower case letters differ
         bool wholeWords = false; ///< with no letter, digit or "_" right before or behind it
+        bool isPattern = false;  ///< the text is a valid regular expression
 
         bool operator==(const Query& other) const;
     };
@@ -35,10 +37,11 @@ public:
         QString data; ///< of a value, as shown; of an unreadable one the stored text
     };
 
-    /// The search ends by itself after so many hits.
+    /// The search ends by itself after so many hits, unless another number is given.
     static constexpr std::size_t mostHits = 1000;
 
-    explicit RegistrySearchJob(const Query& query, const QString& path = {});
+    explicit RegistrySearchJob(const Query& query, const QString& path = {},
+                               std::size_t most = mostHits);
 
     bool step() override;
     /// How many values have been looked at and how many places found.
@@ -46,7 +49,7 @@ public:
 
     const std::vector<Hit>& hits() const { return m_hits; }
     /// True when there may be more than were listed.
-    bool isFull() const { return m_hits.size() >= mostHits; }
+    bool isFull() const { return m_hits.size() >= m_most; }
 
 private:
     void lookAtKey();
@@ -54,10 +57,13 @@ private:
     QString rawText() const;
     bool matches(const QString& text) const;
     bool matches(const RegistryReading& reading) const;
+    bool matchesPattern(const QString& text) const;
     bool matchesBytes(const QByteArray& data) const;
 
     Query m_query;
     QByteArray m_digits; ///< in lower case, as bytes are written
+    QRegularExpression m_pattern;
+    std::size_t m_most;
     RegistryWalk m_walk;
     std::vector<Hit> m_hits;
 };

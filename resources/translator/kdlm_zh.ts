@@ -291,6 +291,53 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>CommandTable</name>
+    <message>
+        <source>Lists sub-keys and values.</source>
+        <translation>列出子键和值。</translation>
+    </message>
+    <message>
+        <source>Prints the data of a value.</source>
+        <translation>输出一个值的数据。</translation>
+    </message>
+    <message>
+        <source>Sets a value.</source>
+        <translation>设置一个值。</translation>
+    </message>
+    <message>
+        <source>Deletes a value or a key.</source>
+        <translation>删除一个值或一个键。</translation>
+    </message>
+    <message>
+        <source>Renames a key or a value.</source>
+        <translation>重命名一个键或一个值。</translation>
+    </message>
+    <message>
+        <source>Copies a key with everything below it.</source>
+        <translation>复制一个键及其下的全部内容。</translation>
+    </message>
+    <message>
+        <source>Looks for a text in names and data.</source>
+        <translation>在名称和数据中查找文本。</translation>
+    </message>
+    <message>
+        <source>Writes a key with everything below it into a registry file.</source>
+        <translation>将一个键及其下的全部内容写入注册表文件。</translation>
+    </message>
+    <message>
+        <source>Carries out the statements of a registry file.</source>
+        <translation>执行注册表文件中的语句。</translation>
+    </message>
+    <message>
+        <source>Compares two keys, stores or registry files.</source>
+        <translation>比较两个键、存储或注册表文件。</translation>
+    </message>
+    <message>
+        <source>Lists what host libraries cannot read or read otherwise than written.</source>
+        <translation>列出主机库无法读取或读出与所写不同的内容。</translation>
+    </message>
+</context>
+<context>
     <name>CopyButton</name>
     <message>
         <source>Copy</source>
@@ -1800,6 +1847,24 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>Interruption</name>
+    <message>
+        <source>Interrupted: nothing more has been done.</source>
+        <translation>已中断：未再执行任何操作。</translation>
+    </message>
+</context>
+<context>
+    <name>KeyArgument</name>
+    <message>
+        <source>%1 begins with no known root.</source>
+        <translation>%1 的开头不是已知的根。</translation>
+    </message>
+    <message>
+        <source>%1: there is no such key.</source>
+        <translation>%1：没有此键。</translation>
+    </message>
+</context>
+<context>
     <name>KeyInput</name>
     <message>
         <source>&amp;Under a pass phrase, as DecryptionAES_Export does</source>
@@ -2183,6 +2248,13 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>MadeStatement</name>
+    <message>
+        <source>The registry service has failed %L1 of the changes: nothing is saved.</source>
+        <translation>注册表服务未能完成 %L1 项更改：未保存任何内容。</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Quayside</source>
@@ -2293,6 +2365,57 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
+    </message>
+</context>
+<context>
+    <name>Output</name>
+    <message>
+        <source>Kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Stored text</source>
+        <translation>存储的文本</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>之后</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
     </message>
 </context>
 <context>
@@ -3134,6 +3257,53 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>Program</name>
+    <message>
+        <source>Shows this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Works on this file instead of the usual store.</source>
+        <translation>使用此文件代替通常的存储。</translation>
+    </message>
+    <message>
+        <source>Prints one JSON document.</source>
+        <translation>输出一个 JSON 文档。</translation>
+    </message>
+    <message>
+        <source>Prints nothing but errors.</source>
+        <translation>只输出错误。</translation>
+    </message>
+    <message>
+        <source>Which command?</source>
+        <translation>要执行哪个命令？</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>没有命令“%1”。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>Try &quot;quaysidectl --help&quot;.</source>
+        <translation>请试用“quaysidectl --help”。</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>命令：</translation>
+    </message>
+    <message>
+        <source>Status: 0 done, found or equal; 1 a clean no; 2 wrong usage; 3 could not be done.</source>
+        <translation>状态：0 已完成、已找到或相等；1 明确的否；2 用法错误；3 无法完成。</translation>
+    </message>
+</context>
+<context>
     <name>ReadingRemark</name>
     <message>
         <source>Not found under this name</source>
@@ -3333,6 +3503,73 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RegistryCompareCommand</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Statements that the registry would refuse: %L1.</source>
+        <translation>注册表将拒绝的语句：%L1。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryContents</name>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>无法读取该文件。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryCopyCommand</name>
+    <message>
+        <source>Names what would be copied, and does nothing.</source>
+        <translation>列出将被复制的内容，不执行任何操作。</translation>
+    </message>
+    <message>
+        <source>The root itself cannot be copied, and nothing can take its place.</source>
+        <translation>不能复制根本身，也不能取代它。</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 is below the key that is to be copied.</source>
+        <translation>%1 位于要复制的键之下。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryDeleteCommand</name>
+    <message>
+        <source>%1 is not empty. %2 Use -r to delete all of it.</source>
+        <translation>%1 不为空。%2 请用 -r 删除全部内容。</translation>
+    </message>
+    <message>
+        <source>A key with everything in it.</source>
+        <translation>连同键中的全部内容。</translation>
+    </message>
+    <message>
+        <source>Names what would go, and deletes nothing.</source>
+        <translation>列出将被删除的内容，不执行删除。</translation>
+    </message>
+    <message>
+        <source>%1 has no value &quot;%2&quot;.</source>
+        <translation>%1 中没有值“%2”。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryDifference</name>
+    <message>
+        <source>unreadable: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryEditor</name>
     <message>
         <source>%1 is there already.</source>
@@ -3385,6 +3622,91 @@ Wide: %2</source>
     <message>
         <source>Set &quot;%1&quot; in %2</source>
         <translation>设置 %2 中的“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryExportCommand</name>
+    <message>
+        <source>There is no encoding &quot;%1&quot;.</source>
+        <translation>没有编码“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written: %1</source>
+        <translation>无法写入标准输出：%1</translation>
+    </message>
+    <message>
+        <source>utf-16, as Windows writes it, or utf-8.</source>
+        <translation>utf-16（Windows 所写的编码）或 utf-8。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file to export to.</source>
+        <translation>使用 --json 时，请指定要导出到的文件。</translation>
+    </message>
+    <message>
+        <source>Left out, with the reasons in comments of the file: %L1.</source>
+        <translation>已略去（原因见文件中的注释）：%L1。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryFindCommand</name>
+    <message>
+        <source>&quot;%1&quot;: %2</source>
+        <translation>“%1”：%2</translation>
+    </message>
+    <message>
+        <source>In names of keys.</source>
+        <translation>在键名中。</translation>
+    </message>
+    <message>
+        <source>In names of values.</source>
+        <translation>在值名中。</translation>
+    </message>
+    <message>
+        <source>In data.</source>
+        <translation>在数据中。</translation>
+    </message>
+    <message>
+        <source>Upper and lower case letters differ.</source>
+        <translation>区分大小写字母。</translation>
+    </message>
+    <message>
+        <source>Whole words only.</source>
+        <translation>仅限整个单词。</translation>
+    </message>
+    <message>
+        <source>TEXT is a regular expression.</source>
+        <translation>TEXT 是正则表达式。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryGetCommand</name>
+    <message>
+        <source>Prints the type instead of the data.</source>
+        <translation>输出类型而不是数据。</translation>
+    </message>
+    <message>
+        <source>Prints the text that the store keeps.</source>
+        <translation>输出存储中保存的文本。</translation>
+    </message>
+    <message>
+        <source>How the data is written: text, hex (the bytes that a host library gets) or c.</source>
+        <translation>数据的书写形式：text、hex（主机库得到的字节）或 c。</translation>
+    </message>
+    <message>
+        <source>There is no format &quot;%1&quot;.</source>
+        <translation>没有格式“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 has no value &quot;%2&quot;.</source>
+        <translation>%1 中没有值“%2”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of %2 cannot be read: %3</source>
+        <translation>无法读取 %2 中的“%1”：%3</translation>
     </message>
 </context>
 <context>
@@ -3448,6 +3770,44 @@ Wide: %2</source>
     <message>
         <source>Cancelled half-way: %1. Redo (Ctrl+Shift+Z) does the rest.</source>
         <translation>中途取消：%1。重做 (Ctrl+Shift+Z) 可完成其余部分。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryImportCommand</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Prints what becomes of each statement, and does nothing.</source>
+        <translation>输出每条语句的结果，不执行任何操作。</translation>
+    </message>
+    <message>
+        <source>Takes all keys of the file to be below this one.</source>
+        <translation>将文件中的所有键视为位于此键之下。</translation>
+    </message>
+    <message>
+        <source>The code page of a file of version 4.</source>
+        <translation>版本 4 文件的代码页。</translation>
+    </message>
+    <message>
+        <source>Copies the store&apos;s file there first.</source>
+        <translation>先将存储的文件复制到该处。</translation>
+    </message>
+</context>
+<context>
+    <name>RegistryListCommand</name>
+    <message>
+        <source>Everything below the key, too.</source>
+        <translation>也包括键下的全部内容。</translation>
     </message>
 </context>
 <context>
@@ -3533,6 +3893,29 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RegistryRenameCommand</name>
+    <message>
+        <source>The root itself cannot be renamed.</source>
+        <translation>不能重命名根本身。</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 has no value &quot;%2&quot;.</source>
+        <translation>%1 中没有值“%2”。</translation>
+    </message>
+    <message>
+        <source>%1 has a value &quot;%2&quot; already.</source>
+        <translation>%1 中已有值“%2”。</translation>
+    </message>
+    <message>
+        <source>Names what would be renamed, and does nothing.</source>
+        <translation>列出将被重命名的内容，不执行任何操作。</translation>
+    </message>
+</context>
+<context>
     <name>RegistryRenamer</name>
     <message>
         <source>%1 is there already.</source>
@@ -3600,6 +3983,33 @@ Wide: %2</source>
     <message>
         <source>unreadable: %1</source>
         <translation>无法读取：%1</translation>
+    </message>
+</context>
+<context>
+    <name>RegistrySetCommand</name>
+    <message>
+        <source>There is no type &quot;%1&quot;.</source>
+        <translation>没有类型“%1”。</translation>
+    </message>
+    <message>
+        <source>A host library reads of it: %1</source>
+        <translation>主机库从中读到：%1</translation>
+    </message>
+    <message>
+        <source>The type, such as REG_SZ or DWORD.</source>
+        <translation>类型，例如 REG_SZ 或 DWORD。</translation>
+    </message>
+    <message>
+        <source>Sets nothing where the service would alter it.</source>
+        <translation>若服务会更改数据，则不设置。</translation>
+    </message>
+    <message>
+        <source>Tells what would be done, and does nothing.</source>
+        <translation>说明将执行什么，不执行任何操作。</translation>
+    </message>
+    <message>
+        <source>Not set: %1</source>
+        <translation>未设置：%1</translation>
     </message>
 </context>
 <context>
@@ -3754,6 +4164,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>StandardOutput</name>
+    <message>
+        <source>The standard output cannot be written: %1.</source>
+        <translation>无法写入标准输出：%1。</translation>
+    </message>
+</context>
+<context>
     <name>StatusLine</name>
     <message>
         <source>unknown</source>
@@ -3782,6 +4199,25 @@ Wide: %2</source>
     <message>
         <source>F1: what each page answers, what wide and narrow calls are, and keys</source>
         <translation>F1：各页面回答什么、什么是宽字符调用和窄字符调用，以及按键</translation>
+    </message>
+</context>
+<context>
+    <name>Store</name>
+    <message>
+        <source>The host library has set up no store.</source>
+        <translation>主机库未设置存储。</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1：没有此文件。</translation>
+    </message>
+    <message>
+        <source>The store %1 cannot be read.</source>
+        <translation>无法读取存储 %1。</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be saved.</source>
+        <translation>无法保存存储 %1。</translation>
     </message>
 </context>
 <context>

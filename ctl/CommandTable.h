@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QCoreApplication>
+
+#include <memory>
+#include <vector>
+
+class Command;
+
+/// The one table of all commands: help, parsing and completion follow it.
+class CommandTable
+{
+    Q_DECLARE_TR_FUNCTIONS(CommandTable)
+
+public:
+    /// What has to be there before the command is made.
+    enum class Needs
+    {
+        Nothing,
+        Store,    ///< the store, with its file
+        NewStore, ///< the store, whose file may still be missing
+        Display   ///< a graphical application without a display
+    };
+
+    struct Row
+    {
+        const char* group;
+        const char* name;
+        const char* arguments; ///< as the help shows them
+        const char* help;      ///< a text of this class
+        int fewest;            ///< arguments
+        int most;
+        Needs needs;
+        std::unique_ptr<Command> (*make)();
+    };
+
+    static const std::vector<Row>& rows();
+    /// Null where there is no such command.
+    static const Row* find(const QString& group, const QString& name);
+    static bool hasGroup(const QString& group);
+    /// The help of a row, translated.
+    static QString helpOf(const Row& row) { return tr(row.help); }
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+/// Signals by which users and the system end the program. They are only noted, so that what is
+/// being saved is saved whole; whoever works for long asks for them between two steps.
+namespace Interruption {
+
+/// To be called once, at start-up.
+void note();
+/// True once the program is to end.
+bool isAsked();
+/// Throws a Failure then.
+void check();
+
+} // namespace Interruption

@@ -1,0 +1,10 @@
+#include "ctl/JobRun.h"
+
+#include "ctl/Interruption.h"
+#include "inspection/Job.h"
+
+void finish(Job& job)
+{
+    while (job.step())
+        Interruption::check();
+}

@@ -1,0 +1,33 @@
+#include "ctl/Store.h"
+
+#include "app/StartUp.h"
+#include "ctl/Failure.h"
+#include "inspection/registry/RawStore.h"
+#include "inspection/registry/StoreSaving.h"
+
+#include <QFileInfo>
+
+Store::Store(const QString& file, bool mustExist)
+{
+    if (file.isEmpty())
+        StartUp::handOver(QString());
+    else
+        m_replacement.emplace(QFileInfo(file).absoluteFilePath());
+    check(mustExist, !file.isEmpty());
+}
+
+void Store::check(bool mustExist, bool isFile)
+{
+    if (!RawStore::exists())
+        throw Failure(tr("The host library has set up no store."));
+    if (isFile && mustExist && !QFileInfo::exists(RawStore::fileName()))
+        throw Failure(tr("%1: there is no such file.").arg(RawStore::fileName()));
+    if (RawStore::isInaccessible())
+        throw Failure(tr("The store %1 cannot be read.").arg(RawStore::fileName()));
+}
+
+void Store::save()
+{
+    if (!saveStore())
+        throw Failure(tr("The store %1 could not be saved.").arg(RawStore::fileName()));
+}

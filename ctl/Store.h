@@ -1,0 +1,27 @@
+#pragma once
+
+#include "inspection/registry/StoreReplacement.h"
+
+#include <QCoreApplication>
+
+#include <optional>
+
+/// The store that the commands work on: the host library's own after it has been given the services
+/// as the application gives them, or a file in its place.
+class Store
+{
+    Q_DECLARE_TR_FUNCTIONS(Store)
+
+public:
+    /// An empty `file` is the host library's store. Throws a Failure where there is no store, where
+    /// it cannot be read, and where a file that `mustExist` is not there.
+    Store(const QString& file, bool mustExist);
+
+    /// Saves the store at once. Throws a Failure where that is not possible.
+    static void save();
+
+private:
+    static void check(bool mustExist, bool isFile);
+
+    std::optional<StoreReplacement> m_replacement;
+};

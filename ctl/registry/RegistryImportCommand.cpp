@@ -1,0 +1,103 @@
+#include "ctl/registry/RegistryImportCommand.h"
+
+#include "ctl/Failure.h"
+#include "ctl/JobRun.h"
+#include "ctl/Output.h"
+#include "ctl/registry/KeyArgument.h"
+#include "ctl/registry/MadeStatement.h"
+#include "inspection/registry/ImportText.h"
+#include "inspection/registry/RawStore.h"
+#include "inspection/registry/RegistryImportJob.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <cstdio>
+
+namespace {
+
+using Outcome = ImportPlan::Outcome;
+
+std::unique_ptr<QIODevice> opened(const QString& name)
+{
+    auto file = std::make_unique<QFile>(name);
+    const bool isOpen = name == QLatin1String("-") ? file->open(stdin, QIODevice::ReadOnly)
+                                                   : file->open(QIODevice::ReadOnly);
+    if (!isOpen)
+        throw Failure(
+            RegistryImportCommand::tr("%1 cannot be read: %2").arg(name, file->errorString()));
+    return file;
+}
+
+std::shared_ptr<const ImportPlan> planOf(const Arguments& arguments)
+{
+    const QString prefix =
+        arguments.has("prefix") ? KeyArgument::any(arguments.value("prefix")) : QString();
+    RegistryImportJob job(opened(arguments.at(0)), arguments.value("code-page").toLatin1(), prefix);
+    finish(job);
+    if (!job.error().isEmpty())
+        throw Failure(RegistryImportCommand::tr("%1: %2").arg(arguments.at(0), job.error()));
+    return job.plan();
+}
+
+Output::Tone toneOf(Outcome outcome)
+{
+    return outcome == Outcome::Refused ? Output::Tone::Bad : Output::Tone::Plain;
+}
+
+void print(const ImportPlan& plan, Output& output)
+{
+    output.begin({Columns::line, Columns::key, Columns::name, Columns::before, Columns::after,
+                  Columns::outcome});
+    for (const ImportPlan::Statement& statement : plan.statements()) {
+        const RegFileEntry& entry = statement.entry;
+        output.record({QString::number(entry.line), entry.key, entry.name, statement.before,
+                       ImportText::data(entry), ImportText::outcome(statement)},
+                      toneOf(statement.outcome));
+    }
+}
+
+// The store's file byte for byte, as it is before the import; of a store that has no file yet an
+// empty one. Putting it in the store's place brings everything back.
+void backUp(const QString& name)
+{
+    QFile store(RawStore::fileName());
+    QSaveFile copy(name);
+    const bool isRead = !store.exists() || store.open(QIODevice::ReadOnly);
+    const QByteArray bytes = store.isOpen() ? store.readAll() : QByteArray();
+    if (!isRead || store.error() != QFileDevice::NoError || !copy.open(QIODevice::WriteOnly) ||
+        copy.write(bytes) != bytes.size() || !copy.commit())
+        throw Failure(RegistryImportCommand::tr("%1 cannot be written: %2")
+                          .arg(name, isRead ? copy.errorString() : store.errorString()));
+}
+
+} // namespace
+
+void RegistryImportCommand::addOptions(QCommandLineParser& parser) const
+{
+    parser.addOptions(
+        {{QStringLiteral("dry-run"),
+          tr("Prints what becomes of each statement, and does nothing.")},
+         {QStringLiteral("prefix"), tr("Takes all keys of the file to be below this one."),
+          QStringLiteral("KEY")},
+         {QStringLiteral("code-page"), tr("The code page of a file of version 4."),
+          QStringLiteral("NAME")},
+         {QStringLiteral("backup"), tr("Copies the store's file there first."),
+          QStringLiteral("FILE")}});
+}
+
+ExitStatus RegistryImportCommand::run(const Arguments& arguments, Output& output)
+{
+    const auto plan = planOf(arguments);
+    if (arguments.has("dry-run")) {
+        print(*plan, output);
+    } else {
+        if (arguments.has("backup"))
+            backUp(arguments.value("backup"));
+        MadeStatement::apply(plan);
+    }
+    const bool isWhole = plan->count(Outcome::Refused) == 0;
+    if (!isWhole || plan->count(Outcome::Altered) > 0)
+        output.note(ImportText::summary(*plan));
+    return isWhole ? ExitStatus::Done : ExitStatus::No;
+}

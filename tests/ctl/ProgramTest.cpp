@@ -1,0 +1,122 @@
+#include "tests/ctl/CtlTest.h"
+
+namespace {
+
+class Program : public CtlTest
+{
+};
+
+TEST_F(Program, TellsItsVersion)
+{
+    const Result result = run({"--version"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.out.startsWith("quaysidectl "));
+    EXPECT_EQ(result.error, "");
+}
+
+TEST_F(Program, HelpsOnEveryLevel)
+{
+    EXPECT_TRUE(out({"--help"}).contains("registry list [KEY]"));
+    EXPECT_TRUE(out({"registry", "--help"}).contains("registry list [KEY]"));
+    EXPECT_TRUE(out({"registry", "list", "--help"}).contains("--recursive"));
+    EXPECT_EQ(status({"registry", "list", "-h"}), 0);
+}
+
+TEST_F(Program, CallsWhatItDoesNotKnowWrongUsage)
+{
+    for (const QStringList& line :
+         {QStringList(), QStringList{"nonsense"}, QStringList{"registry", "nonsense"},
+          QStringList{"--nonsense"}, QStringList{"registry", "list", "--nonsense"},
+          QStringList{"registry", "list", "A", "B"}, QStringList{"registry", "set", "A"}}) {
+        const Result result = run(line);
+        EXPECT_EQ(result.status, 2) << line.join(' ').toStdString();
+        EXPECT_EQ(result.out, "");
+        EXPECT_TRUE(result.error.startsWith("quaysidectl: "));
+    }
+}
+
+TEST_F(Program, WorksOnTheFileThatIsNamedInsteadOfTheUsualStore)
+{
+    EXPECT_EQ(status({"--store", "other.ini", "registry", "set", "A", "v", "text"}), 0);
+    EXPECT_TRUE(read("other.ini").contains("v=5$text"));
+    EXPECT_EQ(storeBytes(), "");
+    EXPECT_EQ(out({"registry", "get", "A", "v", "--store", "other.ini"}), "text\n");
+}
+
+TEST_F(Program, ReadsNoStoreThatIsNotThere)
+{
+    const Result result = run({"--store", "none.ini", "registry", "list"});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.error.contains("none.ini"));
+}
+
+TEST_F(Program, ReadsNoFolderAsAStore)
+{
+    EXPECT_EQ(status({"--store", ".", "registry", "list"}), 3);
+}
+
+TEST_F(Program, FailsWhereAStoreCannotBeSaved)
+{
+    write("file", "");
+    const Result result = run({"--store", "file/s.ini", "registry", "set", "A", "v", "1"});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.error.contains("file/s.ini"));
+}
+
+// The limit stands for a disk that is full: the text is longer than a file may be.
+TEST_F(Program, LeavesTheStoreAsItWasWhereTheDiskIsFull)
+{
+    writeStore("[A]\nv=5$old\n");
+    const Result result =
+        shell("ulimit -f 1; $CTL registry set A v \"$(printf 'x%.0s' {1..5000})\"");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(storeBytes(), "[A]\nv=5$old\n");
+    const Result fresh =
+        shell("ulimit -f 1; $CTL --store new.ini registry set A v \"$(printf 'x%.0s' {1..5000})\"");
+    EXPECT_EQ(fresh.status, 3);
+    EXPECT_EQ(shell("ls; ls data/quayside").out, "data\nregistry.ini\n");
+}
+
+TEST_F(Program, FailsWhereItsOutputCannotBeWritten)
+{
+    writeStore("[A]\nv=5$old\n");
+    EXPECT_EQ(shell("$CTL registry list -r >/dev/full").status, 3);
+    EXPECT_EQ(shell("$CTL registry export A >/dev/full").status, 3);
+    EXPECT_EQ(shell("$CTL --help >/dev/full").status, 3);
+}
+
+TEST_F(Program, FailsWithoutACrashWhereAPipeIsClosedEarly)
+{
+    QByteArray store("[A]\n");
+    for (int i = 0; i < 20000; ++i)
+        store += "value" + QByteArray::number(i) + "=5$text\n";
+    writeStore(store);
+    const Result result = shell("$CTL registry list -r | head -1; exit ${PIPESTATUS[0]}");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.error.contains("Broken pipe"));
+}
+
+TEST_F(Program, WorksInUtf8WhereNoLocaleIsChosen)
+{
+    const Result result =
+        shell("LC_ALL=C $CTL registry set A 名字 值 && LC_ALL=C $CTL registry get A 名字");
+    EXPECT_EQ(result.out, "值\n");
+}
+
+TEST_F(Program, SpeaksTheLanguageOfTheLocale)
+{
+    const Result result = shell("LC_ALL=zh_CN.UTF-8 $CTL registry list Nope");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.error.contains("没有此键"));
+}
+
+TEST_F(Program, PrintsNothingButErrorsWhenItIsQuiet)
+{
+    writeStore("[A]\nv=5$old\n");
+    const Result found = run({"--quiet", "registry", "get", "A", "v"});
+    EXPECT_EQ(found.status, 0);
+    EXPECT_EQ(found.out + found.error, "");
+    EXPECT_EQ(status({"--quiet", "registry", "get", "A", "none"}), 1);
+}
+
+} // namespace
