@@ -1,5 +1,6 @@
 #include "ctl/CommandTable.h"
 
+#include "ctl/host/HostCheckCommand.h"
 #include "ctl/registry/RegistryCheckCommand.h"
 #include "ctl/registry/RegistryCompareCommand.h"
 #include "ctl/registry/RegistryCopyCommand.h"
@@ -13,6 +14,7 @@
 #include "ctl/registry/RegistrySetCommand.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -51,6 +53,9 @@ const std::vector<CommandTable::Row>& CommandTable::rows()
         {"registry", "check", "[KEY]",
          QT_TR_NOOP("Lists what host libraries cannot read or read otherwise than written."), 0, 1,
          Needs::Store, made<RegistryCheckCommand>},
+        {"host", "check", "LIBRARY...",
+         QT_TR_NOOP("Tells whether host libraries can be loaded here, and if not, why."), 1,
+         std::numeric_limits<int>::max(), Needs::Nothing, made<HostCheckCommand>},
     };
     return all;
 }

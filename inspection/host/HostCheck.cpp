@@ -77,6 +77,7 @@ HostReport HostCheck::check(const QString& path)
     HostReport report;
     const std::shared_ptr<const ElfObject> library = m_objects.at(path);
     report.path = library->path;
+    report.fault = library->fault;
     checkFile(*library, report);
     // What a library for another machine needs is not here, and nothing of it would be loaded.
     if (report.willLoad()) {

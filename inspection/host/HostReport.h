@@ -78,7 +78,8 @@ struct HostFunctionState
 /// All that can be said of one library.
 struct HostReport
 {
-    QString path;    ///< absolute
+    QString path; ///< absolute
+    ElfFault fault = ElfFault::None;
     QString machine; ///< such as "64-bit AArch64"; empty where it is no ELF file
     QString soname;
     QVector<HostNeed> needs; ///< of the library and of those that it brings in

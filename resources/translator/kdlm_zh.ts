@@ -336,6 +336,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Lists what host libraries cannot read or read otherwise than written.</source>
         <translation>列出主机库无法读取或读出与所写不同的内容。</translation>
     </message>
+    <message>
+        <source>Tells whether host libraries can be loaded here, and if not, why.</source>
+        <translation>说明主机库能否在此处加载；若不能，说明原因。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -1445,6 +1449,33 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>HostCheckCommand</name>
+    <message>
+        <source>The application that is to load the libraries; otherwise the one beside this program.</source>
+        <translation>要加载这些库的应用程序；未给出时为本程序旁边的那一个。</translation>
+    </message>
+    <message>
+        <source>Loads each library for a trial too, in a process of its own. This runs its start-up code.</source>
+        <translation>还在单独的进程中试着加载每个库。这会运行库的启动代码。</translation>
+    </message>
+    <message>
+        <source>How long a trial may take; otherwise 10 seconds.</source>
+        <translation>试验最多用多长时间；未给出时为 10 秒。</translation>
+    </message>
+    <message>
+        <source>Can be loaded here.</source>
+        <translation>可以在此处加载。</translation>
+    </message>
+    <message>
+        <source>Cannot be loaded here.</source>
+        <translation>无法在此处加载。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of seconds.</source>
+        <translation>“%1”不是秒数。</translation>
+    </message>
+</context>
+<context>
     <name>HostCheckText</name>
     <message>
         <source>It is made for %1; what is loaded here is made for %2.</source>
@@ -2416,6 +2447,26 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Outcome</source>
         <translation>结果</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>库</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重程度</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Wanted</source>
+        <translation>要求</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>此处</translation>
     </message>
 </context>
 <context>
