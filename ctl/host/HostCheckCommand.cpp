@@ -77,7 +77,8 @@ ExitStatus HostCheckCommand::run(const Arguments& arguments, Output& output)
     QString unreadable;
     output.begin({libraryColumn, Columns::kind, severityColumn, subjectColumn, wantedColumn,
                   hereColumn, Columns::remark});
-    for (const QString& library : arguments.from(0)) {
+    const QStringList libraries = arguments.from(0);
+    for (const QString& library : libraries) {
         const HostReport report = check.check(library);
         print(library, report, output);
         isGood = report.willLoad() && isGood;

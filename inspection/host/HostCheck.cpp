@@ -19,7 +19,8 @@ bool imports(const ElfObject& library, const char* symbol)
 // A function of the same name that the application would not find: of another linkage or signature.
 QByteArray otherDefinition(const ElfObject& library, const HostFunction& function)
 {
-    for (const QByteArray& symbol : library.symbols.exports.uniqueKeys()) {
+    const QList<QByteArray> symbols = library.symbols.exports.uniqueKeys();
+    for (const QByteArray& symbol : symbols) {
         if (symbol.contains(function.name) && nearMissKind(function.symbol, symbol))
             return symbol;
     }
@@ -112,7 +113,7 @@ void HostCheck::checkFile(const ElfObject& library, HostReport& report) const
 
 std::shared_ptr<const ElfObject> HostCheck::readableProgram(HostReport& report)
 {
-    const std::shared_ptr<const ElfObject> program = m_objects.at(m_program);
+    std::shared_ptr<const ElfObject> program = m_objects.at(m_program);
     if (program->fault == ElfFault::None)
         return program;
     report.findings.append(hostfindings::ofApplication(m_program, program->fault));
@@ -143,7 +144,8 @@ void HostCheck::checkNeeds(const LoadScope& scope, HostReport& report) const
 
 void HostCheck::checkVersions(const LoadScope& scope, HostReport& report) const
 {
-    for (const MissingVersion& version : missingVersions(scope))
+    const QVector<MissingVersion> missing = missingVersions(scope);
+    for (const MissingVersion& version : missing)
         report.findings.append(hostfindings::ofVersion(version));
 }
 
@@ -154,6 +156,6 @@ void HostCheck::checkSymbols(const LoadScope& scope, HostReport& report) const
         return need.found.object && need.found.object->fault == ElfFault::None;
     });
     report.missing = missingSymbols(scope);
-    for (const HostMissingSymbol& symbol : report.missing)
+    for (const HostMissingSymbol& symbol : qAsConst(report.missing))
         report.findings.append(hostfindings::ofSymbol(symbol, areAllThere));
 }

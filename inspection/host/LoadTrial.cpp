@@ -21,10 +21,10 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t longestMessage = 4096; // bytes: a pipe takes them at once
-constexpr useconds_t turn = 1000;            // microseconds
-constexpr char loadedMark = '+';             // before nothing
-constexpr char refusedMark = '-';            // before the loader's message
+constexpr int longestMessage = 4096; // bytes: a pipe takes them at once
+constexpr useconds_t turn = 1000;    // microseconds
+constexpr char loadedMark = '+';     // before nothing
+constexpr char refusedMark = '-';    // before the loader's message
 
 struct HostTrial
 {
@@ -48,11 +48,9 @@ void becomePlain()
 
 void report(int pipe, char mark, const char* message)
 {
-    char text[longestMessage] = {mark};
-    const std::size_t length = std::min(std::strlen(message), sizeof text - 1);
-    std::memcpy(text + 1, message, length);
+    const QByteArray text = (mark + QByteArray(message)).left(longestMessage);
     // Where this fails, there is nobody left to be told.
-    static_cast<void>(!write(pipe, text, length + 1));
+    static_cast<void>(!write(pipe, text.constData(), static_cast<std::size_t>(text.size())));
 }
 
 [[noreturn]] void loadInChild(const char* path, int pipe)
@@ -156,7 +154,7 @@ LoadTrial tryLoading(const QString& path, std::chrono::milliseconds limit)
     if (child == 0)
         loadInChild(name.constData(), pipe[1]);
     close(pipe[1]);
-    const LoadTrial trial = child < 0 ? notTried() : watchChild(child, pipe[0], limit);
+    LoadTrial trial = child < 0 ? notTried() : watchChild(child, pipe[0], limit);
     close(pipe[0]);
     return trial;
 }

@@ -26,7 +26,8 @@ std::optional<NearMiss::Kind> kindOf(const DemangledName& wanted, const Demangle
 
 void addVersions(const ElfImport& missing, const ElfObject& object, QVector<NearMiss>& misses)
 {
-    for (const ElfSymbolVersion& version : object.symbols.exports.values(missing.name)) {
+    const QList<ElfSymbolVersion> versions = object.symbols.exports.values(missing.name);
+    for (const ElfSymbolVersion& version : versions) {
         const QByteArray name =
             version.name.isEmpty() ? missing.name : missing.name + '@' + version.name;
         misses.append({NearMiss::Kind::HasOtherVersion, name, object.fileName()});
@@ -37,7 +38,8 @@ void addVersions(const ElfImport& missing, const ElfObject& object, QVector<Near
 // part.
 void addSymbols(const DemangledName& wanted, const ElfObject& object, QVector<NearMiss>& misses)
 {
-    for (const QByteArray& name : object.symbols.exports.uniqueKeys()) {
+    const QList<QByteArray> names = object.symbols.exports.uniqueKeys();
+    for (const QByteArray& name : names) {
         if (misses.size() >= mostMisses)
             return;
         if (!name.contains(wanted.last))
