@@ -13,7 +13,13 @@ using Severity = HostFinding::Severity;
 class HostCheckTest : public testing::Test
 {
 protected:
-    HostReport check(const QString& path) { return m_check.check(path); }
+    // Shared, because reading the application and all that it needs is most of the work.
+    static HostReport check(const QString& path)
+    {
+        static HostCheck shared(QUAYSIDE_PROGRAM);
+        return shared.check(path);
+    }
+
     HostReport checkBytes(const QByteArray& bytes) { return check(m_folder.file("a.so", bytes)); }
 
     // The findings of that kind, in words.
@@ -43,7 +49,6 @@ protected:
     }
 
     FileFolder m_folder;
-    HostCheck m_check{QUAYSIDE_PROGRAM};
 };
 
 TEST_F(HostCheckTest, HasNothingToSayOfAProperLibrary)
