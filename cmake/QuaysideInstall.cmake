@@ -34,6 +34,11 @@ endforeach()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/run/translations
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quayside)
 
+install(FILES ${PROJECT_SOURCE_DIR}/docs/quaysidectl.1
+  DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/quaysidectl.bash
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME quaysidectl)
+
 install(EXPORT QuaysideTargets NAMESPACE Quayside:: DESTINATION ${package_folder})
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/QuaysideConfig.cmake.in
   ${PROJECT_BINARY_DIR}/QuaysideConfig.cmake INSTALL_DESTINATION ${package_folder})

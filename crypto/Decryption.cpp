@@ -5,13 +5,7 @@
 
 #include <algorithm>
 
-namespace {
-
-/// Intended: more than a block, although padding never has more than 16 bytes.
-constexpr std::size_t maxPadding = 22;
-
-/// Removes the padding, or everything where the padding does not match.
-Decryption::Padding unpad(std::string& bytes)
+Decryption::Padding removePadding(std::string& bytes)
 {
     const std::size_t count = bytes.empty() ? 0 : static_cast<unsigned char>(bytes.back());
     if (count == 0 || count > maxPadding || count > bytes.size())
@@ -23,8 +17,6 @@ Decryption::Padding unpad(std::string& bytes)
     bytes.resize(matches ? bytes.size() - count : 0);
     return matches ? Decryption::Padding::Removed : Decryption::Padding::Mismatched;
 }
-
-} // namespace
 
 DecryptionReason Decryption::reason() const
 {
@@ -53,6 +45,6 @@ Decryption decryptWithReason(const CipherKeys& keys, const std::string& cipherTe
     result.cipherSize = input.size();
     result.bytes = input;
     makeCipher(keys).Decrypt(input.data(), result.bytes.data(), input.size(), AesEncrypt::CBC);
-    result.padding = unpad(result.bytes);
+    result.padding = removePadding(result.bytes);
     return result;
 }

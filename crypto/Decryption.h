@@ -43,6 +43,14 @@ struct Decryption
     std::string text() const;
 };
 
+/// Removes the padding from decrypted bytes, or everything where the padding does not match. Only
+/// the last `maxPadding` bytes, or all where there are fewer, have an influence.
+Decryption::Padding removePadding(std::string& bytes);
+
+/// How many bytes may count as padding. Intended: more than a block, although padding never has
+/// more than 16 bytes.
+inline constexpr std::size_t maxPadding = 22;
+
 /// Decrypts Base64 of a cipher text, AES-128 in CBC mode.
 Decryption decryptWithReason(const CipherKeys& keys, const std::string& cipherText);
 

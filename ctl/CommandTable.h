@@ -19,7 +19,7 @@ public:
         Nothing,
         Store,    ///< the store, with its file
         NewStore, ///< the store, whose file may still be missing
-        Display   ///< a graphical application without a display
+        Display   ///< a graphical application, and the host library
     };
 
     struct Row

@@ -117,7 +117,9 @@ void Output::jsonRecord(const QStringList& cells)
 
 void Output::flushTable()
 {
-    if (m_records++ == 0 && !m_rows.empty() && m_columns.size() > 1) {
+    if (m_rows.empty())
+        return;
+    if (m_records++ == 0 && m_columns.size() > 1) {
         QStringList titles;
         for (const Column& column : m_columns)
             titles.append(tr(column.title));
@@ -150,6 +152,15 @@ QString Output::tableLine(const Row& row) const
     return m_hasColours && colour.size() > 0 ? colour + line + QLatin1String("\x1b[0m") : line;
 }
 
+void Output::line(const QStringList& cells, const QString& text)
+{
+    Interruption::check();
+    if (m_form == Form::Json)
+        jsonRecord(cells);
+    else if (m_form != Form::Quiet)
+        m_device.put(shownCell(text).toLocal8Bit() + '\n');
+}
+
 void Output::whole(const QByteArray& bytes, const Column& column)
 {
     if (m_form == Form::Json) {
@@ -164,6 +175,12 @@ void Output::note(const QString& text) const
 {
     if (m_form != Form::Quiet)
         showMessage(text);
+}
+
+void Output::flush()
+{
+    flushTable();
+    m_device.finish();
 }
 
 void Output::finish(ExitStatus status, const QString& error)

@@ -52,6 +52,8 @@ public:
     void begin(const std::vector<Column>& columns);
     /// A record has a cell for each column.
     void record(const QStringList& cells, Tone tone = Tone::Plain);
+    /// A record that has a form of its own outside of JSON: one line, without its end.
+    void line(const QStringList& cells, const QString& text);
     /// Something that is no table, such as a difference or the data of a value: as it is, and in
     /// JSON as a record with this column alone.
     void whole(const QByteArray& bytes, const Column& column);
@@ -60,6 +62,8 @@ public:
     /// A remark beside the records, on the standard error; not when quiet.
     void note(const QString& text) const;
 
+    /// Writes what is still in the buffers.
+    void flush();
     /// Ends the document and writes everything.
     void finish(ExitStatus status, const QString& error = {});
 

@@ -1,5 +1,6 @@
 #include "ctl/Program.h"
 
+#include "app/StartUp.h"
 #include "app/Version.h"
 #include "ctl/Command.h"
 #include "ctl/Failure.h"
@@ -101,6 +102,8 @@ ExitStatus Program::runIn(Output& output, Command& command, const CommandTable::
 {
     if (row.needs == CommandTable::Needs::Store || row.needs == CommandTable::Needs::NewStore)
         m_store.emplace(storeFile(), row.needs == CommandTable::Needs::Store);
+    else if (row.needs == CommandTable::Needs::Display)
+        StartUp::handOver(QString());
     const ExitStatus status = command.run(Arguments(m_own), output);
     output.finish(status);
     return status;

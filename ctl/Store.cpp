@@ -26,6 +26,12 @@ void Store::check(bool mustExist, bool isFile)
         throw Failure(tr("The store %1 cannot be read.").arg(RawStore::fileName()));
 }
 
+void Store::reread()
+{
+    if (!RawStore::save())
+        throw Failure(tr("The store %1 cannot be read.").arg(RawStore::fileName()));
+}
+
 void Store::save()
 {
     if (!saveStore())

@@ -17,6 +17,9 @@ public:
     /// it cannot be read, and where a file that `mustExist` is not there.
     Store(const QString& file, bool mustExist);
 
+    /// Takes over what other programs have saved meanwhile. Throws a Failure where that is not
+    /// possible.
+    static void reread();
     /// Saves the store at once. Throws a Failure where that is not possible.
     static void save();
 

@@ -1,13 +1,16 @@
 #include "app/StartUp.h"
 #include "ctl/Interruption.h"
+#include "ctl/Message.h"
 #include "ctl/Program.h"
 
+#include <QApplication>
 #include <QLocale>
 #include <QTextCodec>
 #include <QTranslator>
 
 #include <cstdlib>
 #include <langinfo.h>
+#include <memory>
 
 namespace {
 
@@ -19,17 +22,52 @@ void takeUtf8WithoutLocale()
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
+// Qt warns of surroundings, such as a folder that a session would have, that are none of the user's
+// concern here.
+void tellQtFailures(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        showMessage(text);
+}
+
 bool isChineseLocale()
 {
     const QLocale locale = QLocale::system();
     return locale.language() == QLocale::Chinese && locale.script() == QLocale::SimplifiedHanScript;
 }
 
+// The screens and the keys of the display that there is; without one, and for fonts, Qt's own that
+// shows nothing.
+void choosePlatform(bool isForFonts)
+{
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return;
+    QByteArray platforms = "offscreen";
+    if (!isForFonts && !qEnvironmentVariableIsEmpty("DISPLAY"))
+        platforms.prepend("xcb;");
+    qputenv("QT_QPA_PLATFORM", platforms);
+}
+
+// Qt's graphical start takes many times as long as the other one: only for the commands that need
+// it, before the arguments can be read. A word that only looks like one does no harm.
+std::unique_ptr<QCoreApplication> application(int& argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray word(argv[i]);
+        if (word != "fonts" && word != "displays" && word != "input")
+            continue;
+        choosePlatform(word == "fonts");
+        return std::make_unique<QApplication>(argc, argv);
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
+    qInstallMessageHandler(tellQtFailures);
+    const std::unique_ptr<QCoreApplication> started = application(argc, argv);
     // The application's, by which its host library finds the store.
     QCoreApplication::setApplicationName(QStringLiteral("quayside"));
     takeUtf8WithoutLocale();

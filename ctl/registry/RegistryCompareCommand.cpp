@@ -2,16 +2,14 @@
 
 #include "ctl/Failure.h"
 #include "ctl/Output.h"
+#include "ctl/registry/DifferenceRecord.h"
 #include "ctl/registry/KeyArgument.h"
 #include "inspection/registry/RegistryDifference.h"
-#include "inspection/registry/RegistryPath.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
-
-using Kind = RegistryDifference::Kind;
 
 bool isFile(const QString& argument)
 {
@@ -47,25 +45,6 @@ RegistryContents contentsOf(const QString& argument, const QString& other)
     return contentsOfFile(argument, isFile(other) ? QString() : KeyArgument::any(other));
 }
 
-QString shownKey(const QString& path)
-{
-    return QString(path).replace(QLatin1Char('/'), QLatin1Char('\\'));
-}
-
-void print(const RegistryDifference& difference, Output& output)
-{
-    const bool isAdded = difference.kind == Kind::Added;
-    const QString change = isAdded                            ? QStringLiteral("added")
-                           : difference.kind == Kind::Removed ? QStringLiteral("removed")
-                                                              : QStringLiteral("changed");
-    const Output::Tone tone = isAdded                            ? Output::Tone::Good
-                              : difference.kind == Kind::Removed ? Output::Tone::Bad
-                                                                 : Output::Tone::Plain;
-    output.record(
-        {change, shownKey(difference.key), difference.name, difference.before, difference.after},
-        tone);
-}
-
 } // namespace
 
 ExitStatus RegistryCompareCommand::run(const Arguments& arguments, Output& output)
@@ -76,8 +55,8 @@ ExitStatus RegistryCompareCommand::run(const Arguments& arguments, Output& outpu
     if (refused > 0)
         output.note(tr("Statements that the registry would refuse: %L1.").arg(refused));
     const std::vector<RegistryDifference> differences = registryDifferences(before, after);
-    output.begin({Columns::change, Columns::key, Columns::name, Columns::before, Columns::after});
+    DifferenceRecord::begin(output);
     for (const RegistryDifference& difference : differences)
-        print(difference, output);
+        DifferenceRecord::print(difference, output);
     return differences.empty() ? ExitStatus::Done : ExitStatus::No;
 }

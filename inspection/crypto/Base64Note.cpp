@@ -1,11 +1,14 @@
 #include "inspection/crypto/Base64Note.h"
 
-#include "crypto/base64/Base64Extent.h"
 #include "inspection/crypto/Sentences.h"
 
 QString Base64Note::of(const std::string& text)
 {
-    const base64::Extent extent = base64::extentOf(text);
+    return of(base64::extentOf(text));
+}
+
+QString Base64Note::of(const base64::Extent& extent)
+{
     QStringList notes;
     if (extent.hasLone)
         notes += tr("The last Base64 character stands alone and yields nothing.");

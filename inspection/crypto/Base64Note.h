@@ -1,5 +1,7 @@
 #pragma once
 
+#include "crypto/base64/Base64Extent.h"
+
 #include <QCoreApplication>
 
 #include <string>
@@ -12,6 +14,8 @@ class Base64Note
 public:
     /// Empty when all of the text counts.
     static QString of(const std::string& text);
+    /// The same for a text of which so much counts.
+    static QString of(const base64::Extent& extent);
 
     /// For a text of which nothing is decoded.
     static QString nothingDecoded();

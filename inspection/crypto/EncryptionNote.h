@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 /// Where the keys of an encryption or decryption come from.
@@ -19,4 +21,6 @@ class EncryptionNote
 public:
     /// Empty when all of the text can be read back.
     static QString of(const std::string& plain, KeySource source);
+    /// The same for a text of `size` bytes whose first zero byte stands there, if there is one.
+    static QString of(std::uint64_t size, std::optional<std::uint64_t> zeroByte, KeySource source);
 };

@@ -190,6 +190,28 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>ByteInput</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ByteResult</name>
+    <message>
+        <source>Writes into this file.</source>
+        <translation>写入此文件。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file by --output.</source>
+        <translation>使用 --json 时，请用 --output 指定文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>ChangeReport</name>
     <message>
         <source>%1 %2</source>
@@ -337,6 +359,74 @@ Put it in the place of the file to bring everything back.</source>
         <translation>列出主机库无法读取或读出与所写不同的内容。</translation>
     </message>
     <message>
+        <source>Lists what the families find in a profile, and what they read.</source>
+        <translation>列出两族函数在配置文件中找到和读出的内容。</translation>
+    </message>
+    <message>
+        <source>Prints what the families read.</source>
+        <translation>输出两族函数读出的内容。</translation>
+    </message>
+    <message>
+        <source>Writes a value through one of the families.</source>
+        <translation>通过其中一族函数写入一个值。</translation>
+    </message>
+    <message>
+        <source>Deletes what a family reads as a key or a section.</source>
+        <translation>删除一族函数读作键或节的内容。</translation>
+    </message>
+    <message>
+        <source>Writes all entries of the profile that is the standard input.</source>
+        <translation>写入来自标准输入的配置文件的所有条目。</translation>
+    </message>
+    <message>
+        <source>Tells the lines that a family drops, replaces or reads otherwise.</source>
+        <translation>指出一族函数丢弃、替换或读作其他内容的行。</translation>
+    </message>
+    <message>
+        <source>Lists what the two families read differently.</source>
+        <translation>列出两族函数读出不同的内容。</translation>
+    </message>
+    <message>
+        <source>Lists the find records that a host library gets for a pattern.</source>
+        <translation>列出主机库按模式得到的查找记录。</translation>
+    </message>
+    <message>
+        <source>Prints what the directory service answers about a path.</source>
+        <translation>输出目录服务对一个路径的回答。</translation>
+    </message>
+    <message>
+        <source>Lists the records of the font service.</source>
+        <translation>列出字体服务的记录。</translation>
+    </message>
+    <message>
+        <source>Lists the monitors as the service answers them.</source>
+        <translation>按服务的回答列出显示器。</translation>
+    </message>
+    <message>
+        <source>Lists what the key-state service answers.</source>
+        <translation>列出按键状态服务的回答。</translation>
+    </message>
+    <message>
+        <source>Encrypts a file or the standard input as host libraries do it.</source>
+        <translation>按主机库的方式加密文件或标准输入。</translation>
+    </message>
+    <message>
+        <source>Decrypts a file or the standard input, or tells why that fails.</source>
+        <translation>解密文件或标准输入，或说明失败的原因。</translation>
+    </message>
+    <message>
+        <source>Prints the digests of a file or the standard input.</source>
+        <translation>输出文件或标准输入的摘要。</translation>
+    </message>
+    <message>
+        <source>Encodes or decodes URL-safe Base64.</source>
+        <translation>编码或解码 URL 安全的 Base64。</translation>
+    </message>
+    <message>
+        <source>Prints changes as they are saved, until it is interrupted.</source>
+        <translation>在更改保存时输出更改，直到被中断。</translation>
+    </message>
+    <message>
         <source>Tells whether host libraries can be loaded here, and if not, why.</source>
         <translation>说明主机库能否在此处加载；若不能，说明原因。</translation>
     </message>
@@ -350,6 +440,31 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Copy: %1</source>
         <translation>复制：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoBase64Command</name>
+    <message>
+        <source>Decodes instead of encoding.</source>
+        <translation>解码而不是编码。</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoDecryptCommand</name>
+    <message>
+        <source>The library ends the text before its first zero byte. Bytes left out: %L1.</source>
+        <translation>库在第一个零字节之前结束文本。略去的字节数：%L1。</translation>
+    </message>
+</context>
+<context>
+    <name>CryptoDigestCommand</name>
+    <message>
+        <source>Prints the digest of both this text and the first one, too.</source>
+        <translation>同时输出此文本与第一个文本的合并摘要。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -752,6 +867,13 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>DisplaysListCommand</name>
+    <message>
+        <source>Lists the system metrics instead.</source>
+        <translation>改为列出系统指标。</translation>
+    </message>
+</context>
+<context>
     <name>DisplaysPage</name>
     <message>
         <source>Details</source>
@@ -832,6 +954,25 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>left out: &quot;%1&quot;: %2</source>
         <translation>已略过：“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FamilyOption</name>
+    <message>
+        <source>The wide family of calls.</source>
+        <translation>宽字符函数族。</translation>
+    </message>
+    <message>
+        <source>The narrow family of calls.</source>
+        <translation>窄字符函数族。</translation>
+    </message>
+    <message>
+        <source>Either --wide or --narrow, not both.</source>
+        <translation>--wide 与 --narrow 只能选其一。</translation>
+    </message>
+    <message>
+        <source>Say --wide or --narrow: the families write differently.</source>
+        <translation>请指定 --wide 或 --narrow：两族函数的写法不同。</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1226,17 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Left out, because their names do not fit a record: %1.</source>
         <translation>以下字体族因名称过长、无法写入记录而被略过：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>FontsListCommand</name>
+    <message>
+        <source>There is no character set &quot;%1&quot;.</source>
+        <translation>没有字符集“%1”。</translation>
+    </message>
+    <message>
+        <source>Only records of this character set, by its code.</source>
+        <translation>仅限此字符集（以代码指定）的记录。</translation>
     </message>
 </context>
 <context>
@@ -1931,6 +2083,41 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>KeyOptions</name>
+    <message>
+        <source>Pass phrase</source>
+        <translation>口令</translation>
+    </message>
+    <message>
+        <source>A descriptor is a number, not &quot;%1&quot;.</source>
+        <translation>描述符是数字，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>The pass phrase is the contents of this file; without any such option it is asked for on the terminal.</source>
+        <translation>口令为此文件的内容；若无此类选项，则在终端上询问。</translation>
+    </message>
+    <message>
+        <source>The pass phrase is read from this descriptor.</source>
+        <translation>从此描述符读取口令。</translation>
+    </message>
+    <message>
+        <source>The key is the contents of this file.</source>
+        <translation>密钥为此文件的内容。</translation>
+    </message>
+    <message>
+        <source>The IV is the contents of this file.</source>
+        <translation>IV 为此文件的内容。</translation>
+    </message>
+    <message>
+        <source>Key and IV are pairs of hexadecimal digits.</source>
+        <translation>密钥和 IV 为成对的十六进制数字。</translation>
+    </message>
+    <message>
+        <source>Give a pass phrase, or both --key-file and --iv-file.</source>
+        <translation>请给出口令，或同时给出 --key-file 和 --iv-file。</translation>
+    </message>
+</context>
+<context>
     <name>KeyPanel</name>
     <message>
         <source>Unknown to the service, as every other code: these always read as up.</source>
@@ -2449,6 +2636,134 @@ Put it in the place of the file to bring everything back.</source>
         <translation>结果</translation>
     </message>
     <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>节</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>函数族</translation>
+    </message>
+    <message>
+        <source>Found by</source>
+        <translation>找到者</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>宽字符</translation>
+    </message>
+    <message>
+        <source>Narrow</source>
+        <translation>窄字符</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差异</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>读取时间</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>写入时间</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Answer</source>
+        <translation>回答</translation>
+    </message>
+    <message>
+        <source>Face</source>
+        <translation>字体名</translation>
+    </message>
+    <message>
+        <source>Full name</source>
+        <translation>全名</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>Character set</source>
+        <translation>字符集</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>粗细</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>斜体</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>已安装</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>Full area</source>
+        <translation>全部区域</translation>
+    </message>
+    <message>
+        <source>Work area</source>
+        <translation>工作区</translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation>主显示器</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>索引</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Known</source>
+        <translation>已知</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Digest</source>
+        <translation>摘要</translation>
+    </message>
+    <message>
         <source>Library</source>
         <translation>库</translation>
     </message>
@@ -2675,6 +2990,20 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>ProfileCheckCommand</name>
+    <message>
+        <source>Tells comments too.</source>
+        <translation>也指出注释。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileCheckJob</name>
+    <message>
+        <source>The line is not UTF-8.</source>
+        <translation>该行不是 UTF-8。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileColumns</name>
     <message>
         <source>Narrow: %1
@@ -2825,6 +3154,29 @@ Wide: %2</source>
     <message>
         <source>%1 is larger than %2 MiB: no call of either family can read it.</source>
         <translation>%1 大于 %2 MiB：两种接口都无法读取。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileEdit</name>
+    <message>
+        <source>Prints the difference, and writes nothing.</source>
+        <translation>输出差异，不写入任何内容。</translation>
+    </message>
+    <message>
+        <source>Writes even where other lines change.</source>
+        <translation>即使其他行会改变也写入。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be written.</source>
+        <translation>未能写入 %1。</translation>
+    </message>
+    <message>
+        <source>Not written: other lines of %1 would change, as --dry-run shows; --force writes it.</source>
+        <translation>未写入：%1 的其他行会改变（见 --dry-run）；--force 可强制写入。</translation>
     </message>
 </context>
 <context>
@@ -2998,6 +3350,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ProfileEntries</name>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1：没有此文件。</translation>
+    </message>
+</context>
+<context>
     <name>ProfileFindBar</name>
     <message>
         <source>Text to find</source>
@@ -3057,6 +3416,13 @@ Wide: %2</source>
     <message>
         <source>The last line gets a line end.</source>
         <translation>最后一行将加上行尾。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileGetCommand</name>
+    <message>
+        <source>%1 has no entry &quot;%2&quot; in the section &quot;%3&quot;.</source>
+        <translation>%1 的节“%3”中没有条目“%2”。</translation>
     </message>
 </context>
 <context>
@@ -3136,6 +3502,17 @@ Wide: %2</source>
     <message>
         <source>Stopped before all lines were searched.</source>
         <translation>已停止：尚未查找完所有行。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileMergeCommand</name>
+    <message>
+        <source>The standard input cannot be read: %1</source>
+        <translation>无法读取标准输入：%1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -4205,6 +4582,21 @@ Wide: %2</source>
     <message>
         <source>The value &quot;%1&quot; of %2 goes with it.</source>
         <translation>%2 的值“%1”也会一并删除。</translation>
+    </message>
+</context>
+<context>
+    <name>Secret</name>
+    <message>
+        <source>The secret cannot be read: %1</source>
+        <translation>无法读取密钥信息：%1</translation>
+    </message>
+    <message>
+        <source>There is no terminal to ask for the secret on: name a file.</source>
+        <translation>没有可供询问密钥信息的终端：请指定文件。</translation>
+    </message>
+    <message>
+        <source>The terminal would show the secret: name a file.</source>
+        <translation>终端会显示密钥信息：请指定文件。</translation>
     </message>
 </context>
 <context>

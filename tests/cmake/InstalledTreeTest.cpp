@@ -109,6 +109,9 @@ TEST_F(InstalledTree, HoldsTheProgramItsCatalogueAndTheStandIn)
 {
     const QDir tree(prefix());
     EXPECT_TRUE(tree.exists("bin/quayside"));
+    EXPECT_TRUE(tree.exists("bin/quaysidectl"));
+    EXPECT_TRUE(tree.exists("share/man/man1/quaysidectl.1"));
+    EXPECT_TRUE(tree.exists("share/bash-completion/completions/quaysidectl"));
     EXPECT_TRUE(tree.exists("share/quayside/translations/qt_zh_CN.qm"));
     EXPECT_TRUE(tree.exists(QUAYSIDE_LIBRARY_FOLDER "/libKdPlatformBase.so"));
 }

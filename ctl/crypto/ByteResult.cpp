@@ -1,0 +1,74 @@
+#include "ctl/crypto/ByteResult.h"
+
+#include "ctl/Arguments.h"
+#include "ctl/Failure.h"
+#include "ctl/Interruption.h"
+#include "ctl/Output.h"
+
+#include <QSaveFile>
+#include <QTemporaryFile>
+
+namespace {
+
+constexpr qint64 pieceSize = qint64{256} * 1024;
+
+} // namespace
+
+void ByteResult::addOption(QCommandLineParser& parser)
+{
+    parser.addOption(
+        {QStringLiteral("output"), tr("Writes into this file."), QStringLiteral("FILE")});
+}
+
+ByteResult::ByteResult(const Arguments& arguments, Output& output, Certainty certainty)
+    : m_output(output), m_isNamed(arguments.has("output"))
+{
+    if (!m_isNamed && output.form() == Output::Form::Json)
+        throw Failure(ExitStatus::WrongUsage, tr("With --json, name a file by --output."));
+    if (m_isNamed) {
+        m_file = std::make_unique<QSaveFile>(arguments.value("output"));
+        check(m_file->open(QIODevice::WriteOnly));
+    } else if (certainty == Certainty::Undecided) {
+        auto file = std::make_unique<QTemporaryFile>();
+        const bool isOpen = file->open();
+        m_file = std::move(file);
+        check(isOpen);
+    }
+}
+
+ByteResult::~ByteResult() = default;
+
+void ByteResult::put(const std::string& bytes)
+{
+    const QByteArray data = QByteArray::fromStdString(bytes);
+    if (m_file)
+        check(m_file->write(data) == data.size());
+    else if (m_output.form() != Output::Form::Quiet)
+        m_output.device().put(data);
+}
+
+void ByteResult::commit()
+{
+    if (m_isNamed)
+        check(static_cast<QSaveFile&>(*m_file).commit());
+    else if (m_file)
+        copyToOutput();
+}
+
+void ByteResult::copyToOutput()
+{
+    check(m_file->flush() && m_file->seek(0));
+    QByteArray piece;
+    while (!(piece = m_file->read(pieceSize)).isEmpty()) {
+        Interruption::check();
+        if (m_output.form() != Output::Form::Quiet)
+            m_output.device().put(piece);
+    }
+}
+
+void ByteResult::check(bool good) const
+{
+    if (!good)
+        throw Failure(
+            tr("%1 cannot be written: %2").arg(m_file->fileName(), m_file->errorString()));
+}

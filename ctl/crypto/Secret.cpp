@@ -1,0 +1,93 @@
+#include "ctl/crypto/Secret.h"
+
+#include "ctl/Failure.h"
+#include "ctl/Interruption.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <termios.h>
+
+namespace {
+
+struct SecretTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(Secret)
+};
+
+// What is typed is not shown while one lives.
+class HiddenTyping
+{
+public:
+    explicit HiddenTyping(int terminal) : m_terminal(terminal)
+    {
+        m_isSet = tcgetattr(terminal, &m_former) == 0;
+        termios hidden = m_former;
+        hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        m_isSet = m_isSet && tcsetattr(terminal, TCSAFLUSH, &hidden) == 0;
+    }
+    ~HiddenTyping()
+    {
+        if (m_isSet)
+            tcsetattr(m_terminal, TCSAFLUSH, &m_former);
+    }
+
+    HiddenTyping(const HiddenTyping&) = delete;
+    HiddenTyping& operator=(const HiddenTyping&) = delete;
+
+    bool isHidden() const { return m_isSet; }
+
+private:
+    int m_terminal;
+    termios m_former{};
+    bool m_isSet = false;
+};
+
+std::string withoutLineEnd(QByteArray text)
+{
+    if (text.endsWith('\n'))
+        text.chop(1);
+    if (text.endsWith('\r'))
+        text.chop(1);
+    return text.toStdString();
+}
+
+std::string readAll(QFile& file, bool isOpen)
+{
+    const QByteArray text = isOpen ? file.readAll() : QByteArray();
+    if (!isOpen || file.error() != QFileDevice::NoError)
+        throw Failure(SecretTexts::tr("The secret cannot be read: %1").arg(file.errorString()));
+    return withoutLineEnd(text);
+}
+
+} // namespace
+
+std::string Secret::fromFile(const QString& name)
+{
+    QFile file(name);
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    return readAll(file, isOpen);
+}
+
+std::string Secret::fromDescriptor(int descriptor)
+{
+    QFile file;
+    const bool isOpen = file.open(descriptor, QIODevice::ReadOnly);
+    return readAll(file, isOpen);
+}
+
+std::string Secret::asked(const QString& question)
+{
+    QFile terminal(QStringLiteral("/dev/tty"));
+    if (!terminal.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        throw Failure(
+            SecretTexts::tr("There is no terminal to ask for the secret on: name a file."));
+    const HiddenTyping hidden(terminal.handle());
+    if (!hidden.isHidden())
+        throw Failure(SecretTexts::tr("The terminal would show the secret: name a file."));
+    terminal.write(question.toLocal8Bit() + ": ");
+    const QByteArray text = terminal.readLine();
+    terminal.write("\n");
+    Interruption::check();
+    return withoutLineEnd(text);
+}
