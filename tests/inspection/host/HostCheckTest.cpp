@@ -148,7 +148,23 @@ TEST_F(HostCheckTest, NamesTheGlibcThatIsTooOld)
     ASSERT_EQ(1, report.versions.size());
     EXPECT_EQ("2.99", report.versions.first().wanted);
     EXPECT_TRUE(text.contains("GLIBC_" + report.versions.first().here)) << allTexts(report);
-    EXPECT_EQ("GLIBC_2.99", report.missing.first().version);
+}
+
+TEST_F(HostCheckTest, NamesTheOtherVersionOfASymbol)
+{
+    const HostReport report = check(testLibrary("newer_system"));
+    ASSERT_EQ(2, report.missing.size()) << allTexts(report);
+    for (const HostMissingSymbol& missing : report.missing) {
+        EXPECT_EQ("GLIBC_2.99", missing.version);
+        if (missing.symbol == "fromTheFuture") {
+            EXPECT_TRUE(missing.misses.isEmpty());
+            continue;
+        }
+        ASSERT_EQ(1, missing.misses.size());
+        EXPECT_EQ(NearMiss::Kind::HasOtherVersion, missing.misses.first().kind);
+        EXPECT_EQ("libc.so.6", missing.misses.first().library);
+        EXPECT_TRUE(missing.misses.first().symbol.startsWith("gnu_get_libc_version@GLIBC_2."));
+    }
 }
 
 TEST_F(HostCheckTest, TellsTheOtherMachine)
