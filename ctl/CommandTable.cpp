@@ -8,6 +8,7 @@
 #include "ctl/files/FilesStatCommand.h"
 #include "ctl/graphics/DisplaysListCommand.h"
 #include "ctl/graphics/FontsListCommand.h"
+#include "ctl/host/HostCheckCommand.h"
 #include "ctl/input/InputKeysCommand.h"
 #include "ctl/profiles/ProfileCheckCommand.h"
 #include "ctl/profiles/ProfileCompareCommand.h"
@@ -137,6 +138,10 @@ constexpr CommandTable::Row table[] = {
     {"crypto", "base64", "[FILE]",
      QT_TRANSLATE_NOOP("CommandTable", "Encodes or decodes URL-safe Base64."), 0, 1, Needs::Nothing,
      made<CryptoBase64Command>},
+    {"host", "check", "LIBRARY...",
+     QT_TRANSLATE_NOOP("CommandTable",
+                       "Tells whether host libraries can be loaded here, and if not, why."),
+     1, anyNumber, Needs::Nothing, made<HostCheckCommand>},
 };
 
 } // namespace

@@ -430,6 +430,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Prints changes as they are saved, until it is interrupted.</source>
         <translation>在更改保存时输出更改，直到被中断。</translation>
     </message>
+    <message>
+        <source>Tells whether host libraries can be loaded here, and if not, why.</source>
+        <translation>说明主机库能否在此处加载；若不能，说明原因。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -890,6 +894,21 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>&amp;Graphics handles</source>
         <translation>图形句柄(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>ElfMachine</name>
+    <message>
+        <source>machine %1</source>
+        <translation>机器类型 %1</translation>
+    </message>
+    <message>
+        <source>%1-bit %2</source>
+        <translation>%1 位 %2</translation>
+    </message>
+    <message>
+        <source>%1, big-endian</source>
+        <translation>%1，大端序</translation>
     </message>
 </context>
 <context>
@@ -1586,11 +1605,245 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>HostCheckCommand</name>
+    <message>
+        <source>The application that is to load the libraries; otherwise the one beside this program.</source>
+        <translation>要加载这些库的应用程序；未给出时为本程序旁边的那一个。</translation>
+    </message>
+    <message>
+        <source>Loads each library for a trial too, in a process of its own. This runs its start-up code.</source>
+        <translation>还在单独的进程中试着加载每个库。这会运行库的启动代码。</translation>
+    </message>
+    <message>
+        <source>How long a trial may take; otherwise 10 seconds.</source>
+        <translation>试验最多用多长时间；未给出时为 10 秒。</translation>
+    </message>
+    <message>
+        <source>Can be loaded here.</source>
+        <translation>可以在此处加载。</translation>
+    </message>
+    <message>
+        <source>Cannot be loaded here.</source>
+        <translation>无法在此处加载。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of seconds.</source>
+        <translation>“%1”不是秒数。</translation>
+    </message>
+</context>
+<context>
+    <name>HostCheckText</name>
+    <message>
+        <source>It is made for %1; what is loaded here is made for %2.</source>
+        <translation>它是为 %1 制作的；此处加载的是为 %2 制作的。</translation>
+    </message>
+    <message>
+        <source>It is made for another operating system (ABI %1).</source>
+        <translation>它是为另一种操作系统制作的（ABI %1）。</translation>
+    </message>
+    <message>
+        <source>It is a program, which cannot be loaded like a library.</source>
+        <translation>它是程序，不能像库那样加载。</translation>
+    </message>
+    <message>
+        <source>It can be loaded with a program that needs it, but not later: it is marked so.</source>
+        <translation>它只能随需要它的程序一起加载，之后不能再加载：它带有这样的标记。</translation>
+    </message>
+    <message>
+        <source>What the application supplies is unknown, because %1 cannot be read. %2</source>
+        <translation>无法读取 %1，因此不知道应用程序提供什么。%2</translation>
+    </message>
+    <message>
+        <source>The application needs a library of this name and would get this one, so what the application wants of it is checked too.</source>
+        <translation>应用程序需要同名的库，并会得到这一个，因此也检查了应用程序对它的要求。</translation>
+    </message>
+    <message>
+        <source>%1, which %2 needs, is found as %3, but cannot be loaded. %4</source>
+        <translation>%2 需要的 %1 找到的是 %3，但无法加载。%4</translation>
+    </message>
+    <message>
+        <source>%1, which %2 needs, is not found.</source>
+        <translation>找不到 %2 需要的 %1。</translation>
+    </message>
+    <message>
+        <source>Passed over, because made for another machine: %1</source>
+        <translation>因为是为另一种机器制作的而略过：%1</translation>
+    </message>
+    <message>
+        <source>%1 wants version %2 of %3, which the one here has not got.</source>
+        <translation>%1 要求 %3 的版本 %2，此处的没有该版本。</translation>
+    </message>
+    <message>
+        <source>The newest one here is %1.</source>
+        <translation>此处最新的是 %1。</translation>
+    </message>
+    <message>
+        <source>Nothing here supplies %1, which %2 wants.</source>
+        <translation>此处没有任何文件提供 %2 要求的 %1。</translation>
+    </message>
+    <message>
+        <source>A library that is not found may have it.</source>
+        <translation>它可能在某个未找到的库中。</translation>
+    </message>
+    <message>
+        <source>Its code is altered when it is loaded (text relocations), which some systems forbid.</source>
+        <translation>它的代码在加载时会被改动（代码段重定位），有些系统禁止这样做。</translation>
+    </message>
+    <message>
+        <source>It wants an executable stack, which some systems forbid.</source>
+        <translation>它要求可执行的栈，有些系统禁止这样做。</translation>
+    </message>
+    <message>
+        <source>It uses %1 itself, past setPlatformServices: only a program that exports it can load the library.</source>
+        <translation>它绕过 setPlatformServices，自己使用 %1：只有导出它的程序才能加载该库。</translation>
+    </message>
+    <message>
+        <source>It defines %1 as %2, under which the application does not look for it.</source>
+        <translation>它把 %1 定义为 %2，应用程序不会按此名称查找。</translation>
+    </message>
+</context>
+<context>
+    <name>HostFile</name>
+    <message>
+        <source>It is a script, not a library.</source>
+        <translation>它是脚本，不是库。</translation>
+    </message>
+    <message>
+        <source>It is a text for the linker, not the library that it stands for.</source>
+        <translation>它是给链接器的文本，不是它所代表的库。</translation>
+    </message>
+    <message>
+        <source>It is a Windows program or library, which Linux cannot load.</source>
+        <translation>它是 Windows 程序或库，Linux 无法加载。</translation>
+    </message>
+    <message>
+        <source>It is a static library: it can be linked, but not loaded.</source>
+        <translation>它是静态库：可以链接，但不能加载。</translation>
+    </message>
+    <message>
+        <source>It is no ELF file.</source>
+        <translation>它不是 ELF 文件。</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>没有这个文件。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>无法读取该文件。</translation>
+    </message>
+    <message>
+        <source>It is a folder, not a file.</source>
+        <translation>它是文件夹，不是文件。</translation>
+    </message>
+    <message>
+        <source>It is a pipe, a device or a socket, not a regular file.</source>
+        <translation>它是管道、设备或套接字，不是普通文件。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件是空的。</translation>
+    </message>
+    <message>
+        <source>The file is cut off: parts that are to be loaded lie beyond its end.</source>
+        <translation>文件被截断：要加载的部分位于文件末尾之后。</translation>
+    </message>
+    <message>
+        <source>The file is damaged: its tables contradict themselves.</source>
+        <translation>文件已损坏：其中的表自相矛盾。</translation>
+    </message>
+    <message>
+        <source>It is an ELF file, but not a shared library.</source>
+        <translation>它是 ELF 文件，但不是共享库。</translation>
+    </message>
+</context>
+<context>
     <name>HostInformation</name>
     <message>
         <source>English</source>
         <comment>name of the interface&apos;s language</comment>
         <translation>简体中文</translation>
+    </message>
+</context>
+<context>
+    <name>HostSymbol</name>
+    <message>
+        <source>%1 has it with C++ linkage: %2</source>
+        <translation>%1 中有 C++ 链接的：%2</translation>
+    </message>
+    <message>
+        <source>%1 has it with C linkage (extern &quot;C&quot;): %2</source>
+        <translation>%1 中有 C 链接（extern &quot;C&quot;）的：%2</translation>
+    </message>
+    <message>
+        <source>%1 has it in another version: %2</source>
+        <translation>%1 中有另一版本的：%2</translation>
+    </message>
+    <message>
+        <source>%1 has it with another signature: %2</source>
+        <translation>%1 中有参数不同的：%2</translation>
+    </message>
+</context>
+<context>
+    <name>HostTrial</name>
+    <message>
+        <source>The library was loaded.</source>
+        <translation>库已加载。</translation>
+    </message>
+    <message>
+        <source>The library was not loaded: %1</source>
+        <translation>库未加载：%1</translation>
+    </message>
+    <message>
+        <source>The process crashed while it loaded the library: %1</source>
+        <translation>进程在加载库时崩溃：%1</translation>
+    </message>
+    <message>
+        <source>The library ended the process with status %1 while it was loaded.</source>
+        <translation>库在加载时以状态 %1 结束了进程。</translation>
+    </message>
+    <message>
+        <source>Loading the library was not finished within %1 seconds.</source>
+        <translation>在 %1 秒内没有完成库的加载。</translation>
+    </message>
+    <message>
+        <source>The library could not be tried: %1</source>
+        <translation>无法试验该库：%1</translation>
+    </message>
+</context>
+<context>
+    <name>HostWay</name>
+    <message>
+        <source>not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>by its path</source>
+        <translation>按路径</translation>
+    </message>
+    <message>
+        <source>loaded already</source>
+        <translation>已加载</translation>
+    </message>
+    <message>
+        <source>by RPATH</source>
+        <translation>按 RPATH</translation>
+    </message>
+    <message>
+        <source>by LD_LIBRARY_PATH</source>
+        <translation>按 LD_LIBRARY_PATH</translation>
+    </message>
+    <message>
+        <source>by RUNPATH</source>
+        <translation>按 RUNPATH</translation>
+    </message>
+    <message>
+        <source>by the system&apos;s list</source>
+        <translation>按系统的列表</translation>
+    </message>
+    <message>
+        <source>in a folder of the system</source>
+        <translation>在系统的文件夹中</translation>
     </message>
 </context>
 <context>
@@ -2521,6 +2774,26 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Digest</source>
         <translation>摘要</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>库</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重程度</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Wanted</source>
+        <translation>要求</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>此处</translation>
     </message>
 </context>
 <context>
