@@ -1,7 +1,7 @@
 #include "inspection/registry/StoreComparisonJob.h"
 
 #include "inspection/registry/RawStore.h"
-#include "inspection/registry/StoreSections.h"
+#include "platform/registry/StoreSections.h"
 
 #include <QFile>
 #include <QSettings>

@@ -1,7 +1,7 @@
 #include "inspection/registry/StoreOpeningJob.h"
 
 #include "inspection/registry/RawStore.h"
-#include "inspection/registry/StoreSections.h"
+#include "platform/registry/StoreSections.h"
 
 StoreOpeningJob::StoreOpeningJob()
 {

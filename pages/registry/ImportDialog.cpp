@@ -1,8 +1,8 @@
 #include "pages/registry/ImportDialog.h"
 
-#include "inspection/registry/CodePages.h"
 #include "inspection/registry/ImportText.h"
 #include "pages/registry/StoreBackup.h"
+#include "regfile/CodePages.h"
 #include "window/ColumnFit.h"
 #include "window/GlyphIcon.h"
 #include "window/Page.h"

@@ -1,4 +1,4 @@
-#include "inspection/registry/CodePages.h"
+#include "regfile/CodePages.h"
 
 #include <QCoreApplication>
 #include <QTextCodec>

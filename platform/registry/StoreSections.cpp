@@ -1,4 +1,4 @@
-#include "inspection/registry/StoreSections.h"
+#include "platform/registry/StoreSections.h"
 
 #include "platform/profiles/IniName.h"
 
