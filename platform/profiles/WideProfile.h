@@ -19,6 +19,8 @@ public:
 
     /// False for those: then there are no settings.
     bool isReadable() const { return m_settings.has_value(); }
+    /// True for a device, which is never replaced by a file.
+    bool isDevice() const { return m_isDevice; }
 
     QSettings* operator->() { return &*m_settings; }
     QSettings& operator*() { return *m_settings; }
@@ -30,4 +32,5 @@ public:
 private:
     std::optional<QSettings> m_settings;
     bool m_isLarge = false;
+    bool m_isDevice = false;
 };

@@ -9,6 +9,7 @@
 namespace {
 
 const QString longText(100000, 'x');
+const QString pieceText(16400, 'x'); // ends a little behind a piece of the file
 
 struct Row
 {
@@ -53,6 +54,7 @@ const Row rows[] = {
     {"BehindALongLineBeforeAHeader", longText + "\n[S]\nk=v\n", "v"},
     {"LongHeaderThatLeavesTheSection", "[S]\nk=v\n[S]" + longText + "\nk=w\n", "v"},
     {"LongHeaderThatIsLookedFor", "[" + longText + "]\nk=v\n", "v", "[" + longText + "]"},
+    {"LongHeaderCutNearItsEnd", "#\n[" + pieceText + "]\nk=v\n", "v", "[" + pieceText + "]"},
     {"HeaderOneLetterLonger", "[" + longText + "]x\nk=v\n", {}, "[" + longText + "]"},
     {"LongKey", "[S]\n" + longText + "=v\n", "v", "[S]", longText},
 };
