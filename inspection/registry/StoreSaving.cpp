@@ -12,7 +12,8 @@
 
 namespace {
 
-// Another name for a file, which takes no room on the disk, as long as it lives.
+// Another name for a file, which takes no room on the disk, as long as it lives. Where the file
+// system has no second names it is a copy.
 class SecondName
 {
 public:
@@ -20,7 +21,7 @@ public:
         : m_file(QFile::encodeName(file)),
           m_name(m_file + '.' + purpose + '-' +
                  QByteArray::number(QCoreApplication::applicationPid())),
-          m_isThere(link(m_file.constData(), m_name.constData()) == 0)
+          m_isThere(isMade())
     {
     }
     ~SecondName()
@@ -41,6 +42,13 @@ public:
     }
 
 private:
+    bool isMade() const
+    {
+        unlink(m_name.constData()); // of an earlier process that was killed
+        return link(m_file.constData(), m_name.constData()) == 0 ||
+               QFile::copy(QFile::decodeName(m_file), QFile::decodeName(m_name));
+    }
+
     QByteArray m_file;
     QByteArray m_name;
     bool m_isThere;
