@@ -24,8 +24,10 @@ std::vector<StoreWatch*>& living()
 StoreWatch::StoreWatch()
 {
     attach();
-    if (!living().empty())
-        takeOver(*living().front());
+    for (StoreWatch* earlier : living()) {
+        if (takeOver(*earlier))
+            break;
+    }
     living().push_back(this);
 }
 
@@ -35,16 +37,18 @@ StoreWatch::~StoreWatch()
     watches.erase(std::remove(watches.begin(), watches.end(), this), watches.end());
 }
 
-void StoreWatch::takeOver(StoreWatch& earlier)
+bool StoreWatch::takeOver(StoreWatch& earlier)
 {
     earlier.takeSaving();
     if (earlier.m_store != m_store)
-        return;
+        return false;
     m_saved = earlier.m_saved;
     m_seen = earlier.m_seen;
     m_state = earlier.m_state;
     m_difference = earlier.m_difference;
     m_hasFailed = earlier.m_hasFailed;
+    m_hasLost = earlier.m_hasLost;
+    return true;
 }
 
 void StoreWatch::attach()
@@ -64,8 +68,8 @@ bool StoreWatch::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::UpdateRequest) {
         m_isSaving = true;
         m_beforeSaving = FileStamp::of(RawStore::fileName());
-        if (m_state == State::Vanished && !m_beforeSaving.exists())
-            m_hasLost = true;
+        const bool hadFile = m_state == State::Vanished || m_seen.exists();
+        m_isFileNew = hadFile && !m_beforeSaving.exists();
         QMetaObject::invokeMethod(this, &StoreWatch::takeSaving, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
@@ -78,6 +82,8 @@ void StoreWatch::takeSaving()
     if (!m_isSaving)
         return;
     takeSaved();
+    if (m_isFileNew && m_seen.exists())
+        m_hasLost = true;
     if (m_seen != m_beforeSaving || !RawStore::hasFailed() || !storeFault().isEmpty())
         return;
     m_hasFailed = true;
@@ -156,13 +162,14 @@ void StoreWatch::settle(const StoreComparisonJob& comparison)
             m_state = State::Damaged;
         return;
     }
-    m_hasLost = false;
     m_seen = comparison.file();
     m_difference = comparison.difference();
     ++m_revision;
     m_state = differenceState();
     if (m_state == State::Unsaved)
         ++m_failedSavings;
+    else
+        m_hasLost = false;
 }
 
 // After a saving that has failed the file is as it was before.

@@ -61,7 +61,7 @@ public:
 
 private:
     void attach();
-    void takeOver(StoreWatch& earlier);
+    bool takeOver(StoreWatch& earlier);
     void takeSaving();
     void takeSaved();
     void takeSame(const FileStamp& file);
@@ -77,6 +77,7 @@ private:
     std::optional<StoreComparisonJob::Difference> m_difference;
     bool m_isSaving = false; ///< the store has saved itself, which is still to be taken over
     FileStamp m_beforeSaving;
+    bool m_isFileNew = false;     ///< the one that was there had gone before that
     bool m_hasFailed = false;     ///< nothing has been written by that
     bool m_isFirst = true;        ///< nobody has asked for the state yet
     bool m_isDamageKnown = false; ///< whether the file is damaged

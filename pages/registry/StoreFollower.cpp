@@ -37,11 +37,18 @@ void StoreFollower::endComparison()
         look();
 }
 
+// Of what may happen again in the same state.
+bool StoreFollower::hasNews()
+{
+    const int failures = std::exchange(m_toldFailures, m_watch.failedSavings());
+    const bool wasLossTold = std::exchange(m_isLossTold, m_watch.hasLost());
+    return failures != m_toldFailures || (m_isLossTold && !wasLossTold);
+}
+
 void StoreFollower::tell()
 {
     const State state = m_watch.state();
-    const int failures = std::exchange(m_toldFailures, m_watch.failedSavings());
-    if (state == State::Unknown || (state == m_told && m_toldFailures == failures))
+    if (state == State::Unknown || (!hasNews() && state == m_told))
         return;
     m_told = state;
     if (state != State::InStep)

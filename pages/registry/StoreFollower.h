@@ -24,6 +24,7 @@ public:
     /// The page shows the store as it is now.
     void markRead() { m_shown = m_watch.revision(); }
     /// Tells what has happened to the file where that is not told yet.
+    bool hasNews();
     void tell();
 
 signals:
@@ -39,5 +40,6 @@ private:
     std::unique_ptr<StoreComparisonJob> m_comparison; ///< the one that runs
     StoreWatch::State m_told = StoreWatch::State::InStep;
     int m_toldFailures = 0; ///< savings that are told to have failed
-    int m_shown = 0;        ///< the revision that the page shows
+    bool m_isLossTold = false;
+    int m_shown = 0; ///< the revision that the page shows
 };

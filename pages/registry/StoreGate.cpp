@@ -94,7 +94,7 @@ void StoreGate::decide(const Action& write)
 void StoreGate::writeAllTheSame(const Action& write)
 {
     m_allowed = m_watch.file();
-    changeWithBackup(m_page, m_watch.state() == State::Damaged,
+    changeWithBackup(m_page, m_watch.file().exists(),
                      [write](const QString& /*backup*/) { write(); });
 }
 
@@ -104,9 +104,9 @@ void StoreGate::ask(const Action& write)
                                 QMessageBox::Cancel, m_window);
     box->setTextFormat(Qt::PlainText);
     const QString exported = tr("An export first keeps what host libraries can read now.");
-    box->setInformativeText(m_watch.state() == State::Damaged
-                                ? tr("Before anything is written, a copy keeps the file as it is.")
-                                : exported);
+    const QString copied = tr("Before anything is written, a copy keeps the file as it is.");
+    box->setInformativeText(m_watch.file().exists() ? copied + QLatin1Char(' ') + exported
+                                                    : exported);
     box->setAttribute(Qt::WA_DeleteOnClose);
     QPushButton* yes = glowing(box->addButton(tr("Write"), QMessageBox::AcceptRole));
     QPushButton* first = glowing(box->addButton(tr("Export first..."), QMessageBox::ActionRole));
