@@ -159,9 +159,11 @@ void ColumnFit::follow(int resized)
 
 bool ColumnFit::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isResized = watched == m_table->viewport() && event->type() == QEvent::Resize;
-    const bool looksOtherwise = watched == m_table && (event->type() == QEvent::FontChange ||
-                                                       event->type() == QEvent::StyleChange);
+    // The type comes first: a table that goes has no viewport to be asked for, and sends others.
+    const bool isResized = event->type() == QEvent::Resize && watched == m_table->viewport();
+    const bool looksOtherwise =
+        (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) &&
+        watched == m_table;
     if (isResized || looksOtherwise)
         fit();
     return QObject::eventFilter(watched, event);
