@@ -10,7 +10,6 @@
 #include "inspection/registry/NearestKeyJob.h"
 #include "inspection/registry/RegistryImportJob.h"
 #include "inspection/registry/RegistrySearchJob.h"
-#include "inspection/registry/RemovalText.h"
 #include "inspection/registry/StoreOpeningJob.h"
 #include "inspection/registry/TypedAddress.h"
 #include "pages/files/FilesPage.h"
@@ -166,7 +165,7 @@ void measureHugeKey()
     print("a key of 100,000: mistyped, the longest step",
           longestStep(NearestKeyJob(index, pathsOfAddress(typed))));
     print("a key of 100,000: delete all, the longest step",
-          longestStep(KeysAlongJob(std::move(names), RemovalText::mostNamed)));
+          longestStep(KeysAlongJob(std::move(names))));
     print("a key of 100,000: import, the longest step", longestStep(RegistryImportJob(file)));
 }
 

@@ -11,17 +11,14 @@ constexpr std::size_t stepSize = 250; // values
 
 } // namespace
 
-KeysAlongJob::KeysAlongJob(std::vector<RegistryValueName> values, int most)
-    : m_values(std::move(values)), m_most(most)
-{
-}
+KeysAlongJob::KeysAlongJob(std::vector<RegistryValueName> values) : m_values(std::move(values)) {}
 
 bool KeysAlongJob::step()
 {
-    if (m_next == m_values.size() || m_keys.size() >= m_most)
+    if (m_next == m_values.size())
         return false;
     const std::size_t end = std::min(m_values.size(), m_next + stepSize);
-    while (m_next < end && m_keys.size() < m_most)
+    while (m_next < end)
         look(m_values[m_next++]);
     return true;
 }

@@ -11,8 +11,7 @@
 class KeysAlongJob : public Job
 {
 public:
-    /// Ends when it has found `most` keys.
-    KeysAlongJob(std::vector<RegistryValueName> values, int most);
+    explicit KeysAlongJob(std::vector<RegistryValueName> values);
 
     /// Looks for the keys of a few values.
     bool step() override;
@@ -25,7 +24,6 @@ private:
     void look(const RegistryValueName& value);
 
     std::vector<RegistryValueName> m_values;
-    int m_most;
     std::size_t m_next = 0;
     QStringList m_keys;
 };

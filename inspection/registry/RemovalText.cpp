@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <functional>
+
 namespace {
 
 struct RemovalTexts
@@ -13,16 +15,18 @@ struct RemovalTexts
     Q_DECLARE_TR_FUNCTIONS(RemovalText)
 };
 
-QString namesOf(const std::vector<RegistryValueName>& values)
+constexpr int mostNamed = 10;
+
+// A line for each of the first ones, which `text` makes, and how many more there are.
+template <typename Items, typename Text>
+QString firstOf(const Items& items, const Text& text)
 {
-    constexpr std::size_t mostNamed = RemovalText::mostNamed;
     QStringList lines;
-    for (std::size_t i = 0; i < values.size() && i < mostNamed; ++i)
-        lines.append(values[i].name);
-    if (values.size() > mostNamed)
-        lines.append(
-            RemovalTexts::tr("and %1 more")
-                .arg(QLocale().toString(static_cast<qulonglong>(values.size() - mostNamed))));
+    for (auto item = items.begin(); item != items.end() && lines.size() < mostNamed; ++item)
+        lines.append(text(*item));
+    const qlonglong more = static_cast<qlonglong>(items.size()) - lines.size();
+    if (more > 0)
+        lines.append(RemovalTexts::tr("and %1 more").arg(QLocale().toString(more)));
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -31,14 +35,12 @@ QString namesOf(const std::vector<RegistryValueName>& values)
 QString RemovalText::ofValues(const std::vector<RegistryValueName>& values,
                               const QStringList& keysAlong)
 {
+    const QString names = firstOf(values, std::mem_fn(&RegistryValueName::name));
     if (keysAlong.isEmpty())
-        return namesOf(values);
-    QStringList keys;
-    for (const QString& key : keysAlong)
-        keys.append(RegistryPath::shown(key));
-    return namesOf(values) + QStringLiteral("\n\n") +
+        return names;
+    return names + QStringLiteral("\n\n") +
            RemovalTexts::tr("Keys of the same name go with everything in them:") +
-           QLatin1Char('\n') + keys.join(QLatin1Char('\n'));
+           QLatin1Char('\n') + firstOf(keysAlong, RegistryPath::shown);
 }
 
 QString RemovalText::ofKey(const QString& path, const RegistryCountJob& count)

@@ -8,11 +8,8 @@
 /// What a deletion takes along, in words, for the question that comes before it.
 namespace RemovalText {
 
-/// How many values, and how many keys, are named.
-constexpr int mostNamed = 10;
-
-/// The names of the first values, and the keys that the service deletes along with them, as a
-/// KeysAlongJob has found them.
+/// The names of the first values, and the first of the keys that the service deletes along with
+/// them, as a KeysAlongJob has found them; of each kind it says how many more there are.
 QString ofValues(const std::vector<RegistryValueName>& values, const QStringList& keysAlong);
 
 /// What is below the key, and the value that the service deletes along with it.

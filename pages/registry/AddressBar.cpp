@@ -45,7 +45,8 @@ AddressBar::AddressBar(PageContext& page, RegistryTreeModel& keys, QWidget* pare
     m_line->setCompleter(m_completer);
     connect(m_line, &QLineEdit::textEdited, this, &AddressBar::complete);
     connect(m_line, &QLineEdit::returnPressed, this, &AddressBar::submit);
-    connect(&m_completing, &JobRunner::finished, this, &AddressBar::showCompletions);
+    connect(&m_completing, &JobRunner::finished, this,
+            [this] { showCompletions(m_completion->completions()); });
     connect(&m_seeking, &JobRunner::finished, this, &AddressBar::offerNearest);
 }
 
@@ -105,13 +106,19 @@ void AddressBar::complete(const QString& typed)
     stopLooking();
     m_completion = std::make_unique<CompletionJob>(m_keys.sharedNames(), typed, mostCompletions);
     if (m_completing.start(*m_completion))
-        showCompletions();
+        showCompletions(m_completion->completions());
+    else
+        showCompletions({}); // no longer those of what was typed before
 }
 
-void AddressBar::showCompletions()
+// By the time that they are found another widget may have got the keyboard, which a list that opens
+// would take away from it.
+void AddressBar::showCompletions(const QStringList& completions)
 {
+    if (!m_line->hasFocus())
+        return;
     auto& model = static_cast<QStringListModel&>(*m_completer->model());
-    model.setStringList(m_completion->completions());
+    model.setStringList(completions);
     m_completer->complete();
 }
 

@@ -41,7 +41,7 @@ private:
     QWidget* makeLine();
     QWidget* makeOffer();
     void complete(const QString& typed);
-    void showCompletions();
+    void showCompletions(const QStringList& completions);
     void stopLooking();
     void submit();
     void enter(const QString& path);
@@ -59,8 +59,8 @@ private:
     QLabel* m_offerText;
     QWidget* m_offer; ///< in view while there is a key to offer
     QString m_offered;
-    JobRunner m_completing;
+    JobRunner m_completing{this};
     std::unique_ptr<CompletionJob> m_completion; ///< the one that runs
-    JobRunner m_seeking;
+    JobRunner m_seeking{this};
     std::unique_ptr<NearestKeyJob> m_nearest; ///< the one that runs
 };

@@ -65,8 +65,7 @@ void RegistryRemover::removeValues(const QString& path, const std::vector<Listed
     }
     if (going.empty())
         return;
-    m_page.startJob(tr("Counting what goes"),
-                    std::make_unique<KeysAlongJob>(std::move(going), RemovalText::mostNamed),
+    m_page.startJob(tr("Counting what goes"), std::make_unique<KeysAlongJob>(std::move(going)),
                     [this, path](const KeysAlongJob& job, bool complete) {
                         if (complete)
                             confirmValues(path, job);

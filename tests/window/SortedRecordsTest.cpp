@@ -71,6 +71,7 @@ TEST_F(SortedRecordsTest, AreSortedByTheKeyOfTheirColumn)
 TEST_F(SortedRecordsTest, ComeBackToTheirOrder)
 {
     m_model.sort(0);
+    ASSERT_TRUE(namesBecome({"anna", "Clara", "Dora"}));
     m_model.sort(-1);
     EXPECT_TRUE(namesBecome({"Dora", "anna", "Clara"}));
 }

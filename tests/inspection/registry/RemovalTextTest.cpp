@@ -35,6 +35,19 @@ TEST_F(RemovalTextTest, TellsOfKeysThatAreNamedLikeTheValues)
               "HKEY_CURRENT_USER\\A\\twin");
 }
 
+TEST_F(RemovalTextTest, NamesTheFirstTenKeysThatAreNamedLikeTheValues)
+{
+    QStringList keys;
+    std::string named = "a\n\nKeys of the same name go with everything in them:";
+    for (const char* name : {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"}) {
+        keys.append(name);
+        named += std::string("\nHKEY_CURRENT_USER\\") + name;
+    }
+    EXPECT_EQ(RemovalText::ofValues({{"", "a"}}, keys).toStdString(), named);
+    keys += {"k", "l"};
+    EXPECT_EQ(RemovalText::ofValues({{"", "a"}}, keys).toStdString(), named + "\nand 2 more");
+}
+
 TEST_F(RemovalTextTest, CountsWhatIsBelowAKey)
 {
     store("A/B/v", "1$1");

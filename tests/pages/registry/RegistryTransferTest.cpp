@@ -146,6 +146,7 @@ TEST_F(RegistryTransferTest, ABackupOfADeletionThatFindsNothingIsRemoved)
     g_globalSettings->remove("A");
     ASSERT_TRUE(accept());
     EXPECT_FALSE(QFile::exists(file));
+    EXPECT_TRUE(logged().contains("Removed the backup " + file));
 }
 
 TEST_F(RegistryTransferTest, ImportMakesNoBackupThatIsNotWanted)
