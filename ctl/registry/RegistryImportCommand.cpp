@@ -5,12 +5,12 @@
 #include "ctl/Output.h"
 #include "ctl/registry/KeyArgument.h"
 #include "ctl/registry/MadeStatement.h"
+#include "inspection/OutputFile.h"
 #include "inspection/registry/ImportText.h"
 #include "inspection/registry/RawStore.h"
 #include "inspection/registry/RegistryImportJob.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 #include <cstdio>
 
@@ -62,13 +62,13 @@ void print(const ImportPlan& plan, Output& output)
 void backUp(const QString& name)
 {
     QFile store(RawStore::fileName());
-    QSaveFile copy(name);
+    OutputFile copy(name);
     const bool isRead = !store.exists() || store.open(QIODevice::ReadOnly);
     const QByteArray bytes = store.isOpen() ? store.readAll() : QByteArray();
-    if (!isRead || store.error() != QFileDevice::NoError || !copy.open(QIODevice::WriteOnly) ||
-        copy.write(bytes) != bytes.size() || !copy.commit())
+    if (!isRead || store.error() != QFileDevice::NoError || !copy.open() ||
+        copy.device().write(bytes) != bytes.size() || !copy.commit())
         throw Failure(RegistryImportCommand::tr("%1 cannot be written: %2")
-                          .arg(name, isRead ? copy.errorString() : store.errorString()));
+                          .arg(name, isRead ? copy.device().errorString() : store.errorString()));
 }
 
 } // namespace

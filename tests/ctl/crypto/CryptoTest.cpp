@@ -121,4 +121,17 @@ TEST_F(CtlCrypto, EncodesAndDecodesBase64)
     EXPECT_EQ(run({"crypto", "base64", "--output", "none/x"}, "x").status, 3);
 }
 
+TEST_F(CtlCrypto, WritesIntoAPipeThatIsThereAndAppendsWhereTheOutputIs)
+{
+    write("h", "hello");
+    EXPECT_EQ(shell("mkfifo pipe; timeout 60 cat pipe >got & "
+                    "$CTL crypto base64 h --output pipe; wait; test -p pipe")
+                  .status,
+              0);
+    EXPECT_TRUE(read("got").startsWith("aGVsbG8"));
+    write("log", "before\n");
+    EXPECT_EQ(shell("$CTL crypto base64 h --output /dev/stdout >>log").status, 0);
+    EXPECT_EQ(read("log"), "before\n" + read("got"));
+}
+
 } // namespace

@@ -40,6 +40,28 @@ TEST_F(CtlRegistryFiles, AreNotWrittenWhereThatIsImpossible)
     EXPECT_EQ(status({"--json", "registry", "export", "A"}), 2);
 }
 
+// Replaced by a file, a pipe would never end.
+TEST_F(CtlRegistryFiles, AreWrittenIntoAPipeThatIsThere)
+{
+    writeStore("[A]\nv=5$x\n");
+    EXPECT_EQ(shell("mkfifo pipe; timeout 60 cat pipe >got & "
+                    "$CTL registry export A pipe --encoding utf-8; wait; test -p pipe")
+                  .status,
+              0);
+    EXPECT_EQ(read("got"), file("[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"x\"\r\n"));
+}
+
+TEST_F(CtlRegistryFiles, AreAppendedWhereTheOutputIs)
+{
+    writeStore("[A]\nv=5$x\n");
+    const QByteArray whole = "before\n" + file("[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"x\"\r\n");
+    for (const QString& name : QStringList{"/dev/stdout", "/dev/fd/1", "/proc/self/fd/1"}) {
+        write("log", "before\n");
+        shell("$CTL registry export A " + name + " --encoding utf-8 >>log");
+        EXPECT_EQ(read("log"), whole) << name.toStdString();
+    }
+}
+
 TEST_F(CtlRegistryFiles, AreImported)
 {
     writeStore("[A]\ngone=5$x\n");
@@ -88,6 +110,17 @@ TEST_F(CtlRegistryFiles, AreImportedAfterABackup)
     EXPECT_EQ(status({"registry", "import", "a.reg", "--backup", "b.ini"}), 0);
     EXPECT_EQ(read("b.ini"), "[A]\nlist=1, 2\n");
     EXPECT_EQ(storeBytes(), "");
+}
+
+TEST_F(CtlRegistryFiles, AreImportedAfterABackupIntoAPipe)
+{
+    writeStore("[A]\nv=5$x\n");
+    write("a.reg", file("[-HKEY_CURRENT_USER\\A]\r\n"));
+    EXPECT_EQ(shell("mkfifo pipe; timeout 60 cat pipe >got & "
+                    "$CTL registry import a.reg --backup pipe; wait; test -p pipe")
+                  .status,
+              0);
+    EXPECT_EQ(read("got"), "[A]\nv=5$x\n");
 }
 
 TEST_F(CtlRegistryFiles, AreRefusedWholeWhereTheyAreNone)
