@@ -100,8 +100,9 @@ ExitStatus Program::runCommand(const CommandTable::Row& row)
 
 ExitStatus Program::runIn(Output& output, Command& command, const CommandTable::Row& row)
 {
+    const QString file = storeFile();
     if (row.needs == CommandTable::Needs::Store || row.needs == CommandTable::Needs::NewStore)
-        m_store.emplace(storeFile(), row.needs == CommandTable::Needs::Store);
+        m_store.emplace(file, row.needs == CommandTable::Needs::Store);
     else if (row.needs == CommandTable::Needs::Display)
         StartUp::handOver(QString());
     const ExitStatus status = command.run(Arguments(m_own), output);
@@ -136,10 +137,15 @@ Output::Form Program::form() const
     return isSet("json") ? Output::Form::Json : Output::usualForm();
 }
 
+// Empty where the option is not given. A variable of a script that is empty by mistake must not
+// lead to the usual store.
 QString Program::storeFile() const
 {
     const QString option = QStringLiteral("store");
-    return m_own.isSet(option) ? m_own.value(option) : m_global.value(option);
+    const QString file = m_own.isSet(option) ? m_own.value(option) : m_global.value(option);
+    if (isSet("store") && file.isEmpty())
+        throw Failure(ExitStatus::WrongUsage, tr("--store needs the name of a file."));
+    return file;
 }
 
 // All commands, or those of a group.

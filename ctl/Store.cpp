@@ -5,6 +5,7 @@
 #include "inspection/registry/RawStore.h"
 #include "inspection/registry/StoreSaving.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 Store::Store(const QString& file, bool mustExist)
@@ -22,6 +23,9 @@ void Store::check(bool mustExist, bool isFile)
         throw Failure(tr("The host library has set up no store."));
     if (isFile && mustExist && !QFileInfo::exists(RawStore::fileName()))
         throw Failure(tr("%1: there is no such file.").arg(RawStore::fileName()));
+    // Saving would make the folder, which is as likely a slip in its name.
+    if (isFile && !QFileInfo(RawStore::fileName()).dir().exists())
+        throw Failure(tr("%1: there is no such folder.").arg(RawStore::fileName()));
     if (RawStore::isInaccessible())
         throw Failure(tr("The store %1 cannot be read.").arg(RawStore::fileName()));
 }

@@ -3785,6 +3785,10 @@ Wide: %2</source>
         <source>Status: 0 done, found or equal; 1 a clean no; 2 wrong usage; 3 could not be done.</source>
         <translation>状态：0 已完成、已找到或相等；1 明确的否；2 用法错误；3 无法完成。</translation>
     </message>
+    <message>
+        <source>--store needs the name of a file.</source>
+        <translation>--store 需要文件名。</translation>
+    </message>
 </context>
 <context>
     <name>ReadingRemark</name>
@@ -4716,6 +4720,10 @@ Wide: %2</source>
     <message>
         <source>The store %1 could not be saved.</source>
         <translation>无法保存存储 %1。</translation>
+    </message>
+    <message>
+        <source>%1: there is no such folder.</source>
+        <translation>%1：没有此文件夹。</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,21 @@ TEST_F(Program, ReadsNoFolderAsAStore)
     EXPECT_EQ(status({"--store", ".", "registry", "list"}), 3);
 }
 
+TEST_F(Program, CallsAStoreWithoutANameWrongUsage)
+{
+    writeStore("[A]\nv=5$old\n");
+    EXPECT_EQ(status({"--store", "", "registry", "delete", "A", "v"}), 2);
+    EXPECT_EQ(status({"--store=", "registry", "set", "A", "v", "new"}), 2);
+    EXPECT_EQ(status({"registry", "set", "A", "v", "new", "--store", ""}), 2);
+    EXPECT_EQ(storeBytes(), "[A]\nv=5$old\n");
+}
+
+TEST_F(Program, MakesNoFolderForAStore)
+{
+    EXPECT_EQ(status({"--store", "none/s.ini", "registry", "set", "A", "v", "1"}), 3);
+    EXPECT_EQ(shell("ls").out, "");
+}
+
 TEST_F(Program, FailsWhereAStoreCannotBeSaved)
 {
     write("file", "");
