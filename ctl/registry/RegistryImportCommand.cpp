@@ -94,7 +94,7 @@ ExitStatus RegistryImportCommand::run(const Arguments& arguments, Output& output
     } else {
         if (arguments.has("backup"))
             backUp(arguments.value("backup"));
-        MadeStatement::apply(plan);
+        MadeStatement::apply(plan, output);
     }
     const bool isWhole = plan->count(Outcome::Refused) == 0;
     if (!isWhole || plan->count(Outcome::Altered) > 0)
