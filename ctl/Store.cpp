@@ -36,6 +36,17 @@ void Store::reread()
         throw Failure(tr("The store %1 cannot be read.").arg(RawStore::fileName()));
 }
 
+// By the folder, because neither of the files may be there yet; the file itself may be a link.
+void Store::refuseOwnFile(const QString& file)
+{
+    const auto placeOf = [](const QFileInfo& info) {
+        return info.exists() ? info.canonicalFilePath()
+                             : QDir(info.dir().canonicalPath()).filePath(info.fileName());
+    };
+    if (placeOf(QFileInfo(file)) == placeOf(QFileInfo(RawStore::fileName())))
+        throw Failure(ExitStatus::WrongUsage, tr("%1 is the store's own file.").arg(file));
+}
+
 void Store::save()
 {
     if (!saveStore())

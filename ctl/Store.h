@@ -20,6 +20,8 @@ public:
     /// Takes over what other programs have saved meanwhile. Throws a Failure where that is not
     /// possible.
     static void reread();
+    /// Throws a Failure where `file`, which is to be written, is the store's own file.
+    static void refuseOwnFile(const QString& file);
     /// Saves the store at once. Throws a Failure where that is not possible.
     static void save();
 

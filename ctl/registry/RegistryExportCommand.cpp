@@ -4,6 +4,7 @@
 #include "ctl/Interruption.h"
 #include "ctl/JobRun.h"
 #include "ctl/Output.h"
+#include "ctl/Store.h"
 #include "ctl/registry/KeyArgument.h"
 #include "inspection/registry/ExportWriter.h"
 #include "inspection/registry/RegistryExportJob.h"
@@ -67,6 +68,8 @@ ExitStatus RegistryExportCommand::run(const Arguments& arguments, Output& output
     const bool isToOutput = file.isEmpty() || file == QLatin1String("-");
     if (isToOutput && output.form() == Output::Form::Json)
         throw Failure(ExitStatus::WrongUsage, tr("With --json, name a file to export to."));
+    if (!isToOutput)
+        Store::refuseOwnFile(file);
     const int leftOut =
         isToOutput ? exportToOutput(path, output, encoding) : exportToFile(path, file, encoding);
     if (leftOut == 0)

@@ -3,6 +3,7 @@
 #include "ctl/Failure.h"
 #include "ctl/JobRun.h"
 #include "ctl/Output.h"
+#include "ctl/Store.h"
 #include "ctl/registry/KeyArgument.h"
 #include "ctl/registry/MadeStatement.h"
 #include "inspection/OutputFile.h"
@@ -88,6 +89,8 @@ void RegistryImportCommand::addOptions(QCommandLineParser& parser) const
 
 ExitStatus RegistryImportCommand::run(const Arguments& arguments, Output& output)
 {
+    if (arguments.has("backup"))
+        Store::refuseOwnFile(arguments.value("backup"));
     const auto plan = planOf(arguments);
     if (arguments.has("dry-run")) {
         print(*plan, output);

@@ -4725,6 +4725,10 @@ Wide: %2</source>
         <source>%1: there is no such folder.</source>
         <translation>%1：没有此文件夹。</translation>
     </message>
+    <message>
+        <source>%1 is the store&apos;s own file.</source>
+        <translation>%1 是存储自身的文件。</translation>
+    </message>
 </context>
 <context>
     <name>StoreFault</name>

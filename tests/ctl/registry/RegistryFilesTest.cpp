@@ -123,6 +123,20 @@ TEST_F(CtlRegistryFiles, AreImportedAfterABackupIntoAPipe)
     EXPECT_EQ(read("got"), "[A]\nv=5$x\n");
 }
 
+TEST_F(CtlRegistryFiles, AreNotWrittenOverTheStore)
+{
+    write("s.ini", "[A]\nv=5$x\n");
+    write("a.reg", file("[-HKEY_CURRENT_USER\\A]\r\n"));
+    shell("ln -s s.ini link.ini; mkdir folder");
+    for (const QString& name : QStringList{"s.ini", "./folder/../s.ini", "link.ini"}) {
+        EXPECT_EQ(status({"--store", "s.ini", "registry", "export", "A", name}), 2);
+        EXPECT_EQ(status({"--store", "s.ini", "registry", "import", "a.reg", "--backup", name}), 2);
+        EXPECT_EQ(read("s.ini"), "[A]\nv=5$x\n");
+    }
+    EXPECT_EQ(status({"--store", "new.ini", "registry", "import", "a.reg", "--backup", "new.ini"}),
+              2);
+}
+
 TEST_F(CtlRegistryFiles, AreRefusedWholeWhereTheyAreNone)
 {
     write("a.reg", "nonsense\n");
