@@ -16,9 +16,10 @@ using Encoding = RegFileWriter::Encoding;
 
 Encoding encodingOf(const QString& name)
 {
-    if (name == QLatin1String("utf-16"))
+    const QString plain = name.toLower().remove(QLatin1Char('-'));
+    if (plain == QLatin1String("utf16") || plain == QLatin1String("utf16le"))
         return Encoding::Utf16;
-    if (name != QLatin1String("utf-8"))
+    if (plain != QLatin1String("utf8"))
         throw Failure(ExitStatus::WrongUsage,
                       RegistryExportCommand::tr("There is no encoding \"%1\".").arg(name));
     return Encoding::Utf8;

@@ -12,6 +12,7 @@
 #include "inspection/registry/RegistryImportJob.h"
 
 #include <QFile>
+#include <QTextCodec>
 
 #include <cstdio>
 
@@ -30,14 +31,28 @@ std::unique_ptr<QIODevice> opened(const QString& name)
     return file;
 }
 
+// Empty for that of the system.
+QByteArray codePageOf(const Arguments& arguments)
+{
+    const QString name = arguments.value("code-page");
+    if (arguments.has("code-page") && !QTextCodec::codecForName(name.toLatin1()))
+        throw Failure(ExitStatus::WrongUsage,
+                      RegistryImportCommand::tr("There is no code page \"%1\".").arg(name));
+    return name.toLatin1();
+}
+
 std::shared_ptr<const ImportPlan> planOf(const Arguments& arguments)
 {
     const QString prefix =
         arguments.has("prefix") ? KeyArgument::any(arguments.value("prefix")) : QString();
-    RegistryImportJob job(opened(arguments.at(0)), arguments.value("code-page").toLatin1(), prefix);
+    RegistryImportJob job(opened(arguments.at(0)), codePageOf(arguments), prefix);
     finish(job);
     if (!job.error().isEmpty())
         throw Failure(RegistryImportCommand::tr("%1: %2").arg(arguments.at(0), job.error()));
+    if (job.reader().isVersion4() && !job.reader().isOfCodePage())
+        throw Failure(ExitStatus::No,
+                      RegistryImportCommand::tr("%1 has bytes that are none of the code page %2.")
+                          .arg(arguments.at(0), QString::fromLatin1(job.reader().codePage())));
     return job.plan();
 }
 

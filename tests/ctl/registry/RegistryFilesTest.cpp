@@ -24,6 +24,15 @@ TEST_F(CtlRegistryFiles, ExportAKeyInUtf16OrUtf8)
     EXPECT_EQ(status({"registry", "export", "A", "--encoding", "utf-7"}), 2);
 }
 
+TEST_F(CtlRegistryFiles, TakeNamesOfEncodingsAsPeopleWriteThem)
+{
+    writeStore("[A]\nv=5$x\n");
+    for (const QString& name : QStringList{"UTF-8", "utf8", "Utf-8"})
+        EXPECT_TRUE(out({"registry", "export", "A", "--encoding", name}).startsWith("Windows"));
+    for (const QString& name : QStringList{"UTF-16", "utf16", "utf-16le", "UTF-16LE"})
+        EXPECT_TRUE(out({"registry", "export", "A", "--encoding", name}).startsWith("\xFF\xFE"));
+}
+
 TEST_F(CtlRegistryFiles, TellWhatTheFormatHasNoRoomFor)
 {
     writeStore("[A]\nlist=1, 2\nv=5$x\n");
@@ -80,6 +89,16 @@ TEST_F(CtlRegistryFiles, AreImportedFromTheInputAndInACodePage)
                   .status,
               0);
     EXPECT_EQ(out({"registry", "get", "A", "v"}), "\xE4\xB8\xAD\n");
+}
+
+TEST_F(CtlRegistryFiles, AreNotImportedInACodePageThatIsNotTheirs)
+{
+    const QByteArray text("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"\xD6\xFF\xD0\"\r\n");
+    EXPECT_EQ(run({"registry", "import", "-", "--code-page", "nonsense"}, text).status, 2);
+    const Result result = run({"registry", "import", "-", "--code-page", "UTF-8"}, text);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.error.contains("UTF-8"));
+    EXPECT_EQ(storeBytes(), "");
 }
 
 TEST_F(CtlRegistryFiles, TellTheFateOfEachStatementInADryRun)
