@@ -30,6 +30,15 @@ void Store::check(bool mustExist, bool isFile)
         throw Failure(tr("The store %1 cannot be read.").arg(RawStore::fileName()));
 }
 
+// QSettings parses the sections of a file when they are asked for; listing parses them all.
+QString Store::damage()
+{
+    static_cast<void>(RawStore({}, RawStore::Reach::OwnFile).allEntries());
+    return RawStore::hasMetDamage()
+               ? tr("The store %1 has lines that are no entries.").arg(RawStore::fileName())
+               : QString();
+}
+
 void Store::reread()
 {
     if (!RawStore::save())

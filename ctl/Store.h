@@ -17,6 +17,9 @@ public:
     /// it cannot be read, and where a file that `mustExist` is not there.
     Store(const QString& file, bool mustExist);
 
+    /// What tells that the file has lines that are no entries; empty for a sound store. Reads all
+    /// of the store.
+    static QString damage();
     /// Takes over what other programs have saved meanwhile. Throws a Failure where that is not
     /// possible.
     static void reread();

@@ -324,7 +324,7 @@ Put it in the place of the file to bring everything back.</source>
     </message>
     <message>
         <source>Prints the data of a value.</source>
-        <translation>输出一个值的数据。</translation>
+        <translation type="vanished">输出一个值的数据。</translation>
     </message>
     <message>
         <source>Sets a value.</source>
@@ -433,6 +433,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Tells whether host libraries can be loaded here, and if not, why.</source>
         <translation>说明主机库能否在此处加载；若不能，说明原因。</translation>
+    </message>
+    <message>
+        <source>Prints the data of a value, or of all values of a key.</source>
+        <translation>输出一个值的数据，或键的所有值的数据。</translation>
     </message>
 </context>
 <context>
@@ -3789,6 +3793,14 @@ Wide: %2</source>
         <source>--store needs the name of a file.</source>
         <translation>--store 需要文件名。</translation>
     </message>
+    <message>
+        <source>Saves a damaged store without its damaged lines.</source>
+        <translation>保存已损坏的存储，不含损坏的行。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing is saved; --force saves the rest.</source>
+        <translation>%1未保存任何内容；--force 将保存其余部分。</translation>
+    </message>
 </context>
 <context>
     <name>ReadingRemark</name>
@@ -4289,6 +4301,14 @@ Wide: %2</source>
         <source>Copies the store&apos;s file there first.</source>
         <translation>先将存储的文件复制到该处。</translation>
     </message>
+    <message>
+        <source>There is no code page &quot;%1&quot;.</source>
+        <translation>没有代码页“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 has bytes that are none of the code page %2.</source>
+        <translation>%1 含有不属于代码页 %2 的字节。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryListCommand</name>
@@ -4728,6 +4748,10 @@ Wide: %2</source>
     <message>
         <source>%1 is the store&apos;s own file.</source>
         <translation>%1 是存储自身的文件。</translation>
+    </message>
+    <message>
+        <source>The store %1 has lines that are no entries.</source>
+        <translation>存储 %1 中有不是条目的行。</translation>
     </message>
 </context>
 <context>
