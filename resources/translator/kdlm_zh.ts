@@ -323,10 +323,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>列出子键和值。</translation>
     </message>
     <message>
-        <source>Prints the data of a value.</source>
-        <translation type="vanished">输出一个值的数据。</translation>
-    </message>
-    <message>
         <source>Sets a value.</source>
         <translation>设置一个值。</translation>
     </message>
@@ -1634,6 +1630,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>&quot;%1&quot; is no number of seconds.</source>
         <translation>“%1”不是秒数。</translation>
     </message>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1：没有此文件。</translation>
+    </message>
 </context>
 <context>
     <name>HostCheckText</name>
@@ -2123,6 +2123,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Give a pass phrase, or both --key-file and --iv-file.</source>
         <translation>请给出口令，或同时给出 --key-file 和 --iv-file。</translation>
+    </message>
+    <message>
+        <source>The pass phrase is empty.</source>
+        <translation>口令为空。</translation>
     </message>
 </context>
 <context>
@@ -3582,12 +3586,12 @@ Wide: %2</source>
 <context>
     <name>ProfileMergeCommand</name>
     <message>
-        <source>The standard input cannot be read: %1</source>
-        <translation>无法读取标准输入：%1</translation>
-    </message>
-    <message>
         <source>%1 cannot be written: %2</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Not merged: line %1 of the input. %2 --force merges what the family reads.</source>
+        <translation>未合并：输入的第 %1 行。%2 --force 将合并该系列所读取的内容。</translation>
     </message>
 </context>
 <context>
@@ -4676,6 +4680,10 @@ Wide: %2</source>
     <message>
         <source>The terminal would show the secret: name a file.</source>
         <translation>终端会显示密钥信息：请指定文件。</translation>
+    </message>
+    <message>
+        <source>No secret has been typed.</source>
+        <translation>未输入密钥。</translation>
     </message>
 </context>
 <context>
