@@ -17,9 +17,11 @@ public:
     enum class Needs
     {
         Nothing,
-        Store,    ///< the store, with its file
-        NewStore, ///< the store, whose file may still be missing
-        Display   ///< a graphical application, and the host library
+        Store,        ///< the store, with its file, to be read
+        AnyStore,     ///< the same, but its file may be missing
+        ChangedStore, ///< the store, with its file, to be changed
+        NewStore,     ///< the same, but its file may still be missing
+        Display       ///< a graphical application, and the host library
     };
 
     struct Row

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 /// Signals by which users and the system end the program. They are only noted, so that what is
 /// being saved is saved whole; whoever works for long asks for them between two steps.
 namespace Interruption {
@@ -10,5 +12,8 @@ void note();
 bool isAsked();
 /// Throws a Failure then.
 void check();
+/// Reads as the system does, from a pipe or a terminal too, but throws a Failure as soon as the
+/// program is to end. Negative where that fails, with the reason in `errno`.
+qint64 read(int descriptor, char* data, qint64 size);
 
 } // namespace Interruption

@@ -181,6 +181,8 @@ void Output::note(const QString& text) const
 void Output::flush()
 {
     flushTable();
+    if (m_form == Form::Json && !m_hasBegun)
+        begin({});
     m_device.finish();
 }
 

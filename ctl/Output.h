@@ -62,7 +62,9 @@ public:
     /// A remark beside the records, on the standard error; not when quiet.
     void note(const QString& text) const;
 
-    /// Writes what is still in the buffers.
+    /// Writes what is still in the buffers; of a document at least its beginning. To be called
+    /// before something is changed, so that an output that cannot be written is noticed while
+    /// nothing is.
     void flush();
     /// Ends the document and writes everything.
     void finish(ExitStatus status, const QString& error = {});

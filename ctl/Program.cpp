@@ -21,6 +21,11 @@ void addGlobalOptions(QCommandLineParser& parser)
     });
 }
 
+bool isChanging(CommandTable::Needs needs)
+{
+    return needs == CommandTable::Needs::ChangedStore || needs == CommandTable::Needs::NewStore;
+}
+
 QString commandName(const CommandTable::Row& row)
 {
     return QLatin1String(row.group) + QLatin1Char(' ') + QLatin1String(row.name);
@@ -79,6 +84,9 @@ ExitStatus Program::runCommand(const CommandTable::Row& row)
 {
     const std::unique_ptr<Command> command = row.make();
     command->addOptions(m_own);
+    if (isChanging(row.needs))
+        m_own.addOption(
+            {QStringLiteral("force"), tr("Saves a damaged store without its damaged lines.")});
     if (!m_own.parse(QStringList(m_arguments.first()) + m_global.positionalArguments().mid(2)))
         return wrongUsage(m_own.errorText());
     if (isSet("help"))
@@ -100,19 +108,38 @@ ExitStatus Program::runCommand(const CommandTable::Row& row)
 
 ExitStatus Program::runIn(Output& output, Command& command, const CommandTable::Row& row)
 {
-    if (row.needs == CommandTable::Needs::Store || row.needs == CommandTable::Needs::NewStore)
-        m_store.emplace(storeFile(), row.needs == CommandTable::Needs::Store);
-    else if (row.needs == CommandTable::Needs::Display)
+    const QString file = storeFile();
+    if (row.needs == CommandTable::Needs::Display)
         StartUp::handOver(QString());
+    else if (row.needs != CommandTable::Needs::Nothing)
+        openStore(row.needs, file, output);
     const ExitStatus status = command.run(Arguments(m_own), output);
     output.finish(status);
     return status;
+}
+
+// A store with lines that are no entries would be saved without them: it may be no store at all.
+void Program::openStore(CommandTable::Needs needs, const QString& file, const Output& output)
+{
+    m_store.emplace(file, needs == CommandTable::Needs::Store ||
+                              needs == CommandTable::Needs::ChangedStore);
+    const QString damage = Store::damage();
+    if (damage.isEmpty())
+        return;
+    if (isChanging(needs) && !isSet("force") && !isSet("dry-run"))
+        throw Failure(tr("%1 Nothing is saved; --force saves the rest.").arg(damage));
+    output.note(damage);
 }
 
 ExitStatus Program::wrongUsage(const QString& message) const
 {
     showMessage(message);
     showMessage(tr("Try \"quaysidectl --help\"."));
+    // What comes first may be wrong, and the option behind it not parsed.
+    if (!isSet("quiet") && m_arguments.contains(QLatin1String("--json"))) {
+        const QStringList words = m_global.positionalArguments().mid(0, 2);
+        Output(Output::Form::Json, words.join(' ')).finish(ExitStatus::WrongUsage, message);
+    }
     return ExitStatus::WrongUsage;
 }
 
@@ -136,10 +163,15 @@ Output::Form Program::form() const
     return isSet("json") ? Output::Form::Json : Output::usualForm();
 }
 
+// Empty where the option is not given. A variable of a script that is empty by mistake must not
+// lead to the usual store.
 QString Program::storeFile() const
 {
     const QString option = QStringLiteral("store");
-    return m_own.isSet(option) ? m_own.value(option) : m_global.value(option);
+    const QString file = m_own.isSet(option) ? m_own.value(option) : m_global.value(option);
+    if (isSet("store") && file.isEmpty())
+        throw Failure(ExitStatus::WrongUsage, tr("--store needs the name of a file."));
+    return file;
 }
 
 // All commands, or those of a group.

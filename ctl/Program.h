@@ -29,6 +29,7 @@ private:
     ExitStatus runParsed();
     ExitStatus runCommand(const CommandTable::Row& row);
     ExitStatus runIn(Output& output, Command& command, const CommandTable::Row& row);
+    void openStore(CommandTable::Needs needs, const QString& file, const Output& output);
     ExitStatus wrongUsage(const QString& message) const;
     static ExitStatus print(const QString& text);
     bool isSet(const char* option) const;

@@ -5,6 +5,7 @@
 #include "inspection/registry/RawStore.h"
 #include "inspection/registry/StoreSaving.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 Store::Store(const QString& file, bool mustExist)
@@ -22,14 +23,37 @@ void Store::check(bool mustExist, bool isFile)
         throw Failure(tr("The host library has set up no store."));
     if (isFile && mustExist && !QFileInfo::exists(RawStore::fileName()))
         throw Failure(tr("%1: there is no such file.").arg(RawStore::fileName()));
+    // Saving would make the folder, which is as likely a slip in its name.
+    if (isFile && !QFileInfo(RawStore::fileName()).dir().exists())
+        throw Failure(tr("%1: there is no such folder.").arg(RawStore::fileName()));
     if (RawStore::isInaccessible())
         throw Failure(tr("The store %1 cannot be read.").arg(RawStore::fileName()));
+}
+
+// QSettings parses the sections of a file when they are asked for; listing parses them all.
+QString Store::damage()
+{
+    static_cast<void>(RawStore({}, RawStore::Reach::OwnFile).allEntries());
+    return RawStore::hasMetDamage()
+               ? tr("The store %1 has lines that are no entries.").arg(RawStore::fileName())
+               : QString();
 }
 
 void Store::reread()
 {
     if (!RawStore::save())
         throw Failure(tr("The store %1 cannot be read.").arg(RawStore::fileName()));
+}
+
+// By the folder, because neither of the files may be there yet; the file itself may be a link.
+void Store::refuseOwnFile(const QString& file)
+{
+    const auto placeOf = [](const QFileInfo& info) {
+        return info.exists() ? info.canonicalFilePath()
+                             : QDir(info.dir().canonicalPath()).filePath(info.fileName());
+    };
+    if (placeOf(QFileInfo(file)) == placeOf(QFileInfo(RawStore::fileName())))
+        throw Failure(ExitStatus::WrongUsage, tr("%1 is the store's own file.").arg(file));
 }
 
 void Store::save()

@@ -17,9 +17,14 @@ public:
     /// it cannot be read, and where a file that `mustExist` is not there.
     Store(const QString& file, bool mustExist);
 
+    /// What tells that the file has lines that are no entries; empty for a sound store. Reads all
+    /// of the store.
+    static QString damage();
     /// Takes over what other programs have saved meanwhile. Throws a Failure where that is not
     /// possible.
     static void reread();
+    /// Throws a Failure where `file`, which is to be written, is the store's own file.
+    static void refuseOwnFile(const QString& file);
     /// Saves the store at once. Throws a Failure where that is not possible.
     static void save();
 

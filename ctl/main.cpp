@@ -8,6 +8,7 @@
 #include <QTextCodec>
 #include <QTranslator>
 
+#include <clocale>
 #include <cstdlib>
 #include <langinfo.h>
 #include <memory>
@@ -15,11 +16,13 @@
 namespace {
 
 // Where no locale is chosen, as in many scripts, names of files and texts are UTF-8 all the same:
-// Qt would lose all characters that are not ASCII.
+// Qt would lose all characters that are not ASCII, and the widths of characters would not be known.
 void takeUtf8WithoutLocale()
 {
-    if (qstrcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    if (qstrcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") != 0)
+        return;
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8"));
 }
 
 // Qt warns of surroundings, such as a folder that a session would have, that are none of the user's

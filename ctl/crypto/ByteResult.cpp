@@ -5,7 +5,6 @@
 #include "ctl/Interruption.h"
 #include "ctl/Output.h"
 
-#include <QSaveFile>
 #include <QTemporaryFile>
 
 namespace {
@@ -21,18 +20,19 @@ void ByteResult::addOption(QCommandLineParser& parser)
 }
 
 ByteResult::ByteResult(const Arguments& arguments, Output& output, Certainty certainty)
-    : m_output(output), m_isNamed(arguments.has("output"))
+    : m_output(output)
 {
-    if (!m_isNamed && output.form() == Output::Form::Json)
+    const bool isNamed = arguments.has("output");
+    if (!isNamed && output.form() == Output::Form::Json)
         throw Failure(ExitStatus::WrongUsage, tr("With --json, name a file by --output."));
-    if (m_isNamed) {
-        m_file = std::make_unique<QSaveFile>(arguments.value("output"));
-        check(m_file->open(QIODevice::WriteOnly));
+    if (isNamed) {
+        m_named.emplace(arguments.value("output"));
+        m_file = &m_named->device();
+        check(m_named->open());
     } else if (certainty == Certainty::Undecided) {
-        auto file = std::make_unique<QTemporaryFile>();
-        const bool isOpen = file->open();
-        m_file = std::move(file);
-        check(isOpen);
+        m_undecided = std::make_unique<QTemporaryFile>();
+        m_file = m_undecided.get();
+        check(m_undecided->open());
     }
 }
 
@@ -49,8 +49,8 @@ void ByteResult::put(const std::string& bytes)
 
 void ByteResult::commit()
 {
-    if (m_isNamed)
-        check(static_cast<QSaveFile&>(*m_file).commit());
+    if (m_named)
+        check(m_named->commit());
     else if (m_file)
         copyToOutput();
 }

@@ -1,17 +1,20 @@
 #pragma once
 
+#include "inspection/OutputFile.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 
 #include <memory>
+#include <optional>
 
 class Arguments;
 class Output;
 class QCommandLineParser;
-class QFileDevice;
+class QTemporaryFile;
 
-/// Where the bytes of a result go: the file of the option --output, which is there only when it is
-/// whole, or the standard output.
+/// Where the bytes of a result go: the file of the option --output, which is replaced only when it
+/// is whole, or the standard output.
 class ByteResult
 {
     Q_DECLARE_TR_FUNCTIONS(ByteResult)
@@ -38,6 +41,7 @@ private:
     void copyToOutput();
 
     Output& m_output;
-    std::unique_ptr<QFileDevice> m_file; ///< null for the standard output
-    bool m_isNamed;
+    std::optional<OutputFile> m_named;
+    std::unique_ptr<QTemporaryFile> m_undecided;
+    QFileDevice* m_file = nullptr; ///< one of the two; null for the standard output
 };

@@ -36,6 +36,15 @@ std::string passPhrase(const Arguments& arguments)
     return Secret::fromDescriptor(descriptor);
 }
 
+// An empty one is a slip, such as a file that has not been written yet.
+std::string neededPassPhrase(const Arguments& arguments)
+{
+    std::string text = passPhrase(arguments);
+    if (text.empty())
+        throw Failure(ExitStatus::WrongUsage, KeyOptionsTexts::tr("The pass phrase is empty."));
+    return text;
+}
+
 } // namespace
 
 void KeyOptions::add(QCommandLineParser& parser)
@@ -66,7 +75,7 @@ KeySource KeyOptions::sourceOf(const Arguments& arguments)
 CipherKeys KeyOptions::of(const Arguments& arguments)
 {
     if (sourceOf(arguments) == KeySource::PassPhrase)
-        return keysFromPassPhrase(passPhrase(arguments));
+        return keysFromPassPhrase(neededPassPhrase(arguments));
     if (!arguments.has("key-file") || !arguments.has("iv-file") ||
         arguments.has("pass-phrase-file") || arguments.has("pass-phrase-fd"))
         throw Failure(ExitStatus::WrongUsage,

@@ -60,6 +60,16 @@ std::string readAll(QFile& file, bool isOpen)
     return withoutLineEnd(text);
 }
 
+// With its end; empty where the terminal ends first.
+QByteArray typedLine(int terminal)
+{
+    QByteArray line;
+    char byte = 0;
+    while (!line.endsWith('\n') && Interruption::read(terminal, &byte, 1) > 0)
+        line += byte;
+    return line;
+}
+
 } // namespace
 
 std::string Secret::fromFile(const QString& name)
@@ -86,8 +96,9 @@ std::string Secret::asked(const QString& question)
     if (!hidden.isHidden())
         throw Failure(SecretTexts::tr("The terminal would show the secret: name a file."));
     terminal.write(question.toLocal8Bit() + ": ");
-    const QByteArray text = terminal.readLine();
+    const QByteArray text = typedLine(terminal.handle());
     terminal.write("\n");
-    Interruption::check();
+    if (text.isEmpty())
+        throw Failure(SecretTexts::tr("No secret has been typed."));
     return withoutLineEnd(text);
 }

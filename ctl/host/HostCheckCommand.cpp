@@ -5,6 +5,10 @@
 #include "inspection/host/HostCheck.h"
 #include "inspection/host/LoadTrial.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace {
 
 constexpr Column libraryColumn{"library", QT_TRANSLATE_NOOP("Output", "Library")};
@@ -18,6 +22,25 @@ constexpr double longestLimit = 86400; // seconds
 QString usualApplication()
 {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/quayside");
+}
+
+// One that is named and not there is a slip; the usual one may not be installed.
+QString applicationOf(const Arguments& arguments)
+{
+    if (!arguments.has("application"))
+        return usualApplication();
+    const QString name = arguments.value("application");
+    if (!QFileInfo(name).isFile())
+        throw Failure(HostCheckCommand::tr("%1: there is no such file.").arg(name));
+    return name;
+}
+
+// A trial would only repeat that a library for another machine cannot be loaded.
+bool isForThisMachine(const HostReport& report)
+{
+    return std::none_of(
+        report.findings.cbegin(), report.findings.cend(),
+        [](const HostFinding& finding) { return finding.kind == HostFinding::Kind::Machine; });
 }
 
 Output::Tone toneOf(HostFinding::Severity severity)
@@ -71,8 +94,7 @@ void HostCheckCommand::addOptions(QCommandLineParser& parser) const
 ExitStatus HostCheckCommand::run(const Arguments& arguments, Output& output)
 {
     const std::chrono::milliseconds trialLimit = limit(arguments);
-    HostCheck check(arguments.has("application") ? arguments.value("application")
-                                                 : usualApplication());
+    HostCheck check(applicationOf(arguments));
     bool isGood = true;
     QString unreadable;
     output.begin({libraryColumn, Columns::kind, severityColumn, subjectColumn, wantedColumn,
@@ -82,7 +104,7 @@ ExitStatus HostCheckCommand::run(const Arguments& arguments, Output& output)
         const HostReport report = check.check(library);
         print(library, report, output);
         isGood = report.willLoad() && isGood;
-        if (arguments.has("load"))
+        if (arguments.has("load") && isForThisMachine(report))
             isGood = printTrial(library, trialLimit, output) && isGood;
         if (unreadable.isEmpty() && !isReadable(report))
             unreadable = report.path + QStringLiteral(": ") + elfFaultText(report.fault);

@@ -1,27 +1,44 @@
 #include "ctl/profiles/ProfileMergeCommand.h"
 
 #include "ctl/Failure.h"
+#include "ctl/JobRun.h"
+#include "ctl/crypto/ByteInput.h"
 #include "ctl/profiles/FamilyOption.h"
 #include "ctl/profiles/ProfileEdit.h"
 #include "ctl/profiles/ProfileEntries.h"
-
-#include <cstdio>
+#include "inspection/profiles/ProfileCheckJob.h"
 
 namespace {
 
 // As a file, because the service reads nothing else.
-void saveInput(const QString& path)
+void saveInput(const QByteArray& bytes, const QString& path)
 {
-    QFile input;
     QFile file(path);
-    const bool isRead = input.open(stdin, QIODevice::ReadOnly);
-    const QByteArray bytes = isRead ? input.readAll() : QByteArray();
-    if (!isRead || input.error() != QFileDevice::NoError)
-        throw Failure(ProfileMergeCommand::tr("The standard input cannot be read: %1")
-                          .arg(input.errorString()));
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
         throw Failure(
             ProfileMergeCommand::tr("%1 cannot be written: %2").arg(path, file.errorString()));
+}
+
+QByteArray input()
+{
+    QByteArray bytes;
+    ByteInput::read(QString(), [&](const QByteArray& piece) { bytes += piece; });
+    return bytes;
+}
+
+// What the family loses of the input would be lost in the file.
+void refuseLosses(const QByteArray& bytes, ProfileFamily family)
+{
+    ProfileCheckJob job(bytes);
+    finish(job);
+    for (const ProfileCheckJob::Finding& finding : job.findings()) {
+        if (finding.family == family)
+            throw Failure(ExitStatus::No,
+                          ProfileMergeCommand::tr("Not merged: line %1 of the input. %2 --force "
+                                                  "merges what the family reads.")
+                              .arg(finding.line)
+                              .arg(finding.reason));
+    }
 }
 
 } // namespace
@@ -37,7 +54,10 @@ ExitStatus ProfileMergeCommand::run(const Arguments& arguments, Output& output)
     const ProfileFamily family = FamilyOption::needed(arguments);
     const QTemporaryDir folder;
     const QString other = folder.filePath(QStringLiteral("other.ini"));
-    saveInput(other);
+    const QByteArray bytes = input();
+    if (!arguments.has("force"))
+        refuseLosses(bytes, family);
+    saveInput(bytes, other);
     const ProfileEntries entries(other);
     ProfileEdit edit(arguments.at(0));
     for (int i = 0; i < entries.count(); ++i) {

@@ -2,6 +2,7 @@
 
 #include "ctl/Failure.h"
 #include "ctl/JobRun.h"
+#include "ctl/Output.h"
 #include "ctl/Store.h"
 #include "inspection/registry/RegistryApplyJob.h"
 
@@ -23,8 +24,9 @@ std::shared_ptr<const ImportPlan> MadeStatement::planOf(const RegFileEntry& entr
     return plan;
 }
 
-void MadeStatement::apply(const std::shared_ptr<const ImportPlan>& plan)
+void MadeStatement::apply(const std::shared_ptr<const ImportPlan>& plan, Output& output)
 {
+    output.flush();
     RegistryApplyJob job(plan);
     finish(job);
     if (job.failed() > 0)

@@ -44,6 +44,6 @@ ExitStatus RegistryCopyCommand::run(const Arguments& arguments, Output& output)
     StoreChange change = plan.takeChange();
     StoreChanges::print(change, output);
     if (!arguments.has("dry-run"))
-        StoreChanges::apply(std::move(change));
+        StoreChanges::apply(std::move(change), output);
     return ExitStatus::Done;
 }

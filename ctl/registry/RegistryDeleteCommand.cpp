@@ -86,6 +86,6 @@ ExitStatus RegistryDeleteCommand::run(const Arguments& arguments, Output& output
     if (isRegistryKey(group))
         printTree(group, output);
     if (!arguments.has("dry-run"))
-        MadeStatement::apply(plan);
+        MadeStatement::apply(plan, output);
     return ExitStatus::Done;
 }

@@ -4,6 +4,7 @@
 #include "ctl/Interruption.h"
 #include "ctl/JobRun.h"
 #include "ctl/Output.h"
+#include "ctl/Store.h"
 #include "ctl/registry/KeyArgument.h"
 #include "inspection/registry/ExportWriter.h"
 #include "inspection/registry/RegistryExportJob.h"
@@ -15,9 +16,10 @@ using Encoding = RegFileWriter::Encoding;
 
 Encoding encodingOf(const QString& name)
 {
-    if (name == QLatin1String("utf-16"))
+    const QString plain = name.toLower().remove(QLatin1Char('-'));
+    if (plain == QLatin1String("utf16") || plain == QLatin1String("utf16le"))
         return Encoding::Utf16;
-    if (name != QLatin1String("utf-8"))
+    if (plain != QLatin1String("utf8"))
         throw Failure(ExitStatus::WrongUsage,
                       RegistryExportCommand::tr("There is no encoding \"%1\".").arg(name));
     return Encoding::Utf8;
@@ -67,6 +69,8 @@ ExitStatus RegistryExportCommand::run(const Arguments& arguments, Output& output
     const bool isToOutput = file.isEmpty() || file == QLatin1String("-");
     if (isToOutput && output.form() == Output::Form::Json)
         throw Failure(ExitStatus::WrongUsage, tr("With --json, name a file to export to."));
+    if (!isToOutput)
+        Store::refuseOwnFile(file);
     const int leftOut =
         isToOutput ? exportToOutput(path, output, encoding) : exportToFile(path, file, encoding);
     if (leftOut == 0)

@@ -3,12 +3,15 @@
 #include "ctl/Failure.h"
 #include "ctl/Output.h"
 #include "ctl/registry/KeyArgument.h"
+#include "inspection/registry/ListedValue.h"
 #include "inspection/registry/ReadingRemark.h"
 #include "inspection/registry/RegistryFormat.h"
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreEntry.h"
 #include "platform/registry/TypeName.h"
+
+#include <optional>
 
 namespace {
 
@@ -32,6 +35,49 @@ QString formatted(const QString& format, const RegistryReading& reading)
                                         : RegistryFormat::editable(reading.type, reading.data);
 }
 
+// Of a value that is there; nothing where the service cannot read what is asked for.
+std::optional<QString> textOf(const Arguments& arguments, const QVariant& entry,
+                              const RegistryReading& reading)
+{
+    if (arguments.has("raw"))
+        return rawRegistryText(entry);
+    if (!reading.readable)
+        return std::nullopt;
+    return arguments.has("type") ? registryTypeName(reading.type)
+                                 : formatted(arguments.value("format"), reading);
+}
+
+QString unreadableText(const QString& path, const QString& name, const QVariant& entry,
+                       const RegistryReading& reading)
+{
+    return RegistryGetCommand::tr("\"%1\" of %2 cannot be read: %3")
+        .arg(name, RegistryPath::shown(path), readingRemark(reading, entry));
+}
+
+// Values that cannot be read are told, and the others printed.
+ExitStatus printAll(const QString& path, const Arguments& arguments, Output& output)
+{
+    ExitStatus status = ExitStatus::Done;
+    const auto names = path.isEmpty() ? RegistryIndex::read() : std::make_shared<RegistryIndex>();
+    const std::vector<ListedValue> values = ListedValue::ofKey(path, *names);
+    const RegistryKey key(path);
+    output.begin({Columns::name, Columns::data});
+    for (const ListedValue& value : values) {
+        const QVariant entry = rawRegistryEntry(value.entryPath());
+        if (entry.isNull())
+            continue;
+        const RegistryReading reading = key.read(value.name());
+        const auto text = textOf(arguments, entry, reading);
+        if (text) {
+            output.record({value.name(), *text});
+            continue;
+        }
+        output.note(unreadableText(path, value.name(), entry, reading));
+        status = ExitStatus::No;
+    }
+    return status;
+}
+
 } // namespace
 
 void RegistryGetCommand::addOptions(QCommandLineParser& parser) const
@@ -50,19 +96,17 @@ ExitStatus RegistryGetCommand::run(const Arguments& arguments, Output& output)
     if (!QStringList({"text", "hex", "c"}).contains(format))
         throw Failure(ExitStatus::WrongUsage, tr("There is no format \"%1\".").arg(format));
     const QString path = KeyArgument::existing(arguments.at(0));
+    if (arguments.count() == 1)
+        return printAll(path, arguments, output);
     const QString name = arguments.at(1);
     const QVariant entry = rawRegistryEntry(StoreEntry::ofValue(path, name));
     if (entry.isNull())
         throw Failure(ExitStatus::No,
                       tr("%1 has no value \"%2\".").arg(RegistryPath::shown(path), name));
     const RegistryReading reading = RegistryKey(path).read(name);
-    QString text = rawRegistryText(entry);
-    if (!arguments.has("raw")) {
-        if (!reading.readable)
-            throw Failure(tr("\"%1\" of %2 cannot be read: %3")
-                              .arg(name, RegistryPath::shown(path), readingRemark(reading, entry)));
-        text = arguments.has("type") ? registryTypeName(reading.type) : formatted(format, reading);
-    }
-    output.whole(text.toUtf8() + (output.form() == Output::Form::Json ? "" : "\n"), Columns::data);
+    const auto text = textOf(arguments, entry, reading);
+    if (!text)
+        throw Failure(unreadableText(path, name, entry, reading));
+    output.whole(text->toUtf8() + (output.form() == Output::Form::Json ? "" : "\n"), Columns::data);
     return ExitStatus::Done;
 }

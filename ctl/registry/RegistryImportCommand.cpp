@@ -3,14 +3,16 @@
 #include "ctl/Failure.h"
 #include "ctl/JobRun.h"
 #include "ctl/Output.h"
+#include "ctl/Store.h"
 #include "ctl/registry/KeyArgument.h"
 #include "ctl/registry/MadeStatement.h"
+#include "inspection/OutputFile.h"
 #include "inspection/registry/ImportText.h"
 #include "inspection/registry/RawStore.h"
 #include "inspection/registry/RegistryImportJob.h"
 
 #include <QFile>
-#include <QSaveFile>
+#include <QTextCodec>
 
 #include <cstdio>
 
@@ -29,14 +31,28 @@ std::unique_ptr<QIODevice> opened(const QString& name)
     return file;
 }
 
+// Empty for that of the system.
+QByteArray codePageOf(const Arguments& arguments)
+{
+    const QString name = arguments.value("code-page");
+    if (arguments.has("code-page") && !QTextCodec::codecForName(name.toLatin1()))
+        throw Failure(ExitStatus::WrongUsage,
+                      RegistryImportCommand::tr("There is no code page \"%1\".").arg(name));
+    return name.toLatin1();
+}
+
 std::shared_ptr<const ImportPlan> planOf(const Arguments& arguments)
 {
     const QString prefix =
         arguments.has("prefix") ? KeyArgument::any(arguments.value("prefix")) : QString();
-    RegistryImportJob job(opened(arguments.at(0)), arguments.value("code-page").toLatin1(), prefix);
+    RegistryImportJob job(opened(arguments.at(0)), codePageOf(arguments), prefix);
     finish(job);
     if (!job.error().isEmpty())
         throw Failure(RegistryImportCommand::tr("%1: %2").arg(arguments.at(0), job.error()));
+    if (job.reader().isVersion4() && !job.reader().isOfCodePage())
+        throw Failure(ExitStatus::No,
+                      RegistryImportCommand::tr("%1 has bytes that are none of the code page %2.")
+                          .arg(arguments.at(0), QString::fromLatin1(job.reader().codePage())));
     return job.plan();
 }
 
@@ -62,13 +78,13 @@ void print(const ImportPlan& plan, Output& output)
 void backUp(const QString& name)
 {
     QFile store(RawStore::fileName());
-    QSaveFile copy(name);
+    OutputFile copy(name);
     const bool isRead = !store.exists() || store.open(QIODevice::ReadOnly);
     const QByteArray bytes = store.isOpen() ? store.readAll() : QByteArray();
-    if (!isRead || store.error() != QFileDevice::NoError || !copy.open(QIODevice::WriteOnly) ||
-        copy.write(bytes) != bytes.size() || !copy.commit())
+    if (!isRead || store.error() != QFileDevice::NoError || !copy.open() ||
+        copy.device().write(bytes) != bytes.size() || !copy.commit())
         throw Failure(RegistryImportCommand::tr("%1 cannot be written: %2")
-                          .arg(name, isRead ? copy.errorString() : store.errorString()));
+                          .arg(name, isRead ? copy.device().errorString() : store.errorString()));
 }
 
 } // namespace
@@ -88,13 +104,15 @@ void RegistryImportCommand::addOptions(QCommandLineParser& parser) const
 
 ExitStatus RegistryImportCommand::run(const Arguments& arguments, Output& output)
 {
+    if (arguments.has("backup"))
+        Store::refuseOwnFile(arguments.value("backup"));
     const auto plan = planOf(arguments);
     if (arguments.has("dry-run")) {
         print(*plan, output);
     } else {
         if (arguments.has("backup"))
             backUp(arguments.value("backup"));
-        MadeStatement::apply(plan);
+        MadeStatement::apply(plan, output);
     }
     const bool isWhole = plan->count(Outcome::Refused) == 0;
     if (!isWhole || plan->count(Outcome::Altered) > 0)

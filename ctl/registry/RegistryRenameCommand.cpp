@@ -68,6 +68,6 @@ ExitStatus RegistryRenameCommand::run(const Arguments& arguments, Output& output
                              : valueChange(path, arguments.at(1), arguments.at(2));
     StoreChanges::print(change, output);
     if (!arguments.has("dry-run"))
-        StoreChanges::apply(std::move(change));
+        StoreChanges::apply(std::move(change), output);
     return ExitStatus::Done;
 }

@@ -97,7 +97,7 @@ ExitStatus RegistrySetCommand::run(const Arguments& arguments, Output& output)
         print(statement, output);
         return ExitStatus::Done;
     }
-    MadeStatement::apply(plan);
+    MadeStatement::apply(plan, output);
     if (isAltered)
         output.note(statement.remark);
     else

@@ -6,6 +6,7 @@
 #include "ctl/registry/DifferenceRecord.h"
 #include "ctl/registry/KeyArgument.h"
 #include "inspection/registry/RegistryDifference.h"
+#include "inspection/registry/RegistryPath.h"
 
 #include <QThread>
 
@@ -13,10 +14,16 @@ namespace {
 
 constexpr unsigned long pause = 200; // milliseconds between two looks, each a `stat`
 
-void printChanges(const RegistryContents& before, const RegistryContents& after, Output& output)
+// The keys are below `path`, and printed as the list prints them.
+void printChanges(const QString& path, const RegistryContents& before,
+                  const RegistryContents& after, Output& output)
 {
-    for (const RegistryDifference& difference : registryDifferences(before, after))
+    for (RegistryDifference difference : registryDifferences(before, after)) {
+        difference.key = RegistryPath::shown(difference.key.isEmpty() || path.isEmpty()
+                                                 ? path + difference.key
+                                                 : RegistryPath::join(path, difference.key));
         DifferenceRecord::print(difference, output);
+    }
     output.flush();
 }
 
@@ -35,7 +42,7 @@ ExitStatus RegistryWatchCommand::run(const Arguments& arguments, Output& output)
         RegistryContents after = RegistryContents::ofKey(path);
         if (after.entries() == before.entries())
             continue;
-        printChanges(before, after, output);
+        printChanges(path, before, after, output);
         before = std::move(after);
     }
     return ExitStatus::Done;

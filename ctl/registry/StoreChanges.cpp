@@ -20,8 +20,9 @@ void StoreChanges::print(const StoreChange& change, Output& output)
     }
 }
 
-void StoreChanges::apply(StoreChange change)
+void StoreChanges::apply(StoreChange change, Output& output)
 {
+    output.flush();
     StoreChangeJob job(std::make_shared<const StoreChange>(std::move(change)),
                        StoreChangeJob::Direction::Make, StoreChangeJob::Others::StopAll);
     finish(job);

@@ -10,6 +10,6 @@ namespace StoreChanges {
 /// Names each entry and where it comes to stand.
 void print(const StoreChange& change, Output& output);
 /// Makes the change and saves the store.
-void apply(StoreChange change);
+void apply(StoreChange change, Output& output);
 
 } // namespace StoreChanges

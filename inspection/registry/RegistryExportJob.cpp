@@ -4,16 +4,13 @@
 
 RegistryExportJob::RegistryExportJob(const QString& path, const QString& file,
                                      RegFileWriter::Encoding encoding)
-    : m_file(file),
-      m_open(m_file.open(QIODevice::WriteOnly)),
-      m_writer(m_file, encoding),
-      m_walk(path)
+    : m_file(file), m_open(m_file.open()), m_writer(m_file.device(), encoding), m_walk(path)
 {
 }
 
 QString RegistryExportJob::error() const
 {
-    return m_open && m_writer.isGood() ? QString() : m_file.errorString();
+    return m_open && m_writer.isGood() ? QString() : m_file.device().errorString();
 }
 
 bool RegistryExportJob::step()

@@ -1,17 +1,16 @@
 #pragma once
 
 #include "inspection/Job.h"
+#include "inspection/OutputFile.h"
 #include "inspection/registry/ExportWriter.h"
 #include "inspection/registry/RegistryWalk.h"
-
-#include <QSaveFile>
 
 /// Writes a key with everything below it into a registry file, as ExportWriter does.
 class RegistryExportJob : public Job
 {
 public:
     /// Nothing is left at `file` unless `commit` succeeds; an older file stays as it was until
-    /// then.
+    /// then. What is no regular file is written to as it is, see OutputFile.
     RegistryExportJob(const QString& path, const QString& file, RegFileWriter::Encoding encoding);
 
     /// Why it could not be written, in words; empty while all is well.
@@ -27,7 +26,7 @@ public:
     int leftOut() const { return m_writer.leftOut(); }
 
 private:
-    QSaveFile m_file;
+    OutputFile m_file;
     bool m_open;
     ExportWriter m_writer;
     RegistryWalk m_walk;

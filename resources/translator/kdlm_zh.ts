@@ -323,10 +323,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>列出子键和值。</translation>
     </message>
     <message>
-        <source>Prints the data of a value.</source>
-        <translation>输出一个值的数据。</translation>
-    </message>
-    <message>
         <source>Sets a value.</source>
         <translation>设置一个值。</translation>
     </message>
@@ -433,6 +429,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Tells whether host libraries can be loaded here, and if not, why.</source>
         <translation>说明主机库能否在此处加载；若不能，说明原因。</translation>
+    </message>
+    <message>
+        <source>Prints the data of a value, or of all values of a key.</source>
+        <translation>输出一个值的数据，或键的所有值的数据。</translation>
     </message>
 </context>
 <context>
@@ -1630,6 +1630,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>&quot;%1&quot; is no number of seconds.</source>
         <translation>“%1”不是秒数。</translation>
     </message>
+    <message>
+        <source>%1: there is no such file.</source>
+        <translation>%1：没有此文件。</translation>
+    </message>
 </context>
 <context>
     <name>HostCheckText</name>
@@ -2119,6 +2123,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Give a pass phrase, or both --key-file and --iv-file.</source>
         <translation>请给出口令，或同时给出 --key-file 和 --iv-file。</translation>
+    </message>
+    <message>
+        <source>The pass phrase is empty.</source>
+        <translation>口令为空。</translation>
     </message>
 </context>
 <context>
@@ -3578,12 +3586,12 @@ Wide: %2</source>
 <context>
     <name>ProfileMergeCommand</name>
     <message>
-        <source>The standard input cannot be read: %1</source>
-        <translation>无法读取标准输入：%1</translation>
-    </message>
-    <message>
         <source>%1 cannot be written: %2</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Not merged: line %1 of the input. %2 --force merges what the family reads.</source>
+        <translation>未合并：输入的第 %1 行。%2 --force 将合并该系列所读取的内容。</translation>
     </message>
 </context>
 <context>
@@ -3784,6 +3792,18 @@ Wide: %2</source>
     <message>
         <source>Status: 0 done, found or equal; 1 a clean no; 2 wrong usage; 3 could not be done.</source>
         <translation>状态：0 已完成、已找到或相等；1 明确的否；2 用法错误；3 无法完成。</translation>
+    </message>
+    <message>
+        <source>--store needs the name of a file.</source>
+        <translation>--store 需要文件名。</translation>
+    </message>
+    <message>
+        <source>Saves a damaged store without its damaged lines.</source>
+        <translation>保存已损坏的存储，不含损坏的行。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing is saved; --force saves the rest.</source>
+        <translation>%1未保存任何内容；--force 将保存其余部分。</translation>
     </message>
 </context>
 <context>
@@ -4285,6 +4305,14 @@ Wide: %2</source>
         <source>Copies the store&apos;s file there first.</source>
         <translation>先将存储的文件复制到该处。</translation>
     </message>
+    <message>
+        <source>There is no code page &quot;%1&quot;.</source>
+        <translation>没有代码页“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 has bytes that are none of the code page %2.</source>
+        <translation>%1 含有不属于代码页 %2 的字节。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryListCommand</name>
@@ -4653,6 +4681,10 @@ Wide: %2</source>
         <source>The terminal would show the secret: name a file.</source>
         <translation>终端会显示密钥信息：请指定文件。</translation>
     </message>
+    <message>
+        <source>No secret has been typed.</source>
+        <translation>未输入密钥。</translation>
+    </message>
 </context>
 <context>
     <name>SetValueCheck</name>
@@ -4716,6 +4748,18 @@ Wide: %2</source>
     <message>
         <source>The store %1 could not be saved.</source>
         <translation>无法保存存储 %1。</translation>
+    </message>
+    <message>
+        <source>%1: there is no such folder.</source>
+        <translation>%1：没有此文件夹。</translation>
+    </message>
+    <message>
+        <source>%1 is the store&apos;s own file.</source>
+        <translation>%1 是存储自身的文件。</translation>
+    </message>
+    <message>
+        <source>The store %1 has lines that are no entries.</source>
+        <translation>存储 %1 中有不是条目的行。</translation>
     </message>
 </context>
 <context>

@@ -60,6 +60,14 @@ TEST_F(CtlOutput, IsAlignedAndHasTitlesOnATerminal)
     EXPECT_EQ(lines[2], "value  HKEY_CURRENT_USER\\A  v       REG_SZ  \xE4\xB8\xAD");
 }
 
+TEST_F(CtlOutput, IsAlignedWithoutALocale)
+{
+    writeStore("[A]\nlonger=5$x\n%U4E2D%U6587=5$y\n");
+    const QByteArray text =
+        shell("LC_ALL=C script -qec \"$CTL registry get A\" /dev/null").out.replace("\r", "");
+    EXPECT_EQ(text, "Name    Data\nlonger  x\n\xE4\xB8\xAD\xE6\x96\x87    y\n");
+}
+
 TEST_F(CtlOutput, HasColoursOnATerminalUnlessTheyAreNotWanted)
 {
     writeStore("[A]\nv=text\n");

@@ -1,5 +1,8 @@
 #include "tests/ctl/CtlTest.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 namespace {
 
 class Program : public CtlTest
@@ -53,6 +56,66 @@ TEST_F(Program, ReadsNoStoreThatIsNotThere)
 TEST_F(Program, ReadsNoFolderAsAStore)
 {
     EXPECT_EQ(status({"--store", ".", "registry", "list"}), 3);
+}
+
+TEST_F(Program, CallsAStoreWithoutANameWrongUsage)
+{
+    writeStore("[A]\nv=5$old\n");
+    EXPECT_EQ(status({"--store", "", "registry", "delete", "A", "v"}), 2);
+    EXPECT_EQ(status({"--store=", "registry", "set", "A", "v", "new"}), 2);
+    EXPECT_EQ(status({"registry", "set", "A", "v", "new", "--store", ""}), 2);
+    EXPECT_EQ(storeBytes(), "[A]\nv=5$old\n");
+}
+
+TEST_F(Program, MakesNoFolderForAStore)
+{
+    EXPECT_EQ(status({"--store", "none/s.ini", "registry", "set", "A", "v", "1"}), 3);
+    EXPECT_EQ(shell("ls").out, "");
+}
+
+TEST_F(Program, SavesNoFileThatIsNoStoreUnlessForced)
+{
+    const QByteArray text("Dear reader,\nthis is a letter.\n[A]\nv=5$x\n");
+    write("letter", text);
+    for (const QString& command :
+         QStringList{"set A w new", "delete A v", "rename A B", "copy A B", "import a.reg"}) {
+        write("a.reg", "REGEDIT4\n[HKEY_CURRENT_USER\\A]\n\"v\"=\"y\"\n");
+        const Result refused = shell("$CTL --store letter registry " + command);
+        EXPECT_EQ(refused.status, 3) << command.toStdString();
+        EXPECT_TRUE(refused.error.contains("letter has lines that are no entries"));
+        EXPECT_EQ(read("letter"), text) << command.toStdString();
+        EXPECT_EQ(shell("$CTL --store letter --quiet registry " + command + " --dry-run").status,
+                  0);
+        EXPECT_EQ(shell("$CTL --store letter registry " + command + " --force").status, 0);
+        EXPECT_NE(read("letter"), text) << command.toStdString();
+        write("letter", text);
+    }
+}
+
+TEST_F(Program, TellsADamagedStoreThatItReads)
+{
+    writeStore("[A]\nv=5$x\n[B]\nno entry\n");
+    const Result found = run({"registry", "get", "A", "v"});
+    EXPECT_EQ(found.status, 0);
+    EXPECT_EQ(found.out, "x\n");
+    EXPECT_TRUE(found.error.contains("registry.ini has lines that are no entries"));
+    const Result checked = run({"registry", "check"});
+    EXPECT_EQ(checked.status, 1);
+    EXPECT_TRUE(checked.out.startsWith("damaged\t"));
+}
+
+TEST_F(Program, TellsWrongUsageInItsDocument)
+{
+    for (const QStringList& line :
+         {QStringList{"--json"}, QStringList{"registry", "nonsense", "--json"},
+          QStringList{"--json", "registry", "list", "--nonsense"},
+          QStringList{"registry", "set", "A", "--json"}}) {
+        const Result result = run(line);
+        EXPECT_EQ(result.status, 2) << line.join(' ').toStdString();
+        const QJsonObject document = QJsonDocument::fromJson(result.out).object();
+        EXPECT_EQ(document.value("status").toInt(), 2) << result.out.toStdString();
+        EXPECT_FALSE(document.value("error").toString().isEmpty());
+    }
 }
 
 TEST_F(Program, FailsWhereAStoreCannotBeSaved)

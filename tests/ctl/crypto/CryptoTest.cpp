@@ -121,4 +121,43 @@ TEST_F(CtlCrypto, EncodesAndDecodesBase64)
     EXPECT_EQ(run({"crypto", "base64", "--output", "none/x"}, "x").status, 3);
 }
 
+TEST_F(CtlCrypto, WritesIntoAPipeThatIsThereAndAppendsWhereTheOutputIs)
+{
+    write("h", "hello");
+    EXPECT_EQ(shell("mkfifo pipe; timeout 60 cat pipe >got & "
+                    "$CTL crypto base64 h --output pipe; wait; test -p pipe")
+                  .status,
+              0);
+    EXPECT_TRUE(read("got").startsWith("aGVsbG8"));
+    write("log", "before\n");
+    EXPECT_EQ(shell("$CTL crypto base64 h --output /dev/stdout >>log").status, 0);
+    EXPECT_EQ(read("log"), "before\n" + read("got"));
+}
+
+TEST_F(CtlCrypto, NeedsAPassPhrase)
+{
+    write("empty", "\n");
+    EXPECT_EQ(run({"crypto", "encrypt", "--pass-phrase-file", "empty"}, "text").status, 2);
+    // The terminal ends once the question is there.
+    EXPECT_EQ(shell("(until grep -qs 'Pass phrase' typed; do sleep 0.05; done; printf '\\004') |"
+                    "timeout 20 script -qefc \"$CTL crypto encrypt empty\" typed")
+                  .status,
+              3);
+}
+
+// The shell keeps the pipe open, so that only the signal can end the program.
+TEST_F(CtlCrypto, EndsBySignalsWhileItWaitsForItsInput)
+{
+    for (const QString& command : QStringList{"crypto base64", "profile merge p.ini --wide"}) {
+        for (const QString& signal : QStringList{"INT", "TERM"}) {
+            const Result result = shell("rm -f pipe; mkfifo pipe; exec 9<>pipe; $CTL " + command +
+                                        " <pipe & until grep -qs 'SigCgt:.*4003$' /proc/$!/status;"
+                                        "do sleep 0.05; done; sleep 0.2; kill -" +
+                                        signal + " $!; wait $!");
+            EXPECT_EQ(result.status, 3) << command.toStdString() << signal.toStdString();
+            EXPECT_TRUE(result.error.contains("Interrupted"));
+        }
+    }
+}
+
 } // namespace

@@ -85,9 +85,11 @@ TEST_F(HostCheckCommand, FailsWhereThereIsNoFileAndChecksTheOthers)
 
 TEST_F(HostCheckCommand, AsksTheApplicationThatIsNamed)
 {
-    const Result result = run({"host", "check", "--application", "none", library("proper")});
+    write("other", "no application");
+    const Result result = run({"host", "check", "--application", "other", library("proper")});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(record(result.out, "application").at(2), "warning");
+    EXPECT_EQ(status({"host", "check", "--application", "none", library("proper")}), 3);
 }
 
 TEST_F(HostCheckCommand, LoadsForATrial)
@@ -98,6 +100,19 @@ TEST_F(HostCheckCommand, LoadsForATrial)
     const Result bad = run({"host", "check", "--load", library("missing_symbol")});
     EXPECT_EQ(bad.status, 1);
     EXPECT_TRUE(record(bad.out, "trial").last().contains("neverWritten"));
+}
+
+TEST_F(HostCheckCommand, TriesNoLibraryOfAnotherMachine)
+{
+    QFile proper(library("proper"));
+    ASSERT_TRUE(proper.open(QIODevice::ReadOnly));
+    QByteArray bytes = proper.readAll();
+    constexpr int machine = 18; // the place of its number in the header
+    bytes[machine] = 8;
+    write("other.so", bytes);
+    const Result result = run({"host", "check", "--load", "other.so"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_FALSE(result.out.contains("\ttrial\t"));
 }
 
 TEST_F(HostCheckCommand, EndsATrialAtTheLimit)

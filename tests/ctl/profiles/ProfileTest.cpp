@@ -106,6 +106,19 @@ TEST_F(CtlProfiles, TakeTheEntriesOfAnotherProfile)
     EXPECT_EQ(run({"profile", "merge", "p.ini", "--wide"}, "").status, 0);
 }
 
+TEST_F(CtlProfiles, TakeEntriesThatTheFamilyLosesOnlyWhenForced)
+{
+    for (const QByteArray& line : {QByteArray("c=1,2\n"), QByteArray("b=x;y\n")}) {
+        const Result refused = run({"profile", "merge", "p.ini", "--wide"}, "[s]\n" + line);
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_TRUE(refused.error.contains("line 2"));
+        EXPECT_EQ(read("p.ini"), m_plain);
+    }
+    EXPECT_EQ(run({"profile", "merge", "p.ini", "--narrow"}, "[s]\nc=1,2\n").status, 0);
+    EXPECT_EQ(run({"profile", "merge", "p.ini", "--wide", "--force"}, "[s]\nb=x;y\n").status, 0);
+    EXPECT_TRUE(read("p.ini").contains("b=x\n"));
+}
+
 TEST_F(CtlProfiles, AreCheckedInLinesThatEditorsJumpTo)
 {
     write("a.ini", "[s]\nno\nk=v\n");

@@ -60,6 +60,17 @@ TEST_F(CtlRegistryChanges, WriteNothingInADryRun)
     EXPECT_EQ(storeBytes(), "[A]\nv=5$old\n");
 }
 
+TEST_F(CtlRegistryChanges, ChangeNothingWhereTheirOutputCannotBeWritten)
+{
+    writeStore("[A]\nv=5$old\n");
+    for (const QString& command :
+         QStringList{"delete A -r", "delete A v", "rename A B", "copy A B", "set A v new --json"}) {
+        EXPECT_EQ(shell("$CTL registry " + command + " >/dev/full").status, 3)
+            << command.toStdString();
+        EXPECT_EQ(storeBytes(), "[A]\nv=5$old\n") << command.toStdString();
+    }
+}
+
 TEST_F(CtlRegistryChanges, DeleteAValueAndNameIt)
 {
     writeStore("[A]\nv=5$old\nw=5$kept\n");

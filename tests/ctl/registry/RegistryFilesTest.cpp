@@ -24,6 +24,15 @@ TEST_F(CtlRegistryFiles, ExportAKeyInUtf16OrUtf8)
     EXPECT_EQ(status({"registry", "export", "A", "--encoding", "utf-7"}), 2);
 }
 
+TEST_F(CtlRegistryFiles, TakeNamesOfEncodingsAsPeopleWriteThem)
+{
+    writeStore("[A]\nv=5$x\n");
+    for (const QString& name : QStringList{"UTF-8", "utf8", "Utf-8"})
+        EXPECT_TRUE(out({"registry", "export", "A", "--encoding", name}).startsWith("Windows"));
+    for (const QString& name : QStringList{"UTF-16", "utf16", "utf-16le", "UTF-16LE"})
+        EXPECT_TRUE(out({"registry", "export", "A", "--encoding", name}).startsWith("\xFF\xFE"));
+}
+
 TEST_F(CtlRegistryFiles, TellWhatTheFormatHasNoRoomFor)
 {
     writeStore("[A]\nlist=1, 2\nv=5$x\n");
@@ -38,6 +47,28 @@ TEST_F(CtlRegistryFiles, AreNotWrittenWhereThatIsImpossible)
     writeStore("[A]\nv=5$x\n");
     EXPECT_EQ(status({"registry", "export", "A", "none/a.reg"}), 3);
     EXPECT_EQ(status({"--json", "registry", "export", "A"}), 2);
+}
+
+// Replaced by a file, a pipe would never end.
+TEST_F(CtlRegistryFiles, AreWrittenIntoAPipeThatIsThere)
+{
+    writeStore("[A]\nv=5$x\n");
+    EXPECT_EQ(shell("mkfifo pipe; timeout 60 cat pipe >got & "
+                    "$CTL registry export A pipe --encoding utf-8; wait; test -p pipe")
+                  .status,
+              0);
+    EXPECT_EQ(read("got"), file("[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"x\"\r\n"));
+}
+
+TEST_F(CtlRegistryFiles, AreAppendedWhereTheOutputIs)
+{
+    writeStore("[A]\nv=5$x\n");
+    const QByteArray whole = "before\n" + file("[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"x\"\r\n");
+    for (const QString& name : QStringList{"/dev/stdout", "/dev/fd/1", "/proc/self/fd/1"}) {
+        write("log", "before\n");
+        shell("$CTL registry export A " + name + " --encoding utf-8 >>log");
+        EXPECT_EQ(read("log"), whole) << name.toStdString();
+    }
 }
 
 TEST_F(CtlRegistryFiles, AreImported)
@@ -58,6 +89,16 @@ TEST_F(CtlRegistryFiles, AreImportedFromTheInputAndInACodePage)
                   .status,
               0);
     EXPECT_EQ(out({"registry", "get", "A", "v"}), "\xE4\xB8\xAD\n");
+}
+
+TEST_F(CtlRegistryFiles, AreNotImportedInACodePageThatIsNotTheirs)
+{
+    const QByteArray text("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n\"v\"=\"\xD6\xFF\xD0\"\r\n");
+    EXPECT_EQ(run({"registry", "import", "-", "--code-page", "nonsense"}, text).status, 2);
+    const Result result = run({"registry", "import", "-", "--code-page", "UTF-8"}, text);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.error.contains("UTF-8"));
+    EXPECT_EQ(storeBytes(), "");
 }
 
 TEST_F(CtlRegistryFiles, TellTheFateOfEachStatementInADryRun)
@@ -88,6 +129,31 @@ TEST_F(CtlRegistryFiles, AreImportedAfterABackup)
     EXPECT_EQ(status({"registry", "import", "a.reg", "--backup", "b.ini"}), 0);
     EXPECT_EQ(read("b.ini"), "[A]\nlist=1, 2\n");
     EXPECT_EQ(storeBytes(), "");
+}
+
+TEST_F(CtlRegistryFiles, AreImportedAfterABackupIntoAPipe)
+{
+    writeStore("[A]\nv=5$x\n");
+    write("a.reg", file("[-HKEY_CURRENT_USER\\A]\r\n"));
+    EXPECT_EQ(shell("mkfifo pipe; timeout 60 cat pipe >got & "
+                    "$CTL registry import a.reg --backup pipe; wait; test -p pipe")
+                  .status,
+              0);
+    EXPECT_EQ(read("got"), "[A]\nv=5$x\n");
+}
+
+TEST_F(CtlRegistryFiles, AreNotWrittenOverTheStore)
+{
+    write("s.ini", "[A]\nv=5$x\n");
+    write("a.reg", file("[-HKEY_CURRENT_USER\\A]\r\n"));
+    shell("ln -s s.ini link.ini; mkdir folder");
+    for (const QString& name : QStringList{"s.ini", "./folder/../s.ini", "link.ini"}) {
+        EXPECT_EQ(status({"--store", "s.ini", "registry", "export", "A", name}), 2);
+        EXPECT_EQ(status({"--store", "s.ini", "registry", "import", "a.reg", "--backup", name}), 2);
+        EXPECT_EQ(read("s.ini"), "[A]\nv=5$x\n");
+    }
+    EXPECT_EQ(status({"--store", "new.ini", "registry", "import", "a.reg", "--backup", "new.ini"}),
+              2);
 }
 
 TEST_F(CtlRegistryFiles, AreRefusedWholeWhereTheyAreNone)

@@ -136,4 +136,19 @@ TEST_F(CtlRegistryReading, ListsAHundredThousandValues)
     EXPECT_EQ(out({"registry", "list", "-r"}).count('\n'), 100001);
 }
 
+TEST_F(CtlRegistryReading, GetAllValuesOfAKey)
+{
+    writeStore("[A]\nB\\w=5$below\nn=1$7\nv=5$some text\n[C]\nD\\v=5$x\n[E]\nx=broken\ny=5$x\n");
+    EXPECT_EQ(out({"registry", "get", "A"}), "n\t7\nv\tsome text\n");
+    EXPECT_EQ(out({"registry", "get", "A", "--type"}), "n\tREG_DWORD\nv\tREG_SZ\n");
+    const Result none = run({"registry", "get", "C"});
+    EXPECT_EQ(none.status, 0);
+    EXPECT_EQ(none.out + none.error, "");
+    const Result broken = run({"registry", "get", "E"});
+    EXPECT_EQ(broken.status, 1);
+    EXPECT_EQ(broken.out, "y\tx\n");
+    EXPECT_TRUE(broken.error.contains("\"x\""));
+    EXPECT_EQ(status({"registry", "get", "None"}), 1);
+}
+
 } // namespace

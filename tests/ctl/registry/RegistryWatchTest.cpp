@@ -19,7 +19,7 @@ TEST_F(CtlRegistryWatch, PrintsChangesAsTheyAreSavedUntilItIsInterrupted)
     EXPECT_EQ(read("out"),
               "{\"command\":\"registry watch\",\"records\":[\n"
               "{\"after\":\"REG_SZ new\",\"before\":\"REG_SZ old\",\"change\":\"changed\","
-              "\"key\":\"\",\"name\":\"v\"}],\"status\":0}\n");
+              "\"key\":\"HKEY_CURRENT_USER\\\\A\",\"name\":\"v\"}],\"status\":0}\n");
 }
 
 // Whenever the signal comes, the file is the one before or the one behind the change.
