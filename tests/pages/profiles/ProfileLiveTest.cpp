@@ -108,7 +108,7 @@ TEST_F(ProfileLiveTest, KeepsTheScrollPosition)
         EXPECT_EQ(table(view).verticalScrollBar()->value(), 100) << view;
 }
 
-QByteArray manyKeys(const QByteArray& value, int count = 40000)
+QByteArray manyKeys(const QByteArray& value, int count = 4000)
 {
     QByteArray bytes = "[S]\n";
     for (int i = 0; i < count; ++i)
@@ -127,9 +127,9 @@ TEST_F(ProfileLiveTest, KeepsWhatIsChosenWhileTheFileIsReadAgain)
     QTimer user; // who goes on choosing until the new lines are shown
     QObject::connect(&user, &QTimer::timeout, [&] {
         if (!isShown)
-            table("readings").selectRow(chosen = (chosen + 977) % 40000);
+            table("readings").selectRow(chosen = (chosen + 977) % 4000);
     });
-    user.start(20);
+    user.start(5);
     m_file.write("; new\n" + manyKeys("2"));
     EXPECT_TRUE(statusBecomes(QStringLiteral("changed by somebody else")));
     EXPECT_TRUE(isShown);
