@@ -10,7 +10,7 @@
 namespace {
 
 // Below that the memory is not asked: a process that has no more of it ends anyway.
-constexpr off_t largeFile = 1024 * 1024;
+constexpr off_t largeFile = off_t{1024} * 1024;
 
 bool hasMemory(std::size_t bytes)
 {
@@ -21,7 +21,7 @@ bool hasMemory(std::size_t bytes)
 // While it is constructed, QSettings keeps a file twice, and crashes where memory is refused.
 bool isHeld(off_t size)
 {
-    constexpr std::size_t reserve = 8 * 1024 * 1024;
+    constexpr std::size_t reserve = std::size_t{8} * 1024 * 1024;
     return size < largeFile || (size <= WideProfile::largestFile &&
                                 hasMemory(static_cast<std::size_t>(size) * 2 + reserve));
 }
