@@ -168,7 +168,7 @@ Output::Form Program::form() const
 QString Program::storeFile() const
 {
     const QString option = QStringLiteral("store");
-    const QString file = m_own.isSet(option) ? m_own.value(option) : m_global.value(option);
+    QString file = m_own.isSet(option) ? m_own.value(option) : m_global.value(option);
     if (isSet("store") && file.isEmpty())
         throw Failure(ExitStatus::WrongUsage, tr("--store needs the name of a file."));
     return file;

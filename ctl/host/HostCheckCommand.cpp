@@ -29,7 +29,7 @@ QString applicationOf(const Arguments& arguments)
 {
     if (!arguments.has("application"))
         return usualApplication();
-    const QString name = arguments.value("application");
+    QString name = arguments.value("application");
     if (!QFileInfo(name).isFile())
         throw Failure(HostCheckCommand::tr("%1: there is no such file.").arg(name));
     return name;
