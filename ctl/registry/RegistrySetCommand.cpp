@@ -24,7 +24,7 @@ unsigned int typeOf(const QString& text)
     for (unsigned int type = 0; type <= lastType; ++type) {
         const QString name = registryTypeName(type);
         if (text.compare(name, Qt::CaseInsensitive) == 0 ||
-            text.compare(name.mid(4), Qt::CaseInsensitive) == 0)
+            name.midRef(4).compare(text, Qt::CaseInsensitive) == 0)
             return type;
     }
     bool isNumber = false;

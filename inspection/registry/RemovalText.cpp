@@ -35,7 +35,7 @@ QString firstOf(const Items& items, const Text& text)
 QString RemovalText::ofValues(const std::vector<RegistryValueName>& values,
                               const QStringList& keysAlong)
 {
-    const QString names = firstOf(values, std::mem_fn(&RegistryValueName::name));
+    QString names = firstOf(values, std::mem_fn(&RegistryValueName::name));
     if (keysAlong.isEmpty())
         return names;
     return names + QStringLiteral("\n\n") +
