@@ -85,6 +85,8 @@ TEST_F(CtlDocumentation, ComparesWithPeersByCommandsThatWork)
 
 TEST_F(CtlDocumentation, CompletesCommandsAndOptions)
 {
+    if (qstrlen(QUAYSIDE_EMULATOR) > 0)
+        GTEST_SKIP() << "the shell starts the program by its name alone, without the emulator";
     EXPECT_EQ(completed("reg"), "registry\n");
     EXPECT_EQ(completed("registry re"), "rename\n");
     EXPECT_EQ(completed("--store x registry ch"), "check\n");
