@@ -15,7 +15,7 @@ namespace {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool isMemoryOwn = false; // most of it is the sanitizer's
 #else
-constexpr bool isMemoryOwn = true;
+constexpr bool isMemoryOwn = !QUAYSIDE_CROSS_BUILT; // an emulator's is not either
 #endif
 
 // What makes the calls stands in a child process: one that waits or that ends by an exception fails
