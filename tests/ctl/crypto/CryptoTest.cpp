@@ -152,10 +152,11 @@ TEST_F(CtlCrypto, EndsBySignalsWhileItWaitsForItsInput)
         GTEST_SKIP() << "the system shows the signals that the emulator handles";
     for (const QString& command : QStringList{"crypto base64", "profile merge p.ini --wide"}) {
         for (const QString& signal : QStringList{"INT", "TERM"}) {
-            const Result result = shell("rm -f pipe; mkfifo pipe; exec 9<>pipe; $CTL " + command +
-                                        " <pipe & until grep -qs 'SigCgt:.*[4-7c-f]..[37bf]$' /proc/$!/status;"
-                                        "do sleep 0.05; done; sleep 0.2; kill -" +
-                                        signal + " $!; wait $!");
+            const Result result =
+                shell("rm -f pipe; mkfifo pipe; exec 9<>pipe; $CTL " + command +
+                      " <pipe & until grep -qs 'SigCgt:.*[4-7c-f]..[37bf]$' /proc/$!/status;"
+                      "do sleep 0.05; done; sleep 0.2; kill -" +
+                      signal + " $!; wait $!");
             EXPECT_EQ(result.status, 3) << command.toStdString() << signal.toStdString();
             EXPECT_TRUE(result.error.contains("Interrupted"));
         }
