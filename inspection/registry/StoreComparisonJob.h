@@ -1,7 +1,7 @@
 #pragma once
 
 #include "inspection/Job.h"
-#include "inspection/files/FileStamp.h"
+#include "platform/files/FileStamp.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
