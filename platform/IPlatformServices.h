@@ -418,7 +418,8 @@ public:
     virtual unsigned int RegCloseKey(HKEY key) = 0;
 
     /// Counts sub-keys and values and measures their longest names. The longest value data is that
-    /// of the value with the longest name: 4 for a DWORD, else 0.
+    /// of the value with the longest name: 4 for a DWORD, else 0. Of changes by others it knows as
+    /// much as `RegEnumKeyW` does.
     virtual unsigned int RegQueryInfoKeyW(HKEY key, wchar_t* keyClass, unsigned int* classLength,
                                           unsigned int* reserved, unsigned int* subKeys,
                                           unsigned int* longestSubKey, unsigned int* longestClass,
@@ -429,6 +430,11 @@ public:
 
     /// Copies the name of a sub-key, without a terminator and whatever the capacity: the buffer
     /// must be large enough, and the caller zeroes it.
+    /// Enumeration may use a list that it has made before in the same turn of the event loop. The
+    /// list is right whatever the services or the host library write to the store meanwhile, but
+    /// does not know of a second settings object on the same file, of a `sync()` by which the store
+    /// has read a change of another program, or of changes while the store's saving is withheld
+    /// from it by an event filter.
     virtual unsigned int RegEnumKeyW(HKEY key, unsigned int index, wchar_t* name,
                                      unsigned int capacity) = 0;
 
@@ -446,8 +452,8 @@ public:
                                        wchar_t* keyClass, unsigned int* classLength,
                                        _FILETIME* lastWriteTime) = 0;
 
-    /// Copies the name of a value like `RegEnumKeyExW`, then reads the value. The name and its
-    /// length are written even when the value cannot be read and 1 is returned.
+    /// Copies the name of a value like `RegEnumKeyExW`, then reads the value as it is now. The name
+    /// and its length are written even when the value cannot be read and 1 is returned.
     virtual unsigned int RegEnumValueW(HKEY key, unsigned int index, wchar_t* name,
                                        unsigned int* nameLength, unsigned int* reserved,
                                        unsigned int* type, unsigned char* data,
