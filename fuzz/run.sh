@@ -26,7 +26,7 @@ if [ "$1" = --names ]; then
     checked "$@"
     exit
 fi
-build=$1
+build=$(realpath "$1")
 seconds=$2
 shift 2
 
