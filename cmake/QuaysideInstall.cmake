@@ -7,12 +7,14 @@ install(TARGETS quayside quaysidectl RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
 install(TARGETS
     quayside_support quayside_platform quayside_crypto quayside_widgets quayside_resources
     quayside_app quayside_regfile quayside_inspection quayside_window quayside_pages
+    quayside_headers
   EXPORT QuaysideTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 # Beside the maker's libraries the stand-in would be found in their place: it has the same name.
 if(NOT QUAYSIDE_HOST_LIBRARIES)
-  install(TARGETS quayside_host EXPORT QuaysideTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(TARGETS quayside_host EXPORT QuaysideTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT StandIn)
 endif()
 # The headers that others compile against; all others may change from one version to the next.
 set(public_headers

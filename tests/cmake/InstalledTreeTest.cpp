@@ -96,6 +96,64 @@ TEST_F(InstalledTree, ServesAProgramThatUsesTheServices)
               outputOf(consumerFolder() + "/consumer", {}));
 }
 
+class InstalledLibrary : public InstalledTree, public testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(InstalledLibrary, LinksByItself)
+{
+    EXPECT_TRUE(consumerBuilds(GetParam() + QStringLiteral("_alone")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Libraries, InstalledLibrary,
+                         testing::Values("support", "platform", "crypto", "widgets", "app",
+                                         "window"),
+                         [](const auto& row) { return std::string(row.param); });
+
+TEST_F(InstalledTree, IsFoundByItsComponents)
+{
+    const auto found = [](const QString& components) {
+        return resultOf("cmake", {"-S", QUAYSIDE_CONSUMER_FOLDER, "-B", folder->filePath("parts"),
+                                  "-G", "Ninja", "-DCMAKE_PREFIX_PATH=" + prefix(),
+                                  "-DCONSUMER_COMPONENTS=" + components});
+    };
+    const ChildResult known = found("crypto;host;headers");
+    EXPECT_EQ(0, known.status) << known.output.toStdString();
+    const ChildResult unknown = found("crypto;network");
+    EXPECT_NE(0, unknown.status);
+    EXPECT_TRUE(unknown.output.contains("There is no component \"network\"."))
+        << unknown.output.toStdString();
+}
+
+// A host library of somebody who has the headers alone.
+class InstalledHeaders : public InstalledTree
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        InstalledTree::SetUpTestSuite();
+        outputOf("cmake", {"-S", QUAYSIDE_AUTHOR_FOLDER, "-B", libraryFolder(), "-G", "Ninja",
+                           "-DCMAKE_PREFIX_PATH=" + prefix()});
+        outputOf("cmake", {"--build", libraryFolder()});
+    }
+    static QString libraryFolder() { return folder->filePath("author"); }
+};
+
+TEST_F(InstalledHeaders, ServeAHostLibraryThatPassesStrings)
+{
+    EXPECT_EQ("Global 1\n",
+              outputOf("env", {"LD_LIBRARY_PATH=" + libraryFolder(), prefix() + "/bin/quayside"}));
+}
+
+TEST_F(InstalledHeaders, LeaveDefinitionsAsStrongAsTheAuthorMakesThem)
+{
+    const QString symbols =
+        outputOf(QUAYSIDE_NM, {"-DC", "--defined-only", libraryFolder() + "/libKdPlatformBase.so"});
+    for (const char* name :
+         {"InitOrbxConfig(wchar_t const*)", "CreateConfigReg()", "GetCurrentOrbxLanguageId()"})
+        EXPECT_TRUE(symbols.contains(QStringLiteral(" T ") + name)) << symbols.toStdString();
+}
+
 TEST_F(InstalledTree, ServesAProgramThatShowsTheWindow)
 {
     QString names;
