@@ -202,9 +202,8 @@ public:
 
     virtual ~IPlatformResourceManager() = default;
 
-    /// Copies the text that the module's function "loadstring" (a `LoadStringFunction` of
-    /// host/HostLibraries.h) has for `id` into `buffer` of `size`
-    /// characters and returns the length of what then stands there, in characters without the
+    /// Copies the text that the module's "loadstring" (a `LoadStringFunction`) has for `id` into
+    /// `buffer` of `size` characters and returns the length of what then stands there, without the
     /// terminator. A text of `size` characters or more fills the buffer without a terminator, and
     /// the length is counted past its end: readable memory up to a terminator must follow.
     /// With size 0 the text's own address goes into the first pointer-sized word of `buffer`, which
@@ -385,11 +384,10 @@ public:
                                           unsigned char* data, unsigned int* byteCount) = 0;
 
     /// Makes a key exist: at first as an entry of its parent, not yet as a sub-key that is listed.
-    /// Never delivers a handle: the caller's HKEY stays as it was, and `result` itself becomes an
-    /// address that is not null and not valid: never test it, and never read what it points at.
-    /// Open the key to get a handle. Of a name that begins with U+FEFF that character is left out.
-    /// Directly under a root, "general" in any case of letters is "General" after a restart, once
-    /// the key has values or keys.
+    /// Never delivers a handle: the caller's HKEY stays, and `result` becomes an invalid address
+    /// that is not null: never test or read it, but open the key. Of a name that begins with U+FEFF
+    /// that character is left out. Directly under a root, "general" in any case of letters is
+    /// "General" after a restart, once the key has values or keys.
     virtual unsigned int RegCreateKeyExW(HKEY key, const wchar_t* subKey, unsigned int reserved,
                                          wchar_t* keyClass, unsigned int options,
                                          unsigned int access, _SECURITY_ATTRIBUTES* attributes,
