@@ -395,8 +395,7 @@ public:
 
     /// Opens a key that is an entry, or a group with anything in it; the caller owns the new
     /// handle. Otherwise the result becomes null and 2 is returned. Whether the key exists is asked
-    /// before "\" becomes "/", so that a path of several levels has to be written with "/". Null
-    /// result: 1.
+    /// before "\" becomes "/", so that a path of several levels has to be written with "/".
     virtual unsigned int RegOpenKeyExW(HKEY key, const wchar_t* subKey, unsigned int options,
                                        unsigned int access, HKEY* result) = 0;
 
@@ -407,9 +406,8 @@ public:
     /// Writes a value of type REG_DWORD, REG_NONE (as a DWORD), REG_SZ, REG_BINARY or REG_QWORD. Of
     /// a DWORD whose size is not 4, and of every QWORD, only the first byte is kept; a text is read
     /// up to its NUL, whatever the size. Null data, any other type and binary data of size 0 fail.
-    /// A name of "\" alone makes a value that is listed with an empty name; after a restart it is
-    /// gone, except from a key directly under a root. U+FEFF and "general" are treated as
-    /// `RegCreateKeyExW` says, the latter at once.
+    /// A name of "\" alone makes a value without a name, gone after a restart except from a key
+    /// directly under a root. U+FEFF and "general", this at once, are as `RegCreateKeyExW` says.
     virtual unsigned int RegSetValueExW(HKEY key, const wchar_t* valueName, unsigned int reserved,
                                         unsigned int type, const unsigned char* data,
                                         unsigned int byteCount) = 0;
@@ -418,8 +416,7 @@ public:
     virtual unsigned int RegCloseKey(HKEY key) = 0;
 
     /// Counts sub-keys and values and measures their longest names. The longest value data is that
-    /// of the value with the longest name: 4 for a DWORD, else 0. Of changes by others it knows as
-    /// much as `RegEnumKeyW` does.
+    /// of the value with the longest name: 4 for a DWORD, else 0. It lists like `RegEnumKeyW`.
     virtual unsigned int RegQueryInfoKeyW(HKEY key, wchar_t* keyClass, unsigned int* classLength,
                                           unsigned int* reserved, unsigned int* subKeys,
                                           unsigned int* longestSubKey, unsigned int* longestClass,
@@ -429,12 +426,9 @@ public:
                                           _FILETIME* lastWriteTime) = 0;
 
     /// Copies the name of a sub-key, without a terminator and whatever the capacity: the buffer
-    /// must be large enough, and the caller zeroes it.
-    /// Enumeration may use a list that it has made before in the same turn of the event loop. The
-    /// list is right whatever the services or the host library write to the store meanwhile, but
-    /// does not know of a second settings object on the same file, of a `sync()` by which the store
-    /// has read a change of another program, or of changes while the store's saving is withheld
-    /// from it by an event filter.
+    /// must be large enough, and the caller zeroes it. Within one turn of the event loop it may use
+    /// the list of an earlier call. That misses what a second settings object on the file writes,
+    /// what a `sync()` reads of other programs, and changes while a filter withholds the saving.
     virtual unsigned int RegEnumKeyW(HKEY key, unsigned int index, wchar_t* name,
                                      unsigned int capacity) = 0;
 
@@ -452,8 +446,8 @@ public:
                                        wchar_t* keyClass, unsigned int* classLength,
                                        _FILETIME* lastWriteTime) = 0;
 
-    /// Copies the name of a value like `RegEnumKeyExW`, then reads the value as it is now. The name
-    /// and its length are written even when the value cannot be read and 1 is returned.
+    /// Copies the name of a value like `RegEnumKeyExW`, then reads the value. The name and its
+    /// length are written even when the value cannot be read and 1 is returned.
     virtual unsigned int RegEnumValueW(HKEY key, unsigned int index, wchar_t* name,
                                        unsigned int* nameLength, unsigned int* reserved,
                                        unsigned int* type, unsigned char* data,
