@@ -110,8 +110,6 @@ private:
     std::vector<List> m_lists;
 };
 
-int ListingCache::Suspension::s_count = 0;
-
 std::shared_ptr<const StoreNames> ListingCache::names(QSettings& store, Kind kind)
 {
     return isPossible(store) ? instance().keptNames(store, kind) : listed(store, kind);

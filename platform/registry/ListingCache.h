@@ -53,16 +53,16 @@ public:
     class Suspension
     {
     public:
-        Suspension() { ++s_count; }
-        ~Suspension() { --s_count; }
+        Suspension() { ++activeCount; }
+        ~Suspension() { --activeCount; }
 
         Suspension(const Suspension&) = delete;
         Suspension& operator=(const Suspension&) = delete;
 
-        static bool isActive() { return s_count > 0; }
+        static bool isActive() { return activeCount > 0; }
 
     private:
-        static int s_count;
+        static inline int activeCount = 0;
     };
 
 private:
