@@ -95,7 +95,8 @@ private:
         m_isFileChanged = false;
     }
 
-    // As another program does it; at times the store is made to read it at once.
+    // As another program does it; at times the store is made to read it at once. Sections below
+    // sections are left out: each listing parses one more of them, so that two in a row differ.
     void writeFile()
     {
         QFile file(store.fileName());
@@ -103,7 +104,7 @@ private:
         switch (below(3)) {
         case 0: text += "\n[K1]\nforeign" + QByteArray::number(below(3)) + "=1$1\n"; break;
         case 1: text.replace("=1$7", "=1$8"); break;
-        default: text += "\n[K1\\Sub]\nlate" + QByteArray::number(below(3)) + "\\x=1$1\n";
+        default: text += "\n[K2]\nSub\\late" + QByteArray::number(below(3)) + "\\x=1$1\n";
         }
         const bool isFirst = !m_isFileChanged;
         replaceFile(text);
