@@ -3380,6 +3380,18 @@ Wide: %2</source>
         <source>There is not memory enough to try the change on a copy.</source>
         <translation>内存不足，无法在副本上试做此更改。</translation>
     </message>
+    <message>
+        <source>The change is tried on a copy first, which could not be written in %1: %2.</source>
+        <translation>更改会先在副本上试行，而副本无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>There is not memory enough to read the file.</source>
+        <translation>内存不足，无法读取该文件。</translation>
+    </message>
+    <message>
+        <source>There is not memory enough to read %1 once more: the change may have been made, and cannot be undone.</source>
+        <translation>内存不足，无法再次读取 %1：更改可能已完成，且无法撤消。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileEncodingBox</name>
@@ -4814,10 +4826,6 @@ Wide: %2</source>
 <context>
     <name>StoreWatch</name>
     <message>
-        <source>The store still holds what it had read. Its next change makes it read the file, and what the file lacks is gone.</source>
-        <translation>存储中仍是先前读取的内容。下一次更改会使其重新读取该文件，文件中没有的内容将会丢失。</translation>
-    </message>
-    <message>
         <source>The store&apos;s file %1 is gone: another program has deleted or moved it. The store still holds what it had read. Its next change makes a new file that holds nothing but that change.</source>
         <translation>存储的文件 %1 已不存在：其他程序已将其删除或移走。存储中仍是先前读取的内容。下一次更改将生成一个只含该更改的新文件。</translation>
     </message>
@@ -4836,6 +4844,14 @@ Wide: %2</source>
     <message>
         <source>The store could not be saved to %1, for which a full disk may be the reason. The last changes are not in the file, and end with the program unless a later change is saved.</source>
         <translation>存储未能保存到 %1，原因可能是磁盘已满。最近的更改不在该文件中；除非以后的更改保存成功，否则将随程序结束而丢失。</translation>
+    </message>
+    <message>
+        <source>The store still holds what it had read. Its next change makes it read the file, and what the file lacks is gone.</source>
+        <translation>存储中仍是先前读取的内容。下一次更改会使其重新读取该文件，文件中没有的内容将会丢失。</translation>
+    </message>
+    <message>
+        <source>The file is damaged, too: it has lines that are no entries, and that change writes it without them.</source>
+        <translation>该文件也已损坏：其中有不是条目的行，该次更改写入的文件将不再包含它们。</translation>
     </message>
 </context>
 <context>
