@@ -2207,6 +2207,49 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>LineDeviation</name>
+    <message>
+        <source>The quotes are no part of the value.</source>
+        <translation>引号不属于该值。</translation>
+    </message>
+    <message>
+        <source>The backslash at its end joins the next line to it.</source>
+        <translation>末尾的反斜杠将下一行与之相连。</translation>
+    </message>
+    <message>
+        <source>The byte order mark is no part of the value.</source>
+        <translation>字节顺序标记不属于该值。</translation>
+    </message>
+    <message>
+        <source>What begins with “@” is read as a value of another form.</source>
+        <translation>以“@”开头的内容被读作另一种形式的值。</translation>
+    </message>
+    <message>
+        <source>The spaces around the value are lost.</source>
+        <translation>值两端的空白会丢失。</translation>
+    </message>
+    <message>
+        <source>It does not look like an entry, but is one to the family.</source>
+        <translation>看起来不是条目，但该函数族将其视为条目。</translation>
+    </message>
+    <message>
+        <source>The family knows it by other names: key “%1”, section “%2”.</source>
+        <translation>该函数族以其他名称识别它：键“%1”，节“%2”。</translation>
+    </message>
+    <message>
+        <source>A carriage return in it ends the line.</source>
+        <translation>其中的回车符使该行结束。</translation>
+    </message>
+    <message>
+        <source>A carriage return in it is lost.</source>
+        <translation>其中的回车符会丢失。</translation>
+    </message>
+    <message>
+        <source>A zero byte in it ends names and values.</source>
+        <translation>其中的零字节使名称和值结束。</translation>
+    </message>
+</context>
+<context>
     <name>LineStateText</name>
     <message>
         <source>blank</source>
@@ -3021,6 +3064,14 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>The line is not UTF-8.</source>
         <translation>该行不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>The family reads UTF-8 alone.</source>
+        <translation>该函数族只读取 UTF-8。</translation>
+    </message>
+    <message>
+        <source>The family finds it only after a call that reads all sections.</source>
+        <translation>只有在某次调用读取了所有节之后，该函数族才能找到它。</translation>
     </message>
 </context>
 <context>
