@@ -1,8 +1,9 @@
 #include "ctl/profiles/ProfileMergeCommand.h"
 
+#include "ctl/ByteInput.h"
 #include "ctl/Failure.h"
+#include "ctl/InputDevice.h"
 #include "ctl/JobRun.h"
-#include "ctl/crypto/ByteInput.h"
 #include "ctl/profiles/FamilyOption.h"
 #include "ctl/profiles/ProfileEdit.h"
 #include "ctl/profiles/ProfileEntries.h"
@@ -21,9 +22,8 @@ void saveInput(const QByteArray& bytes, const QString& path)
 
 QByteArray input()
 {
-    QByteArray bytes;
-    ByteInput::read(QString(), [&](const QByteArray& piece) { bytes += piece; });
-    return bytes;
+    InputDevice device{QString()};
+    return ByteInput::readAll(device);
 }
 
 // What the family loses of the input would be lost in the file.

@@ -194,13 +194,6 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
-    <name>ByteInput</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
-</context>
-<context>
     <name>ByteResult</name>
     <message>
         <source>Writes into this file.</source>
@@ -1242,6 +1235,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Only records of this character set, by its code.</source>
         <translation>仅限此字符集（以代码指定）的记录。</translation>
     </message>
+    <message>
+        <source>The service reports no such font.</source>
+        <translation>服务没有报告这样的字体。</translation>
+    </message>
 </context>
 <context>
     <name>FontsPage</name>
@@ -2038,6 +2035,21 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>InputDevice</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>The standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>The descriptor %1</source>
+        <translation>描述符 %1</translation>
+    </message>
+</context>
+<context>
     <name>Interruption</name>
     <message>
         <source>Interrupted: nothing more has been done.</source>
@@ -2127,6 +2139,14 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>The pass phrase is empty.</source>
         <translation>口令为空。</translation>
+    </message>
+    <message>
+        <source>Pass phrase again</source>
+        <translation>再次输入口令</translation>
+    </message>
+    <message>
+        <source>The two pass phrases are not the same.</source>
+        <translation>两次输入的口令不一致。</translation>
     </message>
 </context>
 <context>
@@ -3856,6 +3876,14 @@ Wide: %2</source>
         <source>%1 Nothing is saved; --force saves the rest.</source>
         <translation>%1未保存任何内容；--force 将保存其余部分。</translation>
     </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not in the encoding of the locale.</source>
+        <translation>参数“%1”不符合区域设置的编码。</translation>
+    </message>
+    <message>
+        <source>Put &quot;--&quot; before arguments that begin with &quot;-&quot;.</source>
+        <translation>请在以“-”开头的参数之前加上“--”。</translation>
+    </message>
 </context>
 <context>
     <name>ReadingRemark</name>
@@ -4089,10 +4117,6 @@ Wide: %2</source>
         <translation>不能复制根本身，也不能取代它。</translation>
     </message>
     <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
         <source>%1 is below the key that is to be copied.</source>
         <translation>%1 位于要复制的键之下。</translation>
     </message>
@@ -4262,6 +4286,10 @@ Wide: %2</source>
         <source>&quot;%1&quot; of %2 cannot be read: %3</source>
         <translation>无法读取 %2 中的“%1”：%3</translation>
     </message>
+    <message>
+        <source>Either --type or --raw, not both.</source>
+        <translation>--type 和 --raw 只能选其一。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryHistory</name>
@@ -4328,10 +4356,6 @@ Wide: %2</source>
 </context>
 <context>
     <name>RegistryImportCommand</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
@@ -4461,16 +4485,8 @@ Wide: %2</source>
         <translation>不能重命名根本身。</translation>
     </message>
     <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;.</source>
         <translation>%1 中没有值“%2”。</translation>
-    </message>
-    <message>
-        <source>%1 has a value &quot;%2&quot; already.</source>
-        <translation>%1 中已有值“%2”。</translation>
     </message>
     <message>
         <source>Names what would be renamed, and does nothing.</source>
@@ -4479,14 +4495,6 @@ Wide: %2</source>
 </context>
 <context>
     <name>RegistryRenamer</name>
-    <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
-        <source>%1 has a value &quot;%2&quot; already.</source>
-        <translation>%1 中已有值“%2”。</translation>
-    </message>
     <message>
         <source>Rename the key</source>
         <translation>重命名项</translation>
@@ -4721,10 +4729,6 @@ Wide: %2</source>
 <context>
     <name>Secret</name>
     <message>
-        <source>The secret cannot be read: %1</source>
-        <translation>无法读取密钥信息：%1</translation>
-    </message>
-    <message>
         <source>There is no terminal to ask for the secret on: name a file.</source>
         <translation>没有可供询问密钥信息的终端：请指定文件。</translation>
     </message>
@@ -4948,6 +4952,17 @@ Wide: %2</source>
     <message>
         <source>Original order</source>
         <translation>原始顺序</translation>
+    </message>
+</context>
+<context>
+    <name>TakenName</name>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 has a value &quot;%2&quot; already.</source>
+        <translation>%1 已有值“%2”。</translation>
     </message>
 </context>
 <context>
