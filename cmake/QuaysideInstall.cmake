@@ -1,9 +1,10 @@
-# The installed tree: the program with Qt's catalogue for it, the stand-in, and the libraries with
+# The component "programs" is what runs without a compiler. The installed tree: the program with Qt's catalogue for it, the stand-in, and the libraries with
 # their headers and a CMake package for those who compile against them.
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Quayside)
-install(TARGETS quayside quaysidectl RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS quayside quaysidectl
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT programs)
 install(TARGETS
     quayside_support quayside_platform quayside_crypto quayside_widgets quayside_resources
     quayside_app quayside_regfile quayside_inspection quayside_window quayside_pages
@@ -12,7 +13,8 @@ install(TARGETS
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 # Beside the maker's libraries the stand-in would be found in their place: it has the same name.
 if(NOT QUAYSIDE_HOST_LIBRARIES)
-  install(TARGETS quayside_host EXPORT QuaysideTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(TARGETS quayside_host EXPORT QuaysideTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT programs)
 endif()
 # The headers that others compile against; all others may change from one version to the next.
 set(public_headers
@@ -32,7 +34,7 @@ foreach(header IN LISTS public_headers)
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/quayside/${folder})
 endforeach()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/run/translations
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/quayside)
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/quayside COMPONENT programs)
 
 install(FILES ${PROJECT_SOURCE_DIR}/docs/quaysidectl.1
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

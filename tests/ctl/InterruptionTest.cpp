@@ -11,7 +11,7 @@ class CtlInterruption : public CtlTest, public testing::WithParamInterface<const
 // program has begun to note signals.
 TEST_P(CtlInterruption, EndsTheWaitForInputAndLeavesEverythingAsItWas)
 {
-    if (qstrlen(QUAYSIDE_EMULATOR) > 0)
+    if (isEmulated())
         GTEST_SKIP() << "the system shows the signals that the emulator handles";
     const QByteArray store("[A]\nv=5$x\n");
     const QByteArray profile("[s]\nk=v\n");
@@ -44,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(CtlInterruption, EndsTheWaitForAPipeThatNobodyHasOpened)
 {
-    if (qstrlen(QUAYSIDE_EMULATOR) > 0)
+    if (isEmulated())
         GTEST_SKIP() << "the system shows the signals that the emulator handles";
     const Result result =
         shell("mkfifo pipe; $CTL crypto digest pipe &"

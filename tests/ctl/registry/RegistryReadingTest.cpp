@@ -115,6 +115,8 @@ TEST_F(CtlRegistryReading, ComparesTwoKeys)
                           "removed\t\told\tREG_SZ x\t\n"
                           "changed\t\tv\tREG_SZ x\tREG_SZ y\n");
     EXPECT_EQ(status({"registry", "compare", "A", "A"}), 0);
+    EXPECT_EQ(out({"registry", "compare", "HKLM\\A", "HKEY_CURRENT_USER/B"}), result.out);
+    EXPECT_EQ(status({"registry", "compare", "HKXX\\A", "B"}), 2);
     EXPECT_EQ(status({"registry", "compare", "A", "Nope"}), 1);
 }
 
