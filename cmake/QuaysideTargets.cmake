@@ -50,6 +50,27 @@ function(quayside_configure target)
     POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
+# quayside_program(<target>): a program that loads host libraries. They may take the services object
+# and the decryption from it: the dynamic list puts the two into the program's dynamic symbol table,
+# which by itself offers nothing; the version script keeps everything else out of it.
+function(quayside_program target)
+  quayside_configure(${target})
+  set_target_properties(${target} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/run
+    BUILD_RPATH_USE_ORIGIN ON
+    LINK_DEPENDS
+      "${PROJECT_SOURCE_DIR}/cmake/exports.list;${PROJECT_SOURCE_DIR}/cmake/exports.map")
+  if(QUAYSIDE_HOST_LIBRARIES)
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
+  else()
+    set_target_properties(${target} PROPERTIES
+      INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  endif()
+  target_link_options(${target} PRIVATE
+    -Wl,--dynamic-list=${PROJECT_SOURCE_DIR}/cmake/exports.list
+    -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+endfunction()
+
 # quayside_library(<name> <sources>...): the static library quayside_<name>, alias Quayside::<name>,
 # on the floor of the same name.
 function(quayside_library name)
