@@ -24,6 +24,8 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     QApplication application(argc, argv);
+    // The name under which desktops know the application, and find its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("quayside"));
     QTranslator appTranslator;
     QTranslator qtTranslator;
     parseCommandLine(argc, argv, appTranslator, qtTranslator);
@@ -31,5 +33,6 @@ int main(int argc, char** argv)
     window.showPage(requestedPage(argc, argv));
     centreOnDesktop(window);
     window.show();
+    window.openFile(requestedFile(argc, argv));
     return QApplication::exec();
 }

@@ -202,8 +202,8 @@ public:
 
     virtual ~IPlatformResourceManager() = default;
 
-    /// Copies the text that the module's function "loadstring" has for `id` into `buffer` of `size`
-    /// characters and returns the length of what then stands there, in characters without the
+    /// Copies the text that the module's "loadstring" (a `LoadStringFunction`) has for `id` into
+    /// `buffer` of `size` characters and returns the length of what then stands there, without the
     /// terminator. A text of `size` characters or more fills the buffer without a terminator, and
     /// the length is counted past its end: readable memory up to a terminator must follow.
     /// With size 0 the text's own address goes into the first pointer-sized word of `buffer`, which
@@ -377,17 +377,17 @@ public:
     /// Reads a value. `byteCount` says how large `data` is and becomes the length of the data: 4
     /// for a REG_DWORD (not asked for where `data` is null), 8 for a REG_QWORD, as many bytes as
     /// there are for REG_BINARY; a REG_SZ is UTF-32 without a terminator, though `byteCount` has to
-    /// be larger than the text. What is too small gets nothing but `type`. Directly under a root,
-    /// the value X is the entry X/X, as `RegSetValueExW` writes it.
+    /// be larger than the text. Where that is too small nothing is written, `type` neither.
+    /// Directly under a root, the value X is the entry X/X, as `RegSetValueExW` writes it.
     virtual unsigned int RegQueryValueExW(HKEY key, const wchar_t* valueName,
                                           unsigned int* reserved, unsigned int* type,
                                           unsigned char* data, unsigned int* byteCount) = 0;
 
     /// Makes a key exist: at first as an entry of its parent, not yet as a sub-key that is listed.
-    /// Never delivers a handle: `result` itself is left pointing at nothing and the caller's HKEY
-    /// stays as it was. Open the key to get one. Of a name that begins with U+FEFF that character
-    /// is left out. Directly under a root, "general" in any case of letters is "General" after a
-    /// restart, once the key has values or keys.
+    /// Never delivers a handle: the caller's HKEY stays, and `result` becomes an invalid address
+    /// that is not null: never test or read it, but open the key. Of a name that begins with U+FEFF
+    /// that character is left out. Directly under a root, "general" in any case of letters is
+    /// "General" after a restart, once the key has values or keys.
     virtual unsigned int RegCreateKeyExW(HKEY key, const wchar_t* subKey, unsigned int reserved,
                                          wchar_t* keyClass, unsigned int options,
                                          unsigned int access, _SECURITY_ATTRIBUTES* attributes,

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# lint.sh BUILD: formatting, scripts, floors, sizes, headers that compile alone, translations,
-# clang-tidy and clazy. BUILD holds compile_commands.json. The last line is "N passed, N failed", a
+# lint.sh BUILD: formatting, scripts, floors, sizes, version, binary interface, headers that compile
+# alone, translations, clang-tidy and clazy. BUILD holds compile_commands.json. The last line is "N passed, N failed", a
 # check a pass.
 set -uo pipefail
 build=$1
@@ -53,7 +53,7 @@ clazy() {
 headers_alone() {
     local flags
     flags=$(pkg-config --cflags Qt5Widgets)
-    printf '%s\0' "${headers[@]}" | grep -zvE '^(tests|bench|examples)/' |
+    printf '%s\0' "${headers[@]}" | grep -zvE '^(tests|bench|examples|fuzz)/' |
         xargs -0 -n 1 -P "$jobs" sh -c \
             "exec g++ -std=c++17 -fPIC -fsyntax-only -Wall -Wextra -I. $flags -x c++ \"\$1\"" compile
 }
@@ -66,6 +66,8 @@ check "clang-format" clang-format --dry-run -Werror "${sources[@]}" "${headers[@
 check "shellcheck" shellcheck "${scripts[@]}"
 check "floors" tools/floors.py
 check "sizes" sizes
+check "version" tools/version.py
+check "binary interface" tools/abi.sh
 check "headers compile alone" headers_alone
 # Every text of the window has its Chinese translation, and none is left over.
 check "translations" tools/catalogue.py --check

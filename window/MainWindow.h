@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+class FileOpener;
 class HelpWindow;
 class Page;
 class PageRail;
@@ -27,6 +28,9 @@ public:
     /// unknown name changes nothing. Call it before the window is shown.
     void showPage(const QString& name);
 
+    /// Opens a file in the page for its kind; does nothing where there is none, or no path.
+    void openFile(const QString& path);
+
     /// The page in view; null until it has been made.
     Page* currentPage() const;
 
@@ -45,5 +49,6 @@ private:
     std::vector<QString> m_names;
     PageRail* m_rail;
     PageStack* m_stack;
+    FileOpener* m_opener;
     HelpWindow* m_help = nullptr; ///< made when it is asked for
 };
