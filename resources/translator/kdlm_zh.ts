@@ -209,6 +209,47 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>CallFilter</name>
+    <message>
+        <source>&quot;%1&quot; names no calls. Wanted are numbers such as 17 or 10-20, and op:NAME, caller:TEXT, manager:NAME or thread:NUMBER.</source>
+        <translation>“%1”不表示任何调用。应为 17 或 10-20 这样的编号，以及 op:NAME、caller:TEXT、manager:NAME 或 thread:NUMBER。</translation>
+    </message>
+</context>
+<context>
+    <name>CallParts</name>
+    <message>
+        <source>unknown handle</source>
+        <translation>未知句柄</translation>
+    </message>
+    <message>
+        <source>(outcome)</source>
+        <translation>（结局）</translation>
+    </message>
+    <message>
+        <source>never returned</source>
+        <translation>未返回</translation>
+    </message>
+    <message>
+        <source>returned</source>
+        <translation>已返回</translation>
+    </message>
+    <message>
+        <source>%1 (written)</source>
+        <translation>%1（写入）</translation>
+    </message>
+    <message>
+        <source>(result)</source>
+        <translation>（返回值）</translation>
+    </message>
+</context>
+<context>
+    <name>CallText</name>
+    <message>
+        <source>(never returned)</source>
+        <translation>（未返回）</translation>
+    </message>
+</context>
+<context>
     <name>ChangeReport</name>
     <message>
         <source>%1 %2</source>
@@ -426,6 +467,26 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Prints the data of a value, or of all values of a key.</source>
         <translation>输出一个值的数据，或键的所有值的数据。</translation>
+    </message>
+    <message>
+        <source>Prints the calls of a recording.</source>
+        <translation>显示记录文件中的调用。</translation>
+    </message>
+    <message>
+        <source>Counts calls, failures and time, and what was asked for and absent.</source>
+        <translation>统计调用、失败和时间，以及请求了什么、缺少什么。</translation>
+    </message>
+    <message>
+        <source>Lists handles and arrays that were never given back.</source>
+        <translation>列出从未归还的句柄和数组。</translation>
+    </message>
+    <message>
+        <source>Compares two recordings.</source>
+        <translation>比较两个记录文件。</translation>
+    </message>
+    <message>
+        <source>Keeps some calls of a recording, with what they need.</source>
+        <translation>保留记录文件中的部分调用及其所需的调用。</translation>
     </message>
 </context>
 <context>
@@ -2866,6 +2927,82 @@ Put it in the place of the file to bring everything back.</source>
         <source>Here</source>
         <translation>此处</translation>
     </message>
+    <message>
+        <source>Call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>In the second</source>
+        <translation>在第二个中</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>深度</translation>
+    </message>
+    <message>
+        <source>Thread</source>
+        <translation>线程</translation>
+    </message>
+    <message>
+        <source>Caller</source>
+        <translation>调用者</translation>
+    </message>
+    <message>
+        <source>Manager</source>
+        <translation>管理器</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>返回值</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>用时</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>调用次数</translation>
+    </message>
+    <message>
+        <source>Failures</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>不存在</translation>
+    </message>
+    <message>
+        <source>Never returned</source>
+        <translation>未返回</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>最长</translation>
+    </message>
+    <message>
+        <source>Handle</source>
+        <translation>句柄</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>部分</translation>
+    </message>
 </context>
 <context>
     <name>PageCatalogue</name>
@@ -3902,6 +4039,21 @@ Wide: %2</source>
     <message>
         <source>Not found under this name</source>
         <translation>按此名称找不到</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingArgument</name>
+    <message>
+        <source>%L1 more lines cannot be read.</source>
+        <translation>另有 %L1 行无法读取。</translation>
+    </message>
+    <message>
+        <source>Only these calls: 10-20,op:NAME,caller:TEXT,manager:NAME,thread:NUMBER.</source>
+        <translation>只取这些调用：10-20,op:NAME,caller:TEXT,manager:NAME,thread:NUMBER。</translation>
+    </message>
+    <message>
+        <source>Only calls that failed or never returned.</source>
+        <translation>只取失败或未返回的调用。</translation>
     </message>
 </context>
 <context>
@@ -4986,6 +5138,122 @@ Wide: %2</source>
     <message>
         <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
         <translation>文本过长：共 %L1 字节，最多接受 %L2 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDiffCommand</name>
+    <message>
+        <source>Prints the first difference alone.</source>
+        <translation>只显示第一处差异。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDifference</name>
+    <message>
+        <source>handle of call %1</source>
+        <translation>调用 %1 的句柄</translation>
+    </message>
+    <message>
+        <source>handle of call %1 of the second recording</source>
+        <translation>第二个记录文件中调用 %1 的句柄</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDumpCommand</name>
+    <message>
+        <source>&quot;%1&quot; is no pattern: %2.</source>
+        <translation>“%1”不是正则表达式：%2。</translation>
+    </message>
+    <message>
+        <source>Call %1 is damaged.</source>
+        <translation>调用 %1 已损坏。</translation>
+    </message>
+    <message>
+        <source>Only calls whose line matches this regular expression.</source>
+        <translation>只取其行与此正则表达式匹配的调用。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceFault</name>
+    <message>
+        <source>Line %L1 is damaged.</source>
+        <translation>第 %L1 行已损坏。</translation>
+    </message>
+    <message>
+        <source>Line %L1 is too long.</source>
+        <translation>第 %L1 行过长。</translation>
+    </message>
+    <message>
+        <source>Line %L1 is cut off: the recording has ended within it.</source>
+        <translation>第 %L1 行不完整：记录在此行中断。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceFile</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is no file: a recording is read more than once.</source>
+        <translation>%1 不是普通文件：记录文件需要多次读取。</translation>
+    </message>
+    <message>
+        <source>%1 is no recording.</source>
+        <translation>%1 不是记录文件。</translation>
+    </message>
+    <message>
+        <source>%1 is a recording of a form that is not known here: %2.</source>
+        <translation>%1 是此处未知格式的记录文件：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceLeaksCommand</name>
+    <message>
+        <source>A recording does not show whether an array was freed.</source>
+        <translation>记录文件无法显示数组是否已释放。</translation>
+    </message>
+    <message>
+        <source>The recording has no end: the program was still running, or was killed.</source>
+        <translation>记录没有结尾：程序仍在运行，或已被终止。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceStatCommand</name>
+    <message>
+        <source>&quot;%1&quot; is no number.</source>
+        <translation>“%1”不是数字。</translation>
+    </message>
+    <message>
+        <source>Only what was asked for and was not there.</source>
+        <translation>只列出请求过而不存在的内容。</translation>
+    </message>
+    <message>
+        <source>How many keys, values, entries and files are printed; otherwise 20 of each, and all for 0.</source>
+        <translation>显示多少个键、值、条目和文件；默认各 20 个，0 表示全部。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceTrimCommand</name>
+    <message>
+        <source>The recording cannot be written: %1.</source>
+        <translation>无法写入记录文件：%1。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Which calls? Name them by --calls.</source>
+        <translation>哪些调用？请用 --calls 指定。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file to write.</source>
+        <translation>使用 --json 时，请指定要写入的文件。</translation>
+    </message>
+    <message>
+        <source>Kept: %L1 of %L2 calls, %L3 of them because others need them.</source>
+        <translation>已保留 %L2 个调用中的 %L1 个，其中 %L3 个是其他调用所需的。</translation>
     </message>
 </context>
 <context>
