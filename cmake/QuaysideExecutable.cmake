@@ -12,13 +12,8 @@ add_executable(quayside ${PROJECT_SOURCE_DIR}/app/main.cpp)
 quayside_configure(quayside)
 set_target_properties(quayside PROPERTIES
   POSITION_INDEPENDENT_CODE ON
-  RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/run
-  BUILD_RPATH_USE_ORIGIN ON)
-if(QUAYSIDE_HOST_LIBRARIES)
-  set_target_properties(quayside PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
-else()
-  set_target_properties(quayside PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
-endif()
+  RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/run)
+quayside_find_host_libraries(quayside)
 
 set(whole_archives)
 foreach(name IN LISTS quayside_archives)

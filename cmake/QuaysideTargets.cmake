@@ -50,6 +50,19 @@ function(quayside_configure target)
     POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
+# quayside_find_host_libraries(<program>): where a program in the folder run/ of the build, or an
+# installed one, looks for what it links of the host libraries. The same in both places: a path that
+# is exchanged when the program is installed gets an empty entry until then, and the dynamic loader
+# takes that for the working directory.
+function(quayside_find_host_libraries program)
+  set_target_properties(${program} PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
+  if(QUAYSIDE_HOST_LIBRARIES)
+    set_target_properties(${program} PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
+  else()
+    set_target_properties(${program} PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  endif()
+endfunction()
+
 # quayside_library(<name> <sources>...): the static library quayside_<name>, alias Quayside::<name>,
 # on the floor of the same name.
 function(quayside_library name)
