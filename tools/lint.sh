@@ -53,7 +53,7 @@ clazy() {
 headers_alone() {
     local flags
     flags=$(pkg-config --cflags Qt5Widgets)
-    printf '%s\0' "${headers[@]}" | grep -zvE '^(tests|bench|examples)/' |
+    printf '%s\0' "${headers[@]}" | grep -zvE '^(tests|bench|examples|fuzz)/' |
         xargs -0 -n 1 -P "$jobs" sh -c \
             "exec g++ -std=c++17 -fPIC -fsyntax-only -Wall -Wextra -I. $flags -x c++ \"\$1\"" compile
 }

@@ -1,57 +1,11 @@
+#include "tests/platform/profiles/PlainNarrowProfile.h"
 #include "tests/platform/profiles/ProfileManagerTest.h"
-
-#include <QMap>
-#include <QTextStream>
 
 #include <cstring>
 #include <random>
 #include <vector>
 
 namespace {
-
-using Sections = QMap<QString, QMap<QString, QString>>;
-
-// The same reading and writing, done plainly with a text stream.
-Sections readPlainly(const QString& path)
-{
-    Sections sections;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return sections;
-    QTextStream stream(&file);
-    stream.setCodec("utf-8");
-    QString current;
-    while (!stream.atEnd()) {
-        const QString line = stream.readLine();
-        if (line.startsWith('[')) {
-            current = line;
-            sections.insert(current, {});
-            continue;
-        }
-        const QStringList parts = line.split('=');
-        if (parts.size() == 2 && !current.isEmpty())
-            sections[current].insert(parts[0].trimmed(), parts[1].trimmed());
-    }
-    return sections;
-}
-
-QByteArray writtenPlainly(const Sections& sections, const QString& path)
-{
-    QFile file(path);
-    file.remove();
-    EXPECT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Text));
-    QTextStream stream(&file);
-    stream.setCodec("utf-8");
-    for (auto section = sections.begin(); section != sections.end(); ++section) {
-        stream << section.key() << "\n";
-        for (auto entry = section->begin(); entry != section->end(); ++entry)
-            stream << entry.key() << "=" << entry.value() << "\n";
-    }
-    stream.flush();
-    file.seek(0);
-    file.setTextModeEnabled(false);
-    return file.readAll();
-}
 
 // Names that can be asked for: no NUL, and unchanged by UTF-8.
 bool isAskable(const QString& name)
@@ -99,7 +53,8 @@ protected:
     {
         SCOPED_TRACE(content.left(2000).toPercentEncoding().toStdString());
         write(content);
-        Sections sections = readPlainly(path);
+        PlainNarrowProfile plain(path);
+        const auto& sections = plain.sections();
         for (auto section = sections.begin(); section != sections.end(); ++section) {
             const QString name = section.key().mid(1, section.key().size() - 2);
             if (!isAskable(section.key()) || !section.key().endsWith(']'))
@@ -109,8 +64,8 @@ protected:
         }
         EXPECT_EQ("", readNarrow("no such section", "k"));
         EXPECT_EQ(1, writeNarrow("S", "k", "\xE4\xB8\xAD"));
-        sections["[S]"]["k"] = QString::fromUtf8("中");
-        EXPECT_EQ(writtenPlainly(sections, folder.filePath("plain.ini")), this->content());
+        plain.set("[S]", "k", QString::fromUtf8("中"));
+        EXPECT_EQ(plain.writtenTo(folder.filePath("plain.ini")), this->content());
     }
 
     void expectValue(const QString& section, const QString& key, const QString& value)
