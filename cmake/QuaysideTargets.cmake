@@ -52,12 +52,15 @@ endfunction()
 
 # quayside_program(<target>): a program that loads host libraries. They may take the services object
 # and the decryption from it: the dynamic list puts the two into the program's dynamic symbol table,
-# which by itself offers nothing; the version script keeps everything else out of it.
+# which by itself offers nothing; the version script keeps everything else out of it. Where it looks
+# for host libraries is the same in the folder run/ of the build and installed: a path that is exchanged
+# when the program is installed gets an empty entry until then, and the dynamic loader takes that for
+# the working directory.
 function(quayside_program target)
   quayside_configure(${target})
   set_target_properties(${target} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/run
-    BUILD_RPATH_USE_ORIGIN ON
+    BUILD_WITH_INSTALL_RPATH ON
     LINK_DEPENDS
       "${PROJECT_SOURCE_DIR}/cmake/exports.list;${PROJECT_SOURCE_DIR}/cmake/exports.map")
   if(QUAYSIDE_HOST_LIBRARIES)

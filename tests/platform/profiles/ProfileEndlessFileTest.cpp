@@ -1,4 +1,5 @@
 #include "tests/platform/profiles/ProfileManagerTest.h"
+#include "tests/support/ForkedCheck.h"
 #include "tests/support/WaitFor.h"
 
 #include <QFileInfo>
@@ -20,27 +21,16 @@ constexpr bool isMemoryOwn = false; // most of it is the sanitizer's
 constexpr bool isMemoryOwn = !QUAYSIDE_CROSS_BUILT; // an emulator's is not either
 #endif
 
-// What makes the calls stands in a child process: one that waits or that ends by an exception fails
-// the test alone.
+using ForkedCheck::differed;
+using ForkedCheck::passed;
+using ForkedCheck::patience;
+
 class ProfileEndlessFile : public ProfileManagerTest
 {
 protected:
-    static constexpr int passed = 0;
-    static constexpr int differed = 1;
-    static constexpr unsigned int patience = 300; // seconds: only what waits for good waits so long
-
-    // How the child ends: its status, or the negative number of the signal that ended it.
     static int inChild(const std::function<bool()>& check)
     {
-        const pid_t child = fork();
-        if (child == 0) {
-            signal(SIGALRM, SIG_DFL);
-            alarm(patience);
-            _exit(check() ? passed : differed);
-        }
-        int status = 0;
-        EXPECT_EQ(child, waitpid(child, &status, 0));
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+        return ForkedCheck::statusOf([&] { return check() ? passed : differed; });
     }
 
     std::string narrowOf(const QByteArray& file)
