@@ -385,10 +385,9 @@ public:
                                           unsigned char* data, unsigned int* byteCount) = 0;
 
     /// Makes a key exist: at first as an entry of its parent, not yet as a sub-key that is listed.
-    /// Never delivers a handle: the caller's HKEY stays, and `result` becomes an invalid address
-    /// that is not null: never test or read it, but open the key. Of a name that begins with U+FEFF
-    /// that character is left out. Directly under a root, "general" in any case of letters is
-    /// "General" after a restart, once the key has values or keys.
+    /// Never delivers a handle: `result` becomes an invalid address that is not null; never test or
+    /// read it, but open the key. U+FEFF at the start of a name is left out. Directly under a root,
+    /// "general" in any case is "General" after a restart, once the key has values or keys.
     virtual unsigned int RegCreateKeyExW(HKEY key, const wchar_t* subKey, unsigned int reserved,
                                          wchar_t* keyClass, unsigned int options,
                                          unsigned int access, _SECURITY_ATTRIBUTES* attributes,
