@@ -57,8 +57,7 @@ public:
     virtual void* findFirstFile(const wchar_t* pattern, _WIN32_FIND_DATAW* data) = 0;
 
     /// Goes on to the next entry and writes its name and attributes, and nothing else, to `data`.
-    /// Returns 1, or 0 after the last entry and for a null or invalid argument. Every value is
-    /// invalid as a handle but those of searches that have not been ended.
+    /// Returns 1, or 0 after the last entry, for null, and for the handle of no search still going.
     virtual int findNextFile(void* search, _WIN32_FIND_DATAW* data) = 0;
 
     /// Ends a search and frees its handle. Returns 1; 0 for a null or invalid handle.

@@ -53,8 +53,10 @@ bool StoreSavingGuard::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::UpdateRequest || watched != RawStore::receiver())
         return QObject::eventFilter(watched, event);
-    if (m_wait.isActive())
+    if (m_wait.isActive()) {
+        m_withheld.emplace();
         return true; // the next trial saves that, too
+    }
     begin();
     return false;
 }
@@ -136,4 +138,5 @@ void StoreSavingGuard::timerEvent(QTimerEvent* event)
     m_wait.stop();
     if (m_store)
         QCoreApplication::postEvent(m_store, new QEvent(QEvent::UpdateRequest));
+    m_withheld.reset();
 }

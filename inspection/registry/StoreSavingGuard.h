@@ -2,6 +2,7 @@
 
 #include "inspection/registry/StoreSaving.h"
 #include "platform/files/KnownFile.h"
+#include "platform/registry/ListingCache.h"
 
 #include <QBasicTimer>
 #include <QMap>
@@ -64,4 +65,7 @@ private:
     int m_entries = 0;  ///< of the store before the saving
     Entries m_owed;     ///< what a saving that was cut has not saved; null what it has not removed
     QBasicTimer m_wait; ///< until the next trial
+    /// Set when a saving waits for that: the store then asks itself for no other one, which would
+    /// be the sign of further changes.
+    std::optional<ListingCache::Suspension> m_withheld;
 };
