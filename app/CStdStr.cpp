@@ -1,21 +1,8 @@
 #include "app/CStdStr.h"
 
-#include "host/HostLibraries.h"
-
 #include <cstdint>
 #include <functional>
 #include <locale>
-
-CStdStr<wchar_t>::CStdStr(const wchar_t* text)
-{
-    if (text)
-        assign(text);
-}
-
-CStdStr<wchar_t>::CStdStr(const CStdStr<wchar_t>& other) : std::basic_string<wchar_t>(other)
-{
-    updateCStringManagerData(this);
-}
 
 namespace {
 

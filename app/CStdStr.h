@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/HostLibraries.h"
+
 #include <string>
 
 template <typename CharT>
@@ -10,6 +12,9 @@ class CStdStr;
 ///
 /// There is deliberately no move constructor: a move is a copy, and a copy is announced. Containers
 /// of these strings therefore announce each element that they copy or move in.
+///
+/// Everything of it is defined here: the application does not export it, so a host library brings
+/// what it uses of it.
 template <>
 class CStdStr<wchar_t> : public std::basic_string<wchar_t>
 {
@@ -18,10 +23,17 @@ public:
 
     /// Copies a NUL-terminated text; null gives the empty string. Announces nothing.
     /// Implicit, because callers pass wide literals where the interfaces take a string.
-    CStdStr(const wchar_t* text); // NOLINT(google-explicit-constructor)
+    CStdStr(const wchar_t* text) // NOLINT(google-explicit-constructor)
+    {
+        if (text)
+            assign(text);
+    }
 
     /// Copies `other`, then calls `updateCStringManagerData` with the address of the new string.
-    CStdStr(const CStdStr<wchar_t>& other);
+    CStdStr(const CStdStr<wchar_t>& other) : std::basic_string<wchar_t>(other)
+    {
+        updateCStringManagerData(this);
+    }
 
     /// Replaces the text; an assignment makes no new string and announces nothing.
     CStdStr<wchar_t>& operator=(const CStdStr<wchar_t>& other) = default;

@@ -34,3 +34,8 @@ QString requestedPage(int argc, char** argv)
 {
     return optionValue(argc, argv, "/page");
 }
+
+QString requestedFile(int argc, char** argv)
+{
+    return optionValue(argc, argv, "/open");
+}

@@ -15,3 +15,7 @@ void parseCommandLine(int argc, char** argv, QTranslator& appTranslator, QTransl
 /// The value of the option "/page", read by the same rules: the name of the page to open the window
 /// on. Empty when the option is not given.
 QString requestedPage(int argc, char** argv);
+
+/// The value of the option "/open", read by the same rules: the path of a file to open in the page
+/// for it. Empty when the option is not given.
+QString requestedFile(int argc, char** argv);

@@ -6,6 +6,14 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
+// What the configuration library defines is null here where there is none. Said here and not where
+// the functions are declared: there it would make the definitions of whoever includes the header
+// weak too. NOLINTBEGIN(readability-redundant-declaration)
+[[gnu::weak]] int InitOrbxConfig(const wchar_t* language);
+[[gnu::weak]] void CreateConfigReg();
+[[gnu::weak]] int GetCurrentOrbxLanguageId();
+// NOLINTEND(readability-redundant-declaration)
+
 // In the global namespace, as the macro demands: programs that link the libraries in the ordinary
 // way would otherwise lose the resources, which nothing else references.
 static void keepResources()

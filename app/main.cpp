@@ -24,11 +24,14 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     QApplication application(argc, argv);
+    // The name under which desktops know the application, and find its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("quayside"));
     QTranslator appTranslator;
     QTranslator qtTranslator;
     parseCommandLine(argc, argv, appTranslator, qtTranslator);
     MainWindow window;
     window.showPage(requestedPage(argc, argv));
+    window.openFile(requestedFile(argc, argv));
     centreOnDesktop(window);
     window.show();
     return QApplication::exec();

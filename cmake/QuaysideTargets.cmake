@@ -57,17 +57,28 @@ function(quayside_configure target)
     POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
-# quayside_find_host_libraries(<program>): where a program in the folder run/ of the build, or an
-# installed one, looks for what it links of the host libraries. The same in both places: a path that
-# is exchanged when the program is installed gets an empty entry until then, and the dynamic loader
-# takes that for the working directory.
-function(quayside_find_host_libraries program)
-  set_target_properties(${program} PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
+# quayside_program(<target>): a program that loads host libraries. They may take the services object
+# and the decryption from it: the dynamic list puts the two into the program's dynamic symbol table,
+# which by itself offers nothing; the version script keeps everything else out of it. Where it looks
+# for host libraries is the same in the folder run/ of the build and installed: a path that is exchanged
+# when the program is installed gets an empty entry until then, and the dynamic loader takes that for
+# the working directory.
+function(quayside_program target)
+  quayside_configure(${target})
+  set_target_properties(${target} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/run
+    BUILD_WITH_INSTALL_RPATH ON
+    LINK_DEPENDS
+      "${PROJECT_SOURCE_DIR}/cmake/exports.list;${PROJECT_SOURCE_DIR}/cmake/exports.map")
   if(QUAYSIDE_HOST_LIBRARIES)
-    set_target_properties(${program} PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
   else()
-    set_target_properties(${program} PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+    set_target_properties(${target} PROPERTIES
+      INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   endif()
+  target_link_options(${target} PRIVATE
+    -Wl,--dynamic-list=${PROJECT_SOURCE_DIR}/cmake/exports.list
+    -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
 endfunction()
 
 # quayside_library(<name> <sources>...): the static library quayside_<name>, alias Quayside::<name>,

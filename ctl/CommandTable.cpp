@@ -29,6 +29,11 @@
 #include "ctl/registry/RegistryRenameCommand.h"
 #include "ctl/registry/RegistrySetCommand.h"
 #include "ctl/registry/RegistryWatchCommand.h"
+#include "ctl/trace/TraceDiffCommand.h"
+#include "ctl/trace/TraceDumpCommand.h"
+#include "ctl/trace/TraceLeaksCommand.h"
+#include "ctl/trace/TraceStatCommand.h"
+#include "ctl/trace/TraceTrimCommand.h"
 
 #include <algorithm>
 #include <iterator>
@@ -142,6 +147,20 @@ constexpr CommandTable::Row table[] = {
      QT_TRANSLATE_NOOP("CommandTable",
                        "Tells whether host libraries can be loaded here, and if not, why."),
      1, anyNumber, Needs::Nothing, made<HostCheckCommand>},
+    {"trace", "dump", "FILE", QT_TRANSLATE_NOOP("CommandTable", "Prints the calls of a recording."),
+     1, 1, Needs::Nothing, made<TraceDumpCommand>},
+    {"trace", "stat", "FILE",
+     QT_TRANSLATE_NOOP("CommandTable",
+                       "Counts calls, failures and time, and what was asked for and absent."),
+     1, 1, Needs::Nothing, made<TraceStatCommand>},
+    {"trace", "leaks", "FILE",
+     QT_TRANSLATE_NOOP("CommandTable", "Lists handles and arrays that were never given back."), 1,
+     1, Needs::Nothing, made<TraceLeaksCommand>},
+    {"trace", "diff", "A B", QT_TRANSLATE_NOOP("CommandTable", "Compares two recordings."), 2, 2,
+     Needs::Nothing, made<TraceDiffCommand>},
+    {"trace", "trim", "FILE [NEWFILE]",
+     QT_TRANSLATE_NOOP("CommandTable", "Keeps some calls of a recording, with what they need."), 1,
+     2, Needs::Nothing, made<TraceTrimCommand>},
 };
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cwchar>
 
 namespace {
@@ -47,9 +48,12 @@ bool isControl(QChar character)
     return character.category() == QChar::Other_Control;
 }
 
-// On a terminal paths are to look as usual, so that backslashes stay single.
+// On a terminal paths are to look as usual, so that backslashes stay single. Most texts have
+// nothing to be escaped.
 QString shownCell(const QString& text)
 {
+    if (std::none_of(text.begin(), text.end(), isControl))
+        return text;
     QString result;
     for (const QChar character : text)
         result += isControl(character) ? escapedCharacter(character) : QString(character);
@@ -66,12 +70,18 @@ const char* colourOf(Output::Tone tone)
     return "";
 }
 
+bool knowsColours()
+{
+    return qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
+}
+
 } // namespace
 
 Output::Output(Form form, const QString& command)
-    : m_form(form),
+    : m_device(form == Form::Quiet ? StandardOutput::Use::Drop : StandardOutput::Use::Print),
+      m_form(form),
       m_command(command),
-      m_hasColours(m_device.isTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR"))
+      m_hasColours(m_device.isTerminal() && knowsColours())
 {
 }
 
@@ -149,17 +159,22 @@ QString Output::tableLine(const Row& row) const
         blanks = (cell.isEmpty() ? blanks : 0) + gap +
                  qMax(0, m_widths[static_cast<std::size_t>(i)] - widthOf(cell));
     }
-    const QLatin1String colour(colourOf(row.tone));
+    return coloured(line, row.tone);
+}
+
+QString Output::coloured(const QString& line, Tone tone) const
+{
+    const QLatin1String colour(colourOf(tone));
     return m_hasColours && colour.size() > 0 ? colour + line + QLatin1String("\x1b[0m") : line;
 }
 
-void Output::line(const QStringList& cells, const QString& text)
+void Output::line(const QStringList& cells, const QString& text, Tone tone)
 {
     Interruption::check();
     if (m_form == Form::Json)
         jsonRecord(cells);
     else if (m_form != Form::Quiet)
-        m_device.put(shownCell(text).toLocal8Bit() + '\n');
+        m_device.put(coloured(shownCell(text), tone).toLocal8Bit() + '\n');
 }
 
 void Output::whole(const QByteArray& bytes, const Column& column)

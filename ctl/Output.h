@@ -53,7 +53,7 @@ public:
     /// A record has a cell for each column.
     void record(const QStringList& cells, Tone tone = Tone::Plain);
     /// A record that has a form of its own outside of JSON: one line, without its end.
-    void line(const QStringList& cells, const QString& text);
+    void line(const QStringList& cells, const QString& text, Tone tone = Tone::Plain);
     /// Something that is no table, such as a difference or the data of a value: as it is, and in
     /// JSON as a record with this column alone.
     void whole(const QByteArray& bytes, const Column& column);
@@ -82,6 +82,7 @@ private:
     void jsonRecord(const QStringList& cells);
     void flushTable();
     QString tableLine(const Row& row) const;
+    QString coloured(const QString& line, Tone tone) const;
 
     StandardOutput m_device;
     Form m_form;

@@ -47,6 +47,7 @@ fuzz() {
 }
 
 export QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1
+export LSAN_OPTIONS=suppressions=$here/../tests/support/leaks.supp:print_suppressions=0
 # Each input has a file of its own, which need not reach a disk.
 if [ -w /dev/shm ]; then export TMPDIR=/dev/shm; fi
 export build seconds here

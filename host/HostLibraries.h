@@ -6,6 +6,10 @@ class QSettings;
 /// A module's handle; the same type as in the Windows types of the services.
 using HINSTANCE = void*;
 
+/// The type of the function that a module exports under the unmangled name "loadstring": it returns
+/// the NUL-terminated text of this number, which remains the module's, or null where there is none.
+using LoadStringFunction = const wchar_t* (*)(unsigned int id);
+
 /// What the closed host libraries supply. Everything here is declared, never defined, by Quayside's
 /// own libraries: the executable links it from the maker's libraries or from the stand-in.
 #pragma GCC visibility push(default)
@@ -29,16 +33,17 @@ int strcpy_s(char* destination, int size, const char* source);
 /// module or name.
 void* GetProcAddress(HINSTANCE module, const char* name);
 
-// The configuration library is optional: each of its functions is a weak reference of its own, null
-// where nothing defines it.
+// The configuration library is optional, and so is each of its functions: the application refers to
+// them weakly, and does without what nothing defines. It loads no such library by itself: they are
+// found in what it was linked with, and in what those libraries need.
 
 /// Sets the configuration up for `language` (empty: none asked for). Returns 0 for success.
-[[gnu::weak]] int InitOrbxConfig(const wchar_t* language);
+int InitOrbxConfig(const wchar_t* language);
 
 /// Creates the configuration's registry entries. Called only after a successful set-up.
-[[gnu::weak]] void CreateConfigReg();
+void CreateConfigReg();
 
 /// The configured language as a Windows language identifier (2052: Simplified Chinese).
-[[gnu::weak]] int GetCurrentOrbxLanguageId();
+int GetCurrentOrbxLanguageId();
 
 #pragma GCC visibility pop

@@ -203,8 +203,8 @@ public:
 
     virtual ~IPlatformResourceManager() = default;
 
-    /// Copies the text that the module's function "loadstring" has for `id` into `buffer` of `size`
-    /// characters and returns the length of what then stands there, in characters without the
+    /// Copies the text that the module's "loadstring" (a `LoadStringFunction`) has for `id` into
+    /// `buffer` of `size` characters and returns the length of what then stands there, without the
     /// terminator. A text of `size` characters or more fills the buffer without a terminator, and
     /// the length is counted past its end: readable memory up to a terminator must follow.
     /// With size 0 the text's own address goes into the first pointer-sized word of `buffer`, which
@@ -378,17 +378,17 @@ public:
     /// Reads a value. `byteCount` says how large `data` is and becomes the length of the data: 4
     /// for a REG_DWORD (not asked for where `data` is null), 8 for a REG_QWORD, as many bytes as
     /// there are for REG_BINARY; a REG_SZ is UTF-32 without a terminator, though `byteCount` has to
-    /// be larger than the text. What is too small gets nothing but `type`. Directly under a root,
-    /// the value X is the entry X/X, as `RegSetValueExW` writes it.
+    /// be larger than the text. Where that is too small nothing is written, `type` neither.
+    /// Directly under a root, the value X is the entry X/X, as `RegSetValueExW` writes it.
     virtual unsigned int RegQueryValueExW(HKEY key, const wchar_t* valueName,
                                           unsigned int* reserved, unsigned int* type,
                                           unsigned char* data, unsigned int* byteCount) = 0;
 
     /// Makes a key exist: at first as an entry of its parent, not yet as a sub-key that is listed.
-    /// Never delivers a handle: `result` itself is left pointing at nothing and the caller's HKEY
-    /// stays as it was. Open the key to get one. Of a name that begins with U+FEFF that character
-    /// is left out. Directly under a root, "general" in any case of letters is "General" after a
-    /// restart, once the key has values or keys.
+    /// Never delivers a handle: the caller's HKEY stays, and `result` becomes an invalid address
+    /// that is not null: never test or read it, but open the key. Of a name that begins with U+FEFF
+    /// that character is left out. Directly under a root, "general" in any case of letters is
+    /// "General" after a restart, once the key has values or keys.
     virtual unsigned int RegCreateKeyExW(HKEY key, const wchar_t* subKey, unsigned int reserved,
                                          wchar_t* keyClass, unsigned int options,
                                          unsigned int access, _SECURITY_ATTRIBUTES* attributes,
@@ -396,8 +396,7 @@ public:
 
     /// Opens a key that is an entry, or a group with anything in it; the caller owns the new
     /// handle. Otherwise the result becomes null and 2 is returned. Whether the key exists is asked
-    /// before "\" becomes "/", so that a path of several levels has to be written with "/". Null
-    /// result: 1.
+    /// before "\" becomes "/", so that a path of several levels has to be written with "/".
     virtual unsigned int RegOpenKeyExW(HKEY key, const wchar_t* subKey, unsigned int options,
                                        unsigned int access, HKEY* result) = 0;
 
@@ -408,9 +407,8 @@ public:
     /// Writes a value of type REG_DWORD, REG_NONE (as a DWORD), REG_SZ, REG_BINARY or REG_QWORD. Of
     /// a DWORD whose size is not 4, and of every QWORD, only the first byte is kept; a text is read
     /// up to its NUL, whatever the size. Null data, any other type and binary data of size 0 fail.
-    /// A name of "\" alone makes a value that is listed with an empty name; after a restart it is
-    /// gone, except from a key directly under a root. U+FEFF and "general" are treated as
-    /// `RegCreateKeyExW` says, the latter at once.
+    /// A name of "\" alone makes a value without a name, gone after a restart except from a key
+    /// directly under a root. U+FEFF and "general", this at once, are as `RegCreateKeyExW` says.
     virtual unsigned int RegSetValueExW(HKEY key, const wchar_t* valueName, unsigned int reserved,
                                         unsigned int type, const unsigned char* data,
                                         unsigned int byteCount) = 0;
@@ -419,7 +417,7 @@ public:
     virtual unsigned int RegCloseKey(HKEY key) = 0;
 
     /// Counts sub-keys and values and measures their longest names. The longest value data is that
-    /// of the value with the longest name: 4 for a DWORD, else 0.
+    /// of the value with the longest name: 4 for a DWORD, else 0. It lists like `RegEnumKeyW`.
     virtual unsigned int RegQueryInfoKeyW(HKEY key, wchar_t* keyClass, unsigned int* classLength,
                                           unsigned int* reserved, unsigned int* subKeys,
                                           unsigned int* longestSubKey, unsigned int* longestClass,
@@ -429,7 +427,9 @@ public:
                                           _FILETIME* lastWriteTime) = 0;
 
     /// Copies the name of a sub-key, without a terminator and whatever the capacity: the buffer
-    /// must be large enough, and the caller zeroes it.
+    /// must be large enough, and the caller zeroes it. Within one turn of the event loop it may use
+    /// the list of an earlier call. That misses what a second settings object on the file writes,
+    /// what a `sync()` reads of other programs, and changes while a filter withholds the saving.
     virtual unsigned int RegEnumKeyW(HKEY key, unsigned int index, wchar_t* name,
                                      unsigned int capacity) = 0;
 

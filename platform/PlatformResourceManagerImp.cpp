@@ -20,8 +20,7 @@ namespace {
 // The module's text for `id`; null when its function does not know it.
 const wchar_t* moduleText(HINSTANCE module, unsigned int id)
 {
-    using LoadString = const wchar_t* (*)(unsigned int);
-    const auto load = reinterpret_cast<LoadString>(GetProcAddress(module, "loadstring"));
+    const auto load = reinterpret_cast<LoadStringFunction>(GetProcAddress(module, "loadstring"));
     return load ? load(id) : L"";
 }
 

@@ -72,7 +72,7 @@ MainWindow::MainWindow(QWidget* parent)
     connect(m_stack, &PageStack::entered, this, &MainWindow::logPage);
     connect(status, &StatusLine::helpRequested, this, &MainWindow::showHelp);
     addShortcuts(static_cast<int>(pages.size()));
-    new FileOpener(this, m_rail, m_stack);
+    m_opener = new FileOpener(this, m_rail, m_stack);
     // A minimum of its own keeps a page that is built later from enlarging the window, which
     // start-up has centred by then.
     setMinimumSize(smallestWindow.expandedTo(minimumSizeHint()));
@@ -135,6 +135,14 @@ void MainWindow::showPage(const QString& name)
     const int page = static_cast<int>(found - m_names.begin());
     m_rail->setChosen(page);
     m_stack->open(page);
+}
+
+void MainWindow::openFile(const QString& path)
+{
+    if (path.isEmpty())
+        return;
+    showPage(pageForFile(path));
+    m_opener->open(path);
 }
 
 Page* MainWindow::currentPage() const

@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+class FileOpener;
 class HelpWindow;
 class Page;
 class PageRail;
@@ -27,6 +28,10 @@ public:
     /// unknown name changes nothing. Call it before the window is shown.
     void showPage(const QString& name);
 
+    /// Opens on the page for this kind of file, which then opens the file; does nothing where there
+    /// is none, or no path. Call it before the window is shown.
+    void openFile(const QString& path);
+
     /// The page in view; null until it has been made.
     Page* currentPage() const;
 
@@ -45,5 +50,6 @@ private:
     std::vector<QString> m_names;
     PageRail* m_rail;
     PageStack* m_stack;
+    FileOpener* m_opener;
     HelpWindow* m_help = nullptr; ///< made when it is asked for
 };

@@ -194,13 +194,6 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
-    <name>ByteInput</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
-</context>
-<context>
     <name>ByteResult</name>
     <message>
         <source>Writes into this file.</source>
@@ -213,6 +206,47 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>%1 cannot be written: %2</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>CallFilter</name>
+    <message>
+        <source>&quot;%1&quot; names no calls. Wanted are numbers such as 17 or 10-20, and op:NAME, caller:TEXT, manager:NAME or thread:NUMBER.</source>
+        <translation>“%1”不表示任何调用。应为 17 或 10-20 这样的编号，以及 op:NAME、caller:TEXT、manager:NAME 或 thread:NUMBER。</translation>
+    </message>
+</context>
+<context>
+    <name>CallParts</name>
+    <message>
+        <source>unknown handle</source>
+        <translation>未知句柄</translation>
+    </message>
+    <message>
+        <source>(outcome)</source>
+        <translation>（结局）</translation>
+    </message>
+    <message>
+        <source>never returned</source>
+        <translation>未返回</translation>
+    </message>
+    <message>
+        <source>returned</source>
+        <translation>已返回</translation>
+    </message>
+    <message>
+        <source>%1 (written)</source>
+        <translation>%1（写入）</translation>
+    </message>
+    <message>
+        <source>(result)</source>
+        <translation>（返回值）</translation>
+    </message>
+</context>
+<context>
+    <name>CallText</name>
+    <message>
+        <source>(never returned)</source>
+        <translation>（未返回）</translation>
     </message>
 </context>
 <context>
@@ -433,6 +467,26 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Prints the data of a value, or of all values of a key.</source>
         <translation>输出一个值的数据，或键的所有值的数据。</translation>
+    </message>
+    <message>
+        <source>Prints the calls of a recording.</source>
+        <translation>显示记录文件中的调用。</translation>
+    </message>
+    <message>
+        <source>Counts calls, failures and time, and what was asked for and absent.</source>
+        <translation>统计调用、失败和时间，以及请求了什么、缺少什么。</translation>
+    </message>
+    <message>
+        <source>Lists handles and arrays that were never given back.</source>
+        <translation>列出从未归还的句柄和数组。</translation>
+    </message>
+    <message>
+        <source>Compares two recordings.</source>
+        <translation>比较两个记录文件。</translation>
+    </message>
+    <message>
+        <source>Keeps some calls of a recording, with what they need.</source>
+        <translation>保留记录文件中的部分调用及其所需的调用。</translation>
     </message>
 </context>
 <context>
@@ -1242,6 +1296,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Only records of this character set, by its code.</source>
         <translation>仅限此字符集（以代码指定）的记录。</translation>
     </message>
+    <message>
+        <source>The service reports no such font.</source>
+        <translation>服务没有报告这样的字体。</translation>
+    </message>
 </context>
 <context>
     <name>FontsPage</name>
@@ -2038,6 +2096,21 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>InputDevice</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>The standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>The descriptor %1</source>
+        <translation>描述符 %1</translation>
+    </message>
+</context>
+<context>
     <name>Interruption</name>
     <message>
         <source>Interrupted: nothing more has been done.</source>
@@ -2128,6 +2201,14 @@ Put it in the place of the file to bring everything back.</source>
         <source>The pass phrase is empty.</source>
         <translation>口令为空。</translation>
     </message>
+    <message>
+        <source>Pass phrase again</source>
+        <translation>再次输入口令</translation>
+    </message>
+    <message>
+        <source>The two pass phrases are not the same.</source>
+        <translation>两次输入的口令不一致。</translation>
+    </message>
 </context>
 <context>
     <name>KeyPanel</name>
@@ -2204,6 +2285,49 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Keys</source>
         <translation>项</translation>
+    </message>
+</context>
+<context>
+    <name>LineDeviation</name>
+    <message>
+        <source>The quotes are no part of the value.</source>
+        <translation>引号不属于该值。</translation>
+    </message>
+    <message>
+        <source>The backslash at its end joins the next line to it.</source>
+        <translation>末尾的反斜杠将下一行与之相连。</translation>
+    </message>
+    <message>
+        <source>The byte order mark is no part of the value.</source>
+        <translation>字节顺序标记不属于该值。</translation>
+    </message>
+    <message>
+        <source>What begins with “@” is read as a value of another form.</source>
+        <translation>以“@”开头的内容被读作另一种形式的值。</translation>
+    </message>
+    <message>
+        <source>The spaces around the value are lost.</source>
+        <translation>值两端的空白会丢失。</translation>
+    </message>
+    <message>
+        <source>It does not look like an entry, but is one to the family.</source>
+        <translation>看起来不是条目，但该函数族将其视为条目。</translation>
+    </message>
+    <message>
+        <source>The family knows it by other names: key “%1”, section “%2”.</source>
+        <translation>该函数族以其他名称识别它：键“%1”，节“%2”。</translation>
+    </message>
+    <message>
+        <source>A carriage return in it ends the line.</source>
+        <translation>其中的回车符使该行结束。</translation>
+    </message>
+    <message>
+        <source>A carriage return in it is lost.</source>
+        <translation>其中的回车符会丢失。</translation>
+    </message>
+    <message>
+        <source>A zero byte in it ends names and values.</source>
+        <translation>其中的零字节使名称和值结束。</translation>
     </message>
 </context>
 <context>
@@ -2803,6 +2927,82 @@ Put it in the place of the file to bring everything back.</source>
         <source>Here</source>
         <translation>此处</translation>
     </message>
+    <message>
+        <source>Call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>In the second</source>
+        <translation>在第二个中</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>深度</translation>
+    </message>
+    <message>
+        <source>Thread</source>
+        <translation>线程</translation>
+    </message>
+    <message>
+        <source>Caller</source>
+        <translation>调用者</translation>
+    </message>
+    <message>
+        <source>Manager</source>
+        <translation>管理器</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>返回值</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>用时</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>调用次数</translation>
+    </message>
+    <message>
+        <source>Failures</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>不存在</translation>
+    </message>
+    <message>
+        <source>Never returned</source>
+        <translation>未返回</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>最长</translation>
+    </message>
+    <message>
+        <source>Handle</source>
+        <translation>句柄</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>部分</translation>
+    </message>
 </context>
 <context>
     <name>PageCatalogue</name>
@@ -3021,6 +3221,14 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>The line is not UTF-8.</source>
         <translation>该行不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>The family reads UTF-8 alone.</source>
+        <translation>该函数族只读取 UTF-8。</translation>
+    </message>
+    <message>
+        <source>The family finds it only after a call that reads all sections.</source>
+        <translation>只有在某次调用读取了所有节之后，该函数族才能找到它。</translation>
     </message>
 </context>
 <context>
@@ -3379,6 +3587,18 @@ Wide: %2</source>
     <message>
         <source>There is not memory enough to try the change on a copy.</source>
         <translation>内存不足，无法在副本上试做此更改。</translation>
+    </message>
+    <message>
+        <source>The change is tried on a copy first, which could not be written in %1: %2.</source>
+        <translation>更改会先在副本上试行，而副本无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>There is not memory enough to read the file.</source>
+        <translation>内存不足，无法读取该文件。</translation>
+    </message>
+    <message>
+        <source>There is not memory enough to read %1 once more: the change may have been made, and cannot be undone.</source>
+        <translation>内存不足，无法再次读取 %1：更改可能已完成，且无法撤消。</translation>
     </message>
 </context>
 <context>
@@ -3805,12 +4025,35 @@ Wide: %2</source>
         <source>%1 Nothing is saved; --force saves the rest.</source>
         <translation>%1未保存任何内容；--force 将保存其余部分。</translation>
     </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not in the encoding of the locale.</source>
+        <translation>参数“%1”不符合区域设置的编码。</translation>
+    </message>
+    <message>
+        <source>Put &quot;--&quot; before arguments that begin with &quot;-&quot;.</source>
+        <translation>请在以“-”开头的参数之前加上“--”。</translation>
+    </message>
 </context>
 <context>
     <name>ReadingRemark</name>
     <message>
         <source>Not found under this name</source>
         <translation>按此名称找不到</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingArgument</name>
+    <message>
+        <source>%L1 more lines cannot be read.</source>
+        <translation>另有 %L1 行无法读取。</translation>
+    </message>
+    <message>
+        <source>Only these calls: 10-20,op:NAME,caller:TEXT,manager:NAME,thread:NUMBER.</source>
+        <translation>只取这些调用：10-20,op:NAME,caller:TEXT,manager:NAME,thread:NUMBER。</translation>
+    </message>
+    <message>
+        <source>Only calls that failed or never returned.</source>
+        <translation>只取失败或未返回的调用。</translation>
     </message>
 </context>
 <context>
@@ -4038,10 +4281,6 @@ Wide: %2</source>
         <translation>不能复制根本身，也不能取代它。</translation>
     </message>
     <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
         <source>%1 is below the key that is to be copied.</source>
         <translation>%1 位于要复制的键之下。</translation>
     </message>
@@ -4211,6 +4450,10 @@ Wide: %2</source>
         <source>&quot;%1&quot; of %2 cannot be read: %3</source>
         <translation>无法读取 %2 中的“%1”：%3</translation>
     </message>
+    <message>
+        <source>Either --type or --raw, not both.</source>
+        <translation>--type 和 --raw 只能选其一。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryHistory</name>
@@ -4277,10 +4520,6 @@ Wide: %2</source>
 </context>
 <context>
     <name>RegistryImportCommand</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
@@ -4410,16 +4649,8 @@ Wide: %2</source>
         <translation>不能重命名根本身。</translation>
     </message>
     <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;.</source>
         <translation>%1 中没有值“%2”。</translation>
-    </message>
-    <message>
-        <source>%1 has a value &quot;%2&quot; already.</source>
-        <translation>%1 中已有值“%2”。</translation>
     </message>
     <message>
         <source>Names what would be renamed, and does nothing.</source>
@@ -4428,14 +4659,6 @@ Wide: %2</source>
 </context>
 <context>
     <name>RegistryRenamer</name>
-    <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
-        <source>%1 has a value &quot;%2&quot; already.</source>
-        <translation>%1 中已有值“%2”。</translation>
-    </message>
     <message>
         <source>Rename the key</source>
         <translation>重命名项</translation>
@@ -4670,10 +4893,6 @@ Wide: %2</source>
 <context>
     <name>Secret</name>
     <message>
-        <source>The secret cannot be read: %1</source>
-        <translation>无法读取密钥信息：%1</translation>
-    </message>
-    <message>
         <source>There is no terminal to ask for the secret on: name a file.</source>
         <translation>没有可供询问密钥信息的终端：请指定文件。</translation>
     </message>
@@ -4814,10 +5033,6 @@ Wide: %2</source>
 <context>
     <name>StoreWatch</name>
     <message>
-        <source>The store still holds what it had read. Its next change makes it read the file, and what the file lacks is gone.</source>
-        <translation>存储中仍是先前读取的内容。下一次更改会使其重新读取该文件，文件中没有的内容将会丢失。</translation>
-    </message>
-    <message>
         <source>The store&apos;s file %1 is gone: another program has deleted or moved it. The store still holds what it had read. Its next change makes a new file that holds nothing but that change.</source>
         <translation>存储的文件 %1 已不存在：其他程序已将其删除或移走。存储中仍是先前读取的内容。下一次更改将生成一个只含该更改的新文件。</translation>
     </message>
@@ -4836,6 +5051,14 @@ Wide: %2</source>
     <message>
         <source>The store could not be saved to %1, for which a full disk may be the reason. The last changes are not in the file, and end with the program unless a later change is saved.</source>
         <translation>存储未能保存到 %1，原因可能是磁盘已满。最近的更改不在该文件中；除非以后的更改保存成功，否则将随程序结束而丢失。</translation>
+    </message>
+    <message>
+        <source>The store still holds what it had read. Its next change makes it read the file, and what the file lacks is gone.</source>
+        <translation>存储中仍是先前读取的内容。下一次更改会使其重新读取该文件，文件中没有的内容将会丢失。</translation>
+    </message>
+    <message>
+        <source>The file is damaged, too: it has lines that are no entries, and that change writes it without them.</source>
+        <translation>该文件也已损坏：其中有不是条目的行，该次更改写入的文件将不再包含它们。</translation>
     </message>
 </context>
 <context>
@@ -4900,10 +5123,137 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>TakenName</name>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 has a value &quot;%2&quot; already.</source>
+        <translation>%1 已有值“%2”。</translation>
+    </message>
+</context>
+<context>
     <name>TextLimits</name>
     <message>
         <source>The text is too long: %L1 bytes. At most %L2 are taken.</source>
         <translation>文本过长：共 %L1 字节，最多接受 %L2 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDiffCommand</name>
+    <message>
+        <source>Prints the first difference alone.</source>
+        <translation>只显示第一处差异。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDifference</name>
+    <message>
+        <source>handle of call %1</source>
+        <translation>调用 %1 的句柄</translation>
+    </message>
+    <message>
+        <source>handle of call %1 of the second recording</source>
+        <translation>第二个记录文件中调用 %1 的句柄</translation>
+    </message>
+</context>
+<context>
+    <name>TraceDumpCommand</name>
+    <message>
+        <source>&quot;%1&quot; is no pattern: %2.</source>
+        <translation>“%1”不是正则表达式：%2。</translation>
+    </message>
+    <message>
+        <source>Call %1 is damaged.</source>
+        <translation>调用 %1 已损坏。</translation>
+    </message>
+    <message>
+        <source>Only calls whose line matches this regular expression.</source>
+        <translation>只取其行与此正则表达式匹配的调用。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceFault</name>
+    <message>
+        <source>Line %L1 is damaged.</source>
+        <translation>第 %L1 行已损坏。</translation>
+    </message>
+    <message>
+        <source>Line %L1 is too long.</source>
+        <translation>第 %L1 行过长。</translation>
+    </message>
+    <message>
+        <source>Line %L1 is cut off: the recording has ended within it.</source>
+        <translation>第 %L1 行不完整：记录在此行中断。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceFile</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is no file: a recording is read more than once.</source>
+        <translation>%1 不是普通文件：记录文件需要多次读取。</translation>
+    </message>
+    <message>
+        <source>%1 is no recording.</source>
+        <translation>%1 不是记录文件。</translation>
+    </message>
+    <message>
+        <source>%1 is a recording of a form that is not known here: %2.</source>
+        <translation>%1 是此处未知格式的记录文件：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceLeaksCommand</name>
+    <message>
+        <source>A recording does not show whether an array was freed.</source>
+        <translation>记录文件无法显示数组是否已释放。</translation>
+    </message>
+    <message>
+        <source>The recording has no end: the program was still running, or was killed.</source>
+        <translation>记录没有结尾：程序仍在运行，或已被终止。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceStatCommand</name>
+    <message>
+        <source>&quot;%1&quot; is no number.</source>
+        <translation>“%1”不是数字。</translation>
+    </message>
+    <message>
+        <source>Only what was asked for and was not there.</source>
+        <translation>只列出请求过而不存在的内容。</translation>
+    </message>
+    <message>
+        <source>How many keys, values, entries and files are printed; otherwise 20 of each, and all for 0.</source>
+        <translation>显示多少个键、值、条目和文件；默认各 20 个，0 表示全部。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceTrimCommand</name>
+    <message>
+        <source>The recording cannot be written: %1.</source>
+        <translation>无法写入记录文件：%1。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Which calls? Name them by --calls.</source>
+        <translation>哪些调用？请用 --calls 指定。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file to write.</source>
+        <translation>使用 --json 时，请指定要写入的文件。</translation>
+    </message>
+    <message>
+        <source>Kept: %L1 of %L2 calls, %L3 of them because others need them.</source>
+        <translation>已保留 %L2 个调用中的 %L1 个，其中 %L3 个是其他调用所需的。</translation>
     </message>
 </context>
 <context>

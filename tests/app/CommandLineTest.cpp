@@ -256,4 +256,13 @@ TEST(RequestedPage, FollowsTheGrammarOfPairs)
     }
 }
 
+TEST(RequestedFile, FollowsTheSameGrammar)
+{
+    Arguments given({"/open", "/a b.reg", "/page", "log"});
+    EXPECT_EQ("/a b.reg", requestedFile(given.count(), given.values()));
+    // As a desktop entry starts the application without a file.
+    Arguments without({"/open"});
+    EXPECT_EQ("", requestedFile(without.count(), without.values()));
+}
+
 } // namespace

@@ -4,14 +4,26 @@
 
 #include <gtest/gtest.h>
 
-/// What the program prints, on both streams. The test fails where the program does.
-inline QString outputOf(const QString& program, const QStringList& arguments)
+struct ChildResult
+{
+    int status;
+    QString output; ///< both streams
+};
+
+/// How the program ends, and what it prints.
+inline ChildResult resultOf(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished(300000));
-    const QString output = QString::fromUtf8(process.readAll());
-    EXPECT_EQ(0, process.exitCode()) << output.toStdString();
-    return output;
+    return {process.exitCode(), QString::fromUtf8(process.readAll())};
+}
+
+/// What the program prints, on both streams. The test fails where the program does.
+inline QString outputOf(const QString& program, const QStringList& arguments)
+{
+    const ChildResult result = resultOf(program, arguments);
+    EXPECT_EQ(0, result.status) << result.output.toStdString();
+    return result.output;
 }

@@ -59,9 +59,10 @@ protected:
     // Builds a target of the programs that know the tree alone.
     static bool consumerBuilds(const QString& target)
     {
-        outputOf("cmake", {"-S", QUAYSIDE_CONSUMER_FOLDER, "-B", consumerFolder(), "-G", "Ninja",
-                           "-DCMAKE_PREFIX_PATH=" + prefix(),
-                           "-DCONSUMER_HEADERS=" + publicHeaders.join(';')});
+        outputOf("cmake",
+                 {"-S", QUAYSIDE_CONSUMER_FOLDER, "-B", consumerFolder(), "-G", "Ninja",
+                  "-DCMAKE_PREFIX_PATH=" + prefix(), "-DCONSUMER_VERSION=" QUAYSIDE_VERSION,
+                  "-DCONSUMER_HEADERS=" + publicHeaders.join(';')});
         outputOf("cmake", {"--build", consumerFolder(), "--target", target});
         return !HasFailure();
     }
@@ -96,6 +97,65 @@ TEST_F(InstalledTree, ServesAProgramThatUsesTheServices)
               outputOf(consumerFolder() + "/consumer", {}));
 }
 
+class InstalledLibrary : public InstalledTree, public testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(InstalledLibrary, LinksByItself)
+{
+    EXPECT_TRUE(consumerBuilds(GetParam() + QStringLiteral("_alone")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Libraries, InstalledLibrary,
+                         testing::Values("support", "platform", "crypto", "widgets", "app",
+                                         "window"),
+                         [](const auto& row) { return std::string(row.param); });
+
+TEST_F(InstalledTree, IsFoundByItsComponents)
+{
+    const auto found = [](const QString& components) {
+        return resultOf("cmake", {"-S", QUAYSIDE_CONSUMER_FOLDER, "-B", folder->filePath("parts"),
+                                  "-G", "Ninja", "-DCMAKE_PREFIX_PATH=" + prefix(),
+                                  "-DCONSUMER_VERSION=" QUAYSIDE_VERSION,
+                                  "-DCONSUMER_COMPONENTS=" + components});
+    };
+    const ChildResult known = found("crypto;host;headers");
+    EXPECT_EQ(0, known.status) << known.output.toStdString();
+    const ChildResult unknown = found("crypto;network");
+    EXPECT_NE(0, unknown.status);
+    EXPECT_TRUE(unknown.output.contains("There is no component \"network\"."))
+        << unknown.output.toStdString();
+}
+
+// A host library of somebody who has the headers alone.
+class InstalledHeaders : public InstalledTree
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        InstalledTree::SetUpTestSuite();
+        outputOf("cmake", {"-S", QUAYSIDE_AUTHOR_FOLDER, "-B", libraryFolder(), "-G", "Ninja",
+                           "-DCMAKE_PREFIX_PATH=" + prefix()});
+        outputOf("cmake", {"--build", libraryFolder()});
+    }
+    static QString libraryFolder() { return folder->filePath("author"); }
+};
+
+TEST_F(InstalledHeaders, ServeAHostLibraryThatPassesStrings)
+{
+    EXPECT_EQ("Global 1\n",
+              outputOf("env", {"LD_LIBRARY_PATH=" + libraryFolder(), prefix() + "/bin/quayside"}));
+}
+
+TEST_F(InstalledHeaders, LeaveDefinitionsAsStrongAsTheAuthorMakesThem)
+{
+    const QString symbols =
+        outputOf(QUAYSIDE_NM, {"-DC", "--defined-only", libraryFolder() + "/libKdPlatformBase.so"});
+    for (const char* name :
+         {"InitOrbxConfig(wchar_t const*)", "CreateConfigReg()", "GetCurrentOrbxLanguageId()"})
+        EXPECT_TRUE(symbols.contains(QStringLiteral(" T ") + name)) << symbols.toStdString();
+}
+
 TEST_F(InstalledTree, ServesAProgramThatShowsTheWindow)
 {
     QString names;
@@ -110,10 +170,42 @@ TEST_F(InstalledTree, HoldsTheProgramItsCatalogueAndTheStandIn)
     const QDir tree(prefix());
     EXPECT_TRUE(tree.exists("bin/quayside"));
     EXPECT_TRUE(tree.exists("bin/quaysidectl"));
+    EXPECT_TRUE(tree.exists("share/man/man1/quayside.1"));
     EXPECT_TRUE(tree.exists("share/man/man1/quaysidectl.1"));
+    EXPECT_TRUE(tree.exists("share/man/zh_CN/man1/quayside.1"));
+    EXPECT_TRUE(tree.exists("share/icons/hicolor/512x512/apps/quayside.png"));
+    EXPECT_TRUE(tree.exists("share/metainfo/quayside.metainfo.xml"));
     EXPECT_TRUE(tree.exists("share/bash-completion/completions/quaysidectl"));
     EXPECT_TRUE(tree.exists("share/quayside/translations/qt_zh_CN.qm"));
     EXPECT_TRUE(tree.exists(QUAYSIDE_LIBRARY_FOLDER "/libKdPlatformBase.so"));
+}
+
+// The application looks for Qt's catalogue below its working directory.
+TEST_F(InstalledTree, DesktopEntryStartsWhereQtsCatalogueIs)
+{
+    QFile entry(prefix() + "/share/applications/quayside.desktop");
+    ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
+    const QRegularExpression row("^Path=(.*)$", QRegularExpression::MultilineOption);
+    const QString path = row.match(QString::fromUtf8(entry.readAll())).captured(1);
+    EXPECT_EQ(prefix() + "/share/quayside", path);
+    EXPECT_TRUE(QFile::exists(path + "/translations/qt_zh_CN.qm"));
+}
+
+TEST_F(InstalledTree, ProgramsHaveTheVersionOfThePackage)
+{
+    EXPECT_EQ("quaysidectl " QUAYSIDE_VERSION "\n",
+              outputOf(prefix() + "/bin/quaysidectl", {"--version"}));
+    EXPECT_EQ(QUAYSIDE_VERSION "\n", outputOf("env", {"PKG_CONFIG_PATH=" + prefix() + "/" +
+                                                          QUAYSIDE_LIBRARY_FOLDER "/pkgconfig",
+                                                      "pkg-config", "--modversion", "quayside"}));
+}
+
+TEST_F(InstalledTree, SaysWhatIsInstalled)
+{
+    const QString output =
+        outputOf("cmake", {"--install", QUAYSIDE_BUILD_FOLDER, "--prefix", prefix()});
+    EXPECT_TRUE(output.contains("Installing Quayside " QUAYSIDE_VERSION ", built as "))
+        << output.left(500).toStdString();
 }
 
 TEST_F(InstalledTree, ProgramFindsTheStandInThere)

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -40,6 +41,12 @@ TEST_F(SourceTree, ServesAProgramThatDecrypts)
     EXPECT_EQ("plain text\n", outputOf(folder->filePath("crypto_consumer"), {}));
 }
 
+TEST_F(SourceTree, HasLibrariesThatLinkByThemselves)
+{
+    for (const char* library : {"support", "crypto", "widgets"})
+        build(QStringLiteral("%1_alone").arg(library));
+}
+
 TEST_F(SourceTree, HasHeadersForAProgramThatUsesTheServices)
 {
     build("CMakeFiles/consumer.dir/main.cpp.o");
@@ -52,6 +59,33 @@ TEST_F(SourceTree, BringsNoTestsExamplesOrStrictness)
     const QByteArray settings = cache.readAll();
     for (const char* option : {"BUILD_TESTS", "BUILD_EXAMPLES", "WARNINGS_AS_ERRORS"})
         EXPECT_TRUE(settings.contains(QByteArray("QUAYSIDE_") + option + ":BOOL=OFF")) << option;
+}
+
+TEST(BuildOptions, AWrongPathOfAHostLibraryIsRefused)
+{
+    const QTemporaryDir folder;
+    const ChildResult result =
+        resultOf("cmake", {"-S", QUAYSIDE_SOURCE_FOLDER, "-B", folder.path(), "-G", "Ninja",
+                           "-DQUAYSIDE_HOST_LIBRARIES=/usr/lib/none/libKdPlatformBase.so"});
+    EXPECT_NE(0, result.status);
+    EXPECT_TRUE(
+        result.output.simplified().contains("\"/usr/lib/none/libKdPlatformBase.so\", which is not"))
+        << result.output.toStdString();
+}
+
+// What the README says to start has to be among what the build makes.
+TEST(Readme, NamesOnlyProgramsThatTheBuildMakes)
+{
+    QFile readme(QUAYSIDE_SOURCE_FOLDER "/README.md");
+    ASSERT_TRUE(readme.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(readme.readAll());
+    const QRegularExpression program("build/dev/(\\w+/[\\w/]+)");
+    int count = 0;
+    for (auto found = program.globalMatch(text); found.hasNext(); ++count) {
+        const QString path = found.next().captured(1);
+        outputOf("ninja", {"-C", QUAYSIDE_BUILD_FOLDER, "-t", "query", path});
+    }
+    EXPECT_GE(count, 2);
 }
 
 TEST_F(SourceTree, InstallsNothing)

@@ -12,6 +12,11 @@
 #include <cstdlib>
 #include <dlfcn.h>
 
+// Null where nothing defines them, as for the application.
+[[gnu::weak]] int InitOrbxConfig(const wchar_t* language);
+[[gnu::weak]] void CreateConfigReg();
+[[gnu::weak]] int GetCurrentOrbxLanguageId();
+
 namespace {
 
 TEST(StandIn, SetsTheSettingsStoreUpWhenTheServicesAreHandedOver)

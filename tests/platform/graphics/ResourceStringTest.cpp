@@ -116,8 +116,7 @@ TEST_F(ResourceStrings, AreWideBeyondTheBmpAndFoundByTheWholeIdentifier)
 
 TEST_F(ResourceStrings, AreHandedOutByAddressForSizeZero)
 {
-    using LoadString = const wchar_t* (*)(unsigned int);
-    const auto load = reinterpret_cast<LoadString>(dlsym(module.handle(), "loadstring"));
+    const auto load = reinterpret_cast<LoadStringFunction>(dlsym(module.handle(), "loadstring"));
     const wchar_t* own = load(20);
     std::wstring address(2, L' '); // room for a pointer
     static_assert(sizeof own == 2 * sizeof(wchar_t));

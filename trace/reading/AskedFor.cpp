@@ -1,0 +1,133 @@
+#include "trace/reading/AskedFor.h"
+
+#include "trace/reading/HandleTable.h"
+
+#include <algorithm>
+
+namespace trace {
+
+namespace {
+
+using Kind = AskedFor::Kind;
+
+/// How an answer says that there is nothing.
+enum class Absence
+{
+    Never,         ///< it says nothing about that
+    Failure,       ///< a failure, unless something was written: a buffer was too small then
+    FallbackText,  ///< the text that the caller gave for that case
+    EmptyText,     ///< the narrow calls know no such text
+    FallbackNumber ///< the number that the caller gave for that case
+};
+
+struct Row
+{
+    const char* operation;
+    Kind kind;
+    const char* name; ///< the parameter
+    Absence absence;
+};
+
+constexpr Row rows[] = {
+    {"RegOpenKeyExW", Kind::Key, "subKey", Absence::Failure},
+    {"RegOpenKeyW", Kind::Key, "subKey", Absence::Failure},
+    {"RegCreateKeyExW", Kind::Key, "subKey", Absence::Never},
+    {"RegCreateKeyW", Kind::Key, "subKey", Absence::Never},
+    {"RegDeleteKeyW", Kind::Key, "subKey", Absence::Never},
+    {"RegDeleteKeyExW", Kind::Key, "subKey", Absence::Never},
+    {"RegQueryValueExW", Kind::Value, "valueName", Absence::Failure},
+    {"RegQueryValueW", Kind::Value, "valueName", Absence::Failure},
+    {"RegSetValueExW", Kind::Value, "valueName", Absence::Never},
+    {"RegDeleteValueW", Kind::Value, "valueName", Absence::Never},
+    {"GetPrivateProfileStringW", Kind::Entry, "key", Absence::FallbackText},
+    {"GetPrivateProfileStringA", Kind::Entry, "key", Absence::EmptyText},
+    {"GetPrivateProfileIntW", Kind::Entry, "key", Absence::FallbackNumber},
+    {"WritePrivateProfileStringW", Kind::Entry, "key", Absence::Never},
+    {"WritePrivateProfileStringA", Kind::Entry, "key", Absence::Never},
+    {"findFirstFile", Kind::File, "pattern", Absence::Failure},
+    {"isFileExist", Kind::File, "path", Absence::Failure},
+    {"GetFileAttributesW", Kind::File, "path", Absence::Never},
+    {"SetFileAttributesW", Kind::File, "path", Absence::Never},
+};
+
+const Row* rowOf(const QString& operation)
+{
+    const auto* const found =
+        std::find_if(std::begin(rows), std::end(rows), [&operation](const Row& row) {
+            return operation == QLatin1String(row.operation);
+        });
+    return found == std::end(rows) ? nullptr : found;
+}
+
+const QString& argument(const Call& call, const char* name)
+{
+    return call.arguments.member(name).textOf("text");
+}
+
+// A handle that could not be made is written as null, and the real path of a file that is not there
+// as the path that was asked for.
+bool isAnyWritten(const Call& call)
+{
+    return std::any_of(
+        call.outputs.members.begin(), call.outputs.members.end(), [](const RecordedMember& member) {
+            return !member.value.isNull() && member.name != "result" && member.name != "realPath";
+        });
+}
+
+bool isAbsentFrom(const Call& call, Absence absence, bool isFailure)
+{
+    switch (absence) {
+    case Absence::Never: break;
+    case Absence::Failure: return isFailure && !isAnyWritten(call);
+    case Absence::FallbackText:
+        return call.outputs.member("buffer").textOf("text") == argument(call, "fallback");
+    case Absence::EmptyText: return call.result.toInteger(1) == 0;
+    case Absence::FallbackNumber:
+        return call.result.toInteger() == call.arguments.member("fallback").toInteger(-1);
+    }
+    return false;
+}
+
+QString keyOf(const Call& call, const HandleTable& handles)
+{
+    const RecordedValue& key = call.arguments.member("key");
+    return key.isNull() ? QStringLiteral("null") : handles.path(key.textOf("handle"));
+}
+
+// As the handles of the keys are described.
+QString subKeyOf(const Call& call, const Row& row, const HandleTable& handles)
+{
+    QString name = argument(call, row.name);
+    name.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    const QString key = keyOf(call, handles);
+    return name.isEmpty() ? key : key + QLatin1Char('\\') + name;
+}
+
+} // namespace
+
+bool AskedFor::isConcerned(const QString& operation)
+{
+    return rowOf(operation) != nullptr;
+}
+
+std::optional<AskedFor> AskedFor::of(const Call& call, bool isFailure, const HandleTable& handles)
+{
+    const Row* const row = rowOf(call.operation);
+    if (!row || !call.hasReturned())
+        return {};
+    const bool isAbsent = isAbsentFrom(call, row->absence, isFailure);
+    switch (row->kind) {
+    case Kind::Key: return AskedFor{row->kind, subKeyOf(call, *row, handles), {}, isAbsent};
+    case Kind::Value:
+        return AskedFor{row->kind, keyOf(call, handles), argument(call, row->name), isAbsent};
+    case Kind::Entry:
+        return AskedFor{
+            row->kind, argument(call, "file"),
+            QStringLiteral("[%1] %2").arg(argument(call, "section"), argument(call, row->name)),
+            isAbsent};
+    case Kind::File: break;
+    }
+    return AskedFor{row->kind, argument(call, row->name), {}, isAbsent};
+}
+
+} // namespace trace
