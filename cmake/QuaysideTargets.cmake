@@ -11,6 +11,13 @@ target_compile_features(quayside_flags INTERFACE cxx_std_17)
 target_compile_options(quayside_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow
   $<$<BOOL:${QUAYSIDE_WARNINGS_AS_ERRORS}>:-Werror>)
+# Checks of the standard library, such as of an index, and targets that indirect jumps must have.
+target_compile_definitions(quayside_flags INTERFACE _GLIBCXX_ASSERTIONS)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
+  target_compile_options(quayside_flags INTERFACE -mbranch-protection=standard)
+elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64)$")
+  target_compile_options(quayside_flags INTERFACE -fcf-protection)
+endif()
 # Hardening of what is delivered. Sanitizers bring their own checks, and fortified calls would hide
 # faults from them.
 if(QUAYSIDE_SANITIZE)

@@ -109,7 +109,7 @@ TEST_F(StoreFaults, FolderThatIsMissingIsMade)
     EXPECT_EQ(0U, setDword(HKEY_CURRENT_USER, L"number", 42));
     below.sync();
     g_globalSettings = &store;
-    EXPECT_EQ("[General]\nnumber=1$42\n", content("a/b/store.ini"));
+    EXPECT_EQ("[number]\nnumber=1$42\n", content("a/b/store.ini"));
 }
 
 TEST_F(StoreFaults, FolderInThePlaceOfTheFileStays)
@@ -130,7 +130,7 @@ TEST_F(StoreFaults, FullDiskLeavesTheFileAndIsPassed)
         EXPECT_EQ(2U, dword(HKEY_CURRENT_USER, L"number"));
     }
     EXPECT_EQ(0U, setDword(HKEY_CURRENT_USER, L"other", 3));
-    EXPECT_EQ("[General]\nnumber=1$2\nother=1$3\n", fileOnDisk());
+    EXPECT_EQ("[number]\nnumber=1$2\n\n[other]\nother=1$3\n", fileOnDisk());
 }
 
 TEST_F(StoreFaults, LockOfAnotherProgramIsWaitedFor)
@@ -149,7 +149,7 @@ TEST_F(StoreFaults, LockOfAnotherProgramIsWaitedFor)
     waitToBeTold();
     EXPECT_EQ(0U, setDword(HKEY_CURRENT_USER, L"number", 42));
     EXPECT_EQ(1, ::write(saving[1], "x", 1));
-    EXPECT_EQ("[General]\nnumber=1$42\n", fileOnDisk());
+    EXPECT_EQ("[number]\nnumber=1$42\n", fileOnDisk());
     endProgram();
 }
 
@@ -164,7 +164,7 @@ TEST_F(StoreFaults, LockOfAProgramThatWasKilledIsTaken)
     waitToBeTold();
     endProgram();
     EXPECT_EQ(0U, setDword(HKEY_CURRENT_USER, L"number", 42));
-    EXPECT_EQ("[General]\nnumber=1$42\n", fileOnDisk());
+    EXPECT_EQ("[number]\nnumber=1$42\n", fileOnDisk());
 }
 
 // Of a thousand writes, each of them saved, those up to one are in the file and none behind it.
@@ -192,7 +192,8 @@ TEST_F(StoreFaults, KilledProgramLeavesTheOldOrTheNewState)
         const int count = left.allKeys().size();
         EXPECT_LE(writes, count);
         for (int i = 0; i < count; ++i)
-            EXPECT_EQ(QStringLiteral("1$%1").arg(i), left.value(QString::number(i)).toString());
+            EXPECT_EQ(QStringLiteral("1$%1").arg(i),
+                      left.value(QStringLiteral("%1/%1").arg(i)).toString());
         EXPECT_EQ(QSettings::NoError, left.status());
     }
 }
