@@ -29,6 +29,7 @@
 #include "ctl/registry/RegistryRenameCommand.h"
 #include "ctl/registry/RegistrySetCommand.h"
 #include "ctl/registry/RegistryWatchCommand.h"
+#include "ctl/trace/TraceRecordCommand.h"
 
 #include <algorithm>
 #include <iterator>
@@ -142,6 +143,9 @@ constexpr CommandTable::Row table[] = {
      QT_TRANSLATE_NOOP("CommandTable",
                        "Tells whether host libraries can be loaded here, and if not, why."),
      1, anyNumber, Needs::Nothing, made<HostCheckCommand>},
+    {"trace", "record", "PROGRAM [ARGUMENT]...",
+     QT_TRANSLATE_NOOP("CommandTable", "Runs a program and records the calls of its services."), 1,
+     anyNumber, Needs::Nothing, made<TraceRecordCommand>},
 };
 
 } // namespace
