@@ -54,6 +54,8 @@ if(NOT QUAYSIDE_HOST_LIBRARIES)
   install(TARGETS quayside_host EXPORT QuaysideTargets
     LIBRARY DESTINATION ${stand_in_folder} COMPONENT programs)
 endif()
+# What "quaysidectl trace record" preloads.
+install(TARGETS quayside_recorder LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 # The headers that others compile against; all others may change from one version to the next.
 set(public_headers
   app/CStdStr.h app/CommandLine.h app/Logger.h app/TextTime.h

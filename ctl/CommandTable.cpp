@@ -32,6 +32,7 @@
 #include "ctl/trace/TraceDiffCommand.h"
 #include "ctl/trace/TraceDumpCommand.h"
 #include "ctl/trace/TraceLeaksCommand.h"
+#include "ctl/trace/TraceRecordCommand.h"
 #include "ctl/trace/TraceStatCommand.h"
 #include "ctl/trace/TraceTrimCommand.h"
 
@@ -147,6 +148,9 @@ constexpr CommandTable::Row table[] = {
      QT_TRANSLATE_NOOP("CommandTable",
                        "Tells whether host libraries can be loaded here, and if not, why."),
      1, anyNumber, Needs::Nothing, made<HostCheckCommand>},
+    {"trace", "record", "PROGRAM [ARGUMENT]...",
+     QT_TRANSLATE_NOOP("CommandTable", "Runs a program and records the calls of its services."), 1,
+     anyNumber, Needs::Nothing, made<TraceRecordCommand>},
     {"trace", "dump", "FILE", QT_TRANSLATE_NOOP("CommandTable", "Prints the calls of a recording."),
      1, 1, Needs::Nothing, made<TraceDumpCommand>},
     {"trace", "stat", "FILE",

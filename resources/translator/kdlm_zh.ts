@@ -488,6 +488,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Keeps some calls of a recording, with what they need.</source>
         <translation>保留记录文件中的部分调用及其所需的调用。</translation>
     </message>
+    <message>
+        <source>Runs a program and records the calls of its services.</source>
+        <translation>运行一个程序，并记录对其服务的调用。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -4042,6 +4046,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RecordedProgram</name>
+    <message>
+        <source>%1 cannot be started: %2</source>
+        <translation>无法启动 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>RecordingArgument</name>
     <message>
         <source>%L1 more lines cannot be read.</source>
@@ -5216,6 +5227,57 @@ Wide: %2</source>
     <message>
         <source>The recording has no end: the program was still running, or was killed.</source>
         <translation>记录没有结尾：程序仍在运行，或已被终止。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceRecordCommand</name>
+    <message>
+        <source>%1 is not installed.</source>
+        <translation>%1 未安装。</translation>
+    </message>
+    <message>
+        <source>--text needs a number, not &quot;%1&quot;.</source>
+        <translation>--text 需要一个数字，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>There is no operation and no manager &quot;%1&quot;.</source>
+        <translation>没有名为“%1”的操作或管理器。</translation>
+    </message>
+    <message>
+        <source>Only data can be hidden, not &quot;%1&quot;.</source>
+        <translation>只能隐藏 data，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>Records into this file; usually into PROGRAM.trace in the working folder.</source>
+        <translation>记录到此文件；通常为工作文件夹中的 PROGRAM.trace。</translation>
+    </message>
+    <message>
+        <source>Prints the calls on the standard error as they come.</source>
+        <translation>在标准错误输出上随时显示各个调用。</translation>
+    </message>
+    <message>
+        <source>Prints only the calls that fail.</source>
+        <translation>只显示失败的调用。</translation>
+    </message>
+    <message>
+        <source>Records only these operations and managers; leaves those out that have &quot;!&quot; in front.</source>
+        <translation>只记录这些操作和管理器；前面带“!”的除外。</translation>
+    </message>
+    <message>
+        <source>Records the calls of the program itself too.</source>
+        <translation>也记录程序自身的调用。</translation>
+    </message>
+    <message>
+        <source>Records lengths in place of values; WHAT is &quot;data&quot;.</source>
+        <translation>只记录值的长度而不记录值；WHAT 为“data”。</translation>
+    </message>
+    <message>
+        <source>Records only so many characters of a text and bytes of data.</source>
+        <translation>文本只记录这么多字符，数据只记录这么多字节。</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded: the program has not handed its services over.</source>
+        <translation>未记录任何内容：程序没有移交其服务。</translation>
     </message>
 </context>
 <context>

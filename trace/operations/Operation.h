@@ -128,6 +128,7 @@ struct Parameter
     Extent extent = Extent::None;
     Written written = Written::OnSuccess;
     bool isNeeded = false; ///< with null here, nothing is done and nothing written
+    bool isValue = false;  ///< what is kept in a store or a file: left out where values are hidden
     Life life = Life::None;
     Rows<BitName> names = {};
     Rows<Field> fields = {};

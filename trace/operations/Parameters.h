@@ -17,9 +17,16 @@ constexpr Parameter needed(Parameter parameter)
     return parameter;
 }
 
+/// What is kept under a name, not the name.
+constexpr Parameter value(Parameter parameter)
+{
+    parameter.isValue = true;
+    return parameter;
+}
+
 constexpr Parameter named(const char* name, Role role, Rows<BitName> names)
 {
-    return {name, role, nullptr, Extent::None, Written::OnSuccess, false, Life::None, names};
+    return {name, role, nullptr, Extent::None, Written::OnSuccess, false, false, Life::None, names};
 }
 
 /// Something that the service writes.
@@ -32,7 +39,7 @@ constexpr Parameter out(const char* name, Role role, Extent extent = Extent::Who
 constexpr Parameter record(const char* name, Role role, Rows<Field> fields,
                            Extent extent = Extent::None)
 {
-    return {name, role, nullptr, extent, Written::OnSuccess, false, Life::None, {}, fields};
+    return {name, role, nullptr, extent, Written::OnSuccess, false, false, Life::None, {}, fields};
 }
 
 constexpr Parameter given(Parameter parameter)

@@ -7,8 +7,8 @@ namespace trace {
 inline constexpr Parameter wideStringParameters[] = {
     needed(plain("section", Role::Text)),
     needed(plain("key", Role::Text)),
-    plain("fallback", Role::Text),
-    needed(out("buffer", Role::TextOut, Extent::ResultCut, "size", Written::Given)),
+    value(plain("fallback", Role::Text)),
+    value(needed(out("buffer", Role::TextOut, Extent::ResultCut, "size", Written::Given))),
     plain("size", Role::Unsigned),
     needed(plain("file", Role::Text)),
 };
@@ -16,8 +16,8 @@ inline constexpr Parameter wideStringParameters[] = {
 inline constexpr Parameter narrowStringParameters[] = {
     needed(plain("section", Role::NarrowText)),
     needed(plain("key", Role::NarrowText)),
-    plain("fallback", Role::UnreadNarrowText),
-    needed(out("buffer", Role::NarrowTextOut, Extent::ResultCut, "size", Written::Given)),
+    value(plain("fallback", Role::UnreadNarrowText)),
+    value(needed(out("buffer", Role::NarrowTextOut, Extent::ResultCut, "size", Written::Given))),
     plain("size", Role::Unsigned),
     needed(plain("file", Role::NarrowText)),
 };
@@ -45,7 +45,7 @@ inline constexpr Parameter sectionNamesParameters[] = {
 // The size bounds nothing.
 inline constexpr Parameter wideSectionParameters[] = {
     needed(plain("section", Role::Text)),
-    needed(out("buffer", Role::TextsOut, Extent::Result)),
+    value(needed(out("buffer", Role::TextsOut, Extent::Result))),
     plain("size", Role::Unsigned),
     needed(plain("file", Role::Text)),
 };
@@ -53,22 +53,24 @@ inline constexpr Parameter wideSectionParameters[] = {
 inline constexpr Parameter writeWideParameters[] = {
     needed(plain("section", Role::Text)),
     needed(plain("key", Role::Text)),
-    plain("value", Role::Text),
+    value(plain("value", Role::Text)),
     needed(plain("file", Role::Text)),
 };
 
 inline constexpr Parameter writeNarrowParameters[] = {
     needed(plain("section", Role::NarrowText)),
     needed(plain("key", Role::NarrowText)),
-    plain("value", Role::NarrowText),
+    value(plain("value", Role::NarrowText)),
     needed(plain("file", Role::NarrowText)),
 };
 
 inline constexpr Parameter openProfileParameters[] = {plain("file", Role::UnreadText)};
 
 inline constexpr Parameter queryStringParameters[] = {
-    plain("section", Role::UnreadText),  plain("key", Role::UnreadText),
-    plain("fallback", Role::UnreadText), plain("buffer", Role::Unwritten),
+    plain("section", Role::UnreadText),
+    plain("key", Role::UnreadText),
+    value(plain("fallback", Role::UnreadText)),
+    plain("buffer", Role::Unwritten),
     plain("size", Role::Unsigned),
 };
 

@@ -9,8 +9,9 @@ inline constexpr Result registryStatus = {Role::Choice, Failure::NonZero, Life::
 
 constexpr Parameter typeOut()
 {
-    return {"type", Role::ChoiceOut, nullptr,       Extent::Whole, Written::OnSuccess,
-            false,  Life::None,      valueTypeNames};
+    Parameter type = out("type", Role::ChoiceOut);
+    type.names = valueTypeNames;
+    return type;
 }
 
 inline constexpr Parameter queryValueParameters[] = {
@@ -18,7 +19,7 @@ inline constexpr Parameter queryValueParameters[] = {
     plain("valueName", Role::Text),
     plain("reserved", Role::Unwritten),
     typeOut(),
-    out("data", Role::DataOut, Extent::Size, "byteCount"),
+    value(out("data", Role::DataOut, Extent::Size, "byteCount")),
     out("byteCount", Role::SizeInOut),
 };
 
@@ -46,9 +47,9 @@ inline constexpr Parameter openKeyParameters[] = {
 };
 
 inline constexpr Parameter setValueParameters[] = {
-    needed(plain("key", Role::KeyHandle)), plain("valueName", Role::Text),
-    plain("reserved", Role::Unsigned),     named("type", Role::Choice, valueTypeNames),
-    {"data", Role::Data, "byteCount"},     plain("byteCount", Role::Unsigned),
+    needed(plain("key", Role::KeyHandle)),    plain("valueName", Role::Text),
+    plain("reserved", Role::Unsigned),        named("type", Role::Choice, valueTypeNames),
+    value({"data", Role::Data, "byteCount"}), plain("byteCount", Role::Unsigned),
 };
 
 inline constexpr Parameter closeKeyParameters[] = {ends(plain("key", Role::KeyHandle))};
@@ -103,14 +104,14 @@ inline constexpr Parameter enumValueParameters[] = {
     out("nameLength", Role::NumberOut, Extent::Whole, nullptr, Written::WhenListed),
     plain("reserved", Role::Unwritten),
     typeOut(),
-    out("data", Role::DataOut, Extent::Size, "byteCount"),
+    value(out("data", Role::DataOut, Extent::Size, "byteCount")),
     out("byteCount", Role::SizeInOut),
 };
 
 inline constexpr Parameter queryValueShortParameters[] = {
     needed(plain("key", Role::KeyHandle)),
     plain("valueName", Role::Text),
-    out("data", Role::DataOut, Extent::Size, "byteCount"),
+    value(out("data", Role::DataOut, Extent::Size, "byteCount")),
     out("byteCount", Role::SizeInOut),
 };
 

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "trace/operations/Operation.h"
+#include "trace/recorder/Inquiry.h"
+#include "trace/recorder/ThreadState.h"
+
+#include <cstdint>
+
+namespace recorder {
+
+/// A call that is recorded: its line is written when it is entered, and completed when it returns.
+/// It lives on the stack, around the original. `errno` stays as caller and service leave it.
+class Call
+{
+public:
+    /// A call of an operation of `object` from the address `caller`.
+    Call(const trace::Manager& manager, const trace::Operation& operation, void* object,
+         const std::uint64_t* words, std::uintptr_t caller);
+    /// A call of the caller's procedure by the services.
+    Call(const trace::Operation& callback, const std::uint64_t* words);
+    /// A call that has not returned by now was left by an exception.
+    ~Call();
+
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+
+    void returned(std::uint64_t result);
+
+private:
+    OpenCall& enter();
+    void begin(OpenCall& open);
+    void complete(OpenCall& open, std::uint64_t result);
+
+    const trace::Operation& m_operation;
+    void* m_object = nullptr;
+    const std::uint64_t* m_words;
+    Inquiry m_inquiry;
+    bool m_hasReturned = false;
+};
+
+} // namespace recorder
