@@ -4,6 +4,9 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 // A device in the field runs for years: the file before last is dropped.
@@ -16,16 +19,43 @@ QString stateFolder()
                                         : QDir::homePath() + QStringLiteral("/.local/state");
 }
 
-std::string preparedPath()
+// The name in the encoding of the file system.
+QByteArray nativePath()
+{
+    return QFile::encodeName(ApplicationLog::path());
+}
+
+void putAside(const QString& path)
+{
+    const QString old = path + QStringLiteral(".1");
+    QFile::remove(old);
+    QFile::rename(path, old);
+}
+
+// The user's doings are nobody else's business: a logger by itself would make a file for all to
+// read. A log that is there already stays, but for its permissions; what is no file keeps those
+// too.
+void makeFile()
+{
+    constexpr mode_t forTheUser = S_IRUSR | S_IWUSR;
+    const int descriptor =
+        ::open(nativePath().constData(), O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
+               forTheUser);
+    if (descriptor < 0)
+        return;
+    struct stat status = {};
+    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
+        fchmod(descriptor, status.st_mode & forTheUser);
+    close(descriptor);
+}
+
+void prepare()
 {
     const QString path = ApplicationLog::path();
     QDir().mkpath(QFileInfo(path).path());
-    if (QFileInfo(path).size() > largestFile) {
-        const QString old = path + QStringLiteral(".1");
-        QFile::remove(old);
-        QFile::rename(path, old);
-    }
-    return QFile::encodeName(path).toStdString();
+    if (QFileInfo(path).size() > largestFile)
+        putAside(path);
+    makeFile();
 }
 
 // A line end in a text, such as from a file's name, would begin what passes for a further entry.
@@ -53,15 +83,41 @@ QString ApplicationLog::path()
 
 bool ApplicationLog::isWritable()
 {
-    instance(); // makes the file
+    ApplicationLog& log = instance();
+    if (!log.isInPlace())
+        log.open();
     return QFileInfo(path()).isWritable();
 }
 
-ApplicationLog::ApplicationLog() : m_logger(Logger::file, Logger::debug, preparedPath()) {}
+ApplicationLog::ApplicationLog()
+{
+    open();
+}
+
+void ApplicationLog::open()
+{
+    m_logger.reset();
+    prepare();
+    m_file = {};
+    if (stat(nativePath().constData(), &m_file) == 0 && S_ISFIFO(m_file.st_mode))
+        return;
+    m_logger = std::make_unique<Logger>(Logger::file, Logger::debug, nativePath().toStdString());
+}
+
+// Whether the name still leads to the file that the logger has opened.
+bool ApplicationLog::isInPlace() const
+{
+    struct stat status = {};
+    return stat(nativePath().constData(), &status) == 0 && status.st_dev == m_file.st_dev &&
+           status.st_ino == m_file.st_ino;
+}
 
 void ApplicationLog::write(Logger::log_level level, const QString& text)
 {
-    m_logger.output(inOneLine(text).toStdString(), level);
+    if (!isInPlace())
+        open();
+    if (m_logger)
+        m_logger->output(inOneLine(text).toStdString(), level);
     emit written();
 }
 

@@ -5,8 +5,12 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+#include <sys/stat.h>
+
 /// The log of the running application: one file below the user's state folder, to which every run
-/// appends. Created on first use, closed at process exit.
+/// appends. Created on first use, for the user alone, and again where it has been removed or moved
+/// away; closed at process exit.
 ///
 /// Pass phrases, keys and clear texts never go into it.
 class ApplicationLog : public QObject
@@ -32,7 +36,11 @@ signals:
 private:
     ApplicationLog();
 
-    Logger m_logger;
+    void open();
+    bool isInPlace() const;
+
+    std::unique_ptr<Logger> m_logger; ///< none where a file of that name would be waited for
+    struct stat m_file = {};          ///< the logger's, as it was found
 };
 
 /// Writes one line of level `info` to the application's log.

@@ -60,9 +60,7 @@ Logger::Logger(log_target target, log_level level, const std::string& path)
 Logger::~Logger()
 {
     if (m_file.is_open())
-        m_file << endBanner();
-    m_file.flush();
-    m_file.close();
+        append(endBanner());
 }
 
 void Logger::DEBUG(const std::string& text)
@@ -92,6 +90,16 @@ void Logger::output(const std::string& text, log_level level)
         std::cout << line;
     // Intended: lines below the threshold still go to the file.
     if (m_target != console)
-        m_file << line;
+        append(line);
+}
+
+// What a full disk has refused waits in the stream's buffer, as far as that reaches, and is written
+// as soon as there is room. A file that could not be opened swallows all lines, whatever happens
+// later.
+void Logger::append(const std::string& text)
+{
+    if (m_file.is_open())
+        m_file.clear();
+    m_file << text;
     m_file.flush();
 }

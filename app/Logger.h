@@ -9,7 +9,9 @@ std::string currTime();
 /// Writes timestamped lines to a file, to standard output, or to both.
 ///
 /// A line is prefix, time, " : ", text and a line feed; the text is written as given. A file that
-/// cannot be opened swallows its lines silently. Use one logger from one thread at a time.
+/// cannot be opened swallows its lines silently; one on a full disk goes on when there is room
+/// again, with the last few of the lines that it has missed. Use one logger from one thread at a
+/// time.
 class Logger
 {
 public:
@@ -59,6 +61,8 @@ public:
     void output(const std::string& text, log_level level);
 
 private:
+    void append(const std::string& text);
+
     std::ofstream m_file;
     log_target m_target;
     std::string m_path;

@@ -31,8 +31,8 @@ int main(int argc, char** argv)
     parseCommandLine(argc, argv, appTranslator, qtTranslator);
     MainWindow window;
     window.showPage(requestedPage(argc, argv));
+    window.openFile(requestedFile(argc, argv));
     centreOnDesktop(window);
     window.show();
-    window.openFile(requestedFile(argc, argv));
     return QApplication::exec();
 }

@@ -5,9 +5,11 @@
 #include "platform/PlatformProfileManagerImp.h"
 #include "platform/PlatformRegisterManagerImp.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <glib.h>
 
@@ -196,8 +198,13 @@ public:
     Registry(const Registry&) = delete;
     Registry& operator=(const Registry&) = delete;
 
-    // The same store, read from its file.
-    void save() { m_store.sync(); }
+    // Saves the store, and waits until its file's time stamp is older than the steps of the clock.
+    void save()
+    {
+        m_store.sync();
+        QCoreApplication::processEvents();
+        QThread::msleep(50);
+    }
 
     void readOne()
     {
@@ -210,14 +217,74 @@ public:
 
     void openAndClose() { m_manager->RegCloseKey(opened(L"Key1")); }
 
+    // Begins in another turn of the event loop than whatever was done before.
     void enumerate()
     {
-        wchar_t name[64];
+        QCoreApplication::processEvents();
         unsigned int index = 0;
-        while (m_manager->RegEnumValueW(m_key, index, name, nullptr, nullptr, nullptr, nullptr,
-                                        nullptr) == 0)
+        while (isValueAt(index))
             ++index;
         if (index != static_cast<unsigned int>(m_perKey))
+            std::abort();
+    }
+
+    // As programs do it that ask for the number of values each time.
+    void enumerateByCount()
+    {
+        QCoreApplication::processEvents();
+        for (unsigned int index = 0; index < countOfValues(); ++index) {
+            if (!isValueAt(index))
+                std::abort();
+        }
+    }
+
+    void enumerateKeys(unsigned int expected)
+    {
+        QCoreApplication::processEvents();
+        wchar_t name[64];
+        unsigned int index = 0;
+        while (m_manager->RegEnumKeyExW(HKEY_CURRENT_USER, index, name, nullptr, nullptr, nullptr,
+                                        nullptr, nullptr) == 0)
+            ++index;
+        if (index != expected)
+            std::abort();
+    }
+
+    // Takes the first value and deletes it until there is none.
+    void deleteAll()
+    {
+        wchar_t name[64] = {};
+        unsigned int length = 0;
+        while (m_manager->RegEnumValueW(m_key, 0, name, &length, nullptr, nullptr, nullptr,
+                                        nullptr) == 0) {
+            name[length] = L'\0';
+            m_manager->RegDeleteValueW(m_key, name);
+        }
+    }
+
+    void deleteAllDirectly()
+    {
+        m_store.beginGroup(QStringLiteral("Key0"));
+        for (QStringList names = m_store.childKeys(); !names.isEmpty(); names = m_store.childKeys())
+            m_store.remove(names.first());
+        m_store.endGroup();
+    }
+
+    // What QSettings alone takes for names and values.
+    void readAll()
+    {
+        m_store.beginGroup(QStringLiteral("Key0"));
+        const QStringList names = m_store.childKeys();
+        for (const QString& name : names) {
+            if (m_store.value(name).isNull())
+                std::abort();
+        }
+        m_store.endGroup();
+    }
+
+    void listKeysOnce(int expected)
+    {
+        if (m_store.childGroups().size() != expected)
             std::abort();
     }
 
@@ -231,6 +298,21 @@ public:
     }
 
 private:
+    bool isValueAt(unsigned int index)
+    {
+        wchar_t name[64];
+        return m_manager->RegEnumValueW(m_key, index, name, nullptr, nullptr, nullptr, nullptr,
+                                        nullptr) == 0;
+    }
+
+    unsigned int countOfValues()
+    {
+        unsigned int count = 0;
+        m_manager->RegQueryInfoKeyW(m_key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                    &count, nullptr, nullptr, nullptr, nullptr);
+        return count;
+    }
+
     HKEY opened(const wchar_t* name)
     {
         HKEY key = nullptr;
@@ -257,23 +339,51 @@ void measureRegistry()
         report("open and close a key of 100 values" + name,
                median(2000, [&store] { store.openAndClose(); }));
     }
-    for (const int values : {100, 1000, 3000, 10000}) {
+}
+
+// Ratios above 1 are the cost of one call for each name, which checks each time that the list is
+// still true.
+void measureEnumeration()
+{
+    for (const int values : {100, 1000, 10000}) {
+        const std::string count = std::to_string(values);
         Registry store(values, values);
         store.save();
-        report("list " + std::to_string(values) + " values once",
-               median(20, [&store] { store.listOnce(); }));
-        report("enumerate " + std::to_string(values) + " values",
-               median(1, [&store] { store.enumerate(); }));
+        const double all = median(20, [&store] { store.readAll(); });
+        const double enumeration = median(5, [&store] { store.enumerate(); });
+        report("list " + count + " values once", median(20, [&store] { store.listOnce(); }));
+        report("enumerate " + count + " values", enumeration, all);
+        report("enumerate " + count + " values, counting them each time",
+               median(5, [&store] { store.enumerateByCount(); }), all);
+        Registry keys(values, 1);
+        keys.save();
+        report("enumerate " + count + " keys",
+               median(5, [&] { keys.enumerateKeys(static_cast<unsigned int>(values)); }),
+               median(20, [&] { keys.listKeysOnce(values); }));
+        if (values == 10000)
+            std::printf("enumerating 10000 values: %.1f ms (at most 100)\n", enumeration / 1000);
     }
+}
+
+void measureDeletion()
+{
+    Registry ours(3000, 3000);
+    Registry peer(3000, 3000);
+    report("delete the first of 3000 values until there is none",
+           median(1, [&ours] { ours.deleteAll(); }),
+           median(1, [&peer] { peer.deleteAllDirectly(); }));
 }
 
 } // namespace
 
-int main()
+int main(int argc, char** argv)
 {
+    const QCoreApplication application(argc, argv);
     for (const int entries : {2000, 20000}) {
         Profile(entries, 100).run();
         Profile(entries, entries).run();
     }
     measureRegistry();
+    measureEnumeration();
+    measureDeletion();
 }

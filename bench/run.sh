@@ -2,12 +2,15 @@
 # run.sh --names [NAME...]: prints the names of the benchmark programs, or checks the given ones and
 # prints them; where one does not exist, tells which do and ends with 2.
 # run.sh BUILD NAME...: runs benchmark programs of a build.
+# run.sh --check BUILD NAME...: then shows every ratio beside its limit (bench/limits) in one table, and
+# ends with 1 where one is missed.
 set -euo pipefail
+folder=$(dirname "${BASH_SOURCE[0]}")
 
 # checked NAME...: the names if they are benchmarks; all benchmarks when none is given.
 checked() {
     local all name
-    all=$(sed -n 's/^add_executable(\([a-z]*_bench\).*/\1/p' "$(dirname "${BASH_SOURCE[0]}")/CMakeLists.txt")
+    all=$(sed -n 's/^add_executable(\([a-z]*_bench\).*/\1/p' "$folder/CMakeLists.txt")
     for name; do
         grep -qxF -e "$name" <<<"$all" && continue
         printf "No benchmark '%s'. There are:\n%s\n" "$name" "$all" >&2
@@ -16,11 +19,27 @@ checked() {
     if [ "$#" -gt 0 ]; then printf '%s\n' "$@"; else printf '%s\n' "$all"; fi
 }
 
-if [ "$1" = --names ]; then
+# run BUILD NAME...: a line "== NAME" before the output of each.
+run() {
+    local build=$1 name
+    shift
+    for name; do
+        echo "== $name"
+        "$build/bench/$name"
+    done
+}
+
+case $1 in
+--names)
     shift
     checked "$@"
-    exit
-fi
-build=$1
-shift
-for name; do "$build/bench/$name"; done
+    ;;
+--check)
+    shift
+    output=$(mktemp)
+    trap 'rm -f "$output"' EXIT
+    run "$@" | tee "$output"
+    "$folder/check.py" "$folder/limits" "${@:2}" <"$output"
+    ;;
+*) run "$@" ;;
+esac

@@ -9,16 +9,7 @@ set(quayside_archives
   platform widgets support app regfile inspection window pages crypto resources)
 
 add_executable(quayside ${PROJECT_SOURCE_DIR}/app/main.cpp)
-quayside_configure(quayside)
-set_target_properties(quayside PROPERTIES
-  POSITION_INDEPENDENT_CODE ON
-  RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/run
-  BUILD_RPATH_USE_ORIGIN ON)
-if(QUAYSIDE_HOST_LIBRARIES)
-  set_target_properties(quayside PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
-else()
-  set_target_properties(quayside PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
-endif()
+quayside_program(quayside)
 
 set(whole_archives)
 foreach(name IN LISTS quayside_archives)
@@ -30,14 +21,7 @@ target_link_libraries(quayside PRIVATE
   quayside_host_in_use Qt5::Widgets ${CMAKE_DL_LIBS})
 target_include_directories(quayside PRIVATE
   $<TARGET_PROPERTY:quayside_pages,INTERFACE_INCLUDE_DIRECTORIES>)
-set_target_properties(quayside PROPERTIES LINK_DEPENDS
-  "${PROJECT_SOURCE_DIR}/cmake/exports.list;${PROJECT_SOURCE_DIR}/cmake/exports.map")
 
-# The dynamic list puts the two exports into the executable's dynamic symbol table, which by itself
-# offers nothing; the version script keeps everything else out of it.
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
-target_link_options(quayside PRIVATE
-  -Wl,--dynamic-list=${PROJECT_SOURCE_DIR}/cmake/exports.list
-  -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
 add_dependencies(quayside quayside_translations)

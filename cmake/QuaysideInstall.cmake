@@ -1,5 +1,6 @@
 # The installed tree: the program with Qt's catalogue for it, the stand-in, and the libraries with
-# their headers and a CMake package for those who compile against them.
+# their headers and a CMake package for those who compile against them. The component "programs" is
+# what runs without a compiler.
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Quayside)
@@ -11,9 +12,10 @@ install(CODE "message(STATUS \"Installing Quayside ${PROJECT_VERSION}, built as 
 function(quayside_install_filled template destination name)
   string(JOIN "\n" lines ${ARGN})
   install(CODE "${lines}
-    configure_file(${PROJECT_SOURCE_DIR}/packaging/${template} ${PROJECT_BINARY_DIR}/filled/${name} @ONLY)")
+    configure_file(${PROJECT_SOURCE_DIR}/packaging/${template} ${PROJECT_BINARY_DIR}/filled/${name} @ONLY)"
+    COMPONENT programs)
   install(PROGRAMS ${PROJECT_BINARY_DIR}/filled/${name} DESTINATION ${destination}
-    PERMISSIONS ${QUAYSIDE_FILLED_PERMISSIONS})
+    PERMISSIONS ${QUAYSIDE_FILLED_PERMISSIONS} COMPONENT programs)
 endfunction()
 set(data_permissions OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
@@ -26,7 +28,8 @@ endif()
 if(QUAYSIDE_PRIVATE_FOLDER)
   set(stand_in_folder ${QUAYSIDE_PRIVATE_FOLDER})
   set_target_properties(${programs} PROPERTIES INSTALL_RPATH "")
-  install(TARGETS ${programs} RUNTIME DESTINATION ${QUAYSIDE_PRIVATE_FOLDER})
+  install(TARGETS ${programs} RUNTIME
+    DESTINATION ${QUAYSIDE_PRIVATE_FOLDER} COMPONENT programs)
   set(QUAYSIDE_FILLED_PERMISSIONS
     ${data_permissions} OWNER_EXECUTE GROUP_EXECUTE WORLD_EXECUTE)
   foreach(program IN LISTS programs)
@@ -36,7 +39,8 @@ if(QUAYSIDE_PRIVATE_FOLDER)
   endforeach()
 else()
   set(stand_in_folder ${CMAKE_INSTALL_LIBDIR})
-  install(TARGETS ${programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS ${programs} RUNTIME
+    DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT programs)
 endif()
 install(TARGETS
     quayside_support quayside_platform quayside_crypto quayside_widgets quayside_resources
@@ -48,7 +52,7 @@ install(TARGETS
 # Beside the maker's libraries the stand-in would be found in their place: it has the same name.
 if(NOT QUAYSIDE_HOST_LIBRARIES)
   install(TARGETS quayside_host EXPORT QuaysideTargets
-    LIBRARY DESTINATION ${stand_in_folder})
+    LIBRARY DESTINATION ${stand_in_folder} COMPONENT programs)
 endif()
 # The headers that others compile against; all others may change from one version to the next.
 set(public_headers
@@ -68,7 +72,7 @@ foreach(header IN LISTS public_headers)
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/quayside/${folder})
 endforeach()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/run/translations
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/quayside)
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/quayside COMPONENT programs)
 
 install(FILES ${PROJECT_SOURCE_DIR}/docs/quaysidectl.1 ${PROJECT_SOURCE_DIR}/docs/quayside.1
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

@@ -11,6 +11,13 @@ target_compile_features(quayside_flags INTERFACE cxx_std_17)
 target_compile_options(quayside_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow
   $<$<BOOL:${QUAYSIDE_WARNINGS_AS_ERRORS}>:-Werror>)
+# Checks of the standard library, such as of an index, and targets that indirect jumps must have.
+target_compile_definitions(quayside_flags INTERFACE _GLIBCXX_ASSERTIONS)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
+  target_compile_options(quayside_flags INTERFACE -mbranch-protection=standard)
+elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64)$")
+  target_compile_options(quayside_flags INTERFACE -fcf-protection)
+endif()
 # Hardening of what is delivered. Sanitizers bring their own checks, and fortified calls would hide
 # faults from them.
 if(QUAYSIDE_SANITIZE)
@@ -48,6 +55,30 @@ function(quayside_configure target)
     CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON)
+endfunction()
+
+# quayside_program(<target>): a program that loads host libraries. They may take the services object
+# and the decryption from it: the dynamic list puts the two into the program's dynamic symbol table,
+# which by itself offers nothing; the version script keeps everything else out of it. Where it looks
+# for host libraries is the same in the folder run/ of the build and installed: a path that is exchanged
+# when the program is installed gets an empty entry until then, and the dynamic loader takes that for
+# the working directory.
+function(quayside_program target)
+  quayside_configure(${target})
+  set_target_properties(${target} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/run
+    BUILD_WITH_INSTALL_RPATH ON
+    LINK_DEPENDS
+      "${PROJECT_SOURCE_DIR}/cmake/exports.list;${PROJECT_SOURCE_DIR}/cmake/exports.map")
+  if(QUAYSIDE_HOST_LIBRARIES)
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
+  else()
+    set_target_properties(${target} PROPERTIES
+      INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  endif()
+  target_link_options(${target} PRIVATE
+    -Wl,--dynamic-list=${PROJECT_SOURCE_DIR}/cmake/exports.list
+    -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
 endfunction()
 
 # quayside_library(<name> <sources>...): the static library quayside_<name>, alias Quayside::<name>,

@@ -64,7 +64,10 @@ qint64 Interruption::read(int descriptor, char* data, qint64 size)
     do {
         pollfd sources[] = {{descriptor, POLLIN, 0}, {g_wakers[0], POLLIN, 0}};
         static_cast<void>(poll(sources, std::size(sources), -1));
-        check();
+        if (isAsked()) {
+            errno = EINTR;
+            return -1;
+        }
         count = ::read(descriptor, data, static_cast<std::size_t>(size));
     } while (count < 0 && errno == EINTR);
     return count;

@@ -12,8 +12,8 @@ void note();
 bool isAsked();
 /// Throws a Failure then.
 void check();
-/// Reads as the system does, from a pipe or a terminal too, but throws a Failure as soon as the
-/// program is to end. Negative where that fails, with the reason in `errno`.
+/// Reads as the system does, from a pipe or a terminal too, but only until the program is to end.
+/// Negative then, and where that fails, with the reason in `errno`.
 qint64 read(int descriptor, char* data, qint64 size);
 
 } // namespace Interruption

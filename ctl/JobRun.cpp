@@ -7,4 +7,5 @@ void finish(Job& job)
 {
     while (job.step())
         Interruption::check();
+    Interruption::check(); // what waited for its input has ended because of that
 }

@@ -70,12 +70,18 @@ const char* colourOf(Output::Tone tone)
     return "";
 }
 
+bool knowsColours()
+{
+    return qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
+}
+
 } // namespace
 
 Output::Output(Form form, const QString& command)
-    : m_form(form),
+    : m_device(form == Form::Quiet ? StandardOutput::Use::Drop : StandardOutput::Use::Print),
+      m_form(form),
       m_command(command),
-      m_hasColours(m_device.isTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR"))
+      m_hasColours(m_device.isTerminal() && knowsColours())
 {
 }
 

@@ -88,7 +88,8 @@ ExitStatus Program::runCommand(const CommandTable::Row& row)
         m_own.addOption(
             {QStringLiteral("force"), tr("Saves a damaged store without its damaged lines.")});
     if (!m_own.parse(QStringList(m_arguments.first()) + m_global.positionalArguments().mid(2)))
-        return wrongUsage(m_own.errorText());
+        return wrongUsage(m_own.errorText() + ' ' +
+                          tr("Put \"--\" before arguments that begin with \"-\"."));
     if (isSet("help"))
         return print(helpOf(row, m_own));
     if (isSet("version"))

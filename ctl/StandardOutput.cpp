@@ -11,7 +11,7 @@ constexpr int largestBuffer = 64 * 1024;
 
 } // namespace
 
-StandardOutput::StandardOutput()
+StandardOutput::StandardOutput(Use use) : m_use(use)
 {
     open(QIODevice::WriteOnly | QIODevice::Unbuffered);
 }
@@ -44,6 +44,8 @@ qint64 StandardOutput::readData(char* /*data*/, qint64 /*size*/)
 
 qint64 StandardOutput::writeData(const char* data, qint64 size)
 {
+    if (m_use == Use::Drop)
+        return size;
     m_buffer.append(data, static_cast<int>(size));
     return m_buffer.size() < largestBuffer || flushBuffer() ? size : -1;
 }

@@ -10,7 +10,13 @@ class StandardOutput : public QIODevice
     Q_DECLARE_TR_FUNCTIONS(StandardOutput)
 
 public:
-    StandardOutput();
+    enum class Use
+    {
+        Print,
+        Drop ///< what is written goes nowhere
+    };
+
+    explicit StandardOutput(Use use = Use::Print);
 
     bool isSequential() const override { return true; }
     /// True where people read it.
@@ -29,5 +35,6 @@ private:
     bool flushBuffer();
     void check(bool good) const;
 
+    Use m_use;
     QByteArray m_buffer;
 };

@@ -1,17 +1,21 @@
 #include "app/StartUp.h"
+#include "ctl/ExitStatus.h"
 #include "ctl/Interruption.h"
 #include "ctl/Message.h"
 #include "ctl/Program.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLocale>
 #include <QTextCodec>
 #include <QTranslator>
 
 #include <clocale>
 #include <cstdlib>
+#include <fcntl.h>
 #include <langinfo.h>
 #include <memory>
+#include <unistd.h>
 
 namespace {
 
@@ -31,6 +35,46 @@ void tellQtFailures(QtMsgType type, const QMessageLogContext& /*context*/, const
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
         showMessage(text);
+    if (type == QtFatalMsg)
+        std::_Exit(static_cast<int>(ExitStatus::Failed)); // Qt would leave a core behind
+}
+
+// Where one is closed, the next file that is opened would take its place, and be read or written
+// instead. What stands there now fails as a closed one does.
+void keepStandardDescriptors()
+{
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) < 0)
+            static_cast<void>(open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+    }
+}
+
+// Such an argument would mean another file, or another key, than the one that is asked for.
+bool areReadable(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        QTextCodec::ConverterState state;
+        const QString text = QTextCodec::codecForLocale()->toUnicode(
+            argv[i], static_cast<int>(qstrlen(argv[i])), &state);
+        if (state.invalidChars == 0 && state.remainingChars == 0)
+            continue;
+        showMessage(
+            Program::tr("The argument \"%1\" is not in the encoding of the locale.").arg(text));
+        return false;
+    }
+    return true;
+}
+
+// Qt's own texts: beside the program, or where it is installed. The application looks for them
+// below the working directory alone.
+void loadQtCatalogue(QTranslator& translator)
+{
+    const QDir folder(QCoreApplication::applicationDirPath());
+    for (const char* place : {"translations", QUAYSIDE_INSTALLED_TRANSLATIONS}) {
+        if (translator.isEmpty())
+            static_cast<void>(translator.load(QStringLiteral("qt_zh_CN.qm"),
+                                              folder.filePath(QLatin1String(place))));
+    }
 }
 
 bool isChineseLocale()
@@ -69,6 +113,7 @@ std::unique_ptr<QCoreApplication> application(int& argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    keepStandardDescriptors();
     qInstallMessageHandler(tellQtFailures);
     const std::unique_ptr<QCoreApplication> started = application(argc, argv);
     // The application's, by which its host library finds the store.
@@ -76,8 +121,12 @@ int main(int argc, char** argv)
     takeUtf8WithoutLocale();
     QTranslator appTranslator;
     QTranslator qtTranslator;
-    if (isChineseLocale())
+    if (isChineseLocale()) {
         StartUp::installChinese(appTranslator, qtTranslator);
+        loadQtCatalogue(qtTranslator);
+    }
+    if (!areReadable(argc, argv))
+        return static_cast<int>(ExitStatus::WrongUsage);
     Interruption::note();
     Program program(QCoreApplication::arguments());
     const int status = static_cast<int>(program.run());

@@ -57,7 +57,7 @@ public:
     virtual void* findFirstFile(const wchar_t* pattern, _WIN32_FIND_DATAW* data) = 0;
 
     /// Goes on to the next entry and writes its name and attributes, and nothing else, to `data`.
-    /// Returns 1, or 0 after the last entry and for a null or invalid argument.
+    /// Returns 1, or 0 after the last entry, for null, and for the handle of no search still going.
     virtual int findNextFile(void* search, _WIN32_FIND_DATAW* data) = 0;
 
     /// Ends a search and frees its handle. Returns 1; 0 for a null or invalid handle.
@@ -384,10 +384,9 @@ public:
                                           unsigned char* data, unsigned int* byteCount) = 0;
 
     /// Makes a key exist: at first as an entry of its parent, not yet as a sub-key that is listed.
-    /// Never delivers a handle: the caller's HKEY stays, and `result` becomes an invalid address
-    /// that is not null: never test or read it, but open the key. Of a name that begins with U+FEFF
-    /// that character is left out. Directly under a root, "general" in any case of letters is
-    /// "General" after a restart, once the key has values or keys.
+    /// Never delivers a handle: `result` becomes an invalid address that is not null; never test or
+    /// read it, but open the key. U+FEFF at the start of a name is left out. Directly under a root,
+    /// "general" in any case is "General" after a restart, once the key has values or keys.
     virtual unsigned int RegCreateKeyExW(HKEY key, const wchar_t* subKey, unsigned int reserved,
                                          wchar_t* keyClass, unsigned int options,
                                          unsigned int access, _SECURITY_ATTRIBUTES* attributes,
@@ -395,8 +394,7 @@ public:
 
     /// Opens a key that is an entry, or a group with anything in it; the caller owns the new
     /// handle. Otherwise the result becomes null and 2 is returned. Whether the key exists is asked
-    /// before "\" becomes "/", so that a path of several levels has to be written with "/". Null
-    /// result: 1.
+    /// before "\" becomes "/", so that a path of several levels has to be written with "/".
     virtual unsigned int RegOpenKeyExW(HKEY key, const wchar_t* subKey, unsigned int options,
                                        unsigned int access, HKEY* result) = 0;
 
@@ -407,9 +405,8 @@ public:
     /// Writes a value of type REG_DWORD, REG_NONE (as a DWORD), REG_SZ, REG_BINARY or REG_QWORD. Of
     /// a DWORD whose size is not 4, and of every QWORD, only the first byte is kept; a text is read
     /// up to its NUL, whatever the size. Null data, any other type and binary data of size 0 fail.
-    /// A name of "\" alone makes a value that is listed with an empty name; after a restart it is
-    /// gone, except from a key directly under a root. U+FEFF and "general" are treated as
-    /// `RegCreateKeyExW` says, the latter at once.
+    /// A name of "\" alone makes a value without a name, gone after a restart except from a key
+    /// directly under a root. U+FEFF and "general", this at once, are as `RegCreateKeyExW` says.
     virtual unsigned int RegSetValueExW(HKEY key, const wchar_t* valueName, unsigned int reserved,
                                         unsigned int type, const unsigned char* data,
                                         unsigned int byteCount) = 0;
@@ -418,7 +415,7 @@ public:
     virtual unsigned int RegCloseKey(HKEY key) = 0;
 
     /// Counts sub-keys and values and measures their longest names. The longest value data is that
-    /// of the value with the longest name: 4 for a DWORD, else 0.
+    /// of the value with the longest name: 4 for a DWORD, else 0. It lists like `RegEnumKeyW`.
     virtual unsigned int RegQueryInfoKeyW(HKEY key, wchar_t* keyClass, unsigned int* classLength,
                                           unsigned int* reserved, unsigned int* subKeys,
                                           unsigned int* longestSubKey, unsigned int* longestClass,
@@ -428,7 +425,9 @@ public:
                                           _FILETIME* lastWriteTime) = 0;
 
     /// Copies the name of a sub-key, without a terminator and whatever the capacity: the buffer
-    /// must be large enough, and the caller zeroes it.
+    /// must be large enough, and the caller zeroes it. Within one turn of the event loop it may use
+    /// the list of an earlier call. That misses what a second settings object on the file writes,
+    /// what a `sync()` reads of other programs, and changes while a filter withholds the saving.
     virtual unsigned int RegEnumKeyW(HKEY key, unsigned int index, wchar_t* name,
                                      unsigned int capacity) = 0;
 

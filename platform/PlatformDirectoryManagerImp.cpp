@@ -1,6 +1,7 @@
 #include "platform/PlatformDirectoryManagerImp.h"
 
 #include "platform/files/DirectoryListing.h"
+#include "platform/files/LiveSearches.h"
 #include "platform/files/UrlPattern.h"
 
 #include <QDateTime>
@@ -8,26 +9,12 @@
 #include <QStandardPaths>
 
 #include <algorithm>
-#include <cstdint>
 #include <cwchar>
 #include <memory>
 
 namespace {
 
 constexpr QChar separator = u'/';
-
-// What the caller's search handle points to.
-struct DirectorySearch
-{
-    QStringList names;
-    std::int32_t index;
-    DirectoryListing directory;
-};
-
-DirectorySearch* searchOf(void* handle)
-{
-    return handle == INVALID_HANDLE_VALUE ? nullptr : static_cast<DirectorySearch*>(handle);
-}
 
 // At most MAX_PATH characters, and zeros behind a shorter name.
 void writeName(_WIN32_FIND_DATAW* data, const QString& name)
@@ -72,7 +59,7 @@ void writeFirst(_WIN32_FIND_DATAW* data, const QString& name, const QFileInfo& i
 
 // The names lie in memory as the directory gave them, and are visited in another order: the next
 // one is on its way into the cache while the system is asked about this one.
-void prefetchNext(DirectorySearch& search)
+void prefetchNext(FileSearch& search)
 {
     if (search.index + 1 < search.names.size())
         __builtin_prefetch(search.names[search.index + 1].data_ptr());
@@ -155,12 +142,12 @@ void* PlatformDirectoryManagerImp::findFirstFile(const wchar_t* pattern, _WIN32_
     if (names.isEmpty())
         return INVALID_HANDLE_VALUE;
     writeFirst(data, names.first(), QFileInfo(directory, names.first()));
-    return std::make_unique<DirectorySearch>(DirectorySearch{names, 0, listing}).release();
+    return LiveSearches::ofProcess().start({names, 0, listing});
 }
 
 int PlatformDirectoryManagerImp::findNextFile(void* search, _WIN32_FIND_DATAW* data)
 {
-    DirectorySearch* found = searchOf(search);
+    FileSearch* found = LiveSearches::ofProcess().find(search);
     if (!found || !data || found->index + 1 >= found->names.size())
         return 0;
     const QString& name = found->names.at(++found->index);
@@ -172,8 +159,7 @@ int PlatformDirectoryManagerImp::findNextFile(void* search, _WIN32_FIND_DATAW* d
 
 int PlatformDirectoryManagerImp::findClose(void* search)
 {
-    const std::unique_ptr<DirectorySearch> found(searchOf(search));
-    return found ? 1 : 0;
+    return LiveSearches::ofProcess().end(search) ? 1 : 0;
 }
 
 int PlatformDirectoryManagerImp::isFileExist(const wchar_t* path, CStdStr<wchar_t>& realPath)

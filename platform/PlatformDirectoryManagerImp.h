@@ -2,8 +2,9 @@
 
 #include "platform/IPlatformServices.h"
 
-/// Implements `IPlatformDirectoryManager` on Qt's file system classes. There is no state: whatever
-/// a search needs lies in its handle. Like its interface it has no virtual destructor.
+/// Implements `IPlatformDirectoryManager` on Qt's file system classes. There is no state: what
+/// a search needs lies behind its handle, which any manager takes. Like its interface it has no
+/// virtual destructor.
 class PlatformDirectoryManagerImp : public IPlatformDirectoryManager
 {
 public:

@@ -1,8 +1,9 @@
 #include "platform/PlatformProfileManagerImp.h"
 
-#include "platform/profiles/NarrowProfile.h"
+#include "platform/profiles/NarrowLines.h"
 #include "platform/profiles/NarrowProfileFile.h"
 #include "platform/profiles/NarrowSearch.h"
+#include "platform/profiles/ProfileWriting.h"
 #include "platform/profiles/WideProfile.h"
 
 #include <QString>
@@ -28,17 +29,6 @@ Result unlessTooLarge(const Result& failure, Operation operation)
     }
 }
 
-QString entryName(const wchar_t* section, const wchar_t* key)
-{
-    return QString::fromWCharArray(section) + QLatin1Char('/') + QString::fromWCharArray(key);
-}
-
-// A header line is kept with its brackets.
-QString headerOf(const char* section)
-{
-    return QLatin1Char('[') + QString::fromUtf8(section) + QLatin1Char(']');
-}
-
 // Those with a separator in them too, which QSettings takes for keys of groups in the section. The
 // section without a name has none: what would be below it are the other sections.
 QStringList keysOf(const QSettings& section)
@@ -56,7 +46,7 @@ QString valueOf(const QSettings& section, const QString& key)
 QByteArray narrowValue(const char* section, const char* key, const char* file)
 {
     NarrowProfileFile profileFile(QString::fromUtf8(file));
-    NarrowSearch search(headerOf(section), QString::fromUtf8(key));
+    NarrowSearch search(narrowHeader(QString::fromUtf8(section)), QString::fromUtf8(key));
     const bool isRead = profileFile.open(QIODevice::ReadOnly) &&
                         profileFile.read([&search](const QString& piece) { search.add(piece); });
     return isRead ? search.finish().toUtf8() : QByteArray();
@@ -64,19 +54,9 @@ QByteArray narrowValue(const char* section, const char* key, const char* file)
 
 int writeNarrow(const char* section, const char* key, const char* value, const char* file)
 {
-    NarrowProfileFile profileFile(QString::fromUtf8(file));
-    if (!profileFile.open(QIODevice::ReadWrite))
-        return 0;
-    const QString header = headerOf(section);
-    const QString name = QString::fromUtf8(key);
-    const QString written = QString::fromUtf8(value);
-    const std::optional<QString> text = profileFile.text();
-    if (!text)
-        return 0;
-    NarrowProfile profile(*text);
-    profile.setValue(header, name, written);
-    profileFile.rewrite(profile);
-    return 1;
+    const ProfileEntry entry{QString::fromUtf8(section), QString::fromUtf8(key),
+                             QString::fromUtf8(value)};
+    return ProfileWriting::narrow(QString::fromUtf8(file), {entry}) ? 1 : 0;
 }
 
 QString wideValue(const wchar_t* section, const wchar_t* key, const wchar_t* fallback,
@@ -84,8 +64,13 @@ QString wideValue(const wchar_t* section, const wchar_t* key, const wchar_t* fal
 {
     const QString otherwise = QString::fromWCharArray(fallback);
     WideProfile profile(file);
-    return profile.isReadable() ? profile->value(entryName(section, key), otherwise).toString()
-                                : otherwise;
+    return profile.isReadable()
+               ? profile
+                     ->value(ProfileWriting::wideName(QString::fromWCharArray(section),
+                                                      QString::fromWCharArray(key)),
+                             otherwise)
+                     .toString()
+               : otherwise;
 }
 
 wchar_t* copied(const QString& text, wchar_t* out)
@@ -108,16 +93,11 @@ wchar_t* copiedSection(const wchar_t* section, const wchar_t* file, wchar_t* out
     return out;
 }
 
-// Saved here and not when the settings are destroyed, which would not tell that no memory was left.
 int writeWide(const wchar_t* section, const wchar_t* key, const wchar_t* value, const wchar_t* file)
 {
-    WideProfile profile(file);
-    // A device keeps nothing, and counts as written. Intended: callers have always been told so.
-    if (!profile.isReadable())
-        return profile.isDevice() ? 1 : 0;
-    const QString text = value ? QString::fromWCharArray(value) : QLatin1String("");
-    profile.write(entryName(section, key), text);
-    return 1;
+    const ProfileEntry entry{QString::fromWCharArray(section), QString::fromWCharArray(key),
+                             value ? QString::fromWCharArray(value) : QLatin1String("")};
+    return ProfileWriting::wide(file, {entry}) ? 1 : 0;
 }
 
 } // namespace
@@ -162,8 +142,13 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileIntW(const wchar_t* sec
         return static_cast<unsigned int>(fallback);
     const int value = unlessTooLarge(fallback, [&] {
         WideProfile profile(file);
-        return profile.isReadable() ? profile->value(entryName(section, key), fallback).toInt()
-                                    : fallback;
+        return profile.isReadable()
+                   ? profile
+                         ->value(ProfileWriting::wideName(QString::fromWCharArray(section),
+                                                          QString::fromWCharArray(key)),
+                                 fallback)
+                         .toInt()
+                   : fallback;
     });
     return static_cast<unsigned int>(value);
 }

@@ -2,6 +2,7 @@
 
 #include "host/HostLibraries.h"
 #include "platform/registry/GroupScope.h"
+#include "platform/registry/ListingCache.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -50,13 +51,6 @@ QVariant valueOf(const QSettings& store, const QString& name)
     return store.value(name.isEmpty() ? QStringLiteral("/") : name);
 }
 
-// Null at or past the end.
-const QString* nameAt(const QStringList& names, unsigned int index)
-{
-    return index < static_cast<unsigned int>(names.size()) ? &names.at(static_cast<int>(index))
-                                                           : nullptr;
-}
-
 // Neither terminated nor bounded. Intended: callers take the length from the call.
 void copyName(const QString& name, wchar_t* buffer, unsigned int* length)
 {
@@ -65,24 +59,6 @@ void copyName(const QString& name, wchar_t* buffer, unsigned int* length)
         characters.copy(buffer, characters.size());
     if (length)
         *length = static_cast<unsigned int>(characters.size());
-}
-
-struct Longest
-{
-    QString name;
-    unsigned int length = 0; // characters
-};
-
-// The first of the longest names; empty when there are none.
-Longest longestOf(const QStringList& names)
-{
-    Longest longest;
-    for (const QString& name : names) {
-        const auto length = static_cast<unsigned int>(name.toUcs4().size());
-        if (length > longest.length)
-            longest = {name, length};
-    }
-    return longest;
 }
 
 // Decoding sets the type before it looks at the size; the caller's changes only on success.
@@ -176,6 +152,7 @@ unsigned int PlatformRegisterManagerImp::RegSetValueExW(HKEY key, const wchar_t*
     QVariant value;
     if (!RegValueToQVar(value, type, data, byteCount) || value.isNull())
         return failure;
+    ListingCache::drop();
     const GroupScope group(*m_store, valueGroupOf(key, name));
     m_store->setValue(slashed(name), value);
     return ERROR_SUCCESS;
@@ -198,15 +175,16 @@ unsigned int PlatformRegisterManagerImp::RegQueryInfoKeyW(
     if (!m_store || !key)
         return failure;
     const GroupScope group(*m_store, groupOf(key));
-    const QStringList groups = m_store->childGroups();
-    const QStringList names = m_store->childKeys();
-    const Longest longest = longestOf(names);
-    write(subKeys, static_cast<unsigned int>(groups.size()));
-    write(longestSubKey, longestOf(groups).length);
-    write(values, static_cast<unsigned int>(names.size()));
+    const auto groups = ListingCache::names(*m_store, ListingCache::Kind::Keys);
+    const auto names = ListingCache::names(*m_store, ListingCache::Kind::Values);
+    const StoreNames::Longest& longest = names->longest();
+    write(subKeys, groups->count());
+    write(longestSubKey, groups->longest().length);
+    write(values, names->count());
     write(longestValueName, longest.length);
     // Of the value with the longest name, not of the largest value. Intended.
-    write(longestValueData, names.isEmpty() ? 0 : dataLengthOf(valueOf(*m_store, longest.name)));
+    write(longestValueData,
+          names->count() == 0 ? 0 : dataLengthOf(valueOf(*m_store, longest.name)));
     return ERROR_SUCCESS;
 }
 
@@ -226,6 +204,7 @@ unsigned int PlatformRegisterManagerImp::RegDeleteValueW(HKEY key, const wchar_t
     const QString name = nameToAsk(key, valueName);
     if (name.isEmpty())
         return failure;
+    ListingCache::drop();
     const GroupScope group(*m_store, groupOf(key));
     m_store->remove(slashed(name));
     return ERROR_SUCCESS;
@@ -250,10 +229,8 @@ unsigned int PlatformRegisterManagerImp::RegEnumValueW(HKEY key, unsigned int in
     if (!m_store || !key)
         return failure;
     const GroupScope group(*m_store, groupOf(key));
-    // Listed anew by every call: the host library writes to its store directly, and QSettings tells
-    // nobody of it.
-    const QStringList names = m_store->childKeys();
-    const QString* found = nameAt(names, index);
+    const auto names = ListingCache::names(*m_store, ListingCache::Kind::Values);
+    const QString* found = names->at(index);
     if (!found)
         return failure;
     copyName(*found, name, nameLength);
@@ -288,6 +265,7 @@ unsigned int PlatformRegisterManagerImp::RegDeleteKeyAndAllSubkeys(const QString
 {
     if (path.isEmpty() || !m_store)
         return 0;
+    ListingCache::drop();
     {
         const GroupScope group(*m_store, path);
         const QStringList groups = m_store->childGroups();
@@ -317,6 +295,7 @@ unsigned int PlatformRegisterManagerImp::createKey(HKEY parent, const wchar_t* s
     if (!m_store || !parent)
         return failure;
     const QString path = slashed(pathBelow(parent, subKey));
+    ListingCache::drop();
     // Only "\" makes an entry without a name: QSettings refuses an empty one with a warning.
     if (!path.isEmpty() && !m_store->contains(path))
         m_store->setValue(path, QVariant());
@@ -346,8 +325,8 @@ unsigned int PlatformRegisterManagerImp::enumerateKey(HKEY key, unsigned int ind
     if (!m_store || !key)
         return failure;
     const GroupScope group(*m_store, groupOf(key));
-    const QStringList groups = m_store->childGroups();
-    const QString* found = nameAt(groups, index);
+    const auto groups = ListingCache::names(*m_store, ListingCache::Kind::Keys);
+    const QString* found = groups->at(index);
     if (!found)
         return failure;
     copyName(*found, name, nameLength);

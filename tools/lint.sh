@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# lint.sh BUILD: formatting, scripts, floors, sizes, version, binary interface, headers that compile
-# alone, translations, clang-tidy and clazy. BUILD holds compile_commands.json. The last line is "N passed, N failed", a
-# check a pass.
+# lint.sh BUILD: formatting, scripts, floors, sizes, version, binary interface, run paths, headers
+# that compile alone, translations, clang-tidy and clazy. BUILD holds compile_commands.json. The last
+# line is "N passed, N failed", a check a pass.
 set -uo pipefail
 build=$1
 passed=0
@@ -68,6 +68,7 @@ check "floors" tools/floors.py
 check "sizes" sizes
 check "version" tools/version.py
 check "binary interface" tools/abi.sh
+check "run paths" tools/runpaths.sh "$build"
 check "headers compile alone" headers_alone
 # Every text of the window has its Chinese translation, and none is left over.
 check "translations" tools/catalogue.py --check

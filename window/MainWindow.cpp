@@ -139,8 +139,10 @@ void MainWindow::showPage(const QString& name)
 
 void MainWindow::openFile(const QString& path)
 {
-    if (!path.isEmpty())
-        m_opener->open(path);
+    if (path.isEmpty())
+        return;
+    showPage(pageForFile(path));
+    m_opener->open(path);
 }
 
 Page* MainWindow::currentPage() const

@@ -28,7 +28,8 @@ public:
     /// unknown name changes nothing. Call it before the window is shown.
     void showPage(const QString& name);
 
-    /// Opens a file in the page for its kind; does nothing where there is none, or no path.
+    /// Opens on the page for this kind of file, which then opens the file; does nothing where there
+    /// is none, or no path. Call it before the window is shown.
     void openFile(const QString& path);
 
     /// The page in view; null until it has been made.

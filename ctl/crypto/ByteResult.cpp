@@ -43,7 +43,7 @@ void ByteResult::put(const std::string& bytes)
     const QByteArray data = QByteArray::fromStdString(bytes);
     if (m_file)
         check(m_file->write(data) == data.size());
-    else if (m_output.form() != Output::Form::Quiet)
+    else
         m_output.device().put(data);
 }
 
@@ -61,8 +61,7 @@ void ByteResult::copyToOutput()
     QByteArray piece;
     while (!(piece = m_file->read(pieceSize)).isEmpty()) {
         Interruption::check();
-        if (m_output.form() != Output::Form::Quiet)
-            m_output.device().put(piece);
+        m_output.device().put(piece);
     }
 }
 

@@ -2,9 +2,9 @@
 
 #include "crypto/Base64Encoder.h"
 #include "crypto/base64/Base64Extent.h"
+#include "ctl/ByteInput.h"
 #include "ctl/Failure.h"
 #include "ctl/Output.h"
-#include "ctl/crypto/ByteInput.h"
 #include "ctl/crypto/ByteResult.h"
 #include "inspection/crypto/Base64Note.h"
 

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "ctl/Command.h"
+#include "ctl/crypto/CipherCommand.h"
 
 #include <QCoreApplication>
 
 /// Decrypts a file or a stream of any size, or tells why that fails.
-class CryptoDecryptCommand : public Command
+class CryptoDecryptCommand : public CipherCommand
 {
     Q_DECLARE_TR_FUNCTIONS(CryptoDecryptCommand)
 
 public:
-    void addOptions(QCommandLineParser& parser) const override;
     ExitStatus run(const Arguments& arguments, Output& output) override;
 };

@@ -1,13 +1,11 @@
 #include "ctl/crypto/CryptoDigestCommand.h"
 
 #include "ctl/Failure.h"
+#include "ctl/InputDevice.h"
 #include "ctl/JobRun.h"
 #include "ctl/Output.h"
-#include "ctl/crypto/ByteInput.h"
 #include "inspection/crypto/DigestJob.h"
 #include "inspection/crypto/DigestNotes.h"
-
-#include <QIODevice>
 
 namespace {
 
@@ -33,7 +31,8 @@ void CryptoDigestCommand::addOptions(QCommandLineParser& parser) const
 
 ExitStatus CryptoDigestCommand::run(const Arguments& arguments, Output& output)
 {
-    DigestJob job(ByteInput::opened(arguments.at(0)), arguments.value("second").toUtf8());
+    DigestJob job(std::make_unique<InputDevice>(arguments.at(0)),
+                  arguments.value("second").toUtf8());
     finish(job);
     if (!job.error().isEmpty())
         throw Failure(tr("%1 cannot be read: %2").arg(arguments.at(0), job.error()));

@@ -2,25 +2,12 @@
 
 #include "crypto/CipherStream.h"
 #include "ctl/Output.h"
-#include "ctl/crypto/ByteInput.h"
-#include "ctl/crypto/ByteResult.h"
-#include "ctl/crypto/KeyOptions.h"
-
-void CryptoEncryptCommand::addOptions(QCommandLineParser& parser) const
-{
-    KeyOptions::add(parser);
-    ByteResult::addOption(parser);
-}
 
 ExitStatus CryptoEncryptCommand::run(const Arguments& arguments, Output& output)
 {
-    EncryptionStream stream(KeyOptions::of(arguments));
+    EncryptionStream stream(KeyOptions::of(arguments, KeyOptions::Use::Encrypt));
     ByteResult result(arguments, output, ByteResult::Certainty::Sure);
-    std::uint64_t size = 0;
-    ByteInput::read(arguments.at(0), [&](const QByteArray& piece) {
-        size += static_cast<std::uint64_t>(piece.size());
-        result.put(stream.add(piece.constData(), static_cast<std::size_t>(piece.size())));
-    });
+    const std::uint64_t size = pass(arguments.at(0), stream, result);
     result.put(stream.finish());
     result.commit();
     const QString note =

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "ctl/Command.h"
+#include "ctl/crypto/CipherCommand.h"
 
 #include <QCoreApplication>
 
 /// Encrypts a file or a stream of any size as host libraries do it.
-class CryptoEncryptCommand : public Command
+class CryptoEncryptCommand : public CipherCommand
 {
     Q_DECLARE_TR_FUNCTIONS(CryptoEncryptCommand)
 
 public:
-    void addOptions(QCommandLineParser& parser) const override;
     ExitStatus run(const Arguments& arguments, Output& output) override;
 };

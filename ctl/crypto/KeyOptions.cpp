@@ -21,12 +21,22 @@ std::string typedKey(const Arguments& arguments, const char* option, TypedKey::K
     return key.bytes().toStdString();
 }
 
-std::string passPhrase(const Arguments& arguments)
+std::string typedPassPhrase(KeyOptions::Use use)
+{
+    std::string text = Secret::asked(KeyOptionsTexts::tr("Pass phrase"));
+    if (use == KeyOptions::Use::Encrypt && !text.empty() &&
+        Secret::asked(KeyOptionsTexts::tr("Pass phrase again")) != text)
+        throw Failure(ExitStatus::WrongUsage,
+                      KeyOptionsTexts::tr("The two pass phrases are not the same."));
+    return text;
+}
+
+std::string passPhrase(const Arguments& arguments, KeyOptions::Use use)
 {
     if (arguments.has("pass-phrase-file"))
         return Secret::fromFile(arguments.value("pass-phrase-file"));
     if (!arguments.has("pass-phrase-fd"))
-        return Secret::asked(KeyOptionsTexts::tr("Pass phrase"));
+        return typedPassPhrase(use);
     bool isNumber = false;
     const int descriptor = arguments.value("pass-phrase-fd").toInt(&isNumber);
     if (!isNumber)
@@ -37,9 +47,9 @@ std::string passPhrase(const Arguments& arguments)
 }
 
 // An empty one is a slip, such as a file that has not been written yet.
-std::string neededPassPhrase(const Arguments& arguments)
+std::string neededPassPhrase(const Arguments& arguments, KeyOptions::Use use)
 {
-    std::string text = passPhrase(arguments);
+    std::string text = passPhrase(arguments, use);
     if (text.empty())
         throw Failure(ExitStatus::WrongUsage, KeyOptionsTexts::tr("The pass phrase is empty."));
     return text;
@@ -72,10 +82,10 @@ KeySource KeyOptions::sourceOf(const Arguments& arguments)
                                                                  : KeySource::PassPhrase;
 }
 
-CipherKeys KeyOptions::of(const Arguments& arguments)
+CipherKeys KeyOptions::of(const Arguments& arguments, Use use)
 {
     if (sourceOf(arguments) == KeySource::PassPhrase)
-        return keysFromPassPhrase(neededPassPhrase(arguments));
+        return keysFromPassPhrase(neededPassPhrase(arguments, use));
     if (!arguments.has("key-file") || !arguments.has("iv-file") ||
         arguments.has("pass-phrase-file") || arguments.has("pass-phrase-fd"))
         throw Failure(ExitStatus::WrongUsage,

@@ -1,6 +1,8 @@
 #include "ctl/crypto/Secret.h"
 
+#include "ctl/ByteInput.h"
 #include "ctl/Failure.h"
+#include "ctl/InputDevice.h"
 #include "ctl/Interruption.h"
 
 #include <QCoreApplication>
@@ -52,14 +54,6 @@ std::string withoutLineEnd(QByteArray text)
     return text.toStdString();
 }
 
-std::string readAll(QFile& file, bool isOpen)
-{
-    const QByteArray text = isOpen ? file.readAll() : QByteArray();
-    if (!isOpen || file.error() != QFileDevice::NoError)
-        throw Failure(SecretTexts::tr("The secret cannot be read: %1").arg(file.errorString()));
-    return withoutLineEnd(text);
-}
-
 // With its end; empty where the terminal ends first.
 QByteArray typedLine(int terminal)
 {
@@ -67,6 +61,7 @@ QByteArray typedLine(int terminal)
     char byte = 0;
     while (!line.endsWith('\n') && Interruption::read(terminal, &byte, 1) > 0)
         line += byte;
+    Interruption::check();
     return line;
 }
 
@@ -74,16 +69,14 @@ QByteArray typedLine(int terminal)
 
 std::string Secret::fromFile(const QString& name)
 {
-    QFile file(name);
-    const bool isOpen = file.open(QIODevice::ReadOnly);
-    return readAll(file, isOpen);
+    InputDevice file(name);
+    return withoutLineEnd(ByteInput::readAll(file));
 }
 
 std::string Secret::fromDescriptor(int descriptor)
 {
-    QFile file;
-    const bool isOpen = file.open(descriptor, QIODevice::ReadOnly);
-    return readAll(file, isOpen);
+    InputDevice file(descriptor);
+    return withoutLineEnd(ByteInput::readAll(file));
 }
 
 std::string Secret::asked(const QString& question)

@@ -47,6 +47,8 @@ ExitStatus FontsListCommand::run(const Arguments& arguments, Output& output)
         output.record({font.face, font.fullName, font.style, CharacterSets::title(font.charSet),
                        QString::number(font.weight), yesOrNo(font.italic),
                        yesOrNo(preview.isInstalled(font))});
+    if (fonts.empty())
+        output.note(tr("The service reports no such font."));
     const bool isFiltered = arguments.count() > 0 || arguments.has("charset");
     return fonts.empty() && isFiltered ? ExitStatus::No : ExitStatus::Done;
 }

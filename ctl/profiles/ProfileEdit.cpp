@@ -6,6 +6,7 @@
 #include "ctl/Output.h"
 #include "ctl/profiles/FamilyOption.h"
 #include "inspection/profiles/DifferenceRows.h"
+#include "inspection/profiles/FamilyLines.h"
 #include "inspection/profiles/ProfileBytes.h"
 #include "inspection/profiles/ProfileDocument.h"
 #include "inspection/profiles/ProfileDryRun.h"
@@ -63,6 +64,33 @@ void ProfileEdit::make(const ProfileChange& change)
     m_isAskedFor = m_isAskedFor && (change.action != Action::Set || dry.difference()->isAskedFor());
     if (!ProfileBytes::restore(copy(), dry.difference()->lines().after().bytes()))
         throw Failure(tr("%1 could not be written.").arg(copy()));
+}
+
+void ProfileEdit::make(ProfileBatch batch)
+{
+    const ProfileWriter writer(m_file);
+    for (const ProfileEntry& entry : batch.entries())
+        checkFault(writer.fault(batch.change(entry)), batch.change(entry));
+    if (m_former)
+        batch.leaveOutWhatIsRead(copy());
+    if (batch.entries().empty())
+        return;
+    write(batch);
+    const LineDifference difference(m_former.value_or(QByteArray()),
+                                    ProfileDocument::bytesOf(copy()));
+    m_isAskedFor = batch.isAllThatChanges(difference, FamilyLines(m_file, batch.family()),
+                                          FamilyLines(copy(), batch.family()));
+}
+
+// What lies on disk need not be what the wide family remembers to have written: it is read under
+// another name.
+void ProfileEdit::write(const ProfileBatch& batch) const
+{
+    const QString again = m_folder.filePath(QStringLiteral("again.ini"));
+    if (!batch.write(copy()) || !QFile::copy(copy(), again))
+        throw Failure(tr("%1 could not be written.").arg(copy()));
+    if (const ProfileEntry* unread = batch.firstUnread(again))
+        throw Failure(ProfileWriter::unreadable(batch.change(*unread)));
 }
 
 ExitStatus ProfileEdit::end(const Arguments& arguments, Output& output) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ctl/ExitStatus.h"
+#include "ctl/profiles/ProfileBatch.h"
 #include "inspection/profiles/ProfileWriter.h"
 
 #include <QCoreApplication>
@@ -29,11 +30,15 @@ public:
     /// would not read it back.
     void make(const ProfileChange& change);
 
+    /// Sets entries on the copy, likewise.
+    void make(ProfileBatch batch);
+
     /// Prints the difference in a dry run, otherwise writes the file. A change that makes more of
     /// it than was asked for is written only with --force: No without.
     ExitStatus end(const Arguments& arguments, Output& output) const;
 
 private:
+    void write(const ProfileBatch& batch) const;
     void save(const QByteArray& bytes) const;
     QString copy() const { return m_folder.filePath(QStringLiteral("profile.ini")); }
 

@@ -3,6 +3,7 @@
 #include "ctl/Failure.h"
 #include "ctl/JobRun.h"
 #include "inspection/profiles/ProfileLoadingJob.h"
+#include "platform/profiles/NarrowScanner.h"
 
 #include <QFileInfo>
 
@@ -20,6 +21,16 @@ ProfileDocument loaded(const QString& file)
     return std::move(job.document());
 }
 
+// Of a line that is an entry; the answer ends at a zero byte.
+QString narrowValue(const QString& line)
+{
+    NarrowScanner scanner(line, u"[]");
+    scanner.next();
+    const QStringView value = scanner.value();
+    const qsizetype end = value.indexOf(QChar(0));
+    return (end < 0 ? value : value.left(end)).toString();
+}
+
 } // namespace
 
 ProfileEntries::ProfileEntries(const QString& file)
@@ -30,14 +41,26 @@ ProfileEntries::ProfileEntries(const QString& file)
         if (lines.narrowMark(line).state != LineState::Entry)
             continue;
         const LineReading reading = lines.narrow(line);
-        m_narrow.emplace(reading.section, reading.key);
+        m_narrow.emplace(ProfileDocument::Name(reading.section, reading.key),
+                         narrowValue(lines.text(line)));
     }
 }
 
 ProfileReading ProfileEntries::reading(int index) const
 {
     const auto [section, key] = name(index);
-    return {section, key, m_reader.wide(section, key), m_reader.narrow(section, key)};
+    return {section, key, wide({section, key}), narrow({section, key}).value_or(QString())};
+}
+
+std::optional<QString> ProfileEntries::wide(const ProfileDocument::Name& name) const
+{
+    return m_reader.wide(name.first, name.second);
+}
+
+std::optional<QString> ProfileEntries::narrow(const ProfileDocument::Name& name) const
+{
+    const auto found = m_narrow.find(name);
+    return found == m_narrow.end() ? std::nullopt : std::make_optional(found->second);
 }
 
 QString existingProfile(const QString& file)

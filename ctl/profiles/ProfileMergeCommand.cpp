@@ -1,8 +1,9 @@
 #include "ctl/profiles/ProfileMergeCommand.h"
 
+#include "ctl/ByteInput.h"
 #include "ctl/Failure.h"
+#include "ctl/InputDevice.h"
 #include "ctl/JobRun.h"
-#include "ctl/crypto/ByteInput.h"
 #include "ctl/profiles/FamilyOption.h"
 #include "ctl/profiles/ProfileEdit.h"
 #include "ctl/profiles/ProfileEntries.h"
@@ -21,9 +22,8 @@ void saveInput(const QByteArray& bytes, const QString& path)
 
 QByteArray input()
 {
-    QByteArray bytes;
-    ByteInput::read(QString(), [&](const QByteArray& piece) { bytes += piece; });
-    return bytes;
+    InputDevice device{QString()};
+    return ByteInput::readAll(device);
 }
 
 // What the family loses of the input would be lost in the file.
@@ -41,6 +41,20 @@ void refuseLosses(const QByteArray& bytes, ProfileFamily family)
     }
 }
 
+// What the family does not find in the other profile is not merged.
+std::vector<ProfileEntry> entriesOf(const QString& file, ProfileFamily family)
+{
+    const ProfileEntries read(file);
+    std::vector<ProfileEntry> entries;
+    for (int i = 0; i < read.count(); ++i) {
+        const ProfileDocument::Name name = read.name(i);
+        const auto value = family == ProfileFamily::Wide ? read.wide(name) : read.narrow(name);
+        if (value)
+            entries.push_back({name.first, name.second, *value});
+    }
+    return entries;
+}
+
 } // namespace
 
 void ProfileMergeCommand::addOptions(QCommandLineParser& parser) const
@@ -48,7 +62,6 @@ void ProfileMergeCommand::addOptions(QCommandLineParser& parser) const
     ProfileEdit::addOptions(parser);
 }
 
-// What the family does not find in the other profile is not merged.
 ExitStatus ProfileMergeCommand::run(const Arguments& arguments, Output& output)
 {
     const ProfileFamily family = FamilyOption::needed(arguments);
@@ -58,16 +71,7 @@ ExitStatus ProfileMergeCommand::run(const Arguments& arguments, Output& output)
     if (!arguments.has("force"))
         refuseLosses(bytes, family);
     saveInput(bytes, other);
-    const ProfileEntries entries(other);
     ProfileEdit edit(arguments.at(0));
-    for (int i = 0; i < entries.count(); ++i) {
-        const ProfileReading reading = entries.reading(i);
-        if (family == ProfileFamily::Wide && reading.wide)
-            edit.make(
-                {family, reading.section, reading.key, *reading.wide, ProfileChange::Action::Set});
-        else if (family == ProfileFamily::Narrow && entries.isNarrow(i))
-            edit.make(
-                {family, reading.section, reading.key, reading.narrow, ProfileChange::Action::Set});
-    }
+    edit.make(ProfileBatch(family, entriesOf(other, family)));
     return edit.end(arguments, output);
 }

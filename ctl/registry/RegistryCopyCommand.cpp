@@ -6,9 +6,8 @@
 #include "ctl/registry/KeyArgument.h"
 #include "ctl/registry/StoreChanges.h"
 #include "inspection/registry/KeyMovePlanJob.h"
-#include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
-#include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/TakenName.h"
 #include "inspection/registry/UnkeptName.h"
 
 namespace {
@@ -32,8 +31,9 @@ ExitStatus RegistryCopyCommand::run(const Arguments& arguments, Output& output)
     const QString to = KeyArgument::any(arguments.at(1));
     if (from.isEmpty() || to.isEmpty())
         throw Failure(tr("The root itself cannot be copied, and nothing can take its place."));
-    if (isRegistryKey(to) || StoreEntry::read(to))
-        throw Failure(ExitStatus::No, tr("%1 is there already.").arg(RegistryPath::shown(to)));
+    const QString taken = takenKeyText(to);
+    if (!taken.isEmpty())
+        throw Failure(ExitStatus::No, taken);
     if (isBelow(to, from))
         throw Failure(tr("%1 is below the key that is to be copied.").arg(RegistryPath::shown(to)));
     const QString unkept = unkeptKeyText(RegistryPath::parent(to), RegistryPath::name(to));

@@ -95,6 +95,8 @@ ExitStatus RegistryGetCommand::run(const Arguments& arguments, Output& output)
     const QString format = arguments.value("format");
     if (!QStringList({"text", "hex", "c"}).contains(format))
         throw Failure(ExitStatus::WrongUsage, tr("There is no format \"%1\".").arg(format));
+    if (arguments.has("type") && arguments.has("raw"))
+        throw Failure(ExitStatus::WrongUsage, tr("Either --type or --raw, not both."));
     const QString path = KeyArgument::existing(arguments.at(0));
     if (arguments.count() == 1)
         return printAll(path, arguments, output);

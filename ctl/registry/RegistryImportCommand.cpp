@@ -1,6 +1,7 @@
 #include "ctl/registry/RegistryImportCommand.h"
 
 #include "ctl/Failure.h"
+#include "ctl/InputDevice.h"
 #include "ctl/JobRun.h"
 #include "ctl/Output.h"
 #include "ctl/Store.h"
@@ -14,22 +15,9 @@
 #include <QFile>
 #include <QTextCodec>
 
-#include <cstdio>
-
 namespace {
 
 using Outcome = ImportPlan::Outcome;
-
-std::unique_ptr<QIODevice> opened(const QString& name)
-{
-    auto file = std::make_unique<QFile>(name);
-    const bool isOpen = name == QLatin1String("-") ? file->open(stdin, QIODevice::ReadOnly)
-                                                   : file->open(QIODevice::ReadOnly);
-    if (!isOpen)
-        throw Failure(
-            RegistryImportCommand::tr("%1 cannot be read: %2").arg(name, file->errorString()));
-    return file;
-}
 
 // Empty for that of the system.
 QByteArray codePageOf(const Arguments& arguments)
@@ -45,7 +33,8 @@ std::shared_ptr<const ImportPlan> planOf(const Arguments& arguments)
 {
     const QString prefix =
         arguments.has("prefix") ? KeyArgument::any(arguments.value("prefix")) : QString();
-    RegistryImportJob job(opened(arguments.at(0)), codePageOf(arguments), prefix);
+    RegistryImportJob job(std::make_unique<InputDevice>(arguments.at(0)), codePageOf(arguments),
+                          prefix);
     finish(job);
     if (!job.error().isEmpty())
         throw Failure(RegistryImportCommand::tr("%1: %2").arg(arguments.at(0), job.error()));

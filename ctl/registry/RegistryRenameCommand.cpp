@@ -6,9 +6,9 @@
 #include "ctl/registry/KeyArgument.h"
 #include "ctl/registry/StoreChanges.h"
 #include "inspection/registry/KeyMovePlanJob.h"
-#include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/TakenName.h"
 #include "inspection/registry/UnkeptName.h"
 #include "inspection/registry/ValueInput.h"
 
@@ -27,10 +27,7 @@ StoreChange keyChange(const QString& path, const QString& name)
         throw Failure(RegistryRenameCommand::tr("The root itself cannot be renamed."));
     refuse(ExitStatus::No, unkeptKeyText(RegistryPath::parent(path), name));
     const QString to = RegistryPath::join(RegistryPath::parent(path), name);
-    if (isRegistryKey(to) || StoreEntry::read(to))
-        throw Failure(
-            ExitStatus::No,
-            RegistryRenameCommand::tr("%1 is there already.").arg(RegistryPath::shown(to)));
+    refuse(ExitStatus::No, takenKeyText(to));
     KeyMovePlanJob plan(path, to);
     finish(plan);
     return plan.takeChange();
@@ -45,11 +42,8 @@ StoreChange valueChange(const QString& path, const QString& name, const QString&
     if (!entry || entry->isNull())
         throw Failure(ExitStatus::No, RegistryRenameCommand::tr("%1 has no value \"%2\".")
                                           .arg(RegistryPath::shown(path), name));
-    const QString to = StoreEntry::ofValue(path, newName);
-    if (StoreEntry::read(to))
-        throw Failure(ExitStatus::No, RegistryRenameCommand::tr("%1 has a value \"%2\" already.")
-                                          .arg(RegistryPath::shown(path), newName));
-    return {{from, entry, std::nullopt}, {to, std::nullopt, entry}};
+    refuse(ExitStatus::No, takenValueText(path, newName));
+    return {{from, entry, std::nullopt}, {StoreEntry::ofValue(path, newName), std::nullopt, entry}};
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "inspection/JobRunner.h"
 #include "inspection/files/FileSearchJob.h"
-#include "inspection/files/FileStamp.h"
+#include "platform/files/FileStamp.h"
 
 #include <QElapsedTimer>
 

@@ -2,6 +2,7 @@
 
 #include "inspection/Job.h"
 #include "inspection/profiles/ProfileLines.h"
+#include "platform/profiles/WrittenLine.h"
 
 #include <vector>
 
@@ -34,12 +35,18 @@ public:
 
 private:
     void check(int line);
-    void check(int line, LineMark mark, ProfileFamily family);
-    bool isTold(LineMark mark) const;
+    void check(int line, const WrittenLine& written, ProfileFamily family);
+    QStringList reasons(int line, const WrittenLine& written, ProfileFamily family) const;
+    void beginSection(int line, const WrittenLine& header);
+    bool isPlain(int line, const WrittenLine& written) const;
+    bool isTold(LineMark mark, const WrittenLine& written) const;
 
     ProfileLines m_lines;
     Comments m_comments;
     bool m_areLinesRead = false;
     int m_next = 0;
+    WideSections m_wideSections;
+    QByteArray m_section;   ///< what the last header says
+    bool m_isPlain = false; ///< both families know the section by that name
     std::vector<Finding> m_findings;
 };

@@ -27,14 +27,13 @@ Texts addedTexts(const LineDifference& lines, bool areEndsKept)
     return texts;
 }
 
-// The bytes that name the entry of a line: a family may write the same name in other ones.
+} // namespace
+
 std::string_view writtenKey(std::string_view line)
 {
     const std::string_view key = line.substr(0, line.find('='));
     return key.substr(0, key.find_last_not_of(" \t") + 1);
 }
-
-} // namespace
 
 ProfileDifference::ProfileDifference(const QString& before, const QString& after,
                                      const ProfileChange& change)

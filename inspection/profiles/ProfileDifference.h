@@ -58,3 +58,6 @@ private:
     std::vector<int> m_destroyed;
     std::vector<Fate> m_fates; ///< by line of the file before
 };
+
+/// The bytes that name the entry of a line: a family may write the same name in other ones.
+std::string_view writtenKey(std::string_view line);

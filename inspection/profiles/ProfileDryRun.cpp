@@ -10,10 +10,18 @@ using namespace std::chrono_literals;
 
 namespace {
 
-bool makeFile(const QString& path, const QByteArray& bytes)
+// Why it could not be made; empty where it has been. Only the writing after a short one is told
+// why.
+QString makeFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    bool isGoingOn = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    for (qint64 written = 0; isGoingOn && written < bytes.size();) {
+        const qint64 size = file.write(bytes.constData() + written, bytes.size() - written);
+        isGoingOn = size > 0;
+        written += size;
+    }
+    return isGoingOn ? QString() : file.errorString();
 }
 
 } // namespace
@@ -62,8 +70,10 @@ bool ProfileDryRun::tryOut()
 {
     if (!m_comparison && m_writing.step())
         return true;
-    if (!isReadBack())
+    if (!isReadBack()) {
+        checkRoom();
         return false;
+    }
     if (m_comparison)
         takeDifference();
     else
@@ -71,9 +81,21 @@ bool ProfileDryRun::tryOut()
     return !m_difference;
 }
 
-bool ProfileDryRun::copyTo(const QString& path) const
+bool ProfileDryRun::copyTo(const QString& path)
 {
-    return !m_bytes || makeFile(path, *m_bytes);
+    m_copyFault = m_bytes ? makeFile(path, *m_bytes) : QString();
+    return m_copyFault.isEmpty();
+}
+
+// The families do not tell a full disk from a value that they cannot keep.
+void ProfileDryRun::checkRoom()
+{
+    constexpr int growth = 4096; // bytes, more than one change adds as a rule
+    const int size = m_bytes ? m_bytes->size() : 0;
+    const int changed = m_change.section.size() + m_change.key.size() + m_change.value.size();
+    const QString path = m_folder->filePath(QStringLiteral("room"));
+    m_copyFault = makeFile(path, QByteArray(size + changed + growth, '\0'));
+    QFile::remove(path);
 }
 
 // Files of megabytes take longer than a step may.

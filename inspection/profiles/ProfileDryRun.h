@@ -22,7 +22,10 @@ public:
     /// false, the rest is not looked at.
     bool isReadBack() const { return m_writing.isReadBack(); }
     /// True where there was not memory enough.
-    bool isTooLarge() const { return m_isTooLarge; }
+    bool isTooLarge() const { return m_isTooLarge || m_writing.isTooLarge(); }
+    /// Why there was no copy to try the change on, or no room to change it, in the system's words;
+    /// empty where there was.
+    const QString& copyFault() const { return m_copyFault; }
     /// The file as it was found; nothing where there was none.
     const std::optional<QByteArray>& bytes() const { return m_bytes; }
     /// What the family read before; null where it found nothing.
@@ -37,7 +40,8 @@ public:
 private:
     QString formerFile() const;
     QString writtenFile() const;
-    bool copyTo(const QString& path) const;
+    bool copyTo(const QString& path);
+    void checkRoom();
     bool stepTrial();
     bool tryOut();
     void compare();
@@ -52,4 +56,5 @@ private:
     std::shared_ptr<const ProfileDifference> m_difference;
     int m_stage = 0;
     bool m_isTooLarge = false;
+    QString m_copyFault;
 };

@@ -134,6 +134,12 @@ QString ProfileLines::text(int line, const QTextCodec* codec, int mostBytes) con
     return decoded(bytes, line == 0);
 }
 
+QByteArray ProfileLines::utf8(int line) const
+{
+    const QByteArray bytes = shown(line);
+    return line == 0 && bytes.startsWith(utf8Mark) ? bytes.mid(sizeof utf8Mark - 1) : bytes;
+}
+
 LineMark ProfileLines::narrowMark(int line) const
 {
     if (m_file)

@@ -5,6 +5,7 @@
 #include "platform/profiles/NarrowLines.h"
 #include "platform/profiles/NarrowText.h"
 #include "platform/profiles/WideLines.h"
+#include "platform/profiles/WideSections.h"
 
 #include <limits>
 #include <memory>
@@ -36,10 +37,15 @@ public:
     QString text(int line, const QTextCodec* codec = nullptr,
                  int mostBytes = std::numeric_limits<int>::max()) const;
 
+    /// A line in UTF-8, with its end, without the byte order mark of the file.
+    QByteArray utf8(int line) const;
+
     LineMark narrowMark(int line) const;
     LineMark wideMark(int line) const;
     LineReading narrow(int line) const;
     LineReading wide(int line) const;
+    /// The wide family's sections.
+    WideSections wideSections() const { return WideSections(m_wide.prefixes()); }
 
 private:
     /// What is needed only while the lines are read.

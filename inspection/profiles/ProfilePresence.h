@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/files/FileStamp.h"
+#include "platform/files/FileStamp.h"
 
 /// Remembers which file a profile was when it was read, to tell whether it is still the same one.
 class ProfilePresence

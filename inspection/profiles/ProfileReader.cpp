@@ -40,7 +40,8 @@ QString ProfileReader::narrow(const QString& section, const QString& key) const
             sectionName.constData(), keyName.constData(), "", buffer, size,
             m_narrowFile.constData());
     });
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+    // Behind another character a byte order mark is a part of the text, as it is for who asks.
+    return QString::fromUtf8(' ' + QByteArray(text.data(), static_cast<int>(text.size()))).mid(1);
 }
 
 // Found is what does not change with the fallback.

@@ -8,6 +8,8 @@
 
 #include <QFile>
 
+#include <new>
+
 namespace {
 
 using Action = ProfileChange::Action;
@@ -62,6 +64,16 @@ ProfileWritingJob::ProfileWritingJob(const QString& file, const ProfileChange& c
 ProfileWritingJob::~ProfileWritingJob() = default;
 
 bool ProfileWritingJob::step()
+{
+    try {
+        return !m_isTooLarge && stepStage();
+    } catch (const std::bad_alloc&) {
+        m_isTooLarge = true;
+        return false;
+    }
+}
+
+bool ProfileWritingJob::stepStage()
 {
     switch (m_stage++) {
     case 0: return true; // the window says what is being done before anything takes long

@@ -40,9 +40,13 @@ public:
     /// True once the family has found the value in what lies on disk, or no longer finds what was
     /// deleted.
     bool isReadBack() const { return m_isReadBack; }
+    /// True where there was not memory enough to go on: nothing has been written, or what has been
+    /// has not been read back.
+    bool isTooLarge() const { return m_isTooLarge; }
 
 private:
     bool isWide() const { return m_change.family == ProfileFamily::Wide; }
+    bool stepStage();
     void open();
     void parse() const;
     void readFormer();
@@ -63,4 +67,5 @@ private:
     bool m_isWritten = false;
     bool m_isCopied = false;
     bool m_isReadBack = false;
+    bool m_isTooLarge = false;
 };

@@ -28,6 +28,12 @@ QString RawStore::fileName()
     return g_globalSettings ? g_globalSettings->fileName() : QString();
 }
 
+bool RawStore::isIniFile()
+{
+    return g_globalSettings && (g_globalSettings->format() == QSettings::IniFormat ||
+                                g_globalSettings->format() == QSettings::NativeFormat);
+}
+
 bool RawStore::isWritable()
 {
     return g_globalSettings && g_globalSettings->isWritable();

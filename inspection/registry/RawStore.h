@@ -36,6 +36,9 @@ public:
     static bool exists();
     /// The store's file; empty without a store.
     static QString fileName();
+    /// True for a store in the INI format of QSettings, false for one in a format of the host
+    /// library's own.
+    static bool isIniFile();
     /// What QSettings knows of its right to write the file; false without a store.
     static bool isWritable();
     /// True where the store's file is there and could not be read, and where saving has failed.

@@ -4,6 +4,7 @@
 #include "platform/registry/StoreSections.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
@@ -14,7 +15,7 @@ constexpr int stepSize = 100; // entries
 
 } // namespace
 
-StoreComparisonJob::StoreComparisonJob() : m_file(FileStamp::of(RawStore::fileName())) {}
+StoreComparisonJob::StoreComparisonJob() : m_file(KnownFile::of(RawStore::fileName())) {}
 
 StoreComparisonJob::~StoreComparisonJob() = default;
 
@@ -42,8 +43,9 @@ bool StoreComparisonJob::isDamaged() const
 void StoreComparisonJob::open()
 {
     const QString copy = m_folder.filePath(QStringLiteral("copy"));
-    if (m_file.exists())
-        QFile::copy(RawStore::fileName(), copy);
+    // Where there is no room for a copy, another name is enough: it is parsed under that name.
+    if (m_file.exists() && !QFile::copy(RawStore::fileName(), copy))
+        QFile::link(QFileInfo(RawStore::fileName()).absoluteFilePath(), copy);
     m_copy = RawStore::opened(copy);
     m_sections = storeSections(copy);
 }

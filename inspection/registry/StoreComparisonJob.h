@@ -1,7 +1,7 @@
 #pragma once
 
 #include "inspection/Job.h"
-#include "inspection/files/FileStamp.h"
+#include "platform/files/KnownFile.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
@@ -32,7 +32,7 @@ public:
     bool step() override;
 
     /// The file that was compared.
-    const FileStamp& file() const { return m_file; }
+    const KnownFile& file() const { return m_file; }
     /// The first difference; none where the store holds what its file says.
     const std::optional<Difference>& difference() const { return m_difference; }
     /// True where the file has lines that are no entries: the store leaves them out, and saves
@@ -45,7 +45,7 @@ private:
     bool compareSome();
     void differAt(const QString& name);
 
-    FileStamp m_file;
+    KnownFile m_file;
     QTemporaryDir m_folder; ///< of the copy; nobody else can read it
     std::unique_ptr<QSettings> m_copy;
     QStringList m_sections; ///< of the copy, still to be parsed

@@ -25,6 +25,6 @@ bool StoreSaveBlocker::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::UpdateRequest)
         return QObject::eventFilter(watched, event);
-    m_blocked = true;
+    m_blocked.emplace();
     return true;
 }

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "platform/registry/ListingCache.h"
+
 #include <QObject>
 #include <QPointer>
+
+#include <optional>
 
 /// While one lives, the store does not save itself between the slices of a job, because saving
 /// writes the whole file anew each time. When the last one goes, the store saves itself as after
@@ -18,5 +22,7 @@ public:
 
 private:
     QPointer<QObject> m_store; ///< null when it has gone meanwhile
-    bool m_blocked = false;    ///< a saving has been put off
+    /// Set when a saving has been put off: the store then asks itself for no other one, which would
+    /// be the sign of further changes.
+    std::optional<ListingCache::Suspension> m_blocked;
 };

@@ -2,62 +2,35 @@
 
 #include "inspection/registry/RawStore.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
-#include <cstdio>
-#include <unistd.h>
-
 namespace {
 
-// Another name for a file, which takes no room on the disk, as long as it lives. Where the file
-// system has no second names it is a copy.
-class SecondName
+QString placeOf(const QFileInfo& file)
 {
-public:
-    SecondName(const QString& file, const char* purpose)
-        : m_file(QFile::encodeName(file)),
-          m_name(m_file + '.' + purpose + '-' +
-                 QByteArray::number(QCoreApplication::applicationPid())),
-          m_isThere(isMade())
-    {
-    }
-    ~SecondName()
-    {
-        if (m_isThere)
-            unlink(m_name.constData());
-    }
+    return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
+}
 
-    SecondName(const SecondName&) = delete;
-    SecondName& operator=(const SecondName&) = delete;
+} // namespace
 
-    QString path() const { return QFile::decodeName(m_isThere ? m_name : m_file); }
-    // Makes it the file again that has the first name.
-    void putBack() const
-    {
-        if (m_isThere)
-            std::rename(m_name.constData(), m_file.constData());
-    }
+StoreSaving::StoreSaving()
+    : m_file(placeOf(QFileInfo(RawStore::fileName()))),
+      m_former(m_file, "before"),
+      m_before(FileStamp::of(m_file))
+{
+}
 
-private:
-    bool isMade() const
-    {
-        unlink(m_name.constData()); // of an earlier process that was killed
-        return link(m_file.constData(), m_name.constData()) == 0 ||
-               QFile::copy(QFile::decodeName(m_file), QFile::decodeName(m_name));
-    }
-
-    QByteArray m_file;
-    QByteArray m_name;
-    bool m_isThere;
-};
+bool StoreSaving::hasWritten() const
+{
+    return FileStamp::of(m_file) != m_before;
+}
 
 // Under another name the file is parsed anew. What another program has added since may be there.
-bool isWhole(const QString& file)
+bool StoreSaving::isWhole() const
 {
-    const SecondName name(file, "check");
+    const SecondName name(m_file, "check");
     const auto saved = RawStore::opened(name.path());
     const RawStore store({}, RawStore::Reach::OwnFile);
     const QStringList entries = store.allEntries();
@@ -68,21 +41,21 @@ bool isWhole(const QString& file)
     return true;
 }
 
-} // namespace
+void StoreSaving::undo() const
+{
+    if (hadFile())
+        m_former.putBack();
+    else
+        QFile::remove(m_file);
+}
 
 bool saveStore()
 {
-    const QFileInfo info(RawStore::fileName());
-    const bool wasThere = info.exists();
-    const QString file = wasThere ? info.canonicalFilePath() : info.absoluteFilePath();
-    const SecondName former(file, "before");
+    const StoreSaving saving;
     if (!RawStore::save())
         return false;
-    if (!QFileInfo::exists(file) || isWhole(file))
+    if (!QFileInfo::exists(saving.file()) || saving.isWhole())
         return true;
-    if (wasThere)
-        former.putBack();
-    else
-        QFile::remove(file);
+    saving.undo();
     return false;
 }

@@ -3,13 +3,13 @@
 #include "inspection/registry/RawStore.h"
 #include "inspection/registry/StoreFault.h"
 
-#include <QEvent>
-
 #include <algorithm>
 #include <utility>
 #include <vector>
 
 namespace {
+
+constexpr int lookMilliseconds = 500;
 
 // The earliest first. The window watches the store from its beginning, and a page from its first
 // visit: what has happened to the file in between is known to the first of them.
@@ -29,12 +29,15 @@ StoreWatch::StoreWatch()
             break;
     }
     living().push_back(this);
+    startTimer(lookMilliseconds);
 }
 
 StoreWatch::~StoreWatch()
 {
     std::vector<StoreWatch*>& watches = living();
     watches.erase(std::remove(watches.begin(), watches.end(), this), watches.end());
+    if (m_guard)
+        m_guard->disconnect(this); // it may end with this watch, and then saves the store
 }
 
 bool StoreWatch::takeOver(StoreWatch& earlier)
@@ -47,47 +50,57 @@ bool StoreWatch::takeOver(StoreWatch& earlier)
     m_state = earlier.m_state;
     m_difference = earlier.m_difference;
     m_hasFailed = earlier.m_hasFailed;
+    m_isDamaged = earlier.m_isDamaged;
     m_hasLost = earlier.m_hasLost;
     return true;
 }
 
 void StoreWatch::attach()
 {
+    if (m_guard)
+        m_guard->disconnect(this);
     m_store = RawStore::receiver();
-    if (m_store)
-        m_store->installEventFilter(this);
-    takeSaved();
+    m_guard = StoreSavingGuard::ofStore();
+    if (m_guard) {
+        m_guard->settle(); // what came before is for those who have seen it
+        connect(m_guard.get(), &StoreSavingGuard::ended, this, &StoreWatch::takeOutcome);
+    }
+    takeSaved(KnownFile::of(RawStore::fileName()));
     m_isFirst = true;
     m_isDamageKnown = false;
 }
 
-bool StoreWatch::eventFilter(QObject* watched, QEvent* event)
+// The host library may set up its store late, or another one, while nobody asks for the state.
+void StoreWatch::timerEvent(QTimerEvent* /*event*/)
 {
-    // The store saves itself when it gets the event, which is right after this. What another
-    // program does to the file afterwards must not be taken for it: it is not put off for long.
-    if (event->type() == QEvent::UpdateRequest) {
-        m_isSaving = true;
-        m_beforeSaving = FileStamp::of(RawStore::fileName());
-        const bool hadFile = m_state == State::Vanished || m_seen.exists();
-        m_isFileNew = hadFile && !m_beforeSaving.exists();
-        QMetaObject::invokeMethod(this, &StoreWatch::takeSaving, Qt::QueuedConnection);
-    }
-    return QObject::eventFilter(watched, event);
+    if (m_store != RawStore::receiver())
+        attach();
 }
 
 // A saving that has failed leaves the file alone, as one does that has nothing to save. The store
 // never forgets a failure: where there has been one, a comparison tells the two apart.
-void StoreWatch::takeSaving()
+void StoreWatch::takeOutcome(const StoreSavingGuard::Outcome& outcome)
 {
-    if (!m_isSaving)
+    if (outcome.isRepeated && m_state == State::Unsaved) {
+        m_saved = m_seen = outcome.file;
         return;
-    takeSaved();
-    if (m_isFileNew && m_seen.exists())
+    }
+    const bool hadFile = m_state == State::Vanished || m_seen.exists();
+    takeSaved(outcome.file);
+    if (hadFile && !outcome.hadFile && m_seen.exists())
         m_hasLost = true;
-    if (m_seen != m_beforeSaving || !RawStore::hasFailed() || !storeFault().isEmpty())
+    const bool mayHaveFailed =
+        !outcome.hasWritten && RawStore::hasFailed() && storeFault().isEmpty();
+    if (!outcome.isCut && !mayHaveFailed)
         return;
     m_hasFailed = true;
     m_state = State::Unknown;
+}
+
+void StoreWatch::takeSaving()
+{
+    if (m_guard)
+        m_guard->settle();
 }
 
 int StoreWatch::revision()
@@ -97,12 +110,12 @@ int StoreWatch::revision()
 }
 
 // Saving reads the file first and adds the changes: whatever has happened to it is in the store.
-void StoreWatch::takeSaved()
+void StoreWatch::takeSaved(const KnownFile& file)
 {
-    m_saved = m_seen = FileStamp::of(RawStore::fileName());
+    m_saved = m_seen = file;
     m_state = State::InStep;
     m_difference.reset();
-    m_isSaving = m_hasFailed = m_isFirst = false;
+    m_hasFailed = m_isDamaged = m_isFirst = false;
     m_isDamageKnown = true; // the store saves no lines but entries
     ++m_revision;
 }
@@ -112,10 +125,9 @@ StoreWatch::State StoreWatch::state()
     if (m_store != RawStore::receiver())
         attach();
     takeSaving();
-    const FileStamp now = FileStamp::of(RawStore::fileName());
     if (!m_store)
         return State::InStep;
-    if (now != m_seen)
+    if (!m_seen.isStill(RawStore::fileName()))
         return changedState();
     if (m_difference)
         return hasReadDifference() ? State::Unknown : m_state;
@@ -138,7 +150,7 @@ StoreWatch::State StoreWatch::changedState()
 {
     if (storeFault().isEmpty())
         return State::Unknown;
-    takeSaved();
+    takeSaved(KnownFile::of(RawStore::fileName()));
     return State::InStep;
 }
 
@@ -153,7 +165,7 @@ bool StoreWatch::hasReadDifference() const
 
 void StoreWatch::settle(const StoreComparisonJob& comparison)
 {
-    if (comparison.file() != FileStamp::of(RawStore::fileName()))
+    if (comparison.file().stamp() != FileStamp::of(RawStore::fileName()))
         return; // it has changed meanwhile
     if (!comparison.difference()) {
         takeSame(comparison.file());
@@ -164,6 +176,7 @@ void StoreWatch::settle(const StoreComparisonJob& comparison)
     }
     m_seen = comparison.file();
     m_difference = comparison.difference();
+    m_isDamaged = comparison.isDamaged();
     ++m_revision;
     m_state = differenceState();
     if (m_state == State::Unsaved)
@@ -175,27 +188,25 @@ void StoreWatch::settle(const StoreComparisonJob& comparison)
 // After a saving that has failed the file is as it was before.
 StoreWatch::State StoreWatch::differenceState() const
 {
-    if (m_hasFailed && m_seen == m_saved)
+    if (m_hasFailed && m_seen.stamp() == m_saved.stamp())
         return State::Unsaved;
     if (!m_seen.exists())
         return State::Vanished;
-    return m_seen.isSameFile(m_saved) ? State::Changed : State::Replaced;
+    return m_seen.stamp().isSameFile(m_saved.stamp()) ? State::Changed : State::Replaced;
 }
 
 // The store that was found as it is shown need not be shown anew.
-void StoreWatch::takeSame(const FileStamp& file)
+void StoreWatch::takeSame(const KnownFile& file)
 {
-    if (m_state == State::Unknown && file == m_seen)
+    if (m_state == State::Unknown && file.stamp() == m_seen.stamp())
         m_state = State::InStep;
     else
-        takeSaved();
+        takeSaved(file);
 }
 
 QString StoreWatch::text()
 {
     const QString file = RawStore::fileName();
-    const QString rest = tr("The store still holds what it had read. Its next change makes it read "
-                            "the file, and what the file lacks is gone.");
     switch (state()) {
     case State::InStep: return {};
     case State::Vanished:
@@ -204,8 +215,7 @@ QString StoreWatch::text()
                   "nothing but that change.")
             .arg(file);
     case State::Replaced:
-        return tr("Another program has replaced the store's file %1.").arg(file) +
-               QLatin1Char(' ') + rest;
+        return withConsequence(tr("Another program has replaced the store's file %1.").arg(file));
     case State::Damaged:
         return tr("The store's file %1 is damaged: it has lines that are no entries. The store "
                   "leaves them out, and its next change writes the file without them.")
@@ -218,6 +228,15 @@ QString StoreWatch::text()
     case State::Unknown:
     case State::Changed: break;
     }
-    return tr("Another program has changed the store's file %1.").arg(file) + QLatin1Char(' ') +
-           rest;
+    return withConsequence(tr("Another program has changed the store's file %1.").arg(file));
+}
+
+QString StoreWatch::withConsequence(const QString& event) const
+{
+    const QString rest = tr("The store still holds what it had read. Its next change makes it read "
+                            "the file, and what the file lacks is gone.");
+    const QString damage = tr("The file is damaged, too: it has lines that are no entries, and "
+                              "that change writes it without them.");
+    const QString text = event + QLatin1Char(' ') + rest;
+    return m_isDamaged ? text + QLatin1Char(' ') + damage : text;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "inspection/registry/StoreComparisonJob.h"
+#include "inspection/registry/StoreSavingGuard.h"
 
 #include <QObject>
 #include <QPointer>
@@ -8,11 +9,11 @@
 /// Watches the store and its file, at the cost of a `stat` a look: whether this process has changed
 /// the store, and whether another program has changed the file behind it.
 ///
-/// Each change of the store in this process ends with the store saving itself, for which it asks
-/// itself by an event; that is the sign of it. The store reads its file only when it saves itself,
-/// or when the host library tells it to: until then it does not know what another program has done
-/// to the file. A file that has changed without that event is compared with the store, because the
-/// host library may save it by itself, too.
+/// Each change of the store in this process ends with the store saving itself, which a
+/// StoreSavingGuard sees; that is the sign of it. The store reads its file only when it saves
+/// itself, or when the host library tells it to: until then it does not know what another program
+/// has done to the file. A file that has changed without that is compared with the store, because
+/// the host library may save it by itself, too.
 class StoreWatch : public QObject
 {
     Q_OBJECT
@@ -42,13 +43,13 @@ public:
     void settle(const StoreComparisonJob& comparison);
 
     /// The file that the state is about.
-    const FileStamp& file() const { return m_seen; }
+    const FileStamp& file() const { return m_seen.stamp(); }
 
     /// True when the store has saved itself while its file was gone: then it has lost everything
     /// but its last changes.
     bool hasLost() const { return m_hasLost; }
 
-    /// Grows with each saving that has been found to have failed.
+    /// Grows with each saving that has been found to have failed, but for trials to save the same.
     int failedSavings() const { return m_failedSavings; }
 
     /// Grows with everything that may have changed the store.
@@ -57,28 +58,30 @@ public:
     /// What has happened to the file and what that means, in words; empty where it is in step.
     QString text();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
+protected:
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     void attach();
     bool takeOver(StoreWatch& earlier);
     void takeSaving();
-    void takeSaved();
-    void takeSame(const FileStamp& file);
+    void takeOutcome(const StoreSavingGuard::Outcome& outcome);
+    void takeSaved(const KnownFile& file);
+    void takeSame(const KnownFile& file);
     State changedState();
     State differenceState() const;
     bool mayDiffer();
     bool hasReadDifference() const;
+    QString withConsequence(const QString& event) const;
 
     QPointer<QObject> m_store;
-    FileStamp m_saved; ///< when the store and it were in step last
-    FileStamp m_seen;  ///< the one that the state is about
+    std::shared_ptr<StoreSavingGuard> m_guard;
+    KnownFile m_saved; ///< when the store and it were in step last
+    KnownFile m_seen;  ///< the one that the state is about
     State m_state = State::InStep;
     std::optional<StoreComparisonJob::Difference> m_difference;
-    bool m_isSaving = false; ///< the store has saved itself, which is still to be taken over
-    FileStamp m_beforeSaving;
-    bool m_isFileNew = false;     ///< the one that was there had gone before that
-    bool m_hasFailed = false;     ///< nothing has been written by that
+    bool m_hasFailed = false;     ///< the last saving
+    bool m_isDamaged = false;     ///< a file that differs from what the store holds
     bool m_isFirst = true;        ///< nobody has asked for the state yet
     bool m_isDamageKnown = false; ///< whether the file is damaged
     bool m_hasLost = false;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "inspection/files/FileStamp.h"
 #include "inspection/files/PathAnswers.h"
+#include "platform/files/FileStamp.h"
 
 #include <QGroupBox>
 #include <QTimer>

@@ -6,11 +6,14 @@
 #include "pages/profiles/ProfileHistory.h"
 #include "window/Page.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include <new>
 
 namespace {
 
@@ -44,6 +47,29 @@ QString nothingDone(const ProfileChange& change)
 {
     return change.action == Action::Set ? ProfileEditor::tr("Nothing written.")
                                         : ProfileEditor::tr("Nothing deleted.");
+}
+
+// Why nothing has been found out about a change; empty where it has been.
+QString trialFault(const ProfileDryRun& dryRun)
+{
+    if (dryRun.isTooLarge())
+        return ProfileEditor::tr("There is not memory enough to try the change on a copy.");
+    if (dryRun.copyFault().isEmpty())
+        return {};
+    return ProfileEditor::tr("The change is tried on a copy first, which could not be written in "
+                             "%1: %2.")
+        .arg(QDir::tempPath(), dryRun.copyFault());
+}
+
+// False where there is not memory enough for the file.
+bool readFile(const QString& path, std::optional<QByteArray>& bytes)
+{
+    try {
+        bytes = ProfileBytes::of(path);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 QString fateQuestion(ProfilePresence::Fate fate, const QString& path)
@@ -124,10 +150,9 @@ void ProfileEditor::tryOut(const Request& request)
 
 void ProfileEditor::decide(const Request& request, const ProfileDryRun& dryRun)
 {
-    if (dryRun.isTooLarge()) {
-        m_page.report(Report::Error,
-                      nothingDone(request.change) + QLatin1Char(' ') +
-                          tr("There is not memory enough to try the change on a copy."));
+    const QString fault = trialFault(dryRun);
+    if (!fault.isEmpty()) {
+        m_page.report(Report::Error, nothingDone(request.change) + QLatin1Char(' ') + fault);
         return;
     }
     if (!dryRun.isReadBack()) {
@@ -154,10 +179,24 @@ void ProfileEditor::ask(const Request& request, const Trial& trial)
     dialog->open();
 }
 
+QString ProfileEditor::unknownEnd(const QString& path)
+{
+    m_presence.note(path);
+    return tr("There is not memory enough to read %1 once more: the change may have been made, and "
+              "cannot be undone.")
+        .arg(path);
+}
+
 // The user has agreed to what happens to the file as it was when the change was tried.
 void ProfileEditor::writeAsTried(const Request& request, const Trial& trial)
 {
-    if (ProfileBytes::of(request.path) == trial.bytes) {
+    std::optional<QByteArray> now;
+    if (!readFile(request.path, now)) {
+        m_page.report(Report::Error, nothingDone(request.change) + QLatin1Char(' ') +
+                                         tr("There is not memory enough to read the file."));
+        return;
+    }
+    if (now == trial.bytes) {
         writeNow(request, trial);
         return;
     }
@@ -188,13 +227,18 @@ void ProfileEditor::writeNow(const Request& request, const Trial& trial)
 void ProfileEditor::finish(const Request& request, const Trial& trial, const ProfileWritingJob& job,
                            const QString& backup, bool complete)
 {
-    const std::optional<QByteArray> after = ProfileBytes::of(request.path);
+    std::optional<QByteArray> after;
+    if (!readFile(request.path, after)) {
+        m_page.report(Report::Warning, unknownEnd(request.path));
+        return;
+    }
     const bool isChanged = after != trial.bytes;
     if (isChanged)
         m_history->add(
             {request.path, request.change, trial.former, trial.entries, trial.bytes, after});
     m_presence.note(request.path);
-    const bool hasFailed = complete && !job.isReadBack();
+    const bool isAsShown = after == trial.difference->lines().after().bytes();
+    const bool hasFailed = complete && !job.isReadBack() && !isAsShown;
     if (!isChanged && !backup.isEmpty() && (!complete || hasFailed))
         QFile::remove(backup);
     if (!complete && !isChanged) {
@@ -202,7 +246,6 @@ void ProfileEditor::finish(const Request& request, const Trial& trial, const Pro
     } else if (hasFailed) {
         m_page.report(Report::Error, tr("The value could not be written to %1.").arg(request.path));
     } else {
-        const bool isAsShown = after == trial.difference->lines().after().bytes();
         emit written(request.change, summary(request.change, backup, isAsShown), isAsShown);
     }
 }

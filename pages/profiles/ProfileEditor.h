@@ -63,6 +63,7 @@ private:
     void writeNow(const Request& request, const Trial& trial);
     void finish(const Request& request, const Trial& trial, const ProfileWritingJob& job,
                 const QString& backup, bool complete);
+    QString unknownEnd(const QString& path);
     static QString summary(const ProfileChange& change, const QString& backup, bool isAsShown);
     void noteRestored(const QString& path);
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "inspection/JobRunner.h"
-#include "inspection/files/FileStamp.h"
 #include "inspection/profiles/ProfileDocument.h"
 #include "inspection/profiles/ProfileReadingJob.h"
 #include "inspection/profiles/ProfileWriter.h"
+#include "platform/files/FileStamp.h"
 #include "window/Page.h"
 
 #include <memory>

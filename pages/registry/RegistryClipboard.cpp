@@ -4,8 +4,8 @@
 #include "inspection/registry/RedirectedName.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/RegistryTextJob.h"
+#include "pages/registry/ValueRowsJob.h"
 #include "window/PageContext.h"
-#include "window/TableCopyJob.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -14,13 +14,6 @@
 namespace {
 
 using Report = PageContext::Report;
-
-QString row(const ListedValue& value)
-{
-    const QStringList cells{TableCopyJob::quoted(value.name()), value.typeText(),
-                            TableCopyJob::quoted(value.copiedText())};
-    return cells.join(QLatin1Char('\t'));
-}
 
 } // namespace
 
@@ -38,11 +31,17 @@ void RegistryClipboard::copyPath(const QString& path)
 
 void RegistryClipboard::copyData(const std::vector<ListedValue>& values)
 {
-    QStringList rows;
-    for (const ListedValue& value : values)
-        rows.append(values.size() == 1 ? value.wholeData() : row(value));
-    if (!rows.isEmpty())
-        QGuiApplication::clipboard()->setText(rows.join(QLatin1Char('\n')));
+    if (values.size() == 1)
+        return QGuiApplication::clipboard()->setText(values.front().wholeData());
+    if (values.empty())
+        return;
+    m_page.startJob(tr("Copying"), std::make_unique<ValueRowsJob>(values),
+                    [this](const ValueRowsJob& job, bool complete) {
+                        if (complete)
+                            QGuiApplication::clipboard()->setText(job.text());
+                        else
+                            m_page.setStatus(tr("Cancelled: nothing was copied."));
+                    });
 }
 
 void RegistryClipboard::copyKey(const QString& path)

@@ -5,6 +5,7 @@
 #include "inspection/registry/RegistryListing.h"
 #include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreEntry.h"
+#include "inspection/registry/TakenName.h"
 #include "inspection/registry/UnkeptName.h"
 #include "inspection/registry/ValueInput.h"
 #include "pages/registry/ChangeReport.h"
@@ -17,19 +18,14 @@ namespace {
 using Place = RegistryHistory::Place;
 using Report = PageContext::Report;
 
-// A value stands for a key of its name, as the service sees it.
 QString keyProblem(const QString& path, const QString& name)
 {
     const QString parent = RegistryPath::parent(path);
     const QString target = RegistryPath::join(parent, name);
     if (target == path)
         return ValueInput::keyNameProblem(name);
-    QString problem = ValueInput::newKeyNameProblem(parent, name);
-    if (!problem.isEmpty())
-        return problem;
-    const bool isTaken = isRegistryKey(target) || StoreEntry::read(target);
-    return isTaken ? RegistryRenamer::tr("%1 is there already.").arg(RegistryPath::shown(target))
-                   : QString();
+    const QString problem = ValueInput::newKeyNameProblem(parent, name);
+    return problem.isEmpty() ? takenKeyText(target) : problem;
 }
 
 QString valueProblem(const QString& path, const QString& oldName, const QString& name)
@@ -37,10 +33,7 @@ QString valueProblem(const QString& path, const QString& oldName, const QString&
     QString problem = ValueInput::nameProblem(name);
     if (problem.isEmpty() && name != oldName)
         problem = unkeptValueText(path, name);
-    if (!problem.isEmpty() || name == oldName || !StoreEntry::read(StoreEntry::ofValue(path, name)))
-        return problem;
-    return RegistryRenamer::tr("%1 has a value \"%2\" already.")
-        .arg(RegistryPath::shown(path), name);
+    return problem.isEmpty() && name != oldName ? takenValueText(path, name) : problem;
 }
 
 } // namespace

@@ -52,7 +52,7 @@ void StoreFollower::tell()
         return;
     m_told = state;
     if (state != State::InStep)
-        m_page.report(Report::Warning, m_watch.text());
+        m_page.report(state == State::Unsaved ? Report::Error : Report::Warning, m_watch.text());
     else if (m_watch.hasLost())
         m_page.report(Report::Warning,
                       tr("The store has been saved to %1; what the file lacked is gone.")

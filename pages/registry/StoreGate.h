@@ -1,6 +1,6 @@
 #pragma once
 
-#include "inspection/files/FileStamp.h"
+#include "platform/files/FileStamp.h"
 
 #include <QObject>
 

@@ -107,3 +107,8 @@ QString narrowSection(QStringView header)
 {
     return header.mid(1).chopped(1).toString();
 }
+
+QString narrowHeader(const QString& section)
+{
+    return QLatin1Char('[') + section + QLatin1Char(']');
+}

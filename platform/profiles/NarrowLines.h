@@ -57,6 +57,9 @@ private:
     NameTable m_keys; ///< places are indexes of m_entries
 };
 
+/// The header of a section of that name: a header line is kept with its brackets.
+QString narrowHeader(const QString& section);
+
 /// The name of the section that a header line begins for the narrow calls, which put the brackets
 /// round it themselves.
 QString narrowSection(QStringView header);

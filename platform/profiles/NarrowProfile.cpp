@@ -46,21 +46,30 @@ QStringView NarrowProfile::valueOf(const Entry& entry) const
 
 void NarrowProfile::setValue(QStringView header, QStringView key, QStringView value)
 {
-    Entries& entries = m_sections[header];
-    sort(entries);
-    const Entry entry{0, isSet, static_cast<std::uint32_t>(m_set.size()), 0};
+    m_sections[header];
+    m_added[header].push_back({0, isSet, static_cast<std::uint32_t>(m_set.size()), 0});
     m_set.emplace_back(key, value);
-    const auto place = std::lower_bound(
-        entries.begin(), entries.end(), key,
-        [this](const Entry& each, QStringView name) { return keyOf(each) < name; });
-    if (place != entries.end() && keyOf(*place) == key)
-        *place = entry;
-    else
-        entries.insert(place, entry);
+}
+
+// All at once: an entry of its own each time would move all that follow it each time.
+void NarrowProfile::takeSet()
+{
+    const auto isBefore = [this](const Entry& a, const Entry& b) { return keyOf(a) < keyOf(b); };
+    for (auto& [header, added] : m_added) {
+        Entries& entries = m_sections[header];
+        sort(entries);
+        sort(added);
+        const auto count = static_cast<Entries::difference_type>(entries.size());
+        entries.insert(entries.end(), added.begin(), added.end());
+        std::inplace_merge(entries.begin(), entries.begin() + count, entries.end(), isBefore);
+        leaveLastOnes(entries);
+    }
+    m_added.clear();
 }
 
 void NarrowProfile::writeTo(NarrowOutput& output)
 {
+    takeSet();
     for (auto& [header, entries] : m_sections) {
         output.append(header);
         output.append(lineFeed);
@@ -83,6 +92,11 @@ void NarrowProfile::sort(Entries& entries) const
     if (std::adjacent_find(entries.begin(), entries.end(), notBefore) == entries.end())
         return;
     std::stable_sort(entries.begin(), entries.end(), isBefore);
+    leaveLastOnes(entries);
+}
+
+void NarrowProfile::leaveLastOnes(Entries& entries) const
+{
     const auto kept =
         std::unique(entries.rbegin(), entries.rend(),
                     [this](const Entry& a, const Entry& b) { return keyOf(a) == keyOf(b); });

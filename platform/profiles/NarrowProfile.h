@@ -22,7 +22,8 @@ public:
     /// Lines end with a line feed; carriage returns are characters like others.
     explicit NarrowProfile(QStringView text);
 
-    /// Sets a value as given, untrimmed, in a section that is created where there is none.
+    /// Sets a value as given, untrimmed, in a section that is created where there is none. Of
+    /// several values for one key the last one counts.
     void setValue(QStringView header, QStringView key, QStringView value);
 
     /// Writes the text with sections and keys in the order of their UTF-16 code units, one line for
@@ -47,8 +48,11 @@ private:
     QStringView keyOf(const Entry& entry) const;
     QStringView valueOf(const Entry& entry) const;
     void sort(Entries& entries) const;
+    void leaveLastOnes(Entries& entries) const;
+    void takeSet();
 
     QStringView m_text;
     std::map<QStringView, Entries> m_sections;
-    std::vector<Pair> m_set; ///< what does not stand in the text
+    std::vector<Pair> m_set;                ///< what does not stand in the text
+    std::map<QStringView, Entries> m_added; ///< of m_set, not in their sections yet
 };

@@ -1,5 +1,6 @@
 #include "platform/profiles/NarrowProfileFile.h"
 
+#include "platform/profiles/FileRewrite.h"
 #include "platform/profiles/NarrowProfile.h"
 #include "platform/profiles/NarrowText.h"
 
@@ -123,24 +124,34 @@ void NarrowProfileFile::rewrite(NarrowProfile& profile)
     });
 }
 
-// Overwrites and then cuts: at no time is the file empty, and file systems that flush a file which
-// was emptied and written anew have no reason to.
-void NarrowProfileFile::rewrite(
-    const std::function<void(const NarrowOutput::Write& write)>& produce)
+void NarrowProfileFile::rewrite(const Produce& produce)
 {
-    const bool isDevice = m_file.isSequential(); // keeps no text, and has its stamp from others
-    if (!isDevice)
-        m_file.seek(0);
-    bool isTaken = true;
-    produce([this, &isTaken](const QByteArray& bytes) {
-        isTaken = isTaken && m_file.write(bytes) == bytes.size();
-    });
-    if (isDevice)
+    if (m_file.isSequential()) { // a device keeps no text, and has its stamp from others
+        produce([this](const QByteArray& bytes) { m_file.write(bytes); });
         return;
-    if (isTaken)
-        m_file.resize(m_file.pos());
+    }
+    replaceText(produce);
     advanceStamp();
     latestStamp = stampOf(m_file.handle());
+}
+
+// The text is made twice where it comes in several pieces: once to learn its size.
+void NarrowProfileFile::replaceText(const Produce& produce)
+{
+    QByteArray first;
+    qint64 size = 0;
+    produce([&](const QByteArray& bytes) {
+        first = size == 0 ? bytes : first;
+        size += bytes.size();
+    });
+    FileRewrite rewrite(m_file, size);
+    if (!rewrite.makeRoom())
+        return;
+    if (first.size() == size)
+        rewrite.add(first);
+    else
+        produce([&rewrite](const QByteArray& bytes) { rewrite.add(bytes); });
+    rewrite.finish();
 }
 
 // QSettings, which reads the same files for the wide calls, takes a file of the same size and the

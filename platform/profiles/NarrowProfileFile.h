@@ -36,13 +36,17 @@ public:
     std::optional<QString> text();
 
     /// Replaces the contents, at a later time stamp than the one found and than the one that the
-    /// rewrite before, of any file, gave.
+    /// rewrite before, of any file, gave. What was there stays where the disk has no room for it.
     void rewrite(const QByteArray& bytes);
     /// The same with what the profile writes.
     void rewrite(NarrowProfile& profile);
 
 private:
-    void rewrite(const std::function<void(const NarrowOutput::Write& write)>& produce);
+    /// Writes the same bytes each time that it is called.
+    using Produce = std::function<void(const NarrowOutput::Write& write)>;
+
+    void rewrite(const Produce& produce);
+    void replaceText(const Produce& produce);
     void advanceStamp();
     void waitForStamp(std::int64_t former);
 

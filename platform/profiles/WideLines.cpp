@@ -213,12 +213,24 @@ void WideLines::markContinuations()
         m_marks[line].state = LineState::Continuation;
 }
 
+QString WideLines::prefixOf(const Header& header) const
+{
+    return IniName::sectionPrefix(m_bytes.mid(header.begin, header.end - header.begin));
+}
+
 QString WideLines::prefixOf(const Entry& entry) const
 {
-    if (entry.header < 0)
-        return {};
-    const Header& header = m_headers[static_cast<std::size_t>(entry.header)];
-    return IniName::sectionPrefix(m_bytes.mid(header.begin, header.end - header.begin));
+    return entry.header < 0 ? QString()
+                            : prefixOf(m_headers[static_cast<std::size_t>(entry.header)]);
+}
+
+std::vector<QString> WideLines::prefixes() const
+{
+    std::vector<QString> prefixes;
+    prefixes.reserve(m_headers.size());
+    for (const Header& header : m_headers)
+        prefixes.push_back(prefixOf(header));
+    return prefixes;
 }
 
 QString WideLines::keyOf(const Entry& entry) const

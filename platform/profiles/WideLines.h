@@ -33,6 +33,9 @@ public:
     /// as one that ends with "/", is not found.
     LineReading reading(std::size_t line) const;
 
+    /// What the names in each section begin with, one for each header.
+    std::vector<QString> prefixes() const;
+
     /// Of each line; reads first what has not been read.
     std::vector<LineReading> readings();
 
@@ -63,6 +66,7 @@ private:
     bool isReplaced(const QString& name);
     void markContinuations();
     LineMark& markAt(int position) { return m_marks[m_lines.lineOf(position)]; }
+    QString prefixOf(const Header& header) const;
     QString prefixOf(const Entry& entry) const;
     QString keyOf(const Entry& entry) const;
 

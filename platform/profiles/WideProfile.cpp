@@ -45,10 +45,11 @@ WideProfile::WideProfile(const wchar_t* file)
 
 // A large file is parsed first: while QSettings has the file locked, memory that is refused would
 // end the program.
-void WideProfile::write(const QString& name, const QString& value)
+void WideProfile::write(const std::vector<std::pair<QString, QString>>& entries)
 {
     if (m_isLarge)
         static_cast<void>(m_settings->childGroups()); // which only all sections tell
-    m_settings->setValue(name, value);
+    for (const auto& [name, value] : entries)
+        m_settings->setValue(name, value);
     m_settings->sync();
 }

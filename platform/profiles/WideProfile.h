@@ -4,6 +4,8 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 /// One file as the wide calls see it, for the length of one call.
 class WideProfile
@@ -25,9 +27,9 @@ public:
     QSettings* operator->() { return &*m_settings; }
     QSettings& operator*() { return *m_settings; }
 
-    /// Sets an entry and saves; throws bad_alloc, with the file as it was, where the memory is too
-    /// small for that.
-    void write(const QString& name, const QString& value);
+    /// Sets entries, each a name and a value, and saves; throws bad_alloc, with the file as it was,
+    /// where the memory is too small for that.
+    void write(const std::vector<std::pair<QString, QString>>& entries);
 
 private:
     std::optional<QSettings> m_settings;

@@ -14,6 +14,19 @@ QString groupAt(const QByteArray& text, int start)
     return prefix.chopped(prefix.isEmpty() ? 0 : 1);
 }
 
+// The line that begins at `start`, without the spaces around it; it points into the text.
+QByteArray lineAt(const QByteArray& text, int start)
+{
+    const int end = text.indexOf('\n', start);
+    const int size = (end < 0 ? text.size() : end) - start;
+    return QByteArray::fromRawData(text.constData() + start, size).trimmed();
+}
+
+bool hasLevels(const QByteArray& entry)
+{
+    return IniName::unescaped(entry.left(entry.indexOf('='))).contains(QLatin1Char('/'));
+}
+
 } // namespace
 
 QStringList storeSections(const QString& file)
@@ -31,4 +44,27 @@ QStringList storeSections(const QString& file)
 QString nameInSection(const QString& group)
 {
     return group.isEmpty() ? QStringLiteral("x") : group + QLatin1String("/x");
+}
+
+bool hasHiddenGroups(const QString& file)
+{
+    QFile input(file);
+    if (!input.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray text = input.readAll().replace('\r', '\n');
+    bool isInNoGroup = true;
+    for (int start = 0; start < text.size(); start = text.indexOf('\n', start) + 1) {
+        const QByteArray line = lineAt(text, start);
+        if (line.startsWith('[')) {
+            const QString prefix = IniName::sectionPrefix(line);
+            isInNoGroup = prefix.isEmpty();
+            if (prefix.count(QLatin1Char('/')) > 1)
+                return true;
+        } else if (isInNoGroup && hasLevels(line)) {
+            return true;
+        }
+        if (text.indexOf('\n', start) < 0)
+            break;
+    }
+    return false;
 }

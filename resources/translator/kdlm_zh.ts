@@ -194,13 +194,6 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
-    <name>ByteInput</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
-</context>
-<context>
     <name>ByteResult</name>
     <message>
         <source>Writes into this file.</source>
@@ -1303,6 +1296,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Only records of this character set, by its code.</source>
         <translation>仅限此字符集（以代码指定）的记录。</translation>
     </message>
+    <message>
+        <source>The service reports no such font.</source>
+        <translation>服务没有报告这样的字体。</translation>
+    </message>
 </context>
 <context>
     <name>FontsPage</name>
@@ -2099,6 +2096,21 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>InputDevice</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>The standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>The descriptor %1</source>
+        <translation>描述符 %1</translation>
+    </message>
+</context>
+<context>
     <name>Interruption</name>
     <message>
         <source>Interrupted: nothing more has been done.</source>
@@ -2189,6 +2201,14 @@ Put it in the place of the file to bring everything back.</source>
         <source>The pass phrase is empty.</source>
         <translation>口令为空。</translation>
     </message>
+    <message>
+        <source>Pass phrase again</source>
+        <translation>再次输入口令</translation>
+    </message>
+    <message>
+        <source>The two pass phrases are not the same.</source>
+        <translation>两次输入的口令不一致。</translation>
+    </message>
 </context>
 <context>
     <name>KeyPanel</name>
@@ -2265,6 +2285,49 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Keys</source>
         <translation>项</translation>
+    </message>
+</context>
+<context>
+    <name>LineDeviation</name>
+    <message>
+        <source>The quotes are no part of the value.</source>
+        <translation>引号不属于该值。</translation>
+    </message>
+    <message>
+        <source>The backslash at its end joins the next line to it.</source>
+        <translation>末尾的反斜杠将下一行与之相连。</translation>
+    </message>
+    <message>
+        <source>The byte order mark is no part of the value.</source>
+        <translation>字节顺序标记不属于该值。</translation>
+    </message>
+    <message>
+        <source>What begins with “@” is read as a value of another form.</source>
+        <translation>以“@”开头的内容被读作另一种形式的值。</translation>
+    </message>
+    <message>
+        <source>The spaces around the value are lost.</source>
+        <translation>值两端的空白会丢失。</translation>
+    </message>
+    <message>
+        <source>It does not look like an entry, but is one to the family.</source>
+        <translation>看起来不是条目，但该函数族将其视为条目。</translation>
+    </message>
+    <message>
+        <source>The family knows it by other names: key “%1”, section “%2”.</source>
+        <translation>该函数族以其他名称识别它：键“%1”，节“%2”。</translation>
+    </message>
+    <message>
+        <source>A carriage return in it ends the line.</source>
+        <translation>其中的回车符使该行结束。</translation>
+    </message>
+    <message>
+        <source>A carriage return in it is lost.</source>
+        <translation>其中的回车符会丢失。</translation>
+    </message>
+    <message>
+        <source>A zero byte in it ends names and values.</source>
+        <translation>其中的零字节使名称和值结束。</translation>
     </message>
 </context>
 <context>
@@ -3159,6 +3222,14 @@ Put it in the place of the file to bring everything back.</source>
         <source>The line is not UTF-8.</source>
         <translation>该行不是 UTF-8。</translation>
     </message>
+    <message>
+        <source>The family reads UTF-8 alone.</source>
+        <translation>该函数族只读取 UTF-8。</translation>
+    </message>
+    <message>
+        <source>The family finds it only after a call that reads all sections.</source>
+        <translation>只有在某次调用读取了所有节之后，该函数族才能找到它。</translation>
+    </message>
 </context>
 <context>
     <name>ProfileColumns</name>
@@ -3516,6 +3587,18 @@ Wide: %2</source>
     <message>
         <source>There is not memory enough to try the change on a copy.</source>
         <translation>内存不足，无法在副本上试做此更改。</translation>
+    </message>
+    <message>
+        <source>The change is tried on a copy first, which could not be written in %1: %2.</source>
+        <translation>更改会先在副本上试行，而副本无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>There is not memory enough to read the file.</source>
+        <translation>内存不足，无法读取该文件。</translation>
+    </message>
+    <message>
+        <source>There is not memory enough to read %1 once more: the change may have been made, and cannot be undone.</source>
+        <translation>内存不足，无法再次读取 %1：更改可能已完成，且无法撤消。</translation>
     </message>
 </context>
 <context>
@@ -3942,6 +4025,14 @@ Wide: %2</source>
         <source>%1 Nothing is saved; --force saves the rest.</source>
         <translation>%1未保存任何内容；--force 将保存其余部分。</translation>
     </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not in the encoding of the locale.</source>
+        <translation>参数“%1”不符合区域设置的编码。</translation>
+    </message>
+    <message>
+        <source>Put &quot;--&quot; before arguments that begin with &quot;-&quot;.</source>
+        <translation>请在以“-”开头的参数之前加上“--”。</translation>
+    </message>
 </context>
 <context>
     <name>ReadingRemark</name>
@@ -4190,10 +4281,6 @@ Wide: %2</source>
         <translation>不能复制根本身，也不能取代它。</translation>
     </message>
     <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
         <source>%1 is below the key that is to be copied.</source>
         <translation>%1 位于要复制的键之下。</translation>
     </message>
@@ -4363,6 +4450,10 @@ Wide: %2</source>
         <source>&quot;%1&quot; of %2 cannot be read: %3</source>
         <translation>无法读取 %2 中的“%1”：%3</translation>
     </message>
+    <message>
+        <source>Either --type or --raw, not both.</source>
+        <translation>--type 和 --raw 只能选其一。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryHistory</name>
@@ -4429,10 +4520,6 @@ Wide: %2</source>
 </context>
 <context>
     <name>RegistryImportCommand</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
@@ -4562,16 +4649,8 @@ Wide: %2</source>
         <translation>不能重命名根本身。</translation>
     </message>
     <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
         <source>%1 has no value &quot;%2&quot;.</source>
         <translation>%1 中没有值“%2”。</translation>
-    </message>
-    <message>
-        <source>%1 has a value &quot;%2&quot; already.</source>
-        <translation>%1 中已有值“%2”。</translation>
     </message>
     <message>
         <source>Names what would be renamed, and does nothing.</source>
@@ -4580,14 +4659,6 @@ Wide: %2</source>
 </context>
 <context>
     <name>RegistryRenamer</name>
-    <message>
-        <source>%1 is there already.</source>
-        <translation>%1 已存在。</translation>
-    </message>
-    <message>
-        <source>%1 has a value &quot;%2&quot; already.</source>
-        <translation>%1 中已有值“%2”。</translation>
-    </message>
     <message>
         <source>Rename the key</source>
         <translation>重命名项</translation>
@@ -4822,10 +4893,6 @@ Wide: %2</source>
 <context>
     <name>Secret</name>
     <message>
-        <source>The secret cannot be read: %1</source>
-        <translation>无法读取密钥信息：%1</translation>
-    </message>
-    <message>
         <source>There is no terminal to ask for the secret on: name a file.</source>
         <translation>没有可供询问密钥信息的终端：请指定文件。</translation>
     </message>
@@ -4966,10 +5033,6 @@ Wide: %2</source>
 <context>
     <name>StoreWatch</name>
     <message>
-        <source>The store still holds what it had read. Its next change makes it read the file, and what the file lacks is gone.</source>
-        <translation>存储中仍是先前读取的内容。下一次更改会使其重新读取该文件，文件中没有的内容将会丢失。</translation>
-    </message>
-    <message>
         <source>The store&apos;s file %1 is gone: another program has deleted or moved it. The store still holds what it had read. Its next change makes a new file that holds nothing but that change.</source>
         <translation>存储的文件 %1 已不存在：其他程序已将其删除或移走。存储中仍是先前读取的内容。下一次更改将生成一个只含该更改的新文件。</translation>
     </message>
@@ -4988,6 +5051,14 @@ Wide: %2</source>
     <message>
         <source>The store could not be saved to %1, for which a full disk may be the reason. The last changes are not in the file, and end with the program unless a later change is saved.</source>
         <translation>存储未能保存到 %1，原因可能是磁盘已满。最近的更改不在该文件中；除非以后的更改保存成功，否则将随程序结束而丢失。</translation>
+    </message>
+    <message>
+        <source>The store still holds what it had read. Its next change makes it read the file, and what the file lacks is gone.</source>
+        <translation>存储中仍是先前读取的内容。下一次更改会使其重新读取该文件，文件中没有的内容将会丢失。</translation>
+    </message>
+    <message>
+        <source>The file is damaged, too: it has lines that are no entries, and that change writes it without them.</source>
+        <translation>该文件也已损坏：其中有不是条目的行，该次更改写入的文件将不再包含它们。</translation>
     </message>
 </context>
 <context>
@@ -5049,6 +5120,17 @@ Wide: %2</source>
     <message>
         <source>Original order</source>
         <translation>原始顺序</translation>
+    </message>
+</context>
+<context>
+    <name>TakenName</name>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 has a value &quot;%2&quot; already.</source>
+        <translation>%1 已有值“%2”。</translation>
     </message>
 </context>
 <context>

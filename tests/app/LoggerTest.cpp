@@ -1,5 +1,8 @@
 #include "app/Logger.h"
 
+#include "tests/support/FullDisk.h"
+
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -225,6 +228,61 @@ TEST_F(LoggerTest, FileIsFlushedAfterEveryLine)
     Logger logger(Logger::file, Logger::debug, path());
     logger.INFO("text");
     EXPECT_EQ(startBanner + "[INFO] TIME : text\n", content());
+}
+
+TEST_F(LoggerTest, GoesOnAfterTheDiskHasBeenFull)
+{
+    {
+        Logger logger(Logger::file, Logger::debug, path());
+        logger.INFO("before");
+        {
+            const FullDisk disk;
+            logger.INFO("meanwhile");
+        }
+        logger.INFO("after");
+    }
+    EXPECT_EQ(startBanner + "[INFO] TIME : before\n[INFO] TIME : meanwhile\n[INFO] TIME : after\n" +
+                  endBanner,
+              content());
+}
+
+TEST_F(LoggerTest, LosesWhatItsBufferDoesNotKeepWhileTheDiskIsFull)
+{
+    {
+        Logger logger(Logger::file, Logger::debug, path());
+        logger.INFO("before");
+        {
+            const FullDisk disk;
+            for (int i = 0; i < 10; ++i)
+                logger.INFO(std::string(4000, 'x'));
+        }
+        logger.INFO("after");
+    }
+    EXPECT_TRUE(content().startsWith(startBanner + "[INFO] TIME : before\n"));
+    EXPECT_TRUE(content().endsWith("[INFO] TIME : after\n" + endBanner));
+    EXPECT_GT(20000, content().size());
+}
+
+TEST_F(LoggerTest, EndsAFileThatTheDiskHadNoRoomFor)
+{
+    {
+        Logger logger(Logger::file, Logger::debug, path());
+        const FullDisk disk;
+        logger.INFO("text");
+    }
+    EXPECT_TRUE(content().endsWith(endBanner));
+}
+
+// A file that could not be opened stays one that is not.
+TEST_F(LoggerTest, IsSilentWhereTheFileCanBeOpenedLater)
+{
+    const QString later = folder.filePath("later");
+    {
+        Logger logger(Logger::file, Logger::debug, later.toStdString() + "/log.txt");
+        EXPECT_TRUE(QDir().mkpath(later));
+        logger.INFO("lost");
+    }
+    EXPECT_FALSE(QFile::exists(later + "/log.txt"));
 }
 
 // Takes what is written to std::cout while it lives, and counts how often that is flushed.

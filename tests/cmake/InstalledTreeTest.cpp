@@ -186,9 +186,9 @@ TEST_F(InstalledTree, DesktopEntryStartsWhereQtsCatalogueIs)
     QFile entry(prefix() + "/share/applications/quayside.desktop");
     ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
     const QRegularExpression row("^Path=(.*)$", QRegularExpression::MultilineOption);
-    const QString folder = row.match(QString::fromUtf8(entry.readAll())).captured(1);
-    EXPECT_EQ(prefix() + "/share/quayside", folder);
-    EXPECT_TRUE(QFile::exists(folder + "/translations/qt_zh_CN.qm"));
+    const QString path = row.match(QString::fromUtf8(entry.readAll())).captured(1);
+    EXPECT_EQ(prefix() + "/share/quayside", path);
+    EXPECT_TRUE(QFile::exists(path + "/translations/qt_zh_CN.qm"));
 }
 
 TEST_F(InstalledTree, ProgramsHaveTheVersionOfThePackage)

@@ -10,23 +10,23 @@ namespace {
 
 constexpr int longestRun = 120000; // milliseconds
 
-QStringList programLine()
+} // namespace
+
+QStringList CtlTest::program()
 {
-    QStringList line = {QStringLiteral(QUAYSIDE_CTL)};
-    if (qstrlen(QUAYSIDE_EMULATOR) > 0)
+    QStringList line = {qEnvironmentVariable("QUAYSIDE_CTL_PROGRAM", QStringLiteral(QUAYSIDE_CTL))};
+    if (isEmulated())
         line.prepend(QStringLiteral(QUAYSIDE_EMULATOR));
     return line;
 }
 
-} // namespace
-
 CtlTest::Result CtlTest::run(const QStringList& arguments, const QByteArray& input) const
 {
-    QStringList line = programLine() + arguments;
+    QStringList line = program() + arguments;
     ChildProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_DATA_HOME"), path(QStringLiteral("data")));
-    environment.insert(QStringLiteral("CTL"), programLine().join(QLatin1Char(' ')));
+    environment.insert(QStringLiteral("CTL"), program().join(QLatin1Char(' ')));
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(m_folder.path());
     const bool isShell = arguments.value(0) == QLatin1String("-c");

@@ -26,6 +26,11 @@ protected:
     /// The output alone.
     QByteArray out(const QStringList& arguments) const { return run(arguments).out; }
 
+    /// How the program is started: the installed one where QUAYSIDE_CTL_PROGRAM names it, otherwise
+    /// the one that has been built; behind its emulator where it needs one.
+    static QStringList program();
+    static bool isEmulated() { return qstrlen(QUAYSIDE_EMULATOR) > 0; }
+
     QString path(const QString& name) const { return m_folder.filePath(name); }
     void write(const QString& name, const QByteArray& bytes) const;
     QByteArray read(const QString& name) const;

@@ -85,7 +85,7 @@ TEST_F(CtlDocumentation, ComparesWithPeersByCommandsThatWork)
 
 TEST_F(CtlDocumentation, CompletesCommandsAndOptions)
 {
-    if (qstrlen(QUAYSIDE_EMULATOR) > 0)
+    if (isEmulated())
         GTEST_SKIP() << "the shell starts the program by its name alone, without the emulator";
     EXPECT_EQ(completed("reg"), "registry\n");
     EXPECT_EQ(completed("registry re"), "rename\n");

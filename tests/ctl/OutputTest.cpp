@@ -71,9 +71,12 @@ TEST_F(CtlOutput, IsAlignedWithoutALocale)
 TEST_F(CtlOutput, HasColoursOnATerminalUnlessTheyAreNotWanted)
 {
     writeStore("[A]\nv=text\n");
-    EXPECT_TRUE(shell("script -qec \"$CTL registry list A\" /dev/null").out.contains("\x1b["));
+    EXPECT_TRUE(
+        shell("TERM=xterm script -qec \"$CTL registry list A\" /dev/null").out.contains("\x1b["));
+    EXPECT_FALSE(shell("TERM=xterm NO_COLOR=1 script -qec \"$CTL registry list A\" /dev/null")
+                     .out.contains("\x1b["));
     EXPECT_FALSE(
-        shell("NO_COLOR=1 script -qec \"$CTL registry list A\" /dev/null").out.contains("\x1b["));
+        shell("TERM=dumb script -qec \"$CTL registry list A\" /dev/null").out.contains("\x1b["));
     EXPECT_FALSE(out({"registry", "list", "A"}).contains("\x1b["));
 }
 

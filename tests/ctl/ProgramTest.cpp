@@ -173,6 +173,51 @@ TEST_F(Program, SpeaksTheLanguageOfTheLocale)
     EXPECT_TRUE(result.error.contains("没有此键"));
 }
 
+// Qt's catalogue lies beside the program, or where that is installed.
+TEST_F(Program, HasTheTextsOfQtInTheLanguageOfTheLocale)
+{
+    const Result result = shell("LC_ALL=zh_CN.UTF-8 $CTL registry list --nonsense");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(result.error.contains("未知选项")) << result.error.toStdString();
+}
+
+TEST_F(Program, TellsHowArgumentsBeginWithAHyphen)
+{
+    const Result result = run({"registry", "set", "A", "v", "-5"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(result.error.contains("\"--\""));
+    EXPECT_EQ(status({"registry", "set", "A", "v", "--", "-5"}), 0);
+    EXPECT_EQ(out({"registry", "get", "A", "v"}), "-5\n");
+}
+
+TEST_F(Program, TakesNoArgumentThatIsNoText)
+{
+    const Result result = shell("$CTL registry set A $'bad\\xff' x");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(result.error.contains("bad"));
+    EXPECT_EQ(storeBytes(), "");
+}
+
+TEST_F(Program, FailsWhereAStandardStreamIsClosed)
+{
+    write("p.ini", "[s]\nk=v\n");
+    writeStore("[A]\nv=5$x\n");
+    const Result unread = shell("$CTL profile merge p.ini --wide <&-");
+    EXPECT_EQ(unread.status, 3);
+    EXPECT_TRUE(unread.error.contains("The standard input cannot be read: Bad file descriptor"))
+        << unread.error.toStdString();
+    EXPECT_EQ(shell("$CTL registry list -r >&-").status, 3);
+    EXPECT_EQ(shell("$CTL registry set A v y 2>&-").status, 0);
+    EXPECT_EQ(storeBytes(), "[A]\nv=5$y\n");
+}
+
+TEST_F(Program, FailsWithoutACrashWhereQtCannotStart)
+{
+    const Result result = shell("QT_QPA_PLATFORM=nosuch $CTL fonts list");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.error.contains("platform plugin"));
+}
+
 TEST_F(Program, PrintsNothingButErrorsWhenItIsQuiet)
 {
     writeStore("[A]\nv=5$old\n");
@@ -180,6 +225,10 @@ TEST_F(Program, PrintsNothingButErrorsWhenItIsQuiet)
     EXPECT_EQ(found.status, 0);
     EXPECT_EQ(found.out + found.error, "");
     EXPECT_EQ(status({"--quiet", "registry", "get", "A", "none"}), 1);
+    const Result exported = run({"--quiet", "registry", "export", "A"});
+    EXPECT_EQ(exported.status, 0);
+    EXPECT_EQ(exported.out + exported.error, "");
+    EXPECT_EQ(run({"--quiet", "crypto", "base64"}, "x").out, "");
 }
 
 } // namespace

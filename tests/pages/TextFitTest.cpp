@@ -73,8 +73,7 @@ TEST_P(TextsOfAPage, AreNotCutOff)
     window.resize(800, 600);
     window.show();
     ASSERT_TRUE(waitFor([&window] { return window.currentPage() != nullptr; }));
-    QTest::qWait(20);
-    EXPECT_EQ(window.size(), QSize(800, 600));
+    EXPECT_TRUE(waitFor([&window] { return window.size() == QSize(800, 600); }));
     for (const QLabel* label : window.findChildren<QLabel*>()) {
         if (!label->isVisible() || label->text().isEmpty())
             continue;
@@ -84,8 +83,9 @@ TEST_P(TextsOfAPage, AreNotCutOff)
     for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
         if (!button->isVisible() || button->text().isEmpty())
             continue;
-        EXPECT_GE(button->width(), button->minimumSizeHint().width())
-            << button->text().toStdString();
+        EXPECT_TRUE(waitFor([button] {
+            return button->width() >= button->minimumSizeHint().width();
+        })) << button->text().toStdString();
     }
 }
 

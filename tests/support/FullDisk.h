@@ -5,15 +5,16 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While one lives, no file takes more than a few bytes, as on a disk that is full.
+/// While one lives, no file takes more than a few bytes, as on a disk that is full, or more than
+/// `bytes`, as on one that is nearly full.
 class FullDisk
 {
 public:
-    FullDisk()
+    explicit FullDisk(rlim_t bytes = 4)
     {
         std::signal(SIGXFSZ, SIG_IGN);
         EXPECT_EQ(0, getrlimit(RLIMIT_FSIZE, &m_former));
-        const rlimit few{4, m_former.rlim_max};
+        const rlimit few{bytes, m_former.rlim_max};
         EXPECT_EQ(0, setrlimit(RLIMIT_FSIZE, &few));
     }
     ~FullDisk() { EXPECT_EQ(0, setrlimit(RLIMIT_FSIZE, &m_former)); }

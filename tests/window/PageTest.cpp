@@ -122,7 +122,8 @@ TEST_F(PageTest, ALongJobCoversThePageWithAWheelTheCountAndACancelButton)
     EXPECT_TRUE(overlay().isVisible());
     EXPECT_EQ(overlay().geometry(), m_page.rect());
     EXPECT_FALSE(m_page.field->isEnabled());
-    QTest::qWait(50);
+    const int before = m_done;
+    ASSERT_TRUE(waitFor([&] { return m_done > before; }));
     auto* wheel = overlay().findChild<QProgressIndicator*>();
     ASSERT_TRUE(wheel);
     EXPECT_TRUE(wheel->isAnimated());
@@ -238,9 +239,10 @@ TEST_F(PageTest, TheOverlayFollowsThePagesSize)
 {
     start(1000000);
     m_page.resize(500, 400);
-    QTest::qWait(20);
-    EXPECT_EQ(overlay().size(), QSize(500, 400));
-    EXPECT_EQ(overlay().findChild<QProgressIndicator*>()->size(), QSize(500, 400));
+    const QSize size(500, 400);
+    EXPECT_TRUE(waitFor([&] { return overlay().size() == size; }));
+    EXPECT_TRUE(
+        waitFor([&] { return overlay().findChild<QProgressIndicator*>()->size() == size; }));
     m_page.cancelJob();
 }
 
@@ -311,8 +313,7 @@ TEST_F(PageTest, TheWheelIsGoneAfterTheJob)
 {
     start(60);
     ASSERT_TRUE(ends());
-    QTest::qWait(20);
-    EXPECT_FALSE(overlay().findChild<QProgressIndicator*>());
+    EXPECT_TRUE(waitFor([this] { return !overlay().findChild<QProgressIndicator*>(); }));
 }
 
 TEST_F(PageTest, DestroyingThePageDropsItsJob)
@@ -434,11 +435,9 @@ TEST_F(PageTest, TheIconOfAReportFollowsThePalette)
     dark.setColor(QPalette::WindowText, Qt::white);
     dark.setColor(QPalette::Highlight, Qt::yellow);
     QApplication::setPalette(dark);
-    QTest::qWait(10);
-    EXPECT_NE(icon(), light);
+    EXPECT_TRUE(waitFor([&] { return icon() != light; }));
     QApplication::setPalette(before);
-    QTest::qWait(10);
-    EXPECT_EQ(icon(), light);
+    EXPECT_TRUE(waitFor([&] { return icon() == light; }));
 }
 
 } // namespace

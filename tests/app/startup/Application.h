@@ -20,9 +20,12 @@ public:
     void useStandIn();
     void setEnvironment(const QString& name, const QString& value);
 
+    /// Lets the executable write on standard error.
+    void expectMessages();
+
     bool start(const QStringList& arguments = QStringList());
     /// Waits for the end; false when it crashed or did not end in time. Whatever it wrote on
-    /// standard error, Qt's warnings above all, fails the test.
+    /// standard error, Qt's warnings above all, fails the test unless it is expected.
     bool finish();
     /// Both.
     bool run(const QStringList& arguments = QStringList());
@@ -44,4 +47,5 @@ private:
     QString m_output;
     QStringList m_errors;
     int m_status = -1;
+    bool m_areMessagesExpected = false;
 };

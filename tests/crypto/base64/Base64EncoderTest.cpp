@@ -6,6 +6,8 @@
 #include <openssl/evp.h>
 
 #include <algorithm>
+#include <cstring>
+#include <vector>
 
 namespace {
 
@@ -105,6 +107,17 @@ TEST(Base64Alphabet, HasTheCharacterOfEachValueAtItsIndex)
     for (std::size_t value = 0; value < 64; ++value) {
         const auto byte = static_cast<unsigned char>(value << 2);
         EXPECT_EQ(base64_chars[value], Base64Encoder::Encode(&byte, 1).front());
+    }
+}
+
+// What is written behind it stands where its terminator is to be.
+TEST(Base64Encode, WritesNothingBehindTheText)
+{
+    for (unsigned int length = 0; length < 100; ++length) {
+        const std::vector<unsigned char> bytes(length, 0xA5);
+        const std::string text = Base64Encoder::Encode(bytes.data(), length);
+        EXPECT_EQ((length + 2) / 3 * 4, text.size());
+        EXPECT_EQ(text.size(), std::strlen(text.c_str())) << length;
     }
 }
 

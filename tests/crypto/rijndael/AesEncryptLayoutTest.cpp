@@ -229,12 +229,12 @@ TEST_P(AesEncryptSchedule, KeyScratchHoldsTheLastGroupOfKeyWords)
 
 TEST_P(AesEncryptSchedule, RefusedKeyChangesNothing)
 {
-    const std::string before = bytesOf(cipher);
+    const std::string before = bytesOfMembers(cipher);
     const std::string other(40, 'o');
     cipher.MakeKey(nullptr, other.data(), 16, 16);
     cipher.MakeKey(other.data(), other.data(), 20, 16);
     cipher.MakeKey(other.data(), other.data(), 16, 20);
-    EXPECT_EQ(toHex(before), toHex(bytesOf(cipher)));
+    EXPECT_EQ(toHex(before), toHex(bytesOfMembers(cipher)));
 }
 
 TEST_P(AesEncryptSchedule, LaterKeyReplacesSizesRoundsAndBothChains)
@@ -287,7 +287,7 @@ TEST_P(AesEncryptSchedule, BuffersOf16ByteBlocksLeaveTheBlockScratchAlone)
 TEST_P(AesEncryptSchedule, Default16ByteOperationsTakeSixteenBytesOfAnySetUp)
 {
     const std::string in = RandomBytes(4)(16);
-    const std::string before = bytesOf(cipher);
+    const std::string before = bytesOfMembers(cipher);
     GuardedBuffer encrypted(16);
     cipher.DefEncryptBlock(in.data(), encrypted.data());
     EXPECT_EQ(toHex(encryptedByFirstColumns(in)), toHex(encrypted.content()));
@@ -296,7 +296,7 @@ TEST_P(AesEncryptSchedule, Default16ByteOperationsTakeSixteenBytesOfAnySetUp)
     cipher.DefDecryptBlock(encrypted.data(), decrypted.data());
     EXPECT_EQ(toHex(in), toHex(decrypted.content()));
     EXPECT_TRUE(decrypted.isIntact());
-    EXPECT_EQ(toHex(before), toHex(bytesOf(cipher)));
+    EXPECT_EQ(toHex(before), toHex(bytesOfMembers(cipher)));
 }
 
 INSTANTIATE_TEST_SUITE_P(AllSizes, AesEncryptSchedule,

@@ -119,6 +119,59 @@ TEST_F(CtlProfiles, TakeEntriesThatTheFamilyLosesOnlyWhenForced)
     EXPECT_TRUE(read("p.ini").contains("b=x\n"));
 }
 
+TEST_F(CtlProfiles, TakeANewSectionBehindAChangedEntry)
+{
+    write("p.ini", "[s]\nk=v\n");
+    for (const QString& family : QStringList{"--narrow", "--wide"})
+        EXPECT_EQ(
+            run({"profile", "merge", "p.ini", family, "--dry-run"}, "[s]\nk=w\n[t]\nl=1\n").status,
+            0);
+    EXPECT_EQ(run({"profile", "merge", "p.ini", "--narrow"}, "[s]\nk=w\n[t]\nl=1\n").status, 0);
+    EXPECT_EQ(read("p.ini"), "[s]\nk=w\n[t]\nl=1\n");
+}
+
+TEST_F(CtlProfiles, LoseOtherLinesToAMergeOnlyWhenForced)
+{
+    const QByteArray file("; remark\n[s]\nk=v\n");
+    write("p.ini", file);
+    EXPECT_EQ(run({"profile", "merge", "p.ini", "--narrow"}, "[s]\nk=w\n").status, 1);
+    EXPECT_EQ(read("p.ini"), file);
+    EXPECT_EQ(run({"profile", "merge", "p.ini", "--narrow"}, "[s]\nk=v\n").status, 0);
+    EXPECT_EQ(read("p.ini"), file);
+    EXPECT_EQ(run({"profile", "merge", "p.ini", "--narrow", "--force"}, "[s]\nk=w\n").status, 0);
+    EXPECT_EQ(read("p.ini"), "[s]\nk=w\n");
+}
+
+TEST_F(CtlProfiles, AreReadAndMergedInTimeWithAHundredThousandEntries)
+{
+    QByteArray large;
+    for (int section = 0; section < 100; ++section) {
+        large += "[section" + QByteArray::number(section) + "]\n";
+        for (int key = 0; key < 1000; ++key)
+            large += "key" + QByteArray::number(key) + "=value\n";
+    }
+    write("large.ini", large);
+    EXPECT_EQ(out({"profile", "list", "large.ini"}).count("\tboth\tvalue\tvalue\n"), 100000);
+    EXPECT_EQ(status({"profile", "compare", "large.ini"}), 0);
+    for (const QString& family : QStringList{"--narrow", "--wide"}) {
+        write("p.ini", m_plain);
+        EXPECT_EQ(run({"profile", "merge", "p.ini", family}, large).status, 0);
+        EXPECT_EQ(read("p.ini").count("=value\n"), 100000);
+        EXPECT_TRUE(read("p.ini").contains("k=v\nother=x\n"));
+    }
+}
+
+TEST_F(CtlProfiles, TellNamesThatAFamilyKnowsOtherwise)
+{
+    write("a.ini", "[s]\n中=1\n%41=1\nq=\"v\"\n");
+    const Result result = run({"profile", "check", "a.ini"});
+    EXPECT_EQ(result.status, 1);
+    for (const char* line : {"\na.ini:3: wide: ", "\na.ini:4: wide: "})
+        EXPECT_TRUE(result.out.contains(line)) << line;
+    EXPECT_TRUE(result.out.startsWith("a.ini:2: wide: "));
+    EXPECT_FALSE(result.out.contains("narrow"));
+}
+
 TEST_F(CtlProfiles, AreCheckedInLinesThatEditorsJumpTo)
 {
     write("a.ini", "[s]\nno\nk=v\n");

@@ -27,6 +27,7 @@ TEST_F(CtlRegistryChanges, TellWrongDataFromWhatTheServiceRefuses)
 {
     EXPECT_EQ(status({"registry", "set", "A", "v", "x", "--type", "dword"}), 2);
     EXPECT_EQ(status({"registry", "set", "A", "v", "x", "--type", "nonsense"}), 2);
+    EXPECT_EQ(status({"registry", "set", "A", "v", "00", "--type", "77"}), 3);
     EXPECT_EQ(status({"registry", "set", "A", "v", "00", "--type", "REG_MULTI_SZ"}), 3);
     EXPECT_EQ(status({"registry", "set", "A", "", "text"}), 3);
     EXPECT_EQ(storeBytes(), "");

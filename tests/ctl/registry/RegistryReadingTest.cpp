@@ -40,6 +40,10 @@ TEST_F(CtlRegistryReading, HasNoAnswerForAKeyThatIsNotThere)
 {
     EXPECT_EQ(status({"registry", "list", "Nope"}), 1);
     EXPECT_EQ(status({"registry", "list", "HKEY_NONSENSE\\A"}), 2);
+    EXPECT_EQ(status({"registry", "list", "HKXX\\A"}), 2);
+    EXPECT_EQ(status({"registry", "set", "HKXX\\A", "v", "x"}), 2);
+    EXPECT_EQ(status({"registry", "set", "HKCU\\HKXX\\A", "v", "x"}), 0);
+    EXPECT_EQ(get({"HKXX\\A", "v"}), "x\n");
 }
 
 TEST_F(CtlRegistryReading, PrintsTheDataOfAValueAlone)
@@ -49,6 +53,7 @@ TEST_F(CtlRegistryReading, PrintsTheDataOfAValueAlone)
     EXPECT_EQ(get({"A\\B", "v"}), "text\n");
     EXPECT_EQ(get({"A", "n", "--type"}), "REG_DWORD\n");
     EXPECT_EQ(get({"A", "n", "--raw"}), "1$300\n");
+    EXPECT_EQ(status({"registry", "get", "A", "n", "--raw", "--type"}), 2);
 }
 
 TEST_F(CtlRegistryReading, PrintsTheDataInTheFormThatIsAskedFor)
@@ -110,6 +115,8 @@ TEST_F(CtlRegistryReading, ComparesTwoKeys)
                           "removed\t\told\tREG_SZ x\t\n"
                           "changed\t\tv\tREG_SZ x\tREG_SZ y\n");
     EXPECT_EQ(status({"registry", "compare", "A", "A"}), 0);
+    EXPECT_EQ(out({"registry", "compare", "HKLM\\A", "HKEY_CURRENT_USER/B"}), result.out);
+    EXPECT_EQ(status({"registry", "compare", "HKXX\\A", "B"}), 2);
     EXPECT_EQ(status({"registry", "compare", "A", "Nope"}), 1);
 }
 

@@ -28,13 +28,25 @@ TEST_F(CtlRegistryWatch, LeavesTheStoreWholeWhenAWriterIsInterrupted)
     QByteArray store("[A]\n");
     for (int i = 0; i < 20000; ++i)
         store += "value" + QByteArray::number(i) + "=5$text\n";
-    for (const char* delay : {"0.02", "0.05", "0.1", "0.15", "0.2"}) {
+    write("b.reg", "REGEDIT4\n[HKEY_CURRENT_USER\\B]\n\"value\"=\"text\"\n");
+    const auto sizeBehind = [&](const QString& command) {
         writeStore(store);
-        shell(QStringLiteral("$CTL registry copy A B >/dev/null & sleep %1; kill -INT $!; wait $!")
-                  .arg(QLatin1String(delay)));
-        const int size = storeBytes().size();
-        EXPECT_TRUE(size == store.size() || size == 2 * store.size() + 1) << delay << ' ' << size;
-        EXPECT_EQ(shell("ls data/quayside").out, "registry.ini\n");
+        EXPECT_EQ(shell("$CTL --quiet registry " + command).status, 0);
+        return storeBytes().size();
+    };
+    const int copied = sizeBehind("copy A B");
+    const int imported = sizeBehind("import b.reg");
+    for (const char* delay : {"0.02", "0.05", "0.1", "0.15", "0.2"}) {
+        for (const QString& command : QStringList{"copy A B", "import b.reg"}) {
+            writeStore(store);
+            shell(QStringLiteral("$CTL registry %1 >/dev/null & sleep %2; kill -INT $!; wait $!")
+                      .arg(command, QLatin1String(delay)));
+            const int size = storeBytes().size();
+            const int whole = command.startsWith("copy") ? copied : imported;
+            EXPECT_TRUE(size == store.size() || size == whole)
+                << command.toStdString() << ' ' << delay << ' ' << size;
+            EXPECT_EQ(shell("ls data/quayside").out, "registry.ini\n");
+        }
     }
 }
 

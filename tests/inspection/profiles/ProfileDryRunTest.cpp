@@ -1,6 +1,7 @@
 #include "inspection/profiles/ProfileDryRun.h"
 #include "inspection/profiles/ProfileLineRemoval.h"
 #include "tests/inspection/profiles/ProfileFixture.h"
+#include "tests/support/FullDisk.h"
 
 #include <QDir>
 
@@ -200,6 +201,30 @@ TEST(ProfileDryRun, KeepsTheByteOrderMarkOfWhatItDeletes)
     const Trial trial("\xef\xbb\xbf[S]\na=1\n[T]\nb=1\n",
                       deletion(narrow, Action::DeleteSection, "S"));
     EXPECT_EQ(trial.after(), "\xef\xbb\xbf[T]\nb=1\n");
+}
+
+TEST(ProfileDryRun, TellsThatThereIsNoRoomForACopy)
+{
+    const ProfileFixture file;
+    file.write("[S]\na=1\n");
+    const FullDisk full;
+    ProfileDryRun dryRun(file.path(), {narrow, "S", "a", "2"});
+    while (dryRun.step()) {
+    }
+    EXPECT_FALSE(dryRun.copyFault().isEmpty());
+    EXPECT_FALSE(dryRun.isReadBack());
+}
+
+TEST(ProfileDryRun, TellsThatThereIsNoRoomForTheChange)
+{
+    const ProfileFixture file;
+    file.write("[S]\na=1\n");
+    const FullDisk full(10); // the copy, and not a byte more
+    ProfileDryRun dryRun(file.path(), {narrow, "S", "a", "a longer text"});
+    while (dryRun.step()) {
+    }
+    EXPECT_FALSE(dryRun.copyFault().isEmpty());
+    EXPECT_FALSE(dryRun.isReadBack());
 }
 
 TEST(ProfileDryRun, DeletesNothingThatTheFamilyDoesNotFind)

@@ -2,7 +2,12 @@
 #include "inspection/profiles/ProfileWritingJob.h"
 #include "tests/inspection/profiles/ProfileFixture.h"
 
+#include <cstdio>
+#include <functional>
 #include <memory>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -28,6 +33,28 @@ int run(Job& job, int most = 1000)
     while (steps < most && job.step())
         ++steps;
     return steps;
+}
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool isMemoryOwn = false; // most of it is the sanitizer's
+#else
+constexpr bool isMemoryOwn = !QUAYSIDE_CROSS_BUILT; // an emulator's is not either
+#endif
+
+// In a child process, which has few bytes of memory more than it has now: 0 when `check` is true.
+int withLittleMemory(rlim_t bytes, const std::function<bool()>& check)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        long pages = 0;
+        std::FILE* statm = std::fopen("/proc/self/statm", "r");
+        const bool isKnown = statm && std::fscanf(statm, "%ld", &pages) == 1;
+        const rlimit limit{static_cast<rlim_t>(pages) * 4096 + bytes, RLIM_INFINITY};
+        _exit(isKnown && setrlimit(RLIMIT_AS, &limit) == 0 && check() ? 0 : 1);
+    }
+    int status = 0;
+    EXPECT_EQ(child, waitpid(child, &status, 0));
+    return status;
 }
 
 class ProfileReadingJobTest : public testing::Test
@@ -206,6 +233,23 @@ TEST_F(ProfileWritingJobTest, HasWrittenNothingInItsFirstSteps)
     run(job, 2);
     EXPECT_FALSE(job.isWritten());
     EXPECT_EQ(m_file.bytes(), "[S]\na=1\n");
+}
+
+TEST(ProfileWritingJob, EndsByNoExceptionWhereTheMemoryIsRefused)
+{
+    if (!isMemoryOwn)
+        GTEST_SKIP() << "sanitizers end the program where memory is refused";
+    constexpr int bytes = 64 * 1024 * 1024;
+    const ProfileFixture file;
+    file.write("[S]\nk=" + QByteArray(bytes, 'v') + "\nl=1\n");
+    ProfileChange deletion = narrowChange("S", "l", "");
+    deletion.action = ProfileChange::Action::DeleteKey;
+    EXPECT_EQ(0, withLittleMemory(bytes / 2, [&] {
+                  ProfileWritingJob job(file.path(), deletion);
+                  run(job);
+                  return job.isTooLarge() && !job.isReadBack() && !job.step();
+              }));
+    EXPECT_EQ(QFileInfo(file.path()).size(), bytes + 11);
 }
 
 } // namespace

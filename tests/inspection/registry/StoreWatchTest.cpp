@@ -1,8 +1,8 @@
 #include "inspection/registry/StoreWatch.h"
 
 #include "tests/inspection/registry/StoreFileFixture.h"
-
 #include "tests/support/FullDisk.h"
+#include "tests/support/WaitFor.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -221,6 +221,52 @@ TEST_F(StoreWatchTest, AsksNobodyToCompareWhatHasNotChanged)
     EXPECT_EQ(m_watch->state(), State::InStep);
 }
 
+// What is written through memory is stamped once, with the first byte.
+TEST_F(StoreWatchTest, KnowsAWriteThatTheStampDoesNotTell)
+{
+    QFile file(StoreFile::path());
+    uchar* bytes = nullptr;
+    store("A/v", "1$2");
+    const auto touch = [&] { // right behind the saving
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        bytes = file.map(0, file.size());
+        ASSERT_NE(bytes, nullptr);
+        bytes[0] = '[';
+    };
+    QMetaObject::invokeMethod(m_watch.get(), touch, Qt::QueuedConnection);
+    QCoreApplication::processEvents();
+    ASSERT_NE(bytes, nullptr);
+    ASSERT_EQ(m_watch->state(), State::InStep);
+    const FileStamp saved = FileStamp::of(StoreFile::path());
+    bytes[StoreFile::bytes().indexOf("1$2") + 2] = '3';
+    ASSERT_EQ(FileStamp::of(StoreFile::path()), saved);
+    ASSERT_TRUE(waitFor([] { return FileStamp::of(StoreFile::path()).isSure(); }));
+    ASSERT_TRUE(waitFor([] { return FileStamp::of(StoreFile::path()).isSure(); }));
+    EXPECT_EQ(m_watch->state(), State::Unknown);
+}
+
+TEST_F(StoreWatchTest, ComparesWithoutRoomForACopy)
+{
+    const FullDisk full;
+    StoreComparisonJob comparison;
+    while (comparison.step()) {
+    }
+    EXPECT_FALSE(comparison.difference());
+}
+
+TEST_F(StoreWatchTest, FollowsTheHostLibraryToAnotherStore)
+{
+    QTemporaryDir folder;
+    QSettings own(folder.filePath("own.ini"), QSettings::IniFormat);
+    QSettings* hosts = std::exchange(g_globalSettings, &own);
+    hasGrown();
+    ASSERT_TRUE(waitFor([this] { return hasGrown(); }));
+    own.setValue("A/v", "1$1");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(hasGrown());
+    g_globalSettings = hosts;
+}
+
 TEST_F(StoreWatchTest, IsInStepWithoutAStore)
 {
     QSettings* hosts = std::exchange(g_globalSettings, nullptr);
@@ -293,6 +339,42 @@ TEST_F(StoreInTroubleTest, KnowsThatASavingHasFailed)
     QCoreApplication::processEvents();
     EXPECT_EQ(m_watch->state(), State::InStep);
     EXPECT_TRUE(StoreFile::bytes().contains("w=1$3"));
+}
+
+TEST_F(StoreInTroubleTest, KnowsThatASavingWasCutShort)
+{
+    open("[A]\nv=1$1\n" + QByteArray("w=").append(QByteArray(2000, 'w')) + '\n');
+    const QByteArray former = StoreFile::bytes();
+    {
+        const FullDisk nearlyFull(1024);
+        store("A/x", "1$1");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(settled(), State::Unsaved);
+        EXPECT_TRUE(m_watch->text().contains("could not be saved"));
+        EXPECT_EQ(StoreFile::bytes().toStdString(), former.toStdString());
+        int trials = 0;
+        const auto guard = StoreSavingGuard::ofStore();
+        QObject::connect(guard.get(), &StoreSavingGuard::ended, guard.get(), [&] { ++trials; });
+        ASSERT_TRUE(waitFor([&] { return trials == 2; }));
+        EXPECT_EQ(m_watch->state(), State::Unsaved);
+        EXPECT_EQ(m_watch->failedSavings(), 1); // they had nothing new to save
+        guard->disconnect();
+    }
+    m_watch = std::make_unique<StoreWatch>();
+    ASSERT_TRUE(waitFor([] { return StoreFile::bytes().contains("x=1$1"); }));
+    EXPECT_EQ(settled(), State::InStep);
+}
+
+TEST_F(StoreInTroubleTest, TellsTheDamageOfAFileThatAnotherProgramHasReplaced)
+{
+    open("[A]\nv=1$1\n");
+    StoreFile::replace("[A]\nv=1$2\nnonsense\n");
+    EXPECT_EQ(settled(), State::Replaced);
+    EXPECT_TRUE(m_watch->text().contains("has replaced")) << m_watch->text().toStdString();
+    EXPECT_TRUE(m_watch->text().contains("damaged, too")) << m_watch->text().toStdString();
+    StoreFile::replace("[A]\nv=1$2\n");
+    EXPECT_NE(settled(), State::InStep);
+    EXPECT_FALSE(m_watch->text().contains("damaged")) << m_watch->text().toStdString();
 }
 
 TEST_F(StoreInTroubleTest, TakesASavingOfNothingForInStepAfterAFailure)

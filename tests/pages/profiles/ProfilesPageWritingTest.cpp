@@ -1,6 +1,7 @@
 #include "inspection/profiles/ProfileReader.h"
 #include "inspection/profiles/ProfileWritingJob.h"
 #include "tests/pages/profiles/ProfilesPageFixture.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/WaitFor.h"
 
 #include <QCheckBox>
@@ -50,6 +51,23 @@ TEST_F(ProfilesPageTest, AsksBeforeAWideWriteChangesOtherLines)
     question()->reject();
     EXPECT_EQ(m_file.bytes(), hand);
     EXPECT_EQ(status(), QStringLiteral("Nothing written."));
+}
+
+TEST_F(ProfilesPageTest, SaysThatThereIsNoRoomToTryAChange)
+{
+    m_file.write("[Net]\nMask=255\n");
+    open();
+    for (const rlim_t room : {4, 15}) { // for nothing, or for the copy and no more
+        m_probe.page().setStatus({});
+        const FullDisk full(room);
+        request(QStringLiteral("Net"), QStringLiteral("Mask"), QStringLiteral("12345"), narrow);
+        ASSERT_TRUE(m_probe.settle());
+        EXPECT_TRUE(status().startsWith("Nothing written. The change is tried on a copy first, "
+                                        "which could not be written in "))
+            << room << ": " << status().toStdString();
+        EXPECT_FALSE(status().contains("Unknown error")) << status().toStdString();
+    }
+    EXPECT_EQ(m_file.bytes(), "[Net]\nMask=255\n");
 }
 
 TEST_F(ProfilesPageTest, CancelIsTheDefaultOfTheQuestion)

@@ -129,4 +129,21 @@ TEST_F(StoreInTroubleTest, ASavingThatFailsIsTold)
     EXPECT_TRUE(StoreFile::bytes().contains("n=1$7"));
 }
 
+TEST_F(StoreInTroubleTest, ASavingThatAFullDiskCutsShortIsToldAndUndone)
+{
+    mend();
+    store("A/large", "5$" + QString(2000, 'x'));
+    g_globalSettings->sync();
+    ASSERT_TRUE(tells("is in step with its file"));
+    const QByteArray before = StoreFile::bytes();
+    {
+        const FullDisk nearlyFull(1024);
+        setNumber("cut");
+        EXPECT_TRUE(tells("The store could not be saved to"));
+        EXPECT_EQ(StoreFile::bytes().toStdString(), before.toStdString());
+    }
+    EXPECT_TRUE(tells("is in step with its file"));
+    EXPECT_TRUE(StoreFile::bytes().contains("cut=1$7"));
+}
+
 } // namespace

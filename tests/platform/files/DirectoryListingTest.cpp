@@ -105,6 +105,23 @@ TEST(DirectoryListing, ListsHiddenEntriesWhereAsked)
     EXPECT_EQ(QStringList("a"), DirectoryListing(path, DirectoryListing::WithoutHidden).names("*"));
 }
 
+// In encodings other than UTF-8 it is QDir that lists.
+TEST(DirectoryListing, ListsHiddenEntriesWhereAskedInOtherEncodings)
+{
+    FileTree tree;
+    tree.file("a");
+    tree.file(".b");
+    QTextCodec* const codec = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+    QStringList all = DirectoryListing(tree.path(), DirectoryListing::WithHidden).names("*");
+    const QStringList seen =
+        DirectoryListing(tree.path(), DirectoryListing::WithoutHidden).names("*");
+    QTextCodec::setCodecForLocale(codec);
+    all.sort();
+    EXPECT_EQ(QStringList({".b", "a"}), all);
+    EXPECT_EQ(QStringList("a"), seen);
+}
+
 TEST(DirectoryListing, AgreesWithQDirWhereThereIsNothingToList)
 {
     FileTree tree;

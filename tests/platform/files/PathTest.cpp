@@ -1,4 +1,5 @@
 #include "platform/PlatformDirectoryManagerImp.h"
+#include "tests/platform/files/ArrayAllocations.h"
 #include "tests/platform/files/FileTree.h"
 #include "tests/support/CanaryBuffer.h"
 
@@ -285,6 +286,14 @@ TEST(ExtensionLimit, EveryCallReturnsABufferOfItsOwn)
     EXPECT_NE(one, two);
     one[1023] = L'x'; // the last of its 1,024 characters
     EXPECT_EQ(std::wstring(L".b"), std::wstring(two.get()));
+}
+
+// Its size, told by the memory that it takes.
+TEST(ExtensionLimit, BufferHolds1024Characters)
+{
+    const std::unique_ptr<wchar_t[]> buffer(
+        PlatformDirectoryManagerImp().PathFindExtensionW(L"a.b"));
+    EXPECT_EQ(1024 * sizeof(wchar_t), ArrayAllocations::latest());
 }
 
 TEST(ExtensionLimit, NullGivesNull)

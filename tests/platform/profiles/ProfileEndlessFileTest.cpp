@@ -1,9 +1,12 @@
 #include "tests/platform/profiles/ProfileManagerTest.h"
+#include "tests/support/ForkedCheck.h"
+#include "tests/support/WaitFor.h"
 
 #include <QFileInfo>
 
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -18,27 +21,16 @@ constexpr bool isMemoryOwn = false; // most of it is the sanitizer's
 constexpr bool isMemoryOwn = !QUAYSIDE_CROSS_BUILT; // an emulator's is not either
 #endif
 
-// What makes the calls stands in a child process: one that waits or that ends by an exception fails
-// the test alone.
+using ForkedCheck::differed;
+using ForkedCheck::passed;
+using ForkedCheck::patience;
+
 class ProfileEndlessFile : public ProfileManagerTest
 {
 protected:
-    static constexpr int passed = 0;
-    static constexpr int differed = 1;
-    static constexpr unsigned int patience = 300; // seconds: only what waits for good waits so long
-
-    // How the child ends: its status, or the negative number of the signal that ended it.
     static int inChild(const std::function<bool()>& check)
     {
-        const pid_t child = fork();
-        if (child == 0) {
-            signal(SIGALRM, SIG_DFL);
-            alarm(patience);
-            _exit(check() ? passed : differed);
-        }
-        int status = 0;
-        EXPECT_EQ(child, waitpid(child, &status, 0));
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+        return ForkedCheck::statusOf([&] { return check() ? passed : differed; });
     }
 
     std::string narrowOf(const QByteArray& file)
@@ -126,22 +118,40 @@ TEST_F(ProfileEndlessFile, FailsWideWritesAndStays)
     EXPECT_TRUE(S_ISFIFO(status.st_mode));
 }
 
+// What the system says that a process does: "S" while it waits, "R" from the moment in which that
+// for which it has waited comes about.
+char stateOf(pid_t process)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray line = file.readAll();
+    return line.at(line.lastIndexOf(')') + 2);
+}
+
 // Whoever waits at the other end of a pipe goes on waiting.
 TEST_F(ProfileEndlessFile, ThatIsAPipeIsNotOpened)
 {
     makePipe();
+    int ready[2] = {};
+    ASSERT_EQ(0, ::pipe(ready));
     const pid_t child = fork();
     if (child == 0) {
         alarm(patience);
-        std::FILE* end = std::fopen(narrow.constData(), "w"); // waits for a reader
-        _exit(end ? differed : passed);
+        const bool isReady = ::write(ready[1], "r", 1) == 1;
+        const int end = ::open(narrow.constData(), O_WRONLY); // waits for a reader
+        _exit(isReady && end >= 0 ? differed : passed);
     }
+    char byte = 0;
+    ASSERT_EQ(1, ::read(ready[0], &byte, 1));
+    ASSERT_TRUE(waitFor([child] { return stateOf(child) == 'S'; }));
     EXPECT_EQ("0", narrowOf(narrow));
-    int status = 0;
-    EXPECT_EQ(0, waitpid(child, &status, WNOHANG));
+    EXPECT_EQ('S', stateOf(child));
     EXPECT_EQ(0, kill(child, SIGKILL));
+    int status = 0;
     EXPECT_EQ(child, waitpid(child, &status, 0));
     EXPECT_TRUE(WIFSIGNALED(status));
+    close(ready[0]);
+    close(ready[1]);
 }
 
 TEST_F(ProfileEndlessFile, OfMoreThanATextHoldsIsReadByTheNarrowFamily)

@@ -1,4 +1,4 @@
-#include "inspection/files/FileStamp.h"
+#include "platform/files/FileStamp.h"
 
 #include <QFile>
 
