@@ -74,14 +74,23 @@ bool isAnyWritten(const Call& call)
         });
 }
 
+// The text that was given for the case may have been cut to the size of the buffer.
+bool isFallback(const Call& call, const QString& written)
+{
+    const QString& fallback = argument(call, "fallback");
+    const qint64 room = call.arguments.member("size").toInteger() - 1;
+    return written == fallback || (written.size() == room && fallback.startsWith(written));
+}
+
 bool isAbsentFrom(const Call& call, Absence absence, bool isFailure)
 {
+    const RecordedValue& buffer = call.outputs.member("buffer");
     switch (absence) {
     case Absence::Never: break;
     case Absence::Failure: return isFailure && !isAnyWritten(call);
     case Absence::FallbackText:
-        return call.outputs.member("buffer").textOf("text") == argument(call, "fallback");
-    case Absence::EmptyText: return call.result.toInteger(1) == 0;
+        return !buffer.isAbsent() && isFallback(call, buffer.textOf("text"));
+    case Absence::EmptyText: return !buffer.isAbsent() && buffer.textOf("text").isEmpty();
     case Absence::FallbackNumber:
         return call.result.toInteger() == call.arguments.member("fallback").toInteger(-1);
     }
@@ -113,7 +122,8 @@ bool AskedFor::isConcerned(const QString& operation)
 std::optional<AskedFor> AskedFor::of(const Call& call, bool isFailure, const HandleTable& handles)
 {
     const Row* const row = rowOf(call.operation);
-    if (!row || !call.hasReturned())
+    const bool isFile = row && row->kind == Kind::File;
+    if (!row || !call.hasReturned() || (isFile && call.arguments.member(row->name).isNull()))
         return {};
     const bool isAbsent = isAbsentFrom(call, row->absence, isFailure);
     switch (row->kind) {

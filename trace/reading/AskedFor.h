@@ -26,8 +26,8 @@ struct AskedFor
 
     /// Whether the operation asks for something.
     static bool isConcerned(const QString& operation);
-    /// Nothing for a call that asks for nothing, or that never returned. `handles` are those before
-    /// the call.
+    /// Nothing for a call that asks for nothing, that never returned, or that names no file.
+    /// `handles` are those before the call.
     static std::optional<AskedFor> of(const Call& call, bool isFailure, const HandleTable& handles);
 };
 

@@ -75,6 +75,8 @@ QString CallText::arguments(const Call& call, const Operation* operation) const
 
 QString CallText::result(const Call& call, const Operation* operation) const
 {
+    if (operation && operation->result.role == Role::None)
+        return {};
     return m_values.of(call.result, operation ? operation->result.names : Rows<BitName>());
 }
 

@@ -35,7 +35,7 @@ struct RecordedValue
         Data,     ///< "data" in hexadecimal digits, and "length"
         Hidden,   ///< "hidden", the length of data that was left out
         Flags,    ///< "flags" and "names"
-        Pointer,  ///< "pointer"
+        Pointer,  ///< "pointer", and "text" where an array is there
         Callback, ///< "callback"
         Record    ///< an object or an array of other values
     };

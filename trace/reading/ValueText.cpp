@@ -89,7 +89,7 @@ QString ValueText::of(const RecordedValue& value, const Rows<BitName>& names) co
     case Shown::Data: return data(value);
     case Shown::Hidden: return QStringLiteral("<hidden> (%1 bytes)").arg(value.textOf("hidden"));
     case Shown::Flags: return flags(value);
-    case Shown::Pointer: return address(value.textOf("pointer"), "pointer");
+    case Shown::Pointer: return pointer(value);
     case Shown::Callback: return address(value.textOf("callback"), "procedure");
     case Shown::Record: break;
     }
@@ -105,6 +105,16 @@ QString ValueText::data(const RecordedValue& value) const
     const RecordedValue& length = value.member("length");
     const QString bytes = length.isAbsent() ? QString::number(digits.size() / 2) : length.text;
     return QStringLiteral("<%1> (%2 bytes)").arg(shown, bytes);
+}
+
+// Of an array the text in it is recorded too.
+QString ValueText::pointer(const RecordedValue& value) const
+{
+    const RecordedValue& content = value.member("text");
+    if (content.isAbsent())
+        return address(value.textOf("pointer"), "pointer");
+    const QString shown = quoted(content.text);
+    return m_form == Form::ByRole ? shown : value.textOf("pointer") + QLatin1Char(' ') + shown;
 }
 
 // An address is another one in each run; its role is not.

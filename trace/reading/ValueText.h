@@ -32,6 +32,7 @@ public:
 
 private:
     QString data(const RecordedValue& value) const;
+    QString pointer(const RecordedValue& value) const;
     QString address(const QString& address, const char* role) const;
     QString member(const RecordedMember& member) const;
     QString record(const RecordedValue& record) const;

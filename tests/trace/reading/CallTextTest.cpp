@@ -96,6 +96,19 @@ TEST_F(CallTextTest, ShowsTextsByTheirRoles)
         "\"t\"], i = 18446744073709551615) = null (1.0 us)");
 }
 
+TEST_F(CallTextTest, ShowsWhatIsInAnArray)
+{
+    EXPECT_EQ(line({"directory", "PathFindExtensionW", "{\"path\":{\"text\":\"a.b\"}}",
+                    "{\"pointer\":\"0x77\",\"text\":\".b\"}"}),
+              "1 libfoo.so+0x10 PathFindExtensionW(path = \"a.b\") = 0x77 \".b\" (1.0 us)");
+}
+
+TEST_F(CallTextTest, ShowsNoResultOfAnOperationThatReturnsNothing)
+{
+    EXPECT_EQ(line({"userInput", "setKeyPressed", "{\"qtKey\":32,\"pressed\":true}", "null"}),
+              "1 libfoo.so+0x10 setKeyPressed(qtKey = 32, pressed = true) (1.0 us)");
+}
+
 TEST_F(CallTextTest, ShortensLongData)
 {
     const QByteArray digits(2000, '7');

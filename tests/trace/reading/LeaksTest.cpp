@@ -76,5 +76,13 @@ TEST_F(LeaksTest, FindsSearchesImagesAndArrays)
     EXPECT_EQ(m_all[2].handle.kind, HandleTable::Kind::Array);
 }
 
+// Memory that is handed out again was freed before.
+TEST_F(LeaksTest, TakesAnArrayForFreedWhoseAddressIsUsedAgain)
+{
+    const Made::Call array = {"directory", "PathFindExtensionW", "{\"path\":{\"text\":\"a.b\"}}",
+                              "{\"pointer\":\"0x77\",\"text\":\".b\"}"};
+    EXPECT_EQ(leaks(Made().add(array).add(array)), QStringList("2 a.b"));
+}
+
 } // namespace
 } // namespace trace

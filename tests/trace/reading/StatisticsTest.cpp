@@ -110,6 +110,37 @@ TEST_F(StatisticsTest, TakesTheFallbackOfAProfileForAbsence)
     EXPECT_EQ(asked(AskedFor::Kind::Entry), QStringList("/p.ini|[s] k 3/2"));
 }
 
+TEST_F(StatisticsTest, KnowsAFallbackThatWasCut)
+{
+    const auto recording = [](const char* written) {
+        return Made()
+            .add({"profile", "GetPrivateProfileStringW",
+                  "{\"section\":{\"text\":\"s\"},\"key\":{\"text\":\"k\"},\"fallback\":{\"text\":"
+                  "\"fallback\"},\"size\":4,\"file\":{\"text\":\"/p.ini\"}}",
+                  "7", "{\"buffer\":{\"text\":\"" + QByteArray(written) + "\"}}"})
+            .bytes();
+    };
+    take(recording("fal"));
+    EXPECT_EQ(asked(AskedFor::Kind::Entry), QStringList("/p.ini|[s] k 1/1"));
+    take(recording("fa"));
+    EXPECT_EQ(asked(AskedFor::Kind::Entry), QStringList("/p.ini|[s] k 1/0"));
+}
+
+// Nothing was asked there: a null argument or a size of 0 gets nothing.
+TEST_F(StatisticsTest, DoesNotTakeAnUnwrittenBufferForAbsence)
+{
+    const QByteArray arguments =
+        "{\"section\":{\"text\":\"s\"},\"key\":{\"text\":\"k\"},\"fallback\":null,\"buffer\":null,"
+        "\"size\":9,\"file\":{\"text\":\"/p.ini\"}}";
+    take(Made()
+             .add({"profile", "GetPrivateProfileStringW", arguments, "0"})
+             .add({"profile", "GetPrivateProfileStringA", arguments, "0"})
+             .add({"directory", "isFileExist", "{\"path\":null}", "0"})
+             .bytes());
+    EXPECT_EQ(asked(AskedFor::Kind::Entry), QStringList("/p.ini|[s] k 2/0"));
+    EXPECT_EQ(asked(AskedFor::Kind::File), QStringList());
+}
+
 TEST_F(StatisticsTest, CountsFiles)
 {
     const QByteArray pattern = "{\"pattern\":{\"text\":\"/x/*\"},\"data\":{\"pointer\":\"0x1\"}}";
