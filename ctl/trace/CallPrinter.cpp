@@ -32,7 +32,8 @@ QString objectText(const QJsonObject& object)
         return '"' + object.value(QLatin1String("text")).toString() + '"';
     if (object.contains(QLatin1String("flags"))) {
         QStringList names;
-        for (const QJsonValue& name : object.value(QLatin1String("names")).toArray())
+        const QJsonArray words = object.value(QLatin1String("names")).toArray();
+        for (const auto& name : words)
             names += name.toString();
         return names.isEmpty() ? textOf(object.value(QLatin1String("flags"))) : names.join('|');
     }

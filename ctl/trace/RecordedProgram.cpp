@@ -66,9 +66,11 @@ void RecordedProgram::become(const QStringList& words, int failures) const
         std::signal(number, SIG_DFL);
     prepareEnvironment();
     std::vector<QByteArray> bytes;
+    bytes.reserve(static_cast<std::size_t>(words.size()));
     for (const QString& word : words)
         bytes.push_back(QFile::encodeName(word));
     std::vector<char*> pointers;
+    pointers.reserve(bytes.size() + 1);
     for (QByteArray& word : bytes)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);

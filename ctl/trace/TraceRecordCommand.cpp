@@ -54,7 +54,7 @@ std::size_t longestText(const QString& text)
 
 std::string selectionOf(const QString& list)
 {
-    const std::string selection = list.toStdString();
+    std::string selection = list.toStdString();
     std::string unknown;
     if (!trace::CallSelection::parse(selection, unknown))
         refuse(TraceRecordTexts::tr("There is no operation and no manager \"%1\".")

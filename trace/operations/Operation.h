@@ -15,8 +15,8 @@ struct Rows
     std::size_t count = 0;
 
     constexpr Rows() = default;
-    template <std::size_t n>
-    constexpr Rows(const T (&rows)[n]) : first(rows), count(n) // NOLINT: rows stand for themselves
+    template <std::size_t N>
+    constexpr Rows(const T (&rows)[N]) : first(rows), count(N) // NOLINT: rows stand for themselves
     {
     }
     constexpr const T* begin() const { return first; }

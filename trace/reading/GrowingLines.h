@@ -14,7 +14,7 @@ namespace trace {
 class GrowingLines
 {
 public:
-    static constexpr qint64 longestLine = 64 * 1024 * 1024; ///< bytes
+    static constexpr qint64 longestLine = qint64{64} * 1024 * 1024; ///< bytes
 
     struct Line
     {

@@ -28,8 +28,8 @@ class TraceFile
     Q_DECLARE_TR_FUNCTIONS(TraceFile)
 
 public:
-    static constexpr qint64 usualPiece = 512 * 1024; ///< bytes, read in less than 5 ms
-    static constexpr std::size_t mostFaults = 1000;  ///< that are kept; the others are counted
+    static constexpr qint64 usualPiece = qint64{512} * 1024; ///< bytes, read in less than 5 ms
+    static constexpr std::size_t mostFaults = 1000; ///< that are kept; the others are counted
 
     explicit TraceFile(const QString& path);
 
