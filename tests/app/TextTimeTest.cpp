@@ -97,9 +97,9 @@ INSTANTIATE_TEST_SUITE_P(Rows, SplitString,
 
 TEST(SplitStringSize, StaysLinear)
 {
-    const QString text(4 * 1000 * 1000, QLatin1Char('x'));
+    const QString text(400 * 1000, QLatin1Char('x'));
     const QVector<QString> pieces = splitString(text, 3);
-    EXPECT_EQ(1333334, pieces.size());
+    EXPECT_EQ(133334, pieces.size());
     EXPECT_EQ(QStringLiteral("x"), pieces.last());
 }
 
