@@ -47,7 +47,7 @@ void FileRewrite::add(const QByteArray& bytes)
 // Over the end of a longer text, as the program may be killed before it is cut.
 QByteArray FileRewrite::withBlankLines(const QByteArray& bytes) const
 {
-    constexpr qint64 most = 64 * 1024;
+    constexpr qint64 most = qint64{64} * 1024;
     const qint64 surplus = std::min(m_formerSize - m_size, most);
     return surplus > 0 ? bytes + QByteArray(static_cast<int>(surplus), '\n') : bytes;
 }

@@ -37,8 +37,8 @@ private:
     void write(const QByteArray& bytes, const Range& range);
 
     QFile& m_file;
-    const qint64 m_size;
-    const qint64 m_formerSize;
+    qint64 m_size;
+    qint64 m_formerSize;
     qint64 m_offset = 0;
     bool m_isTaken = true;
 };
