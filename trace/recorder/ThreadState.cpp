@@ -63,7 +63,7 @@ const std::string& ThreadState::placeOf(std::uintptr_t address)
 
 OpenCall& ThreadState::open(const void* place)
 {
-    while (m_depth > 0 && std::less<>()(m_calls[m_depth - 1].place, place))
+    while (m_depth > 0 && std::less_equal<>()(m_calls[m_depth - 1].place, place))
         --m_depth;
     if (m_depth == m_calls.size())
         m_calls.emplace_back();

@@ -35,7 +35,7 @@ public:
     const std::string& placeOf(std::uintptr_t address);
 
     /// Opens a call. Calls that were left by a jump are forgotten: their places on the stack are
-    /// below this one.
+    /// below this one, or the same.
     OpenCall& open(const void* place);
     /// The call that was opened here; null if it was left by a jump meanwhile.
     OpenCall* find(const void* place);
