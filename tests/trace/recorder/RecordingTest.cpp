@@ -131,6 +131,13 @@ TEST_F(RecordingTest, ReadsOutputsAsFarAsTheyAreWritten)
     EXPECT_EQ(text("GetPrivateProfileSectionW", 0, "buffer"), QString::fromLatin1("k=12\0\0", 6));
 }
 
+TEST_F(RecordingTest, KeepsTheSignOfANumberThatHasNoName)
+{
+    record({"everything"});
+    const QJsonObject arguments = m_run.calls("getKeyState")[0].value("args").toObject();
+    EXPECT_EQ(arguments.value("virtualKey").toInt(), -5);
+}
+
 TEST_F(RecordingTest, TellsSizeAndTimesOfARegularFileAlone)
 {
     record({"everything"});
