@@ -27,7 +27,7 @@ int record(const tagLOGFONTW* font, const tagTEXTMETRICW* metric, unsigned int t
     const std::uint64_t words[] = {reinterpret_cast<std::uint64_t>(font),
                                    reinterpret_cast<std::uint64_t>(metric), type,
                                    static_cast<std::uint64_t>(value)};
-    Call call(trace::enumProcedure, words);
+    Call call(trace::enumProcedure, words, __builtin_dwarf_cfa());
     const int result = g_procedures[place].load()(font, metric, type, value);
     call.returned(static_cast<std::uint64_t>(static_cast<std::int64_t>(result)));
     return result;

@@ -61,22 +61,22 @@ const std::string& ThreadState::placeOf(std::uintptr_t address)
     return caller.place;
 }
 
-OpenCall& ThreadState::open(const void* place)
+OpenCall& ThreadState::open(const void* stack)
 {
-    while (m_depth > 0 && std::less_equal<>()(m_calls[m_depth - 1].place, place))
+    while (m_depth > 0 && std::less_equal<>()(m_calls[m_depth - 1].stack, stack))
         --m_depth;
     if (m_depth == m_calls.size())
         m_calls.emplace_back();
     OpenCall& call = m_calls[m_depth++];
-    call.place = place;
+    call.stack = stack;
     call.isCallback = false;
     call.line.clear();
     return call;
 }
 
-OpenCall* ThreadState::find(const void* place)
+OpenCall* ThreadState::find(const void* stack)
 {
-    while (m_depth > 0 && m_calls[m_depth - 1].place != place)
+    while (m_depth > 0 && m_calls[m_depth - 1].stack != stack)
         --m_depth;
     return m_depth > 0 ? &m_calls[m_depth - 1] : nullptr;
 }

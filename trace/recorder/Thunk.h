@@ -84,22 +84,23 @@ struct Thunk<interface, slot, Result (Class::*)(Arguments...)>
 
     static Result call(Class* object, Passed<Arguments>... arguments)
     {
-        const auto caller = reinterpret_cast<std::uintptr_t>(__builtin_return_address(0));
+        const CallSite site{reinterpret_cast<std::uintptr_t>(__builtin_return_address(0)),
+                            __builtin_dwarf_cfa()};
         const auto original = reinterpret_cast<Function>(
             reinterpret_cast<std::uintptr_t>(tables::original(interface, object, slot)));
-        if (Recording::instance().wants(static_cast<std::size_t>(interface), slot, caller))
-            return recorded(original, caller, object, arguments...);
+        if (Recording::instance().wants(static_cast<std::size_t>(interface), slot, site.caller))
+            return recorded(original, site, object, arguments...);
         return performed(original, object, arguments...);
     }
 
 private:
-    static Result recorded(Function original, std::uintptr_t caller, Class* object,
+    static Result recorded(Function original, const CallSite& site, Class* object,
                            Passed<Arguments>... arguments)
     {
         // One word more, since there is no array of none.
         const std::uint64_t words[] = {argumentWord<Arguments>(arguments)..., 0};
         const trace::Manager& manager = trace::manager(interface);
-        Call call(manager, manager.operations[slot], object, words, caller);
+        Call call(manager, manager.operations[slot], object, words, site);
         if constexpr (std::is_void_v<Result>) {
             performed(original, object, handedOn(arguments)...);
             call.returned(0);
