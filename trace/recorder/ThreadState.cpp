@@ -12,11 +12,11 @@ namespace recorder {
 namespace {
 
 // A plain pointer, since calls still come when the objects of a thread have been destroyed.
-thread_local ThreadState* t_state = nullptr;
+thread_local ThreadState* g_state = nullptr;
 
 void destroy(void* state)
 {
-    t_state = nullptr;
+    g_state = nullptr;
     delete static_cast<ThreadState*>(state);
 }
 
@@ -42,11 +42,11 @@ ThreadState::ThreadState() : m_number(nextThread()) {}
 
 ThreadState& ThreadState::current()
 {
-    if (!t_state) {
-        t_state = new ThreadState;
-        pthread_setspecific(stateKey(), t_state);
+    if (!g_state) {
+        g_state = new ThreadState;
+        pthread_setspecific(stateKey(), g_state);
     }
-    return *t_state;
+    return *g_state;
 }
 
 const std::string& ThreadState::placeOf(std::uintptr_t address)

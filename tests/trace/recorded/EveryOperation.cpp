@@ -11,7 +11,7 @@ namespace {
 constexpr unsigned char untouched = 0xA5;
 
 // A buffer between bytes that nobody may change; all of it is printed.
-template <typename Unit, std::size_t size>
+template <typename Unit, std::size_t Size>
 struct Buffer
 {
     Buffer() { std::memset(units, untouched, sizeof units); }
@@ -35,7 +35,7 @@ struct Buffer
         std::puts("");
     }
 
-    Unit units[size + 2];
+    Unit units[Size + 2];
 };
 
 // A file system keeps its own times; of a record the name and the attributes are printed.

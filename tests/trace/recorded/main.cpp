@@ -54,8 +54,9 @@ void callDerived()
     setPlatformServices(&services);
     callEverything(services);
     auto* profiles = dynamic_cast<OwnProfiles*>(services.profileManager());
+    IPlatformProfileManager& manager = *services.profileManager();
     std::printf("cast=%d added=%d type=%d\n", profiles != nullptr, profiles ? profiles->added() : 0,
-                typeid(*services.profileManager()) == typeid(OwnProfiles));
+                typeid(manager) == typeid(OwnProfiles));
 }
 
 void callOftenInFlatMemory(int times)

@@ -102,7 +102,7 @@ TEST_F(RecordingTest, TellsVersionsAndLibrariesFirst)
     EXPECT_EQ(header.value("program").toArray().last().toString(), "everything");
     EXPECT_EQ(header.value("options").toObject().value("text").toInt(), 5);
     bool hasCaller = false;
-    for (const QJsonValue& library : header.value("libraries").toArray()) {
+    for (const QJsonValue library : header.value("libraries").toArray()) {
         if (library.toObject().value("path").toString().endsWith("/libtrace_caller.so"))
             hasCaller = library.toObject().value("buildId").toString().size() == 40;
     }
