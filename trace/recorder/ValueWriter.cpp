@@ -14,7 +14,8 @@ namespace {
 
 using trace::Role;
 
-constexpr std::size_t longestData = 16U * 1024U * 1024U; // bytes, where no option says less
+constexpr std::size_t longestData =
+    std::size_t{16} * 1024 * 1024; // bytes, where no option says less
 
 template <typename T>
 const T* addressOf(std::uint64_t word)
