@@ -5,8 +5,9 @@ include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Quayside)
 install(CODE "message(STATUS \"Installing Quayside ${PROJECT_VERSION}, built as ${CMAKE_BUILD_TYPE}: the\
- programs, the stand-in unless maker's libraries are linked, the static libraries with their headers and\
- CMake package, the catalogue, the manual. Tests, examples and benchmarks stay in the build folder.\")")
+ programs, what records calls, the stand-in unless maker's libraries are linked, the static libraries\
+ with their headers and CMake package, the catalogue, the manual. Tests, examples and benchmarks stay in\
+ the build folder.\")")
 # Names of the place of installation go into files when they are installed: only then it is known.
 # quayside_install_filled(<template> <destination> <name> [<line of CMake>...])
 function(quayside_install_filled template destination name)
@@ -54,8 +55,10 @@ if(NOT QUAYSIDE_HOST_LIBRARIES)
   install(TARGETS quayside_host EXPORT QuaysideTargets
     LIBRARY DESTINATION ${stand_in_folder} COMPONENT programs)
 endif()
-# What "quaysidectl trace record" preloads.
-install(TARGETS quayside_recorder LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+# What "quaysidectl trace record" preloads, where it looks: beside itself, or among the libraries.
+if(QUAYSIDE_BUILD_CTL)
+  install(TARGETS quayside_recorder LIBRARY DESTINATION ${stand_in_folder} COMPONENT programs)
+endif()
 # The headers that others compile against; all others may change from one version to the next.
 set(public_headers
   app/CStdStr.h app/CommandLine.h app/Logger.h app/TextTime.h

@@ -180,6 +180,15 @@ TEST_F(InstalledTree, HoldsTheProgramItsCatalogueAndTheStandIn)
     EXPECT_TRUE(tree.exists(QUAYSIDE_LIBRARY_FOLDER "/libKdPlatformBase.so"));
 }
 
+TEST_F(InstalledTree, CommandFindsTheRecorder)
+{
+    const QString recording = folder->filePath("recording");
+    const ChildResult result =
+        resultOf(prefix() + "/bin/quaysidectl", {"trace", "record", "-o", recording, "true"});
+    EXPECT_EQ(0, result.status) << result.output.toStdString();
+    EXPECT_TRUE(QFile::exists(prefix() + "/" QUAYSIDE_LIBRARY_FOLDER "/libquayside-trace.so"));
+}
+
 // The application looks for Qt's catalogue below its working directory.
 TEST_F(InstalledTree, DesktopEntryStartsWhereQtsCatalogueIs)
 {

@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <fstream>
 #include <initializer_list>
+#include <iterator>
 #include <set>
 #include <string>
 #include <type_traits>
@@ -153,7 +155,37 @@ std::size_t slotCount()
     return slotOf(&Longer<Inherited>::next);
 }
 
+// How the documentation tells an operation.
+std::string documented(const trace::Manager& manager, const trace::Operation& operation)
+{
+    constexpr const char* failures[] = {"", "0", "not 0", "all bits"};
+    std::string parameters;
+    for (const trace::Parameter& parameter : operation.parameters) {
+        const bool isWritten = parameter.extent != trace::Extent::None;
+        const std::string name = parameter.name;
+        parameters += (parameters.empty() ? "" : ", ") + (isWritten ? "**" + name + "**" : name);
+    }
+    return std::string("| ") + manager.name + " | `" + operation.name + "` | " + parameters +
+           " | " + failures[static_cast<std::size_t>(operation.result.failure)] + " |\n";
+}
+
+std::string documentation()
+{
+    std::ifstream file(QUAYSIDE_SOURCES "/docs/TRACE.md");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
 } // namespace
+
+TEST(OperationsTest, TheDocumentationHasTheRows)
+{
+    std::string rows = "| manager | operation | parameters | failure |\n|---|---|---|---|\n";
+    for (const trace::Manager& manager : trace::managers()) {
+        for (const trace::Operation& operation : manager.operations)
+            rows += operation.isDestructor ? "" : documented(manager, operation);
+    }
+    EXPECT_NE(documentation().find(rows), std::string::npos) << rows;
+}
 
 TEST(OperationsTest, RowsStandInTheSlotsOfTheirOperations)
 {

@@ -8,10 +8,10 @@
 /// They supply the types of the arguments; everything else about an operation is in its row.
 namespace trace {
 
-template <auto... operations>
+template <auto... Operations>
 struct Members
 {
-    static constexpr std::size_t count = sizeof...(operations);
+    static constexpr std::size_t count = sizeof...(Operations);
 };
 
 using ServicesMembers =

@@ -39,13 +39,13 @@ void quotedMember(Line& line, std::string_view name, std::string_view text)
 } // namespace
 
 Call::Call(const trace::Manager& manager, const trace::Operation& operation, void* object,
-           const std::uint64_t* words, std::uintptr_t caller)
-    : m_operation(operation), m_object(object), m_words(words)
+           const std::uint64_t* words, const CallSite& site)
+    : m_operation(operation), m_object(object), m_words(words), m_stack(site.stack)
 {
     const KeptErrno kept;
     OpenCall& open = enter();
     open.line.name("caller");
-    open.line.quoted(ThreadState::current().placeOf(caller));
+    open.line.quoted(ThreadState::current().placeOf(site.caller));
     quotedMember(open.line, "manager", manager.name);
     quotedMember(open.line, "op", operation.name);
     open.line.name("object");
@@ -53,8 +53,8 @@ Call::Call(const trace::Manager& manager, const trace::Operation& operation, voi
     begin(open);
 }
 
-Call::Call(const trace::Operation& callback, const std::uint64_t* words)
-    : m_operation(callback), m_words(words)
+Call::Call(const trace::Operation& callback, const std::uint64_t* words, const void* stack)
+    : m_operation(callback), m_words(words), m_stack(stack)
 {
     const KeptErrno kept;
     OpenCall& open = enter();
@@ -68,7 +68,7 @@ Call::~Call()
     if (m_hasReturned)
         return;
     const KeptErrno kept;
-    if (OpenCall* open = ThreadState::current().find(this))
+    if (OpenCall* open = ThreadState::current().find(m_stack))
         complete(*open, 0);
 }
 
@@ -76,7 +76,7 @@ OpenCall& Call::enter()
 {
     ThreadState& state = ThreadState::current();
     Recording& recording = Recording::instance();
-    OpenCall& open = state.open(this);
+    OpenCall& open = state.open(m_stack);
     open.number = recording.nextNumber();
     Line& line = open.line;
     line.raw("{\"n\":");
@@ -108,7 +108,7 @@ void Call::returned(std::uint64_t result)
     const std::uint64_t end = Recording::instance().time();
     m_hasReturned = true;
     m_inquiry.after(m_operation, m_object, m_words, result);
-    OpenCall* open = ThreadState::current().find(this);
+    OpenCall* open = ThreadState::current().find(m_stack);
     if (!open)
         return;
     open->start = end - open->start;

@@ -8,16 +8,24 @@
 
 namespace recorder {
 
+/// Where a call comes from: the address that it returns to, and where the caller's stack ended.
+/// That tells calls that enclose each other, also where a sanitizer keeps objects elsewhere.
+struct CallSite
+{
+    std::uintptr_t caller;
+    const void* stack;
+};
+
 /// A call that is recorded: its line is written when it is entered, and completed when it returns.
 /// It lives on the stack, around the original. `errno` stays as caller and service leave it.
 class Call
 {
 public:
-    /// A call of an operation of `object` from the address `caller`.
+    /// A call of an operation of `object`.
     Call(const trace::Manager& manager, const trace::Operation& operation, void* object,
-         const std::uint64_t* words, std::uintptr_t caller);
-    /// A call of the caller's procedure by the services.
-    Call(const trace::Operation& callback, const std::uint64_t* words);
+         const std::uint64_t* words, const CallSite& site);
+    /// A call of the caller's procedure by the services, whose stack ended there.
+    Call(const trace::Operation& callback, const std::uint64_t* words, const void* stack);
     /// A call that has not returned by now was left by an exception.
     ~Call();
 
@@ -34,6 +42,7 @@ private:
     const trace::Operation& m_operation;
     void* m_object = nullptr;
     const std::uint64_t* m_words;
+    const void* m_stack;
     Inquiry m_inquiry;
     bool m_hasReturned = false;
 };

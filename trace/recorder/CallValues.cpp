@@ -210,11 +210,10 @@ trace::Rows<trace::Field> writtenFields(const Answer& answer, const Parameter& p
     trace::Rows<trace::Field> fields = parameter.fields;
     const std::uint64_t record = answer.call.word(parameter);
     const auto keepFirst = [&fields](std::size_t count) { fields.count = count; };
-    if (parameter.extent == Extent::FindNext)
-        keepFirst(trace::entryFieldCount);
-    else if (parameter.extent == Extent::FindFirst &&
-             !isRegularFile(answer.call.word(answer.call.operation.parameters[0]),
-                            record + offsetof(WIN32_FIND_DATAW, cFileName)))
+    if (parameter.extent == Extent::FindNext ||
+        (parameter.extent == Extent::FindFirst &&
+         !isRegularFile(answer.call.word(answer.call.operation.parameters[0]),
+                        record + offsetof(WIN32_FIND_DATAW, cFileName))))
         keepFirst(trace::entryFieldCount);
     else if (parameter.extent == Extent::Script) {
         fields.first += fields.count - 1;

@@ -2,9 +2,12 @@
 
 #include "platform/IPlatformServices.h"
 #include "trace/Operations.h"
+#include "trace/recorder/Memory.h"
 #include "trace/recorder/ThreadState.h"
 
 #include <algorithm>
+#include <limits>
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -63,6 +66,21 @@ struct Questions
             static_cast<std::size_t>(std::find(path.begin(), path.end() - 1, L'\0') - path.begin());
     }
 
+    // The path is changed in its place: a copy is, in room for what is cleared too.
+    void pathWithSeparator() const
+    {
+        constexpr std::size_t cleared = 256;
+        constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max() / sizeof(wchar_t);
+        std::vector<wchar_t> copied;
+        const auto path = memory::text(argument<const wchar_t*>(words, 0), unlimited, copied);
+        if (!path.units || path.length < cleared - 1)
+            return;
+        std::wstring room(path.units, path.length);
+        room.resize(path.length + cleared);
+        static_cast<IPlatformDirectoryManager*>(object)->AddBackslash(room.data());
+        answer.m_textLength = room.find(L'\0');
+    }
+
     void keyName() const
     {
         unsigned int length = 0;
@@ -118,6 +136,8 @@ struct Row
 };
 
 const Row rows[] = {
+    {"directory", "AddBackslash", true, [](const Questions& q) { return q.isGiven(0); },
+     &Questions::pathWithSeparator},
     {"directory", "PathRelativePathToW", true, [](const Questions&) { return true; },
      &Questions::relativePath},
     {"register", "RegEnumKeyW", false,

@@ -92,16 +92,16 @@ std::size_t copyByKernel(const void* from, void* to, std::size_t size)
 }
 
 // What is read here may be another's red zone: it is only looked at, as the service will do.
-[[gnu::no_sanitize("address", "undefined")]] void copySurely(const unsigned char* from,
-                                                             unsigned char* to, std::size_t size)
+__attribute__((no_sanitize("address", "undefined"))) void
+copySurely(const unsigned char* from, unsigned char* to, std::size_t size)
 {
     for (std::size_t i = 0; i < size; ++i)
         to[i] = from[i];
 }
 
 template <typename Unit>
-[[gnu::no_sanitize("address", "undefined")]] std::size_t lengthUpTo(const Unit* units,
-                                                                    std::size_t limit)
+__attribute__((no_sanitize("address", "undefined"))) std::size_t lengthUpTo(const Unit* units,
+                                                                            std::size_t limit)
 {
     std::size_t length = 0;
     while (length < limit && units[length] != 0)

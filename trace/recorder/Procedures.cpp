@@ -21,22 +21,22 @@ constexpr std::size_t placeCount = 64;
 std::array<std::atomic<Procedure>, placeCount> g_procedures;
 std::mutex g_mutex;
 
-template <std::size_t place>
+template <std::size_t Place>
 int record(const tagLOGFONTW* font, const tagTEXTMETRICW* metric, unsigned int type, long value)
 {
     const std::uint64_t words[] = {reinterpret_cast<std::uint64_t>(font),
                                    reinterpret_cast<std::uint64_t>(metric), type,
                                    static_cast<std::uint64_t>(value)};
-    Call call(trace::enumProcedure, words);
-    const int result = g_procedures[place].load()(font, metric, type, value);
+    Call call(trace::enumProcedure, words, __builtin_dwarf_cfa());
+    const int result = g_procedures[Place].load()(font, metric, type, value);
     call.returned(static_cast<std::uint64_t>(static_cast<std::int64_t>(result)));
     return result;
 }
 
-template <std::size_t... places>
-constexpr std::array<Procedure, placeCount> recorders(std::index_sequence<places...>)
+template <std::size_t... Places>
+constexpr std::array<Procedure, placeCount> recorders(std::index_sequence<Places...>)
 {
-    return {&record<places>...};
+    return {&record<Places>...};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <mutex>
 #include <string>
@@ -33,13 +34,16 @@ public:
     /// still the last line it replaces the former one, otherwise it is appended.
     void complete(const Place& place, const std::string& line, std::size_t kept);
 
+    /// Writes nothing from now on.
+    void stop() { m_isFull = true; }
+
 private:
     void write(const char* bytes, std::size_t size, off_t offset);
 
     std::mutex m_mutex;
     int m_descriptor = -1;
     off_t m_end = 0;
-    bool m_isFull = false;
+    std::atomic<bool> m_isFull{false};
 };
 
 } // namespace recorder

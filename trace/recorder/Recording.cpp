@@ -85,6 +85,12 @@ std::uint64_t Recording::time() const
     return monotonicTime() - m_start;
 }
 
+void Recording::abandon()
+{
+    m_isOn = false;
+    m_file.stop();
+}
+
 void Recording::tellLibraries()
 {
     for (const Module& library : Modules::instance().takeUntold()) {

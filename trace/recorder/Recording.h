@@ -36,7 +36,7 @@ public:
     void end();
 
     /// Nothing more is recorded here: this process is a copy of the recorded one.
-    void abandon() { m_isOn = false; }
+    void abandon();
 
 private:
     Recording() = default;

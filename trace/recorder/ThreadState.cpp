@@ -12,11 +12,11 @@ namespace recorder {
 namespace {
 
 // A plain pointer, since calls still come when the objects of a thread have been destroyed.
-thread_local ThreadState* t_state = nullptr;
+thread_local ThreadState* g_state = nullptr;
 
 void destroy(void* state)
 {
-    t_state = nullptr;
+    g_state = nullptr;
     delete static_cast<ThreadState*>(state);
 }
 
@@ -42,11 +42,11 @@ ThreadState::ThreadState() : m_number(nextThread()) {}
 
 ThreadState& ThreadState::current()
 {
-    if (!t_state) {
-        t_state = new ThreadState;
-        pthread_setspecific(stateKey(), t_state);
+    if (!g_state) {
+        g_state = new ThreadState;
+        pthread_setspecific(stateKey(), g_state);
     }
-    return *t_state;
+    return *g_state;
 }
 
 const std::string& ThreadState::placeOf(std::uintptr_t address)
@@ -61,22 +61,22 @@ const std::string& ThreadState::placeOf(std::uintptr_t address)
     return caller.place;
 }
 
-OpenCall& ThreadState::open(const void* place)
+OpenCall& ThreadState::open(const void* stack)
 {
-    while (m_depth > 0 && std::less<>()(m_calls[m_depth - 1].place, place))
+    while (m_depth > 0 && std::less_equal<>()(m_calls[m_depth - 1].stack, stack))
         --m_depth;
     if (m_depth == m_calls.size())
         m_calls.emplace_back();
     OpenCall& call = m_calls[m_depth++];
-    call.place = place;
+    call.stack = stack;
     call.isCallback = false;
     call.line.clear();
     return call;
 }
 
-OpenCall* ThreadState::find(const void* place)
+OpenCall* ThreadState::find(const void* stack)
 {
-    while (m_depth > 0 && m_calls[m_depth - 1].place != place)
+    while (m_depth > 0 && m_calls[m_depth - 1].stack != stack)
         --m_depth;
     return m_depth > 0 ? &m_calls[m_depth - 1] : nullptr;
 }

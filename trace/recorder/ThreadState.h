@@ -13,7 +13,7 @@ namespace recorder {
 /// A call that is under way.
 struct OpenCall
 {
-    const void* place = nullptr; ///< on the stack
+    const void* stack = nullptr; ///< where the caller's stack ended
     std::uint64_t number = 0;
     std::uint64_t start = 0;
     bool isCallback = false;
@@ -34,11 +34,11 @@ public:
     /// "library+offset" of a caller.
     const std::string& placeOf(std::uintptr_t address);
 
-    /// Opens a call. Calls that were left by a jump are forgotten: their places on the stack are
-    /// below this one.
-    OpenCall& open(const void* place);
-    /// The call that was opened here; null if it was left by a jump meanwhile.
-    OpenCall* find(const void* place);
+    /// Opens a call from where the stack ended. Calls that were left by a jump are forgotten: the
+    /// stack ended lower there, or at the same place.
+    OpenCall& open(const void* stack);
+    /// The call that was opened there; null if it was left by a jump meanwhile.
+    OpenCall* find(const void* stack);
     /// Ends the innermost call.
     void close();
 

@@ -26,9 +26,7 @@ std::uint64_t wordOf(const T& value)
 {
     if constexpr (std::is_pointer_v<T>)
         return reinterpret_cast<std::uint64_t>(value);
-    else if constexpr (std::is_enum_v<T>)
-        return static_cast<std::uint64_t>(static_cast<std::int64_t>(value));
-    else if constexpr (std::is_integral_v<T> && std::is_signed_v<T>)
+    else if constexpr (std::is_enum_v<T> || (std::is_integral_v<T> && std::is_signed_v<T>))
         return static_cast<std::uint64_t>(static_cast<std::int64_t>(value));
     else if constexpr (std::is_integral_v<T>)
         return static_cast<std::uint64_t>(value);
@@ -73,33 +71,34 @@ inline IPlatformFontManager::EnumProcedure handedOn(IPlatformFontManager::EnumPr
 }
 
 /// The recording operation for a slot of an interface; `Member` is the type of the operation.
-template <trace::Interface interface, std::size_t slot, typename Member>
+template <trace::Interface Kind, std::size_t Slot, typename Member>
 struct Thunk;
 
-template <trace::Interface interface, std::size_t slot, typename Class, typename Result,
+template <trace::Interface Kind, std::size_t Slot, typename Class, typename Result,
           typename... Arguments>
-struct Thunk<interface, slot, Result (Class::*)(Arguments...)>
+struct Thunk<Kind, Slot, Result (Class::*)(Arguments...)>
 {
     using Function = Result (*)(Class*, Passed<Arguments>...);
 
     static Result call(Class* object, Passed<Arguments>... arguments)
     {
-        const auto caller = reinterpret_cast<std::uintptr_t>(__builtin_return_address(0));
+        const CallSite site{reinterpret_cast<std::uintptr_t>(__builtin_return_address(0)),
+                            __builtin_dwarf_cfa()};
         const auto original = reinterpret_cast<Function>(
-            reinterpret_cast<std::uintptr_t>(tables::original(interface, object, slot)));
-        if (Recording::instance().wants(static_cast<std::size_t>(interface), slot, caller))
-            return recorded(original, caller, object, arguments...);
+            reinterpret_cast<std::uintptr_t>(tables::original(Kind, object, Slot)));
+        if (Recording::instance().wants(static_cast<std::size_t>(Kind), Slot, site.caller))
+            return recorded(original, site, object, arguments...);
         return performed(original, object, arguments...);
     }
 
 private:
-    static Result recorded(Function original, std::uintptr_t caller, Class* object,
+    static Result recorded(Function original, const CallSite& site, Class* object,
                            Passed<Arguments>... arguments)
     {
         // One word more, since there is no array of none.
         const std::uint64_t words[] = {argumentWord<Arguments>(arguments)..., 0};
-        const trace::Manager& manager = trace::manager(interface);
-        Call call(manager, manager.operations[slot], object, words, caller);
+        const trace::Manager& manager = trace::manager(Kind);
+        Call call(manager, manager.operations[Slot], object, words, site);
         if constexpr (std::is_void_v<Result>) {
             performed(original, object, handedOn(arguments)...);
             call.returned(0);
@@ -121,9 +120,9 @@ private:
     // A manager that is handed out is recorded from then on.
     static Result performed(Function original, Class* object, Passed<Arguments>... arguments)
     {
-        if constexpr (interface == trace::Interface::Services) {
+        if constexpr (Kind == trace::Interface::Services) {
             const Result manager = original(object, arguments...);
-            tables::learn(slot, manager);
+            tables::learn(Slot, manager);
             return manager;
         } else {
             return original(object, arguments...);

@@ -31,20 +31,20 @@ constexpr std::size_t slotOf(trace::Rows<trace::Operation> rows, std::size_t pla
     return slot;
 }
 
-template <Interface interface, const auto& rows, auto... members, std::size_t... places>
-Slots thunks(trace::Members<members...>, std::index_sequence<places...>)
+template <Interface Kind, const auto& Rows, auto... Operations, std::size_t... Places>
+Slots thunks(trace::Members<Operations...>, std::index_sequence<Places...>)
 {
     Slots slots = {};
-    ((slots[slotOf(rows, places)] = reinterpret_cast<void*>(
-          &Thunk<interface, slotOf(rows, places), decltype(members)>::call)),
+    ((slots[slotOf(Rows, Places)] =
+          reinterpret_cast<void*>(&Thunk<Kind, slotOf(Rows, Places), decltype(Operations)>::call)),
      ...);
     return slots;
 }
 
-template <Interface interface, const auto& rows, typename Members>
+template <Interface Kind, const auto& Rows, typename Members>
 Slots thunks()
 {
-    return thunks<interface, rows>(Members(), std::make_index_sequence<Members::count>());
+    return thunks<Kind, Rows>(Members(), std::make_index_sequence<Members::count>());
 }
 
 } // namespace

@@ -14,7 +14,8 @@ namespace {
 
 using trace::Role;
 
-constexpr std::size_t longestData = 16U * 1024U * 1024U; // bytes, where no option says less
+constexpr std::size_t longestData =
+    std::size_t{16} * 1024 * 1024; // bytes, where no option says less
 
 template <typename T>
 const T* addressOf(std::uint64_t word)
@@ -62,9 +63,9 @@ std::uint64_t numberOf(const unsigned char* bytes, std::size_t size, Role role)
 
 void ValueWriter::plain(Role role, trace::Rows<trace::BitName> names, std::uint64_t word)
 {
-    if (role == Role::Number)
+    if (role == Role::Number || role == Role::Choice)
         m_line.number(static_cast<std::int64_t>(word));
-    else if (role == Role::Unsigned || role == Role::Choice)
+    else if (role == Role::Unsigned)
         m_line.unsignedNumber(word);
     else if (role == Role::Flags)
         flags(names, word);
