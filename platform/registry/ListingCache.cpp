@@ -44,7 +44,7 @@ private:
 template <typename Owned>
 std::shared_ptr<Owned> madeForTurn(QObject& receiver, int priority)
 {
-    const auto owned = std::make_shared<Owned>();
+    auto owned = std::make_shared<Owned>();
     QCoreApplication::postEvent(&receiver, new OwningEvent<Owned>(owned), priority);
     return owned;
 }
@@ -147,10 +147,10 @@ std::shared_ptr<const StoreNames> ListingCache::keptNames(QSettings& store, Kind
         drop();
         return listed(store, kind);
     }
-    const Names kept = turn->find(store, kind);
+    Names kept = turn->find(store, kind);
     if (kept && !mayHideGroups(store, turn->file()))
         return kept;
-    const Names names = listed(store, kind);
+    Names names = listed(store, kind);
     if (!kept)
         turn->keep(store, kind, names);
     return names;

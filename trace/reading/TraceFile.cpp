@@ -14,7 +14,7 @@ namespace {
 using Kind = ScannedLine::Kind;
 
 constexpr qint64 knownVersion = 1;
-constexpr qint64 blockSize = 256 * 1024;
+constexpr qint64 blockSize = qint64{256} * 1024;
 
 std::string_view viewOf(const QByteArray& bytes)
 {

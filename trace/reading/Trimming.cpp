@@ -34,9 +34,9 @@ void Trimming::add(const CallEntry& entry)
 {
     const bool isConcerned = HandleTable::isConcerned(m_file.operation(entry));
     if (isConcerned || m_wanted.contains(entry.number) || m_enclosing.contains(entry.number)) {
-        std::vector<qint64> needs = needsOf(entry);
+        const std::vector<qint64> needs = needsOf(entry);
         if (!needs.empty())
-            m_needs.insert(entry.number, std::move(needs));
+            m_needs.insert(entry.number, needs);
     }
     if (isConcerned)
         m_handles.follow(m_file, entry);

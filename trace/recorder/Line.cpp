@@ -10,7 +10,7 @@ namespace {
 
 constexpr char digits[] = "0123456789abcdef";
 constexpr std::uint32_t replacement = 0xFFFD;
-constexpr std::size_t ordinaryCapacity = 64U * 1024U;
+constexpr std::size_t ordinaryCapacity = std::size_t{64} * 1024;
 
 template <typename Number>
 void appendNumber(std::string& text, Number value, int base)
