@@ -115,8 +115,8 @@ long peakOf(const QStringList& line)
 // What a single value takes is the store and the program.
 TEST_F(CtlAccess, ToAllValuesTakesLessThanTwiceTheMemoryOfTheStore)
 {
-    if (isEmulated())
-        GTEST_SKIP() << "the emulator takes memory of its own";
+    if (isEmulated() || isSanitized())
+        GTEST_SKIP() << "the emulator and the sanitizers take memory of their own";
     QByteArray store("[A]\n");
     for (int i = 0; i < 100000; ++i)
         store += "value" + QByteArray::number(i) + "=5$text\n";

@@ -30,6 +30,10 @@ protected:
     /// the one that has been built; behind its emulator where it needs one.
     static QStringList program();
     static bool isEmulated() { return qstrlen(QUAYSIDE_EMULATOR) > 0; }
+    /// The sanitizers keep what is freed, and make each allocation many times as slow.
+    static bool isSanitized() { return QUAYSIDE_SANITIZED; }
+    /// As many values as are to be no trouble; fewer where each takes many times as long.
+    static int manyValues() { return isEmulated() || isSanitized() ? 10000 : 100000; }
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
     void write(const QString& name, const QByteArray& bytes) const;
