@@ -53,6 +53,7 @@ bool Statistics::asks(const CallEntry& entry)
 
 void Statistics::count(const CallEntry& entry)
 {
+    m_callers.insert(entry.caller);
     OperationCount& count = m_operations[keyOf(entry)];
     if (count.calls++ == 0) {
         const Operation* const operation = m_file.operation(entry);
@@ -75,6 +76,17 @@ void Statistics::count(const AskedFor& asked)
         count.name = asked.name;
     }
     count.absent += asked.isAbsent ? 1 : 0;
+}
+
+QStringList Statistics::libraries() const
+{
+    QStringList names;
+    for (const int caller : m_callers)
+        names += Call::library(m_file.name(caller));
+    names.removeAll(QString()); // procedures have no caller
+    names.removeDuplicates();
+    names.sort();
+    return names;
 }
 
 std::vector<Statistics::OperationCount> Statistics::operations() const

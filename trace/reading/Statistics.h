@@ -5,7 +5,8 @@
 #include "trace/reading/HandleTable.h"
 
 #include <QHash>
-#include <QVector>
+#include <QSet>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -46,6 +47,8 @@ public:
     /// through calls that are not counted too.
     void add(const CallEntry& entry, bool isCounted = true);
 
+    /// The libraries that called, sorted by name.
+    QStringList libraries() const;
     /// With the longest time first.
     std::vector<OperationCount> operations() const;
     /// What was asked for most comes first.
@@ -61,6 +64,7 @@ private:
     std::vector<std::optional<bool>> m_asks;    ///< by the number of the operation's name
     QHash<qint64, OperationCount> m_operations; ///< by the numbers of manager and operation
     QHash<QString, AskedCount> m_asked;
+    QSet<int> m_callers; ///< the numbers of their names
 };
 
 } // namespace trace
