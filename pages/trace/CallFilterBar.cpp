@@ -11,11 +11,21 @@ namespace {
 
 constexpr int fewestCharacters = 8; // of a name that is chosen
 
-// The first choice stands for all.
+bool isOffered(const QComboBox& box, const QStringList& names)
+{
+    int offered = 1;
+    while (offered < box.count() && box.itemText(offered) == names.value(offered - 1))
+        ++offered;
+    return offered == box.count() && offered == names.size() + 1;
+}
+
+// The first choice stands for all. A list that the user may have open stays where nothing is new.
 void offer(QComboBox& box, QStringList names)
 {
     names.sort();
     names.removeDuplicates();
+    if (isOffered(box, names))
+        return;
     const QString chosen = box.currentIndex() > 0 ? box.currentText() : QString();
     const QSignalBlocker blocker(box);
     while (box.count() > 1)

@@ -57,6 +57,8 @@ bool TracePage::isRefused(const QString& path)
                tr("%1 is a bundle. Take the recording out of it first: \"quaysidectl trace trim "
                   "--calls 1- BUNDLE FILE\" writes it into a file.")
                    .arg(QFileInfo(path).fileName()));
+    else if (QFileInfo::exists(path) && !QFileInfo(path).isFile()) // a pipe would never open
+        report(Report::Error, tr("%1 is no file.").arg(path));
     else
         return false;
     return true;
@@ -64,8 +66,6 @@ bool TracePage::isRefused(const QString& path)
 
 void TracePage::read(const QString& path)
 {
-    m_follower.cancel();
-    m_following.reset();
     const FileStamp stamp = FileStamp::of(path);
     const Recording recording = std::make_shared<trace::OpenRecording>(path);
     if (!recording->file().open())
@@ -81,6 +81,8 @@ void TracePage::read(const QString& path)
 
 void TracePage::show(const QString& path, const Recording& recording)
 {
+    m_follower.cancel();
+    m_following.reset();
     m_path = path;
     m_file->setPath(path);
     m_calls->setRecording(recording);

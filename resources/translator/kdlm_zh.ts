@@ -5695,6 +5695,10 @@ Wide: %2</source>
         <source>Lines that cannot be read: %L1. %2</source>
         <translation>无法读取的行：%L1。%2</translation>
     </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 不是普通文件。</translation>
+    </message>
 </context>
 <context>
     <name>TraceRecordCommand</name>

@@ -60,6 +60,8 @@ TEST_F(TracePageTest, KeepsTheOpenRecordingWhereAnotherCannotBeRead)
         EXPECT_NE(status().find(name), std::string::npos) << status();
         EXPECT_EQ(numbers().size(), 5);
     }
+    page()->openFile(m_folder.path());
+    EXPECT_NE(status().find(" is no file."), std::string::npos) << status();
     page()->openFile({});
     EXPECT_EQ(status(), "Type the path of a file first.");
 }
