@@ -75,11 +75,11 @@ void TracePage::read(const QString& path)
                  if (!complete)
                      return report(Report::Warning, tr("Stopped before the recording was read."));
                  m_stamp = stamp;
-                 show(path, recording);
+                 showRecording(path, recording);
              });
 }
 
-void TracePage::show(const QString& path, const Recording& recording)
+void TracePage::showRecording(const QString& path, const Recording& recording)
 {
     m_follower.cancel();
     m_following.reset();

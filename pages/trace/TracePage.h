@@ -41,7 +41,7 @@ private:
 
     bool isRefused(const QString& path);
     void read(const QString& path);
-    void show(const QString& path, const Recording& recording);
+    void showRecording(const QString& path, const Recording& recording);
     void showComings();
     void finishFollowing();
     QString counts() const;
