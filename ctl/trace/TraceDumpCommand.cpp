@@ -103,7 +103,7 @@ void Dump::print(const trace::CallEntry& entry, const trace::Operation* operatio
 }
 
 /// Reads a recording on while it is written, and prints each call once: when it has returned, or at
-/// the end where it never has.
+/// the end of the recording where it never has.
 class DumpFollower
 {
 public:
@@ -144,7 +144,8 @@ void DumpFollower::follow()
         QThread::msleep(pause);
         read();
     }
-    print(1, Calls::All);
+    if (!Interruption::isAsked()) // the others may still return
+        print(1, Calls::All);
 }
 
 // A file that has become shorter is another recording.
