@@ -69,12 +69,14 @@ void Statistics::count(const CallEntry& entry)
 
 void Statistics::count(const AskedFor& asked)
 {
-    AskedCount& count = m_asked[keyOf(asked)];
-    if (count.asked++ == 0) {
-        count.kind = asked.kind;
-        count.place = asked.place;
-        count.name = asked.name;
+    const QString key = keyOf(asked);
+    auto place = m_askedPlaces.constFind(key);
+    if (place == m_askedPlaces.constEnd()) {
+        place = m_askedPlaces.insert(key, m_asked.size());
+        m_asked.push_back({asked.kind, asked.place, asked.name});
     }
+    AskedCount& count = m_asked[*place];
+    ++count.asked;
     count.absent += asked.isAbsent ? 1 : 0;
 }
 
@@ -100,7 +102,7 @@ std::vector<Statistics::OperationCount> Statistics::operations() const
 
 std::vector<Statistics::AskedCount> Statistics::asked() const
 {
-    std::vector<AskedCount> all(m_asked.begin(), m_asked.end());
+    std::vector<AskedCount> all = m_asked;
     std::sort(all.begin(), all.end(), [](const AskedCount& a, const AskedCount& b) {
         return std::tie(b.asked, a.kind, a.place, a.name) <
                std::tie(a.asked, b.kind, b.place, b.name);
