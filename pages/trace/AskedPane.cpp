@@ -3,7 +3,6 @@
 #include "pages/trace/SubjectButton.h"
 #include "window/ColumnFit.h"
 #include "window/EmptyHint.h"
-#include "window/KeptPlace.h"
 #include "window/ViewLook.h"
 
 #include <QCheckBox>
@@ -11,14 +10,22 @@
 #include <QLocale>
 #include <QTableView>
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
 namespace {
 
 using Asked = trace::Statistics::AskedCount;
 using Kind = trace::AskedFor::Kind;
-using Column = RecordColumn<Asked>;
+using Column = RecordColumn<std::size_t>;
+
+enum Columns
+{
+    KindColumn,
+    PlaceColumn,
+    NameColumn,
+    AskedColumn,
+    AbsentColumn
+};
 
 QString kindName(const Asked& asked)
 {
@@ -31,36 +38,46 @@ QString kindName(const Asked& asked)
     return AskedPane::tr("File");
 }
 
-Column counted(const QString& title, qint64 Asked::*number)
+} // namespace
+
+std::vector<Column> AskedPane::columns() const
 {
-    return Column(title, [number](const Asked& asked) { return QLocale().toString(asked.*number); })
-        .sortedBy([number](const Asked& asked) {
-            return SortKey::number(static_cast<double>(asked.*number));
+    return {{tr("Kind"), [this](std::size_t place) { return kindName(asked(place)); }},
+            {tr("Place"), [this](std::size_t place) { return asked(place).place; }},
+            {tr("Name"), [this](std::size_t place) { return asked(place).name; }},
+            counted(tr("Asked for"), &Asked::asked),
+            counted(tr("Absent"), &Asked::absent)};
+}
+
+Column AskedPane::counted(const QString& title, qint64 Asked::*number) const
+{
+    return Column(title,
+                  [this, number](std::size_t place) {
+                      return QLocale().toString(asked(place).*number);
+                  })
+        .sortedBy([this, number](std::size_t place) {
+            return SortKey::number(static_cast<double>(asked(place).*number));
         });
 }
 
-std::vector<Column> columns()
+// The statistics may be others already when the rows of the former ones are painted.
+Asked AskedPane::asked(std::size_t place) const
 {
-    return {{AskedPane::tr("Kind"), &kindName},
-            {AskedPane::tr("Place"), [](const Asked& asked) { return asked.place; }},
-            {AskedPane::tr("Name"), [](const Asked& asked) { return asked.name; }},
-            counted(AskedPane::tr("Asked for"), &Asked::asked),
-            counted(AskedPane::tr("Absent"), &Asked::absent)};
+    const std::vector<Asked>& all = m_recording->analysis().statistics().askedInOrder();
+    return place < all.size() ? all[place] : Asked();
 }
-
-} // namespace
 
 AskedPane::AskedPane(QWidget* parent)
     : QWidget(parent),
-      m_asked(new RecordsModel<Asked>(columns(), this)),
+      m_asked(new Places(columns(), this)),
       m_table(new QTableView),
       m_withPresent(new QCheckBox(tr("Also w&hat was there")))
 {
     makeTable();
     m_withPresent->setObjectName(QStringLiteral("withPresent"));
     m_show = new SubjectButton(*m_table, [this](int row) {
-        const Asked& asked = m_asked->record(row);
-        return trace::CallSubject::of(asked.kind, asked.place, asked.name);
+        const Asked shown = asked(m_asked->record(row));
+        return trace::CallSubject::of(shown.kind, shown.place, shown.name);
     });
     auto* foot = new QHBoxLayout;
     foot->addWidget(m_withPresent);
@@ -77,6 +94,7 @@ AskedPane::AskedPane(QWidget* parent)
 void AskedPane::makeTable()
 {
     m_table->setModel(m_asked);
+    m_asked->sort(AskedColumn, Qt::DescendingOrder);
     m_table->setObjectName(QStringLiteral("asked"));
     m_table->setAccessibleName(tr("Asked for"));
     arrangeTable(*m_table);
@@ -84,29 +102,28 @@ void AskedPane::makeTable()
     columns.setSamples({QString(), QStringLiteral("HKEY_CURRENT_USER\\Maker"),
                         QStringLiteral("Name of a value"), QStringLiteral("100,000"),
                         QStringLiteral("100,000")});
-    columns.giveRestTo({1, 2});
+    columns.giveRestTo({PlaceColumn, NameColumn});
     m_hint = new EmptyHint(m_table, tr("The keys, values, entries of profiles and files that a "
                                        "library asked for and did not find."));
 }
 
-void AskedPane::setStatistics(const trace::Statistics& statistics)
+void AskedPane::showAsked(std::shared_ptr<trace::OpenRecording> recording)
 {
-    m_all = statistics.asked();
+    m_asked->setRecords({});
+    m_recording = std::move(recording);
     m_hint->setText(tr("Everything that was asked for was there."));
     showRows();
 }
 
 void AskedPane::showRows()
 {
-    const KeptPlace place(*m_table, [this](int row) {
-        const Asked& asked = m_asked->record(row);
-        return QString::number(static_cast<int>(asked.kind)) + asked.place + QLatin1Char('\n') +
-               asked.name;
-    });
-    std::vector<Asked> rows;
-    std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(rows), [this](const Asked& asked) {
-        return asked.absent > 0 || m_withPresent->isChecked();
-    });
+    std::vector<std::size_t> rows;
+    if (!m_recording)
+        return;
+    const std::vector<Asked>& all = m_recording->analysis().statistics().askedInOrder();
+    for (std::size_t place = 0; place < all.size(); ++place) {
+        if (all[place].absent > 0 || m_withPresent->isChecked())
+            rows.push_back(place);
+    }
     m_asked->setRecords(std::move(rows));
-    place.restore();
 }

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "trace/reading/Statistics.h"
+#include "trace/reading/OpenRecording.h"
 #include "window/PlaceRequest.h"
 #include "window/RecordsModel.h"
 
 #include <QWidget>
+
+#include <memory>
 
 class EmptyHint;
 class QCheckBox;
@@ -19,7 +21,8 @@ class AskedPane : public QWidget
 public:
     explicit AskedPane(QWidget* parent = nullptr);
 
-    void setStatistics(const trace::Statistics& statistics);
+    /// Shows what calls of the recording have asked for so far.
+    void showAsked(std::shared_ptr<trace::OpenRecording> recording);
 
 signals:
     void placeRequested(const PlaceRequest& request);
@@ -28,8 +31,16 @@ private:
     void makeTable();
     void showRows();
 
-    std::vector<trace::Statistics::AskedCount> m_all;
-    RecordsModel<trace::Statistics::AskedCount>* m_asked;
+    /// Records are places in the statistics, which may have very many.
+    using Places = RecordsModel<std::size_t>;
+
+    std::vector<RecordColumn<std::size_t>> columns() const;
+    RecordColumn<std::size_t> counted(const QString& title,
+                                      qint64 trace::Statistics::AskedCount::*number) const;
+    trace::Statistics::AskedCount asked(std::size_t place) const;
+
+    std::shared_ptr<trace::OpenRecording> m_recording;
+    Places* m_asked;
     QTableView* m_table;
     EmptyHint* m_hint;
     QCheckBox* m_withPresent;

@@ -1,5 +1,6 @@
 #include "pages/trace/CallFilterBar.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -68,6 +69,7 @@ QComboBox* CallFilterBar::makeChoice(const QString& name, const QString& all,
     auto* box = new QComboBox;
     box->setObjectName(QLatin1String(objectName));
     box->setAccessibleName(name);
+    box->view()->setAccessibleName(name);
     box->addItem(all);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(fewestCharacters);

@@ -20,8 +20,8 @@ CallTable::CallTable(QWidget* parent) : QTableView(parent), m_rows(new CallRows(
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     ColumnFit& columns = ColumnFit::of(*this);
     columns.setSamples({QStringLiteral("1000000"), QStringLiteral("libsample.so+0x1a2b"),
-                        QStringLiteral("RegQueryValueExW"), QStringLiteral("key = HKEY"),
-                        QStringLiteral("ERROR_SUCCESS"), QStringLiteral("999.9 us")});
+                        QStringLiteral("GetPrivateProfileStringW"), QStringLiteral("key = HKEY"),
+                        QStringLiteral("ERROR_FILE_NOT_FOUND.."), QStringLiteral("999.9 us")});
     columns.giveRestTo({CallRows::ArgumentsColumn});
     m_hint = new EmptyHint(this, QString());
     setRecording(nullptr);

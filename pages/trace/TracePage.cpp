@@ -34,6 +34,7 @@ TracePage::TracePage(QWidget* parent)
     connect(m_calls, &CallsPane::placeRequested, this, &Page::placeRequested);
     connect(m_leaks, &LeaksPane::placeRequested, this, &Page::placeRequested);
     connect(m_asked, &AskedPane::placeRequested, this, &Page::placeRequested);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &TracePage::showTab);
     connect(&m_follower, &JobRunner::finished, this, &TracePage::finishFollowing);
     setFocusProxy(m_file);
 }
@@ -94,11 +95,22 @@ void TracePage::showRecording(const QString& path, const Recording& recording)
 
 void TracePage::showComings()
 {
-    const trace::TraceAnalysis& analysis = m_recording->analysis();
-    m_operations->setStatistics(analysis.statistics());
-    m_asked->setStatistics(analysis.statistics());
-    m_leaks->setLeaks(analysis.leaks(), !m_recording->file().endLine().isEmpty());
+    showTab();
     markRead();
+}
+
+// What nobody sees is made when it comes into view: of a large recording it takes its time.
+void TracePage::showTab()
+{
+    if (!m_recording)
+        return;
+    const trace::TraceAnalysis& analysis = m_recording->analysis();
+    if (m_tabs->currentWidget() == m_operations)
+        m_operations->setStatistics(analysis.statistics());
+    else if (m_tabs->currentWidget() == m_asked)
+        m_asked->showAsked(m_recording);
+    else if (m_tabs->currentWidget() == m_leaks)
+        m_leaks->setLeaks(analysis.leaks(), !m_recording->file().endLine().isEmpty());
 }
 
 QString TracePage::counts() const

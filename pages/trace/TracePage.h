@@ -43,6 +43,7 @@ private:
     void read(const QString& path);
     void showRecording(const QString& path, const Recording& recording);
     void showComings();
+    void showTab();
     void finishFollowing();
     QString counts() const;
 

@@ -71,7 +71,7 @@ TEST_F(ShownSubjects, AnAbsentKeyIsToldOnTheRegistryPage)
 {
     take(usual().bytes());
     chooseTab(3);
-    choose("asked", 0);
+    choose("asked", 1);
     show();
     ASSERT_TRUE(comes<RegistryPage>());
     EXPECT_TRUE(becomes([this] { return status(); },

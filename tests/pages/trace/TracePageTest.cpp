@@ -221,8 +221,8 @@ TEST_F(TracePageTest, ListsWhatWasAskedForAndAbsent)
     take(usual().bytes());
     chooseTab(3);
     EXPECT_EQ(column("asked", 1),
-              QStringList({"HKEY_CURRENT_USER\\Nowhere", "HKEY_CURRENT_USER\\Harbour"}));
-    EXPECT_EQ(column("asked", 2), QStringList({"", "Colour"}));
+              QStringList({"HKEY_CURRENT_USER\\Harbour", "HKEY_CURRENT_USER\\Nowhere"}));
+    EXPECT_EQ(column("asked", 2), QStringList({"Colour", ""}));
     part<QCheckBox>("withPresent")->click();
     EXPECT_EQ(column("asked", 1).size(), 4);
 }
