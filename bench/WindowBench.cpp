@@ -1,6 +1,6 @@
-// The registry page on a store of 100,000 values, 10,000 of them in one key, and the files page on
-// a directory of 100,000 entries: how long they keep the event loop from turning, against a plain
-// table of as many rows.
+// The registry page on a store of 100,000 values, 10,000 of them in one key, the files page on a
+// directory of 100,000 entries, and the page of recordings on one of 1,000,000 calls: how long they
+// keep the event loop from turning, against a plain table of as many rows.
 
 #include "bench/Ratio.h"
 
@@ -14,7 +14,9 @@
 #include "inspection/registry/TypedAddress.h"
 #include "pages/files/FilesPage.h"
 #include "pages/registry/RegistryPage.h"
+#include "pages/trace/TracePage.h"
 #include "platform/PlatformServicesImp.h"
+#include "tests/support/RandomRecording.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -25,6 +27,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStringListModel>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
 
@@ -36,7 +39,9 @@ namespace {
 constexpr int valuesInOneKey = 10000;
 constexpr int values = 100000;
 constexpr int entries = 100000;
+constexpr int calls = 1000000;
 constexpr double longestStall = 100.0;
+constexpr double longestStallOfCalls = 50.0;
 
 // Written by another process, so that the page meets a store that was
 // read from its file.
@@ -62,9 +67,9 @@ double stall(const std::function<void()>& action)
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
 }
 
-void print(const char* what, double milliseconds)
+void print(const char* what, double milliseconds, double most = longestStall)
 {
-    std::printf("%-44s %7.1f ms without a turn (at most %.0f)\n", what, milliseconds, longestStall);
+    std::printf("%-44s %7.1f ms without a turn (at most %.0f)\n", what, milliseconds, most);
 }
 
 double longestScroll(QTableView& table)
@@ -73,6 +78,18 @@ double longestScroll(QTableView& table)
     QScrollBar* bar = table.verticalScrollBar();
     for (int at = 0; at <= bar->maximum(); at += bar->pageStep() * 4)
         longest = qMax(longest, stall([bar, at] { bar->setValue(at); }));
+    return longest;
+}
+
+// At places all over a table of very many rows.
+double longestJump(QTableView& table)
+{
+    constexpr int places = 100;
+    double longest = 0;
+    QScrollBar* bar = table.verticalScrollBar();
+    for (int place = 0; place <= places; ++place)
+        longest =
+            qMax(longest, stall([bar, place] { bar->setValue(bar->maximum() / places * place); }));
     return longest;
 }
 
@@ -150,6 +167,64 @@ void measureFilesPage()
     if (table->model()->rowCount() != entries)
         std::printf("unexpected rows\n");
     print("files page: scroll, the longest", longestScroll(*table));
+}
+
+// Until `isDone()` is true; the longest that one turn of the event loop took.
+template <typename Condition>
+double longestTurn(const std::function<void()>& action, Condition isDone)
+{
+    QElapsedTimer clock;
+    clock.start();
+    double longest = stall(action);
+    while (!isDone())
+        longest = qMax(longest, stall([] {}));
+    std::printf("%.1f s: ", static_cast<double>(clock.elapsed()) / 1e3);
+    return longest;
+}
+
+void printCalls(const char* what, double milliseconds)
+{
+    print(what, milliseconds, longestStallOfCalls);
+}
+
+void measureTracePage()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a.trace")));
+    if (!file.open(QIODevice::ReadWrite))
+        std::printf("cannot make %s\n", qUtf8Printable(file.fileName()));
+    file.write(RandomRecording(1).make(calls));
+    file.flush();
+    TracePage page;
+    page.resize(1000, 700);
+    page.show();
+    QApplication::processEvents();
+    auto* table = page.findChild<QTableView*>(QStringLiteral("calls"));
+    auto* text = page.findChild<QLineEdit*>(QStringLiteral("text"));
+    const auto hasAll = [&] { return !page.isBusy() && table->model()->rowCount() >= calls; };
+    const auto isStill = [&] { return !page.isSearching(); };
+    printCalls("trace page: open a million calls, the longest",
+               longestTurn([&] { page.openFile(file.fileName()); }, hasAll));
+    printCalls("trace page: scroll, the longest", longestJump(*table));
+    printCalls("trace page: type a text, the longest",
+               longestTurn([&] { text->setText(QStringLiteral("name7")); }, isStill));
+    printCalls("trace page: clear it, the longest", longestTurn([&] { text->clear(); }, hasAll));
+    const auto first = [&] { return table->model()->index(0, 0).data().toInt(); };
+    printCalls("trace page: sort, the longest",
+               longestTurn([&] { table->model()->sort(0, Qt::DescendingOrder); },
+                           [&] { return first() == calls; }));
+    printCalls("trace page: the original order, the longest",
+               longestTurn([&] { table->model()->sort(-1); }, [&] { return first() == 1; }));
+    auto* tabs = page.findChild<QTabWidget*>();
+    auto* asked = page.findChild<QTableView*>(QStringLiteral("asked"));
+    printCalls("trace page: what was absent, the longest",
+               longestTurn([tabs] { tabs->setCurrentIndex(3); },
+                           [asked] { return asked->model()->rowCount() > 0; }));
+    tabs->setCurrentIndex(0);
+    file.write(MadeRecording::line(calls + 1, MadeRecording::close("0x1")));
+    file.flush();
+    printCalls("trace page: follow, the longest",
+               longestTurn([] {}, [&] { return table->model()->rowCount() > calls; }));
 }
 
 // The work that looks at each name of one very large key.
@@ -236,6 +311,7 @@ int main(int argc, char** argv)
     setPlatformServices(&g_PlatformServices);
     benchmark::Initialize(&argc, argv);
     measureFilesPage();
+    measureTracePage();
     measureRegistryPage();
     measureHugeKey();
     return 0;

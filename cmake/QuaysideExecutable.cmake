@@ -6,7 +6,7 @@
 # (the last object of the crypto library), then the compiled-in resources. Linking them whole also
 # keeps what nothing references from inside, such as the exported decryption entry.
 set(quayside_archives
-  platform widgets support app regfile inspection window pages crypto resources)
+  platform widgets support app regfile inspection operations trace window pages crypto resources)
 
 add_executable(quayside ${PROJECT_SOURCE_DIR}/app/main.cpp)
 quayside_program(quayside)

@@ -45,7 +45,8 @@ else()
 endif()
 install(TARGETS
     quayside_support quayside_platform quayside_crypto quayside_widgets quayside_resources
-    quayside_app quayside_regfile quayside_inspection quayside_window quayside_pages
+    quayside_app quayside_regfile quayside_inspection quayside_operations quayside_trace
+    quayside_window quayside_pages
     quayside_headers
   EXPORT QuaysideTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}

@@ -16,6 +16,8 @@
 #include "pages/profiles/ProfilesPage.h"
 #include "pages/registry/RegistryGlyph.h"
 #include "pages/registry/RegistryPage.h"
+#include "pages/trace/TraceGlyph.h"
+#include "pages/trace/TracePage.h"
 #include "window/Page.h"
 
 #include <QCoreApplication>
@@ -76,6 +78,11 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("PageCatalogue",
                        "What has happened in this run of the program and in earlier ones, with "
                        "every change that was made from its window.")},
+    {"trace", QT_TRANSLATE_NOOP("PageCatalogue", "Tr&ace"), &drawTraceGlyph, &made<TracePage>,
+     QT_TRANSLATE_NOOP("PageCatalogue",
+                       "What host libraries asked the services for and what they were told, call "
+                       "by call, from a recording that may still be written: failures, time, what "
+                       "was never given back, and what was asked for and is not there.")},
 };
 
 } // namespace
@@ -96,5 +103,8 @@ QString pageForFile(const QString& path)
         return QStringLiteral("registry");
     if (path.endsWith(QLatin1String(".ini"), Qt::CaseInsensitive))
         return QStringLiteral("profiles");
+    if (path.endsWith(QLatin1String(".trace"), Qt::CaseInsensitive) ||
+        path.endsWith(QLatin1String(".qtrace"), Qt::CaseInsensitive))
+        return QStringLiteral("trace");
     return {};
 }

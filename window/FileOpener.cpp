@@ -11,6 +11,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -20,6 +21,15 @@ bool isDrag(const QEvent& event)
 {
     return event.type() == QEvent::DragEnter || event.type() == QEvent::DragMove ||
            event.type() == QEvent::Drop;
+}
+
+// The place of a page in the catalogue; negative where there is none of that name.
+int indexOf(const QString& name)
+{
+    const std::vector<PageEntry> pages = pageCatalogue();
+    const auto found = std::find_if(pages.begin(), pages.end(),
+                                    [&name](const PageEntry& page) { return page.name == name; });
+    return found == pages.end() ? -1 : static_cast<int>(found - pages.begin());
 }
 
 } // namespace
@@ -33,21 +43,27 @@ FileOpener::FileOpener(QWidget* window, PageRail* rail, PageStack* stack)
     connect(m_waiting, &QTimer::timeout, this, &FileOpener::deliver);
 }
 
-int FileOpener::pageFor(const QString& path) const
+int FileOpener::pageFor(const QString& path)
 {
-    const QString name = pageForFile(path);
-    const std::vector<PageEntry> pages = pageCatalogue();
-    const auto found = std::find_if(pages.begin(), pages.end(),
-                                    [&name](const PageEntry& page) { return page.name == name; });
-    return found == pages.end() ? -1 : static_cast<int>(found - pages.begin());
+    return indexOf(pageForFile(path));
 }
 
 void FileOpener::open(const QString& path)
 {
-    const int page = pageFor(path);
+    go(pageFor(path), [path](Page& page) { page.openFile(path); });
+}
+
+void FileOpener::showPlace(const PlaceRequest& request)
+{
+    go(indexOf(request.page), [request](Page& page) { page.showPlace(request); });
+}
+
+void FileOpener::go(int page, Errand errand)
+{
     if (page < 0)
         return;
-    m_path = path;
+    m_page = page;
+    m_errand = std::move(errand);
     m_rail->setChosen(page);
     m_stack->slideTo(page);
     m_waiting->start();
@@ -58,20 +74,19 @@ void FileOpener::open(const QString& path)
 // see that one.
 void FileOpener::deliver()
 {
-    const int index = pageFor(m_path);
-    if (m_rail->choice() != index)
+    if (m_rail->choice() != m_page)
         return m_waiting->stop();
-    Page* page = m_stack->current() == index ? m_stack->page(index) : nullptr;
+    Page* page = m_stack->current() == m_page ? m_stack->page(m_page) : nullptr;
     if (!page || page->isBusy() || QApplication::activeModalWidget())
         return;
     m_waiting->stop();
-    page->openFile(m_path);
+    m_errand(*page);
 }
 
-bool FileOpener::isForWindow(const QMimeData& data) const
+bool FileOpener::isForWindow(const QMimeData& data)
 {
     const QList<QUrl> urls = data.urls();
-    return std::any_of(urls.begin(), urls.end(), [this](const QUrl& url) {
+    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) {
         return url.isLocalFile() && pageFor(url.toLocalFile()) >= 0;
     });
 }

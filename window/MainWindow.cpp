@@ -73,6 +73,7 @@ MainWindow::MainWindow(QWidget* parent)
     connect(status, &StatusLine::helpRequested, this, &MainWindow::showHelp);
     addShortcuts(static_cast<int>(pages.size()));
     m_opener = new FileOpener(this, m_rail, m_stack);
+    connect(m_stack, &PageStack::placeRequested, m_opener, &FileOpener::showPlace);
     // A minimum of its own keeps a page that is built later from enlarging the window, which
     // start-up has centred by then.
     setMinimumSize(smallestWindow.expandedTo(minimumSizeHint()));

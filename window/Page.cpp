@@ -53,6 +53,8 @@ void Page::find() {}
 
 void Page::openFile(const QString& /*path*/) {}
 
+void Page::showPlace(const PlaceRequest& /*request*/) {}
+
 void Page::entered() {}
 
 void Page::takeFocus()

@@ -2,6 +2,7 @@
 
 #include "inspection/JobRunner.h"
 #include "window/PageContext.h"
+#include "window/PlaceRequest.h"
 
 #include <QBasicTimer>
 #include <QPointer>
@@ -58,6 +59,10 @@ public:
     /// view and no job runs. Does nothing by default.
     virtual void openFile(const QString& path);
 
+    /// Shows what another page has asked for by `placeRequested`, or says that it is not there.
+    /// Called as `openFile` is. Does nothing by default.
+    virtual void showPlace(const PlaceRequest& request);
+
     /// Told by the window whenever the page has become the one in view, first after its
     /// construction. Does nothing by default.
     virtual void entered();
@@ -78,6 +83,10 @@ public:
     void setStatus(const QString& text) override;
     void log(const QString& line) override;
     QUndoStack& undoStack() override { return m_changes; }
+
+signals:
+    /// Something is to be shown on another page, which comes into view for that.
+    void placeRequested(const PlaceRequest& request);
 
 protected:
     /// Where the page's widgets go; below it stands the line of `report`.

@@ -61,6 +61,7 @@ Page* PageStack::made(int index)
     Page* page = m_pages[static_cast<std::size_t>(index)].create(holder);
     setAccessibleRole(*page, QAccessible::PropertyPage);
     page->setAccessibleName(withoutMnemonic(m_pages[static_cast<std::size_t>(index)].title));
+    connect(page, &Page::placeRequested, this, &PageStack::placeRequested);
     holder->layout()->addWidget(page);
     page->show(); // left to the layout it would come too late for the keyboard focus
     return page;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/PageCatalogue.h"
+#include "window/PlaceRequest.h"
 
 #include <QWidget>
 
@@ -39,6 +40,8 @@ public:
 signals:
     /// A page has come into view, by a slide or when the window was shown first.
     void entered(int page);
+    /// A page has asked for something on another one.
+    void placeRequested(const PlaceRequest& request);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -2,15 +2,19 @@
 
 #include "ctl/Arguments.h"
 #include "ctl/Failure.h"
+#include "ctl/Interruption.h"
 #include "ctl/JobRun.h"
 #include "ctl/Output.h"
 #include "trace/reading/TraceReadingJob.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QThread>
 
 namespace {
 
 constexpr std::size_t mostFaultsTold = 5;
+constexpr unsigned long pause = 100; // milliseconds between two looks at an empty file
 
 class Texts
 {
@@ -38,6 +42,23 @@ std::unique_ptr<trace::TraceFile> RecordingArgument::read(const QString& file, c
     trace::TraceReadingJob job(*recording);
     finish(job);
     tellFaults(file, *recording, output);
+    return recording;
+}
+
+std::unique_ptr<trace::TraceFile> RecordingArgument::await(const QString& file)
+{
+    const auto isEmpty = [&file] {
+        const QFileInfo info(file);
+        return info.isFile() && info.size() == 0;
+    };
+    while (isEmpty()) {
+        if (Interruption::isAsked())
+            return nullptr;
+        QThread::msleep(pause);
+    }
+    auto recording = std::make_unique<trace::TraceFile>(file);
+    if (!recording->open())
+        throw Failure(recording->error());
     return recording;
 }
 

@@ -16,6 +16,11 @@ namespace RecordingArgument {
 /// cannot be read, or is none.
 std::unique_ptr<trace::TraceFile> read(const QString& file, const Output& output);
 
+/// The recording, of which little has been read, as one that is still written. Waits while its file
+/// is empty; null where the program is to end meanwhile. Throws a Failure where it cannot be read,
+/// or is none.
+std::unique_ptr<trace::TraceFile> await(const QString& file);
+
 /// The options --calls and --failures.
 void addFilterOptions(QCommandLineParser& parser);
 /// What they say. Throws a Failure where a set makes no sense.

@@ -2,7 +2,7 @@
 
 #include "inspection/crypto/DigestJob.h"
 #include "inspection/crypto/DigestNotes.h"
-#include "pages/crypto/CopyButton.h"
+#include "window/CopyButton.h"
 #include "pages/crypto/DigestSource.h"
 #include "window/Page.h"
 #include "window/ShownText.h"

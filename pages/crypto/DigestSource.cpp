@@ -21,7 +21,7 @@
 DigestSource::DigestSource(PageContext& context, QWidget* parent)
     : QWidget(parent),
       m_context(context),
-      m_fromFile(new QRadioButton(tr("Of &a file"))),
+      m_fromFile(new QRadioButton(tr("Of a fil&e"))),
       m_text(makeTextEdit(tr("Text"), tr("Type or paste a text, or drop a file here."))),
       m_path(new QLineEdit)
 {

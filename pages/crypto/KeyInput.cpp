@@ -37,11 +37,11 @@ void addSecret(const QString& caption, QLineEdit* field, QGridLayout* grid)
 KeyInput::KeyInput(PageContext& context, QWidget* parent)
     : QWidget(parent),
       m_context(context),
-      m_useKeys(new QRadioButton(tr("With key &and IV"))),
+      m_useKeys(new QRadioButton(tr("&With key and IV"))),
       m_passPhrase(new QLineEdit),
       m_key(new QLineEdit),
       m_iv(new QLineEdit),
-      m_hexadecimal(new QCheckBox(tr("&Written in hexadecimal")))
+      m_hexadecimal(new QCheckBox(tr("Written in hexadeci&mal")))
 {
     auto* usePassPhrase =
         new QRadioButton(tr("&Under a pass phrase, as DecryptionAES_Export does"));

@@ -1,6 +1,6 @@
 #include "pages/crypto/TextPane.h"
 
-#include "pages/crypto/CopyButton.h"
+#include "window/CopyButton.h"
 #include "window/ShownText.h"
 
 #include <QFontDatabase>

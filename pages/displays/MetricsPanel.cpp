@@ -48,7 +48,7 @@ QLayout* MetricsPanel::makeQuery()
     m_index->setRange(0, lastIndex);
     m_index->setAccessibleName(tr("Index of a metric"));
     m_value = new AnswerField(tr("Value"), QStringLiteral("value"));
-    auto* label = new QLabel(tr("&Any index:"));
+    auto* label = new QLabel(tr("Any ind&ex:"));
     label->setBuddy(m_index);
     auto* row = new QHBoxLayout;
     row->addWidget(label);

@@ -98,6 +98,13 @@ void FilesPage::find()
     m_pattern->selectAll();
 }
 
+void FilesPage::showPlace(const PlaceRequest& request)
+{
+    m_pattern->setText(request.place);
+    search();
+    m_paths->setPath(request.place);
+}
+
 void FilesPage::browse()
 {
     auto* dialog = new FileDialog(this, tr("Folder to search"), "files");

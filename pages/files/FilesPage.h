@@ -24,6 +24,8 @@ public:
     /// Searches again for the last pattern, and asks about the path again.
     void refresh() override;
     void find() override;
+    /// Searches for the place, which is a pattern or a path.
+    void showPlace(const PlaceRequest& request) override;
 
 protected:
     void lookForChanges() override;

@@ -141,7 +141,7 @@ QWidget* FontsPage::makeMapping()
     m_localName->setPlaceholderText(tr("A registered face name"));
     auto* box = new QGroupBox(tr("Name mapping"));
     auto* row = new QHBoxLayout(box);
-    auto* local = new QLabel(tr("Loc&al name:"));
+    auto* local = new QLabel(tr("Local na&me:"));
     local->setBuddy(m_localName);
     row->addWidget(local);
     row->addWidget(m_localName, 1);

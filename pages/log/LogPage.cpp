@@ -85,7 +85,7 @@ QLayout* LogPage::makeControls()
     m_text->setClearButtonEnabled(true);
     auto* caption = new QLabel(tr("&Show:"));
     caption->setBuddy(m_level);
-    auto* save = glowing(new QPushButton(tr("S&ave as...")));
+    auto* save = glowing(new QPushButton(tr("Sa&ve as...")));
     auto* line = new QHBoxLayout;
     line->addWidget(caption);
     line->addWidget(m_level);

@@ -52,7 +52,7 @@ void ProfileEditPanel::addLastRow(QGridLayout* grid)
     m_family->setAccessibleName(tr("Family to write through"));
     m_family->view()->setAccessibleName(m_family->accessibleName());
     m_family->addItems({tr("Wide family"), tr("Narrow family")});
-    auto* label = new QLabel(tr("Thro&ugh:"));
+    auto* label = new QLabel(tr("Throu&gh:"));
     label->setBuddy(m_family);
     m_backup->setObjectName(QStringLiteral("backup"));
     m_backup->setChecked(true);

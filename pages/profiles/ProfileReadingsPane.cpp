@@ -37,7 +37,7 @@ ProfileReadingsPane::ProfileReadingsPane(PageContext& page, QWidget* parent)
       m_hint(new EmptyHint(m_table, QString())),
       m_onlyDifferences(new QCheckBox(tr("Onl&y differences"))),
       m_next(glowing(new QPushButton(tr("Next difference")))),
-      m_all(glowing(new QPushButton(tr("Re&ad all values")))),
+      m_all(glowing(new QPushButton(tr("Read all val&ues")))),
       m_queue(new ProfileReadingQueue(this))
 {
     makeTable();

@@ -43,7 +43,7 @@ ProfilesPage::ProfilesPage(QWidget* parent)
     splitter->setSizes({3000, 2000}); // shares: where the window is low, lines come first
     body()->addWidget(splitter, 1);
     body()->addWidget(m_panel);
-    connect(m_file, &ProfileFileBar::openRequested, this, &ProfilesPage::open);
+    connect(m_file, &ProfileFileBar::openRequested, this, &ProfilesPage::openFile);
     connect(m_lines, &ProfileLinesPane::lineChosen, this, &ProfilesPage::showLine);
     connect(m_readings, &ProfileReadingsPane::nameChosen, this, &ProfilesPage::showName);
     connect(m_readings, &ProfileReadingsPane::answered, this, &ProfilesPage::updateReading);
@@ -82,7 +82,15 @@ void ProfilesPage::openFile(const QString& path)
     open(path);
 }
 
-void ProfilesPage::open(const QString& path)
+void ProfilesPage::showPlace(const PlaceRequest& request)
+{
+    std::optional<ProfileDocument::Name> name;
+    if (request.names.size() == 2)
+        name.emplace(request.names[0], request.names[1]);
+    open(request.place, name);
+}
+
+void ProfilesPage::open(const QString& path, const std::optional<ProfileDocument::Name>& name)
 {
     if (isBusy())
         return;
@@ -96,6 +104,10 @@ void ProfilesPage::open(const QString& path)
     const QString whole = QFileInfo(path).absoluteFilePath();
     m_file->setPath(whole);
     m_place = whole == m_path ? currentPlace() : Place();
+    if (name) {
+        m_place = Place();
+        m_place.name = name;
+    }
     read(whole);
 }
 

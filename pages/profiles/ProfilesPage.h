@@ -26,10 +26,13 @@ public:
     explicit ProfilesPage(QWidget* parent = nullptr);
     ~ProfilesPage() override;
 
-    /// Opens a file, or refuses it, keeps the one that is open and leaves what is typed.
-    void open(const QString& path);
+    /// Opens a file and chooses a name in it, or refuses it, keeps the one that is open and leaves
+    /// what is typed.
+    void open(const QString& path, const std::optional<ProfileDocument::Name>& name = std::nullopt);
 
     void openFile(const QString& path) override;
+    /// Opens a profile, and chooses the entry of the section and the name that are given.
+    void showPlace(const PlaceRequest& request) override;
 
     /// Reads the file again.
     void refresh() override;

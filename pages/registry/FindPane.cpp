@@ -45,7 +45,7 @@ FindPane::FindPane(PageContext& page, QWidget* parent)
       m_hits(new RecordsModel<Hit>(columns(), this)),
       m_text(new QLineEdit),
       m_inKeys(new QCheckBox(tr("&Keys"))),
-      m_inNames(new QCheckBox(tr("N&ames"))),
+      m_inNames(new QCheckBox(tr("Names"))),
       m_inData(new QCheckBox(tr("&Values"))),
       m_mindsCase(new QCheckBox(tr("Match &upper/lower case"))),
       m_wholeWords(new QCheckBox(tr("W&hole words"))),

@@ -2,8 +2,10 @@
 
 #include "inspection/registry/RawStore.h"
 #include "inspection/registry/RedirectedName.h"
+#include "inspection/registry/RegistryPath.h"
 #include "inspection/registry/StoreFault.h"
 #include "inspection/registry/StoreOpeningJob.h"
+#include "inspection/registry/TypedAddress.h"
 #include "pages/registry/AddressBar.h"
 #include "pages/registry/FindPane.h"
 #include "pages/registry/KeyTree.h"
@@ -180,6 +182,28 @@ void RegistryPage::follow()
     m_isFollowing = false;
 }
 
+// A store that is still being opened is gone to later.
+void RegistryPage::showPlace(const PlaceRequest& request)
+{
+    m_wanted = request;
+    if (m_isListed)
+        goToWanted();
+}
+
+void RegistryPage::goToWanted()
+{
+    const PlaceRequest wanted = std::exchange(m_wanted, {});
+    const QStringList paths = pathsOfAddress(wanted.place);
+    if (paths.isEmpty())
+        return;
+    goTo(paths.first(), wanted.names.value(0));
+    if (m_tree->path() != paths.first())
+        report(Report::Warning, tr("There is no key %1: the nearest one above it is shown.")
+                                    .arg(RegistryPath::shown(paths.first())));
+    else if (!wanted.names.isEmpty() && !m_table->current())
+        report(Report::Warning, tr("The key has no value %1.").arg(wanted.names.first()));
+}
+
 void RegistryPage::openFile(const QString& path)
 {
     m_actions->importFrom(path);
@@ -202,6 +226,8 @@ void RegistryPage::refreshEntered()
     refresh();
     reportStore();
     m_follower->look();
+    if (!m_wanted.place.isEmpty())
+        goToWanted();
 }
 
 // Opening a large store takes long. It begins after the page has been painted, and the page is

@@ -26,6 +26,8 @@ public:
     void find() override;
     void entered() override;
     void lookForChanges() override;
+    /// Goes to a key, and to the value that is named.
+    void showPlace(const PlaceRequest& request) override;
     /// Shows what importing the file would do.
     void openFile(const QString& path) override;
 
@@ -46,6 +48,7 @@ private:
     void openStore();
     void refreshEntered();
     void reportStore();
+    void goToWanted();
 
     StoreWatch m_watch;
     KeyTree* m_tree;
@@ -59,4 +62,5 @@ private:
     std::unique_ptr<StoreOpeningJob> m_opening; ///< null until the store is opened
     JobRunner m_openingRunner;
     bool m_isListed = false; ///< the store has been listed
+    PlaceRequest m_wanted;   ///< before that; its place is empty where there is none
 };

@@ -72,6 +72,57 @@
     </message>
 </context>
 <context>
+    <name>AskedPane</name>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Entry of a profile</source>
+        <translation>配置文件条目</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Asked for</source>
+        <translation>请求次数</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>不存在</translation>
+    </message>
+    <message>
+        <source>Also w&amp;hat was there</source>
+        <translation>包括存在的内容(&amp;H)</translation>
+    </message>
+    <message>
+        <source>The keys, values, entries of profiles and files that a library asked for and did not find.</source>
+        <translation>库请求了却没有找到的键、值、配置文件条目和文件。</translation>
+    </message>
+    <message>
+        <source>Everything that was asked for was there.</source>
+        <translation>请求的内容都存在。</translation>
+    </message>
+</context>
+<context>
     <name>BackupBox</name>
     <message>
         <source>&amp;Back the store up first, to %1</source>
@@ -209,10 +260,111 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>CallDetails</name>
+    <message>
+        <source>Arguments:</source>
+        <translation>参数：</translation>
+    </message>
+    <message>
+        <source>Written by the service:</source>
+        <translation>服务写入：</translation>
+    </message>
+    <message>
+        <source>Call %1: %2, a procedure of the library</source>
+        <translation>调用 %1：%2，库的一个过程</translation>
+    </message>
+    <message>
+        <source>Call %1: %2 (%3)</source>
+        <translation>调用 %1：%2（%3）</translation>
+    </message>
+    <message>
+        <source>Caller: %1</source>
+        <translation>调用者：%1</translation>
+    </message>
+    <message>
+        <source>Entered: %1 after the start, in thread %2</source>
+        <translation>进入：开始后 %1，线程 %2</translation>
+    </message>
+    <message>
+        <source>Within call: %1</source>
+        <translation>位于调用之内：%1</translation>
+    </message>
+    <message>
+        <source>It never returned.</source>
+        <translation>此调用未返回。</translation>
+    </message>
+    <message>
+        <source>Took: %1</source>
+        <translation>用时：%1</translation>
+    </message>
+    <message>
+        <source>Result: %1</source>
+        <translation>返回值：%1</translation>
+    </message>
+</context>
+<context>
     <name>CallFilter</name>
     <message>
         <source>&quot;%1&quot; names no calls. Wanted are numbers such as 17 or 10-20, and op:NAME, caller:TEXT, manager:NAME or thread:NUMBER.</source>
         <translation>“%1”不表示任何调用。应为 17 或 10-20 这样的编号，以及 op:NAME、caller:TEXT、manager:NAME 或 thread:NUMBER。</translation>
+    </message>
+</context>
+<context>
+    <name>CallFilterBar</name>
+    <message>
+        <source>Library</source>
+        <translation>库</translation>
+    </message>
+    <message>
+        <source>All libraries</source>
+        <translation>所有库</translation>
+    </message>
+    <message>
+        <source>Manager</source>
+        <translation>管理器</translation>
+    </message>
+    <message>
+        <source>All managers</source>
+        <translation>所有管理器</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>All operations</source>
+        <translation>所有操作</translation>
+    </message>
+    <message>
+        <source>Failures onl&amp;y</source>
+        <translation>仅失败(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Calls that failed, and calls that never returned</source>
+        <translation>失败的调用和未返回的调用</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>要查找的文本</translation>
+    </message>
+</context>
+<context>
+    <name>CallPane</name>
+    <message>
+        <source>Here ends what is shown. The button Copy copies all %L1 characters.</source>
+        <translation>显示到此为止。“复制”按钮会复制全部 %L1 个字符。</translation>
+    </message>
+    <message>
+        <source>the call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>The chosen call</source>
+        <translation>所选的调用</translation>
+    </message>
+    <message>
+        <source>Choose a call: all that was recorded of it stands here.</source>
+        <translation>选择一个调用：这里显示记录下来的全部内容。</translation>
     </message>
 </context>
 <context>
@@ -243,10 +395,71 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>CallRows</name>
+    <message>
+        <source>Call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Caller</source>
+        <translation>调用者</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>返回值</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>用时</translation>
+    </message>
+    <message>
+        <source>The line of this call is damaged.</source>
+        <translation>此调用所在的行已损坏。</translation>
+    </message>
+    <message>
+        <source>never returned</source>
+        <translation>未返回</translation>
+    </message>
+</context>
+<context>
+    <name>CallTable</name>
+    <message>
+        <source>Calls</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>No call of the recording is like this.</source>
+        <translation>记录中没有这样的调用。</translation>
+    </message>
+    <message>
+        <source>Open a recording, or drop one here: what host libraries asked and what they were told, call by call. &quot;quaysidectl trace record PROGRAM&quot; makes one.</source>
+        <translation>打开一个记录文件，或将其拖到此处：逐个调用显示主机库请求了什么、得到了什么。“quaysidectl trace record PROGRAM”可生成记录文件。</translation>
+    </message>
+</context>
+<context>
     <name>CallText</name>
     <message>
         <source>(never returned)</source>
         <translation>（未返回）</translation>
+    </message>
+</context>
+<context>
+    <name>CallsPane</name>
+    <message>
+        <source>Searching: %L1 so far</source>
+        <translation>正在查找：目前 %L1 个</translation>
+    </message>
+    <message>
+        <source>Calls: %L1 of %L2</source>
+        <translation>调用：%L1 个，共 %L2 个</translation>
     </message>
 </context>
 <context>
@@ -896,10 +1109,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>文本(&amp;X)</translation>
     </message>
     <message>
-        <source>Of &amp;a file</source>
-        <translation>文件(&amp;A)</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>文本</translation>
     </message>
@@ -926,6 +1135,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>the text</source>
         <translation>文本</translation>
+    </message>
+    <message>
+        <source>Of a fil&amp;e</source>
+        <translation>文件(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -1201,10 +1414,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>第 %L1 处，共 %L2 处（F3：下一处，Shift+F3：上一处）。</translation>
     </message>
     <message>
-        <source>N&amp;ames</source>
-        <translation>名称(&amp;A)</translation>
-    </message>
-    <message>
         <source>&amp;Values</source>
         <translation>值(&amp;V)</translation>
     </message>
@@ -1227,6 +1436,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Choose where to search: in keys, in names, in values, or in several.</source>
         <translation>请选择查找范围：项、名称、值，或其中几种。</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>名称</translation>
     </message>
 </context>
 <context>
@@ -1348,10 +1561,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>名称映射</translation>
     </message>
     <message>
-        <source>Loc&amp;al name:</source>
-        <translation>本地名称(&amp;A)：</translation>
-    </message>
-    <message>
         <source>Global name:</source>
         <translation>全局名称：</translation>
     </message>
@@ -1406,6 +1615,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Preview</source>
         <translation>预览</translation>
+    </message>
+    <message>
+        <source>Local na&amp;me:</source>
+        <translation>本地名称(&amp;M)：</translation>
     </message>
 </context>
 <context>
@@ -2143,10 +2356,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>密码短语(&amp;S)：</translation>
     </message>
     <message>
-        <source>&amp;Written in hexadecimal</source>
-        <translation>以十六进制书写(&amp;W)</translation>
-    </message>
-    <message>
         <source>I&amp;V:</source>
         <translation>初始向量(&amp;V)：</translation>
     </message>
@@ -2155,16 +2364,20 @@ Put it in the place of the file to bring everything back.</source>
         <translation>请先输入密码短语。</translation>
     </message>
     <message>
-        <source>With key &amp;and IV</source>
-        <translation>使用密钥和初始向量(&amp;A)</translation>
-    </message>
-    <message>
         <source>&amp;Key:</source>
         <translation>密钥(&amp;K)：</translation>
     </message>
     <message>
         <source>Show what is typ&amp;ed</source>
         <translation>显示输入内容(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;With key and IV</source>
+        <translation>使用密钥和初始向量(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Written in hexadeci&amp;mal</source>
+        <translation>以十六进制书写(&amp;M)</translation>
     </message>
 </context>
 <context>
@@ -2289,6 +2502,69 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Keys</source>
         <translation>项</translation>
+    </message>
+</context>
+<context>
+    <name>LeaksPane</name>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Graphics object</source>
+        <translation>图形对象</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation>数组</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>Made for</source>
+        <translation>用于</translation>
+    </message>
+    <message>
+        <source>Handle</source>
+        <translation>句柄</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Caller</source>
+        <translation>调用者</translation>
+    </message>
+    <message>
+        <source>Leaks</source>
+        <translation>泄漏</translation>
+    </message>
+    <message>
+        <source>What was opened or made and never given back, with the call that made it.</source>
+        <translation>打开或创建后从未归还的对象，以及创建它的调用。</translation>
+    </message>
+    <message>
+        <source>Everything that was opened or made has been given back.</source>
+        <translation>打开或创建的对象都已归还。</translation>
+    </message>
+    <message>
+        <source>The recording has no end: the program is still running, or was killed.</source>
+        <translation>记录没有结尾：程序仍在运行，或已被终止。</translation>
+    </message>
+    <message>
+        <source>A recording does not show whether an array was freed.</source>
+        <translation>记录文件无法显示数组是否已释放。</translation>
     </message>
 </context>
 <context>
@@ -2546,10 +2822,6 @@ Put it in the place of the file to bring everything back.</source>
         <translation>显示(&amp;S)：</translation>
     </message>
     <message>
-        <source>S&amp;ave as...</source>
-        <translation>另存为(&amp;A)...</translation>
-    </message>
-    <message>
         <source>Reading the log</source>
         <translation>正在读取日志</translation>
     </message>
@@ -2596,6 +2868,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Lines shown: %L1 of %L2</source>
         <translation>显示 %L1 行，共 %L2 行</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve as...</source>
+        <translation>另存为(&amp;V)...</translation>
     </message>
 </context>
 <context>
@@ -2650,12 +2926,12 @@ Put it in the place of the file to bring everything back.</source>
         <translation>度量索引</translation>
     </message>
     <message>
-        <source>&amp;Any index:</source>
-        <translation>任意索引(&amp;A)：</translation>
-    </message>
-    <message>
         <source>GetSystemMetrics answers %1</source>
         <translation>GetSystemMetrics 返回 %1</translation>
+    </message>
+    <message>
+        <source>Any ind&amp;ex:</source>
+        <translation>任意索引(&amp;E)：</translation>
     </message>
 </context>
 <context>
@@ -2731,6 +3007,57 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
+    </message>
+</context>
+<context>
+    <name>OperationsPane</name>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Manager</source>
+        <translation>管理器</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>调用次数</translation>
+    </message>
+    <message>
+        <source>Failures</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Never returned</source>
+        <translation>未返回</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>最长</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>always the same result</source>
+        <translation>返回值始终相同</translation>
+    </message>
+    <message>
+        <source>Operations that are not supported have the same result for all arguments.</source>
+        <translation>不支持的操作对所有参数都返回同样的结果。</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>How often each operation was called, how often it failed, and how long it took.</source>
+        <translation>每个操作被调用、失败的次数，以及所用的时间。</translation>
     </message>
 </context>
 <context>
@@ -3073,6 +3400,14 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>What has happened in this run of the program and in earlier ones, with every change that was made from its window.</source>
         <translation>本程序此次及以往运行中发生了什么，包括在其窗口中所做的每一处更改。</translation>
+    </message>
+    <message>
+        <source>Tr&amp;ace</source>
+        <translation>跟踪(&amp;A)</translation>
+    </message>
+    <message>
+        <source>What host libraries asked the services for and what they were told, call by call, from a recording that may still be written: failures, time, what was never given back, and what was asked for and is not there.</source>
+        <translation>主机库向服务请求了什么、得到了什么，逐个调用显示，来自可能仍在写入的记录文件：失败、用时、从未归还的对象，以及请求了却不存在的内容。</translation>
     </message>
 </context>
 <context>
@@ -3470,10 +3805,6 @@ Wide: %2</source>
         <translation>窄字符接口</translation>
     </message>
     <message>
-        <source>Thro&amp;ugh:</source>
-        <translation>通过(&amp;U)：</translation>
-    </message>
-    <message>
         <source>&amp;Write</source>
         <translation>写入(&amp;W)</translation>
     </message>
@@ -3504,6 +3835,10 @@ Wide: %2</source>
     <message>
         <source>Not read yet</source>
         <translation>尚未读取</translation>
+    </message>
+    <message>
+        <source>Throu&amp;gh:</source>
+        <translation>通过(&amp;G)：</translation>
     </message>
 </context>
 <context>
@@ -3829,10 +4164,6 @@ Wide: %2</source>
         <translation>仅显示差异(&amp;Y)</translation>
     </message>
     <message>
-        <source>Re&amp;ad all values</source>
-        <translation>读取所有值(&amp;A)</translation>
-    </message>
-    <message>
         <source>What the wide and the narrow calls read stands here side by side.</source>
         <translation>宽字符接口和窄字符接口读到的内容在此并排显示。</translation>
     </message>
@@ -3879,6 +4210,10 @@ Wide: %2</source>
     <message>
         <source>Of the values that have been asked for, none is read differently.</source>
         <translation>已读取的值中没有读取结果不同的。</translation>
+    </message>
+    <message>
+        <source>Read all val&amp;ues</source>
+        <translation>读取所有值(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -4065,6 +4400,48 @@ Wide: %2</source>
     <message>
         <source>Only calls that failed or never returned.</source>
         <translation>只取失败或未返回的调用。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBar</name>
+    <message>
+        <source>File of the recording</source>
+        <translation>记录文件的路径</translation>
+    </message>
+    <message>
+        <source>Path of a recording</source>
+        <translation>记录文件路径</translation>
+    </message>
+    <message>
+        <source>Fil&amp;e:</source>
+        <translation>文件(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>Ope&amp;n...</source>
+        <translation>打开(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Open a recording</source>
+        <translation>打开记录文件</translation>
+    </message>
+    <message>
+        <source>Recordings (*.trace)</source>
+        <translation>记录文件 (*.trace)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingJob</name>
+    <message>
+        <source>Calls looked through: %1</source>
+        <translation>已检查的调用：%1</translation>
+    </message>
+    <message>
+        <source>Calls read: %1</source>
+        <translation>已读取的调用：%1</translation>
     </message>
 </context>
 <context>
@@ -4600,6 +4977,14 @@ Wide: %2</source>
         <source>What is set under one of HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE and HKEY_USERS is found under each of them.</source>
         <translation>在 HKEY_CLASSES_ROOT、HKEY_CURRENT_USER、HKEY_LOCAL_MACHINE 和 HKEY_USERS 其中一个下设置的内容，在每一个下都能找到。</translation>
     </message>
+    <message>
+        <source>There is no key %1: the nearest one above it is shown.</source>
+        <translation>没有键 %1：显示的是其上方最近的键。</translation>
+    </message>
+    <message>
+        <source>The key has no value %1.</source>
+        <translation>此键没有值 %1。</translation>
+    </message>
 </context>
 <context>
     <name>RegistryRemover</name>
@@ -5111,6 +5496,33 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>SubjectButton</name>
+    <message>
+        <source>Show the key %1</source>
+        <translation>显示键 %1</translation>
+    </message>
+    <message>
+        <source>Show the profile %1</source>
+        <translation>显示配置文件 %1</translation>
+    </message>
+    <message>
+        <source>Show the files %1</source>
+        <translation>显示文件 %1</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w</source>
+        <translation>显示(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Show on its page</source>
+        <translation>在其页面上显示</translation>
+    </message>
+    <message>
+        <source>Shows the key, the profile or the files of a call on their page</source>
+        <translation>在相应页面上显示调用所涉及的键、配置文件或文件</translation>
+    </message>
+</context>
+<context>
     <name>SystemMetrics</name>
     <message>
         <source>0 (not provided)</source>
@@ -5186,6 +5598,10 @@ Wide: %2</source>
         <source>Only calls whose line matches this regular expression.</source>
         <translation>只取其行与此正则表达式匹配的调用。</translation>
     </message>
+    <message>
+        <source>Goes on with the calls as they come, until the recording has ended or the command is interrupted.</source>
+        <translation>继续显示新的调用，直到记录结束或命令被中断。</translation>
+    </message>
 </context>
 <context>
     <name>TraceFault</name>
@@ -5230,6 +5646,61 @@ Wide: %2</source>
     <message>
         <source>The recording has no end: the program was still running, or was killed.</source>
         <translation>记录没有结尾：程序仍在运行，或已被终止。</translation>
+    </message>
+</context>
+<context>
+    <name>TracePage</name>
+    <message>
+        <source>What is shown of the recording</source>
+        <translation>记录的显示内容</translation>
+    </message>
+    <message>
+        <source>Call&amp;s</source>
+        <translation>调用(&amp;S)</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics</source>
+        <translation>统计(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Lea&amp;ks</source>
+        <translation>泄漏(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Asked for and a&amp;bsent</source>
+        <translation>请求但不存在(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Type the path of a file first.</source>
+        <translation>请先输入文件路径。</translation>
+    </message>
+    <message>
+        <source>%1 is a bundle. Take the recording out of it first: &quot;quaysidectl trace trim --calls 1- BUNDLE FILE&quot; writes it into a file.</source>
+        <translation>%1 是一个包。请先取出其中的记录：“quaysidectl trace trim --calls 1- BUNDLE FILE”会将其写入文件。</translation>
+    </message>
+    <message>
+        <source>Reading the recording</source>
+        <translation>正在读取记录文件</translation>
+    </message>
+    <message>
+        <source>Stopped before the recording was read.</source>
+        <translation>在读完记录文件之前已停止。</translation>
+    </message>
+    <message>
+        <source>Calls: %L1.</source>
+        <translation>调用：%L1 个。</translation>
+    </message>
+    <message>
+        <source>The recording has no end: the program is still running, or was killed. What is added to it appears here.</source>
+        <translation>记录没有结尾：程序仍在运行，或已被终止。新增的内容会显示在这里。</translation>
+    </message>
+    <message>
+        <source>Lines that cannot be read: %L1. %2</source>
+        <translation>无法读取的行：%L1。%2</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 不是普通文件。</translation>
     </message>
 </context>
 <context>

@@ -116,7 +116,7 @@ TEST_F(FileDialogs, BrowseTakesTheChosenFileForItsDigests)
     const WindowProbe probe("crypto");
     probe.page().findChild<QTabWidget*>()->setCurrentIndex(1);
     for (QRadioButton* choice : probe.page().findChildren<QRadioButton*>()) {
-        if (choice->text() == "Of &a file")
+        if (choice->text() == "Of a fil&e")
             choice->click();
     }
     answer(probe, "Bro&wse...", FileDialogAnswer(m_files.path()));
@@ -134,7 +134,7 @@ TEST_F(FileDialogs, SaveAsWritesTheLinesShown)
     ASSERT_TRUE(probe.settle());
     probe.page().findChild<QComboBox*>()->setCurrentIndex(3); // errors only
     const FileDialogAnswer dialog(path("saved"));
-    answer(probe, "S&ave as...", dialog);
+    answer(probe, "Sa&ve as...", dialog);
     ASSERT_TRUE(probe.settle());
     EXPECT_EQ(dialog.proposed().toStdString(), "quayside.log");
     const QByteArray saved = ProfileFixture::bytesOf(path("saved.log"));
@@ -147,13 +147,13 @@ TEST_F(FileDialogs, OpenAtHomeAndThenWhereTheLastOneForTheSamePurposeWasLeft)
 {
     const WindowProbe probe("log");
     const FileDialogAnswer first(path("one"));
-    answer(probe, "S&ave as...", first);
+    answer(probe, "Sa&ve as...", first);
     EXPECT_EQ(first.folder(), QDir::homePath());
     const FileDialogAnswer second({});
-    answer(probe, "S&ave as...", second);
+    answer(probe, "Sa&ve as...", second);
     EXPECT_EQ(second.folder(), m_files.folder());
     const FileDialogAnswer third({});
-    answer(probe, "S&ave as...", third);
+    answer(probe, "Sa&ve as...", third);
     EXPECT_EQ(third.folder(), m_files.folder()) << "what is cancelled changes nothing";
 }
 
@@ -162,7 +162,7 @@ TEST_F(FileDialogs, OfANewWindowRememberNothing)
     for (const char* file : {"one", "two"}) {
         const WindowProbe probe("log");
         const FileDialogAnswer dialog(path(file));
-        answer(probe, "S&ave as...", dialog);
+        answer(probe, "Sa&ve as...", dialog);
         EXPECT_EQ(dialog.folder(), QDir::homePath());
     }
 }
@@ -207,7 +207,7 @@ INSTANTIATE_TEST_SUITE_P(
     Buttons, CancelledFileDialog,
     testing::Values(Dialog{"registry", "E&xport..."}, Dialog{"registry", "I&mport..."},
                     Dialog{"profiles", "Ope&n..."}, Dialog{"files", "&Browse..."},
-                    Dialog{"log", "S&ave as..."}),
+                    Dialog{"log", "Sa&ve as..."}),
     [](const auto& row) { return std::string(row.param.page) + std::to_string(row.index); });
 
 } // namespace

@@ -128,7 +128,7 @@ TEST_F(KeyboardOnly, TheLogIsFilteredAndSaved)
     const auto* table = page()->findChild<QTableView*>();
     ASSERT_TRUE(waitFor([table] { return table->model()->rowCount() == 1; }))
         << table->model()->rowCount();
-    press({"alt+a"});
+    press({"alt+v"});
     ASSERT_TRUE(waitFor([] {
         return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) &&
                QApplication::activeModalWidget()->isActiveWindow();

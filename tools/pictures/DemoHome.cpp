@@ -2,6 +2,7 @@
 
 #include "app/ApplicationLog.h"
 #include "host/HostLibraries.h"
+#include "tools/pictures/DemoRecording.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -99,6 +100,7 @@ DemoHome::DemoHome()
         qunsetenv(variable);
     tzset();
     write(file(QStringLiteral("scanner.ini")), profile);
+    write(file(QStringLiteral("crane.trace")), demoRecording(home.toUtf8()));
     fillOrders();
 }
 

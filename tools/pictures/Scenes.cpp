@@ -83,6 +83,14 @@ void arrangeLog(PageDriver& driver)
     driver.settle();
 }
 
+// A value that the library asks for, and that is not there.
+void arrangeTrace(PageDriver& driver)
+{
+    driver.enter("file", DemoHome::file(QStringLiteral("crane.trace")));
+    driver.settle();
+    driver.control<QTableView>("calls").selectRow(2);
+}
+
 struct Scene
 {
     const char* page; ///< its name in the catalogue
@@ -92,7 +100,7 @@ struct Scene
 constexpr Scene scenes[] = {
     {"registry", &arrangeRegistry}, {"profiles", &arrangeProfiles}, {"files", &arrangeFiles},
     {"fonts", &arrangeFonts},       {"displays", &arrangeDisplays}, {"input", &arrangeInput},
-    {"crypto", &arrangeCrypto},     {"log", &arrangeLog},
+    {"crypto", &arrangeCrypto},     {"log", &arrangeLog},           {"trace", &arrangeTrace},
 };
 
 } // namespace

@@ -97,18 +97,18 @@ bool isAbsentFrom(const Call& call, Absence absence, bool isFailure)
     return false;
 }
 
-QString keyOf(const Call& call, const HandleTable& handles)
+QString keyOf(const Call& call, const AskedFor::PathOf& pathOf)
 {
     const RecordedValue& key = call.arguments.member("key");
-    return key.isNull() ? QStringLiteral("null") : handles.path(key.textOf("handle"));
+    return key.isNull() ? QStringLiteral("null") : pathOf(key.textOf("handle"));
 }
 
 // As the handles of the keys are described.
-QString subKeyOf(const Call& call, const Row& row, const HandleTable& handles)
+QString subKeyOf(const Call& call, const Row& row, const AskedFor::PathOf& pathOf)
 {
     QString name = argument(call, row.name);
     name.replace(QLatin1Char('/'), QLatin1Char('\\'));
-    const QString key = keyOf(call, handles);
+    const QString key = keyOf(call, pathOf);
     return name.isEmpty() ? key : key + QLatin1Char('\\') + name;
 }
 
@@ -121,15 +121,20 @@ bool AskedFor::isConcerned(const QString& operation)
 
 std::optional<AskedFor> AskedFor::of(const Call& call, bool isFailure, const HandleTable& handles)
 {
+    return of(call, isFailure, [&handles](const QString& handle) { return handles.path(handle); });
+}
+
+std::optional<AskedFor> AskedFor::of(const Call& call, bool isFailure, const PathOf& pathOf)
+{
     const Row* const row = rowOf(call.operation);
     const bool isFile = row && row->kind == Kind::File;
     if (!row || !call.hasReturned() || (isFile && call.arguments.member(row->name).isNull()))
         return {};
     const bool isAbsent = isAbsentFrom(call, row->absence, isFailure);
     switch (row->kind) {
-    case Kind::Key: return AskedFor{row->kind, subKeyOf(call, *row, handles), {}, isAbsent};
+    case Kind::Key: return AskedFor{row->kind, subKeyOf(call, *row, pathOf), {}, isAbsent};
     case Kind::Value:
-        return AskedFor{row->kind, keyOf(call, handles), argument(call, row->name), isAbsent};
+        return AskedFor{row->kind, keyOf(call, pathOf), argument(call, row->name), isAbsent};
     case Kind::Entry:
         return AskedFor{
             row->kind, argument(call, "file"),

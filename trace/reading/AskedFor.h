@@ -2,6 +2,7 @@
 
 #include "trace/reading/Call.h"
 
+#include <functional>
 #include <optional>
 
 namespace trace {
@@ -29,6 +30,10 @@ struct AskedFor
     /// Nothing for a call that asks for nothing, that never returned, or that names no file.
     /// `handles` are those before the call.
     static std::optional<AskedFor> of(const Call& call, bool isFailure, const HandleTable& handles);
+
+    /// What a handle of a key stands for, as `HandleTable::path` tells it.
+    using PathOf = std::function<QString(const QString& handle)>;
+    static std::optional<AskedFor> of(const Call& call, bool isFailure, const PathOf& pathOf);
 };
 
 } // namespace trace

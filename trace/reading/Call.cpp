@@ -54,6 +54,11 @@ void takeMember(std::string_view member, RecordedValue&& value, Call& call)
 
 } // namespace
 
+QString Call::library(const QString& caller)
+{
+    return caller.left(caller.lastIndexOf(QLatin1Char('+')));
+}
+
 std::optional<Call> Call::fromLine(std::string_view line)
 {
     JsonReader reader(line);

@@ -29,6 +29,9 @@ struct Call
 
     bool hasReturned() const { return duration != neverReturned; }
 
+    /// The library of a caller, without the offset.
+    static QString library(const QString& caller);
+
     /// The call that a line of a recording tells; nothing where the line is no call, or damaged.
     static std::optional<Call> fromLine(std::string_view line);
 };

@@ -68,7 +68,8 @@ bool CallFilter::addRange(const QString& term)
 bool CallFilter::isOpen() const
 {
     return m_ranges.empty() && m_threads.empty() && m_operations.wanted.empty() &&
-           m_callers.wanted.empty() && m_managers.wanted.empty() && !m_isFailuresOnly;
+           m_callers.wanted.empty() && m_libraries.wanted.empty() && m_managers.wanted.empty() &&
+           !m_isFailuresOnly;
 }
 
 bool CallFilter::admits(const TraceFile& file, const CallEntry& entry)
@@ -83,7 +84,8 @@ bool CallFilter::admits(const TraceFile& file, const CallEntry& entry)
     const bool isInThread = m_threads.empty() || std::find(m_threads.begin(), m_threads.end(),
                                                            entry.thread) != m_threads.end();
     return isInRange && isInThread && m_operations.admits(file, entry.operation) &&
-           m_callers.admits(file, entry.caller) && m_managers.admits(file, entry.manager);
+           m_callers.admits(file, entry.caller) && m_libraries.admits(file, entry.caller) &&
+           m_managers.admits(file, entry.manager);
 }
 
 bool CallFilter::Names::admits(const TraceFile& file, int number)
@@ -100,13 +102,20 @@ bool CallFilter::Names::admits(const TraceFile& file, int number)
 
 bool CallFilter::Names::admits(const QString& name) const
 {
-    return std::any_of(wanted.begin(), wanted.end(), [this, &name](const QString& term) {
-        if (isWithin)
-            return name.contains(term);
-        const QRegularExpression pattern(QRegularExpression::wildcardToRegularExpression(term),
-                                         QRegularExpression::CaseInsensitiveOption);
-        return pattern.match(name).hasMatch();
-    });
+    return std::any_of(wanted.begin(), wanted.end(),
+                       [this, &name](const QString& term) { return isMet(term, name); });
+}
+
+bool CallFilter::Names::isMet(const QString& term, const QString& name) const
+{
+    switch (match) {
+    case Match::Within: return name.contains(term);
+    case Match::Library: return Call::library(name) == term;
+    case Match::Whole: break;
+    }
+    const QRegularExpression pattern(QRegularExpression::wildcardToRegularExpression(term),
+                                     QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(name).hasMatch();
 }
 
 } // namespace trace

@@ -27,6 +27,11 @@ public:
     /// Adds the terms of a set; false where one makes no sense, and `fault` tells which.
     bool add(const QString& set);
     const QString& fault() const { return m_fault; }
+    /// Only calls from this library, of this manager or of this operation, besides what a set says.
+    /// Names are whole.
+    void setLibrary(const QString& name) { m_libraries.wanted = {name}; }
+    void setManager(const QString& name) { m_managers.wanted = {name}; }
+    void setOperation(const QString& name) { m_operations.wanted = {name}; }
     /// Only calls that have failed or never returned.
     void setFailuresOnly(bool isOn) { m_isFailuresOnly = isOn; }
     /// Leaves out calls from other lines than those; true where nothing is left out.
@@ -50,10 +55,17 @@ private:
             Yes,
             No
         };
+        enum class Match
+        {
+            Whole,  ///< in any case of letters, with wildcards
+            Within, ///< part of the name is enough
+            Library ///< the name is that of a library and an offset in it
+        };
         std::vector<QString> wanted;
-        bool isWithin = false; ///< part of the name is enough
+        Match match = Match::Whole;
         std::vector<Answer> answers = {};
 
+        bool isMet(const QString& term, const QString& name) const;
         bool admits(const QString& name) const;
         bool admits(const TraceFile& file, int number);
     };
@@ -65,7 +77,8 @@ private:
     std::vector<Range> m_ranges;
     std::vector<int> m_threads;
     Names m_operations;
-    Names m_callers{{}, true};
+    Names m_callers{{}, Names::Match::Within};
+    Names m_libraries{{}, Names::Match::Library};
     Names m_managers;
     bool m_isFailuresOnly = false;
     QString m_fault;

@@ -30,9 +30,16 @@ Rows<BitName> namesOf(const Operation* operation, const std::string& parameter)
 CallText::CallText(const HandleTable& handles)
     : m_values([&handles](const QString& handle) {
           const HandleTable::Entry* const entry = handles.find(handle);
-          return entry ? handle + QStringLiteral(" [%1]").arg(entry->description) : handle;
+          return entry ? CallText::handle(handle, entry->description) : handle;
       })
 {
+}
+
+CallText::CallText(ValueText::HandleText handleText) : m_values(std::move(handleText)) {}
+
+QString CallText::handle(const QString& handle, const QString& description)
+{
+    return handle + QStringLiteral(" [%1]").arg(description);
 }
 
 QString CallText::line(const Call& call, const Operation* operation) const

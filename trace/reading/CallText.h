@@ -19,6 +19,10 @@ class CallText
 public:
     /// `handles` says what handles stand for, and outlives this.
     explicit CallText(const HandleTable& handles);
+    explicit CallText(ValueText::HandleText handleText);
+
+    /// A handle with what it stands for.
+    static QString handle(const QString& handle, const QString& description);
 
     /// The whole line. `operation` is null for one that is not known.
     QString line(const Call& call, const Operation* operation) const;

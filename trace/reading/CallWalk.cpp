@@ -14,8 +14,8 @@ constexpr qint64 longestStep = 4; // milliseconds
 
 } // namespace
 
-CallWalk::CallWalk(TraceFile& file, Receiver receiver)
-    : m_file(file), m_receiver(std::move(receiver))
+CallWalk::CallWalk(TraceFile& file, Receiver receiver, qint64 first)
+    : m_file(file), m_receiver(std::move(receiver)), m_next(first)
 {
 }
 
@@ -24,17 +24,18 @@ bool CallWalk::step()
     QElapsedTimer clock;
     clock.start();
     const std::vector<CallEntry>& calls = m_file.calls();
-    while (m_next < calls.size()) {
-        m_receiver(calls[m_next++]);
-        if (m_next % batch == 0 && clock.elapsed() >= longestStep)
-            break;
+    for (std::size_t place = m_file.placeFrom(m_next); place < calls.size(); ++place) {
+        if (++m_count % batch == 0 && clock.elapsed() >= longestStep)
+            return true;
+        m_next = calls[place].number + 1;
+        m_receiver(calls[place]);
     }
-    return m_next < calls.size();
+    return false;
 }
 
 QString CallWalk::progress() const
 {
-    return QLocale().toString(static_cast<qulonglong>(m_next));
+    return QLocale().toString(m_count);
 }
 
 } // namespace trace

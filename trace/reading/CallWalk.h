@@ -13,8 +13,9 @@ class CallWalk : public Job
 public:
     using Receiver = std::function<void(const CallEntry&)>;
 
-    /// The recording outlives the job, and is not read on meanwhile.
-    CallWalk(TraceFile& file, Receiver receiver);
+    /// The recording outlives the job. Where it is read on meanwhile, calls that come late and
+    /// belong before the ones already delivered are left out. Begins with the call of this number.
+    CallWalk(TraceFile& file, Receiver receiver, qint64 first = 1);
 
     bool step() override;
     /// The number of calls.
@@ -23,7 +24,8 @@ public:
 private:
     TraceFile& m_file;
     Receiver m_receiver;
-    std::size_t m_next = 0;
+    qint64 m_next;      ///< the lowest number that may come
+    qint64 m_count = 0; ///< calls delivered
 };
 
 } // namespace trace

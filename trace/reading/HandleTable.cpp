@@ -88,7 +88,7 @@ void HandleTable::follow(const Call& call, const Operation& operation)
         return;
     for (const Parameter& parameter : operation.parameters) {
         if (parameter.life == Life::Ends)
-            m_entries.remove(handleOf(call.arguments.member(parameter.name)));
+            end(handleOf(call.arguments.member(parameter.name)), call);
     }
     for (const Parameter& parameter : operation.parameters) {
         if (parameter.life == Life::Begins)
@@ -120,8 +120,16 @@ void HandleTable::add(Role role, const RecordedValue& value, const Call& call)
         handle == firstHandle(call))
         return;
     const QString description = described(kind, call);
-    m_entries.insert(handle,
-                     {kind, handle, description, call.number, ++m_made[static_cast<int>(kind)]});
+    const auto made = m_entries.insert(
+        handle, {kind, handle, description, call.number, ++m_made[static_cast<int>(kind)]});
+    if (m_listener)
+        m_listener(handle, &*made, call.number);
+}
+
+void HandleTable::end(const QString& handle, const Call& call)
+{
+    if (m_entries.remove(handle) > 0 && m_listener)
+        m_listener(handle, nullptr, call.number);
 }
 
 QString HandleTable::described(Kind kind, const Call& call) const

@@ -4,6 +4,8 @@
 
 #include <QHash>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace trace {
@@ -34,6 +36,10 @@ public:
         qint64 order;        ///< from 1 on, among those of its kind
     };
 
+    /// Is told of each handle that a call makes, and of each that it takes back, with null.
+    using Listener = std::function<void(const QString& handle, const Entry* made, qint64 call)>;
+    void setListener(Listener listener) { m_listener = std::move(listener); }
+
     /// Whether a call of the operation may make handles or take them back.
     static bool isConcerned(const Operation* operation);
 
@@ -55,11 +61,13 @@ public:
 
 private:
     void add(Role role, const RecordedValue& value, const Call& call);
+    void end(const QString& handle, const Call& call);
     QString described(Kind kind, const Call& call) const;
     QString keyPath(const Call& call) const;
 
     QHash<QString, Entry> m_entries; ///< by handle
     QHash<int, qint64> m_made;       ///< how many, by kind
+    Listener m_listener;
 };
 
 } // namespace trace

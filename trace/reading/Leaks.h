@@ -3,6 +3,7 @@
 #include "trace/reading/CallEntry.h"
 #include "trace/reading/HandleTable.h"
 
+#include <utility>
 #include <vector>
 
 namespace trace {
@@ -25,6 +26,9 @@ public:
 
     /// Takes over a call; all calls come in the order of entry.
     void add(const CallEntry& entry) { m_handles.follow(m_file, entry); }
+
+    /// As `HandleTable::setListener`.
+    void setListener(HandleTable::Listener listener) { m_handles.setListener(std::move(listener)); }
 
     /// In the order of the calls that made them.
     std::vector<Leak> all() const;

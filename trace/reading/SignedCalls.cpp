@@ -18,7 +18,7 @@ quint64 hashOf(const QString& text)
 
 void SignedCalls::add(const CallEntry& entry)
 {
-    const QString library = SignedCalls::library(m_file.name(entry.caller));
+    const QString library = Call::library(m_file.name(entry.caller));
     const int group = number(library + QChar(0) + m_file.name(entry.manager));
     const int operation = number(m_file.name(entry.operation));
     m_firstMakers.push_back(m_makers.size());
@@ -68,11 +68,6 @@ int SignedCalls::number(const QString& name)
 {
     const auto found = m_names.constFind(name);
     return found == m_names.constEnd() ? *m_names.insert(name, m_names.size()) : *found;
-}
-
-QString SignedCalls::library(const QString& caller)
-{
-    return caller.left(caller.lastIndexOf(QLatin1Char('+')));
 }
 
 } // namespace trace

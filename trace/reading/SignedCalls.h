@@ -33,9 +33,6 @@ public:
     /// 0 where none is known.
     qint64 maker(int call, int handle) const;
 
-    /// The caller without what is another in each build.
-    static QString library(const QString& caller);
-
 private:
     int number(const QString& name);
     QString handleText(const QString& handle);

@@ -53,6 +53,7 @@ bool Statistics::asks(const CallEntry& entry)
 
 void Statistics::count(const CallEntry& entry)
 {
+    m_callers.insert(entry.caller);
     OperationCount& count = m_operations[keyOf(entry)];
     if (count.calls++ == 0) {
         const Operation* const operation = m_file.operation(entry);
@@ -68,13 +69,26 @@ void Statistics::count(const CallEntry& entry)
 
 void Statistics::count(const AskedFor& asked)
 {
-    AskedCount& count = m_asked[keyOf(asked)];
-    if (count.asked++ == 0) {
-        count.kind = asked.kind;
-        count.place = asked.place;
-        count.name = asked.name;
+    const QString key = keyOf(asked);
+    auto place = m_askedPlaces.constFind(key);
+    if (place == m_askedPlaces.constEnd()) {
+        place = m_askedPlaces.insert(key, m_asked.size());
+        m_asked.push_back({asked.kind, asked.place, asked.name});
     }
+    AskedCount& count = m_asked[*place];
+    ++count.asked;
     count.absent += asked.isAbsent ? 1 : 0;
+}
+
+QStringList Statistics::libraries() const
+{
+    QStringList names;
+    for (const int caller : m_callers)
+        names += Call::library(m_file.name(caller));
+    names.removeAll(QString()); // procedures have no caller
+    names.removeDuplicates();
+    names.sort();
+    return names;
 }
 
 std::vector<Statistics::OperationCount> Statistics::operations() const
@@ -88,7 +102,7 @@ std::vector<Statistics::OperationCount> Statistics::operations() const
 
 std::vector<Statistics::AskedCount> Statistics::asked() const
 {
-    std::vector<AskedCount> all(m_asked.begin(), m_asked.end());
+    std::vector<AskedCount> all = m_asked;
     std::sort(all.begin(), all.end(), [](const AskedCount& a, const AskedCount& b) {
         return std::tie(b.asked, a.kind, a.place, a.name) <
                std::tie(a.asked, b.kind, b.place, b.name);

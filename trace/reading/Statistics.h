@@ -5,7 +5,8 @@
 #include "trace/reading/HandleTable.h"
 
 #include <QHash>
-#include <QVector>
+#include <QSet>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -46,8 +47,13 @@ public:
     /// through calls that are not counted too.
     void add(const CallEntry& entry, bool isCounted = true);
 
+    /// The libraries that called, sorted by name.
+    QStringList libraries() const;
     /// With the longest time first.
     std::vector<OperationCount> operations() const;
+    /// What was asked for, in the order in which that began. There may be very much of it; it keeps
+    /// its place while calls are added.
+    const std::vector<AskedCount>& askedInOrder() const { return m_asked; }
     /// What was asked for most comes first.
     std::vector<AskedCount> asked() const;
 
@@ -60,7 +66,9 @@ private:
     HandleTable m_handles;
     std::vector<std::optional<bool>> m_asks;    ///< by the number of the operation's name
     QHash<qint64, OperationCount> m_operations; ///< by the numbers of manager and operation
-    QHash<QString, AskedCount> m_asked;
+    std::vector<AskedCount> m_asked;
+    QHash<QString, std::size_t> m_askedPlaces;
+    QSet<int> m_callers; ///< the numbers of their names
 };
 
 } // namespace trace

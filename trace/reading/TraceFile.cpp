@@ -96,6 +96,7 @@ void TraceFile::restart()
     m_names.clear();
     m_operations.clear();
     m_calls.clear();
+    m_changed = 1;
     m_faults.clear();
     m_faultCount = 0;
     m_lastFault = 0;
@@ -174,6 +175,8 @@ void TraceFile::mergeNew()
     if (m_new.empty())
         return;
     std::stable_sort(m_new.begin(), m_new.end(), precedes);
+    const qint64 first = m_new.front().number;
+    m_changed = m_changed == 0 ? first : qMin(m_changed, first);
     const auto place = std::lower_bound(m_calls.begin(), m_calls.end(), m_new.front(), precedes);
     const auto from = place - m_calls.begin();
     const auto middle = static_cast<std::ptrdiff_t>(m_calls.size());
@@ -183,14 +186,19 @@ void TraceFile::mergeNew()
     dropFormer(m_calls, m_calls.begin() + from);
 }
 
-int TraceFile::indexOf(qint64 number) const
+std::size_t TraceFile::placeFrom(qint64 number) const
 {
     CallEntry wanted;
     wanted.number = number;
     const auto found = std::lower_bound(m_calls.begin(), m_calls.end(), wanted, precedes);
-    return found == m_calls.end() || found->number != number
-               ? -1
-               : static_cast<int>(found - m_calls.begin());
+    return static_cast<std::size_t>(found - m_calls.begin());
+}
+
+int TraceFile::indexOf(qint64 number) const
+{
+    const std::size_t place = placeFrom(number);
+    return place == m_calls.size() || m_calls[place].number != number ? -1
+                                                                      : static_cast<int>(place);
 }
 
 // Lines are mostly asked for in their order.

@@ -11,6 +11,7 @@
 
 #include <optional>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace trace {
@@ -57,6 +58,11 @@ public:
     const Operation* operation(const CallEntry& entry) const;
     /// Where the call with that number stands among the calls; negative without.
     int indexOf(qint64 number) const;
+    /// Where the first call stands whose number is that or higher; behind all where there is none.
+    std::size_t placeFrom(qint64 number) const;
+    /// The lowest number of the calls that have come or changed since this was asked before; 0
+    /// where none has. After another recording it is that of its first call.
+    qint64 takeChanged() { return std::exchange(m_changed, 0); }
 
     /// The line of a call, without its end.
     QByteArray line(const CallEntry& entry);
@@ -93,6 +99,7 @@ private:
     std::unordered_map<quint64, const Operation*> m_operations; ///< by manager and operation
     std::vector<CallEntry> m_calls;
     std::vector<CallEntry> m_new; ///< read and not merged yet
+    qint64 m_changed = 0;         ///< the lowest number of what is new; 0: nothing is
     std::vector<TraceFault> m_faults;
     qint64 m_faultCount = 0;
     qint64 m_lastFault = 0; ///< its line

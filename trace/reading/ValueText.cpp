@@ -120,7 +120,7 @@ QString ValueText::pointer(const RecordedValue& value) const
 // An address is another one in each run; its role is not.
 QString ValueText::address(const QString& address, const char* role) const
 {
-    return m_form == Form::Shown ? address : QLatin1String(role);
+    return m_form == Form::ByRole ? QLatin1String(role) : address;
 }
 
 // The times of files begin with "ft".

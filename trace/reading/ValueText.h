@@ -19,6 +19,7 @@ public:
     enum class Form
     {
         Shown, ///< long data is shortened
+        Whole,
         ByRole ///< whole, but without what differs from run to run: addresses and times
     };
 

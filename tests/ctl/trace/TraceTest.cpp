@@ -64,6 +64,47 @@ TEST_F(CtlTrace, DumpsWhatIsWantedAlone)
     EXPECT_EQ(status({"trace", "dump", "a.trace", "--calls", "9"}), 1);
 }
 
+// The shell waits for the line that it expects, and for nothing else.
+TEST_F(CtlTrace, DumpsCallsAsTheyComeUntilItIsInterrupted)
+{
+    const Made::Call close = Made::close("0x77");
+    write("6", Made::begun(6, close));
+    write("7", Made::line(7, Made::query("HKEY_CURRENT_USER", "Later", "")));
+    write("6 again", Made::line(6, close));
+    write("8", Made::begun(8, Made::close("0x88")));
+    const Result result = shell("$CTL trace dump --follow a.trace >out & dump=$!;"
+                                "until grep -q '^5 ' out; do sleep 0.05; done;"
+                                "cat 6 7 >>a.trace;"
+                                "until grep -q '^7 ' out; do sleep 0.05; done;"
+                                "cat '6 again' 8 >>a.trace;"
+                                "until grep -q '^6 ' out; do sleep 0.05; done;"
+                                "kill -INT $dump; wait $dump");
+    EXPECT_EQ(result.status, 0);
+    QByteArrayList numbers;
+    for (const QByteArray& line : read("out").split('\n'))
+        numbers += line.left(line.indexOf(' '));
+    EXPECT_EQ(numbers.join(' ').toStdString(), "1 2 3 4 5 7 6 ");
+}
+
+TEST_F(CtlTrace, FollowsARecordingThatHasOnlyBegunToItsEnd)
+{
+    write("b.trace", {});
+    write("later", usual().bytes() + Made::begun(6, Made::close("0x88")) +
+                       "{\"ended\":{\"calls\":5,\"time\":9}}\n");
+    const Result result =
+        shell("$CTL --json trace dump --follow --calls 2,6 b.trace >out & dump=$!;"
+              "cat later >>b.trace; wait $dump");
+    EXPECT_EQ(result.status, 0);
+    const QJsonArray records =
+        QJsonDocument::fromJson(read("out")).object().value("records").toArray();
+    ASSERT_EQ(records.size(), 2);
+    EXPECT_EQ(records.at(0).toObject().value("call").toString(), "2");
+    EXPECT_EQ(records.at(1).toObject().value("call").toString(), "6");
+    EXPECT_EQ(records.at(1).toObject().value("duration").toString(), "");
+    EXPECT_EQ(status({"trace", "dump", "--follow", "missing.trace"}), 3);
+    EXPECT_EQ(status({"trace", "dump", "--follow", "--calls", "9", "b.trace"}), 1);
+}
+
 TEST_F(CtlTrace, DumpsAsJson)
 {
     const QJsonObject document =

@@ -29,7 +29,7 @@ TEST_F(CryptoPageTest, FindPutsTheKeyboardIntoTheFirstField)
     EXPECT_EQ(found(), control<QLineEdit>("Key:"));
     chooseTab(1);
     EXPECT_EQ(found(), control<QPlainTextEdit>("Text"));
-    button<QRadioButton>("Of &a file")->setChecked(true);
+    button<QRadioButton>("Of a fil&e")->setChecked(true);
     EXPECT_EQ(found(), control<QLineEdit>("Path of the file"));
     chooseTab(2);
     EXPECT_EQ(found(), control<QPlainTextEdit>("Text or Base64"));

@@ -34,8 +34,8 @@ protected:
 
     void enterKeys(const QString& key, const QString& iv, bool hexadecimal = false)
     {
-        button<QRadioButton>("With key &and IV")->setChecked(true);
-        button<QCheckBox>("&Written in hexadecimal")->setChecked(hexadecimal);
+        button<QRadioButton>("&With key and IV")->setChecked(true);
+        button<QCheckBox>("Written in hexadeci&mal")->setChecked(hexadecimal);
         control<QLineEdit>("Key:")->setText(key);
         control<QLineEdit>("IV:")->setText(iv);
     }

@@ -33,7 +33,7 @@ protected:
 
     void digestFile(const QString& path)
     {
-        button<QRadioButton>("Of &a file")->setChecked(true);
+        button<QRadioButton>("Of a fil&e")->setChecked(true);
         control<QLineEdit>("Path of the file")->setText(path);
         press("Digest &now");
     }

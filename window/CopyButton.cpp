@@ -1,4 +1,4 @@
-#include "pages/crypto/CopyButton.h"
+#include "window/CopyButton.h"
 
 #include "window/Page.h"
 
