@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -81,12 +82,76 @@ TEST(Documents, LinkOnlyToWhatExists)
     EXPECT_GE(count, 10);
 }
 
+// What is typed, without remarks.
+QString commands(const QString& document)
+{
+    return matches(contents(root + '/' + document), "^ +((?:\\$|\\./|apt|cmake) ?[^#\n]*[^# \n])")
+        .join('\n');
+}
+
 TEST(Documents, HaveTheSameCommandsInBothLanguages)
 {
-    const auto commands = [](const char* name) {
-        return matches(contents(root + '/' + name), "^    ([^#\n]*[^# \n])").join('\n');
-    };
+    EXPECT_NE("", commands("README.md"));
     EXPECT_EQ(commands("README.md").toStdString(), commands("README.zh-CN.md").toStdString());
+    const QString handbook = "docs/handbook/";
+    const QStringList chapters = QDir(root + '/' + handbook).entryList({"*.md"}, QDir::Files);
+    EXPECT_EQ(7, chapters.size());
+    for (const QString& chapter : chapters)
+        EXPECT_EQ(commands(handbook + chapter).toStdString(),
+                  commands(handbook + "zh_CN/" + chapter).toStdString())
+            << chapter.toStdString();
+}
+
+// The page of operations is made from a file that says how each differs from Windows.
+class OperationsPage : public testing::Test
+{
+protected:
+    static QString differences() { return contents(root + "/tools/operations/differences.tsv"); }
+
+    ChildResult made(const QString& lines) const
+    {
+        QFile file(m_folder.filePath("differences.tsv"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(lines.toUtf8());
+        file.close();
+        return resultOf(QUAYSIDE_OPERATIONS_PAGE, {"en", file.fileName()});
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(OperationsPage, SaysOfEachOperationWhatTheTableSays)
+{
+    const ChildResult page = made(differences());
+    EXPECT_EQ(0, page.status);
+    const QRegularExpression row(
+        "\\| 2 \\| \\[RegOpenKeyExW\\]\\(@ref .*\\) \\| not 0 \\| `result` "
+        "\\(null where the key is not found\\) \\|  \\| "
+        "the caller owns `result` \\| several levels");
+    EXPECT_TRUE(row.match(page.output).hasMatch());
+    EXPECT_TRUE(page.output.contains("- IPlatformCursorManager: [LoadCursorW]("));
+}
+
+TEST_F(OperationsPage, RefusesAFileWithoutOneOfTheOperations)
+{
+    const ChildResult page =
+        made(differences().remove(QRegularExpression("cursor\tGetCursor\t[^\n]*\n")));
+    EXPECT_EQ(1, page.status);
+    EXPECT_EQ("Nothing is said of cursor GetCursor\n", page.output.toStdString());
+}
+
+TEST_F(OperationsPage, RefusesAnOperationThatDoesNotExist)
+{
+    const ChildResult page = made(differences() + "cursor\tHideCursor\ta\tb\n");
+    EXPECT_EQ(1, page.status);
+    EXPECT_TRUE(page.output.startsWith("There is no such operation: cursor\tHideCursor"))
+        << page.output.toStdString();
+}
+
+TEST_F(OperationsPage, RefusesALineWithoutAllLanguages)
+{
+    EXPECT_EQ(1, made(differences() + "cursor\tGetCursor\tonly English\n").status);
 }
 
 TEST(Documents, SayWhatIsInEachFolder)
