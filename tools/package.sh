@@ -10,7 +10,7 @@ rm -rf "$folder"
 mkdir -p "$folder/quayside"
 git archive HEAD | tar -x -C "$folder/quayside"
 cd "$folder/quayside"
-DEB_BUILD_OPTIONS="nocheck parallel=$(nproc)"
+DEB_BUILD_OPTIONS="nocheck parallel=$(nproc) ${DEB_BUILD_OPTIONS:-}"
 export DEB_BUILD_OPTIONS
 # The documentation is the same for all architectures, and made natively.
 build=binary
