@@ -102,19 +102,22 @@ done
 quaysidectl trace dump --calls op:messageBox first.trace | grep IDNO
 quaysidectl trace stat --absent first.trace | grep passw
 quaysidectl trace leaks first.trace
-quaysidectl trace diff first.trace second.trace | grep Starts
+quaysidectl trace diff first.trace second.trace | grep RegSetValueExW
 quaysidectl trace trim first.trace trimmed.trace --calls op:GetBitmap
 test -f /usr/share/doc/quayside/en/index.html
 
 # On a display, in both languages, until the user ends it.
 apt-get install -y -qq --no-install-recommends xvfb xdotool >/dev/null
-Xvfb :9 -screen 0 1280x1024x24 >/dev/null 2>&1 &
+mkfifo number
+Xvfb -displayfd 3 -screen 0 1280x1024x24 3>number >/dev/null 2>&1 &
 server=$!
+read -r number <number
+export DISPLAY=:$number
 for language in en zh-CN; do
-    (cd /usr/share/quayside && DISPLAY=:9 QT_QPA_PLATFORM=xcb exec timeout 120 quayside /language "$language") &
+    (cd /usr/share/quayside && QT_QPA_PLATFORM=xcb exec timeout 120 quayside /language "$language") &
     application=$!
     # The window may be gone before the key is released.
-    DISPLAY=:9 timeout 60 xdotool search --sync --onlyvisible --class quayside windowfocus --sync key ctrl+q || true
+    timeout 60 xdotool search --sync --onlyvisible --class quayside windowfocus --sync key ctrl+q || true
     wait "$application"
 done
 kill "$server"
