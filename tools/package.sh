@@ -10,9 +10,12 @@ rm -rf "$folder"
 mkdir -p "$folder/quayside"
 git archive HEAD | tar -x -C "$folder/quayside"
 cd "$folder/quayside"
-DEB_BUILD_OPTIONS="nocheck parallel=$(nproc)"
+DEB_BUILD_OPTIONS="nocheck parallel=$(nproc) ${DEB_BUILD_OPTIONS:-}"
 export DEB_BUILD_OPTIONS
-dpkg-buildpackage --host-arch "$architecture" --build=binary --no-sign >../build.log 2>&1 || {
+# The documentation is the same for all architectures, and made natively.
+build=binary
+[ "$architecture" = "$(dpkg --print-architecture)" ] || build=any
+dpkg-buildpackage --host-arch "$architecture" --build="$build" --no-sign >../build.log 2>&1 || {
     tail -n 40 ../build.log >&2
     exit 1
 }

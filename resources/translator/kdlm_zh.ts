@@ -705,6 +705,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Runs a program and records the calls of its services.</source>
         <translation>运行一个程序，并记录对其服务的调用。</translation>
     </message>
+    <message>
+        <source>Writes a host library that builds and loads at once, to begin with.</source>
+        <translation>写出一个可立即构建和加载的宿主库，供由此开始。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -2042,6 +2046,21 @@ Put it in the place of the file to bring everything back.</source>
         <source>English</source>
         <comment>name of the interface&apos;s language</comment>
         <translation>简体中文</translation>
+    </message>
+</context>
+<context>
+    <name>HostNewCommand</name>
+    <message>
+        <source>&quot;%1&quot; is no name of a library: letters, digits, &quot;-&quot; and &quot;_&quot; make one, a letter first.</source>
+        <translation>“%1”不能作为库的名称：名称由字母、数字、“-”和“_”组成，以字母开头。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
     </message>
 </context>
 <context>
