@@ -105,6 +105,7 @@ QString writeFile(archive* open, const QDir& folder, const QString& name,
 QString writeAll(QIODevice& device, const QDir& folder, const BundleArchive::Pause& pause)
 {
     const Archive open(archive_write_new());
+    archive_write_set_bytes_in_last_block(open.get(), 1); // as it is, not filled up as for tapes
     if (archive_write_set_format_zip(open.get()) != ARCHIVE_OK ||
         archive_write_open(open.get(), &device, nullptr, writePiece, nullptr) != ARCHIVE_OK)
         return reasonOf(open.get());

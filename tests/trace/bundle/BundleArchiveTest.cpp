@@ -85,6 +85,13 @@ TEST_F(BundleArchiveTest, GivesBackEveryFileAsItWas)
     EXPECT_EQ(filesIn("into").size(), 4);
 }
 
+TEST_F(BundleArchiveTest, IsNoLongerThanWhatIsInIt)
+{
+    write("from/a", "a");
+    EXPECT_TRUE(BundleArchive(path("x.qtrace")).pack(path("from")));
+    EXPECT_LT(QFileInfo(path("x.qtrace")).size(), 1000);
+}
+
 TEST_F(BundleArchiveTest, IsReadableForItsOwnerAlone)
 {
     write("from/a", "a");
