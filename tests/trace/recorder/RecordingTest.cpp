@@ -1,6 +1,7 @@
 #include "tests/trace/recorder/RecordedRun.h"
 #include "trace/Operations.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -100,6 +101,7 @@ TEST_F(RecordingTest, TellsVersionsAndLibrariesFirst)
     EXPECT_EQ(header.value("quaysideTrace").toInt(), 1);
     EXPECT_EQ(header.value("qt").toString(), QLatin1String(qVersion()));
     EXPECT_EQ(header.value("program").toArray().last().toString(), "everything");
+    EXPECT_EQ(header.value("cwd").toString(), QDir(m_run.folder()).canonicalPath());
     EXPECT_EQ(header.value("options").toObject().value("text").toInt(), 5);
     bool hasCaller = false;
     for (const QJsonValue library : header.value("libraries").toArray()) {
