@@ -22,6 +22,7 @@ dpkg-buildpackage --host-arch "$architecture" --build="$build" --no-sign >../bui
 cd ..
 desktop-file-validate quayside/debian/quayside/usr/share/applications/quayside.desktop
 appstreamcli validate --no-net quayside/packaging/quayside.metainfo.xml
-blhc --all build.log
+# A call that only asks the compiler for its macros, as Qt's tools do where they cross-build, makes nothing.
+blhc --all --ignore-line '.* -dM -E .*' build.log
 lintian --pedantic --fail-on error,warning,pedantic ./*.changes
 ls -1 "$PWD"/*.deb
