@@ -33,6 +33,7 @@
 #include "ctl/trace/TraceDumpCommand.h"
 #include "ctl/trace/TraceLeaksCommand.h"
 #include "ctl/trace/TraceRecordCommand.h"
+#include "ctl/trace/TraceReplayCommand.h"
 #include "ctl/trace/TraceStatCommand.h"
 #include "ctl/trace/TraceTrimCommand.h"
 
@@ -165,6 +166,10 @@ constexpr CommandTable::Row table[] = {
     {"trace", "trim", "FILE [NEWFILE]",
      QT_TRANSLATE_NOOP("CommandTable", "Keeps some calls of a recording, with what they need."), 1,
      2, Needs::Nothing, made<TraceTrimCommand>},
+    {"trace", "replay", "FILE",
+     QT_TRANSLATE_NOOP("CommandTable",
+                       "Performs the calls of a recording again, and compares the answers."),
+     1, 1, Needs::Nothing, made<TraceReplayCommand>},
 };
 
 } // namespace

@@ -492,6 +492,10 @@ Put it in the place of the file to bring everything back.</source>
         <source>Runs a program and records the calls of its services.</source>
         <translation>运行一个程序，并记录对其服务的调用。</translation>
     </message>
+    <message>
+        <source>Performs the calls of a recording again, and compares the answers.</source>
+        <translation>重新执行记录中的调用并比较应答。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -3188,6 +3192,33 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>Player</name>
+    <message>
+        <source>(procedure)</source>
+        <translation>（过程）</translation>
+    </message>
+    <message>
+        <source>called %1 times</source>
+        <translation>被调用 %1 次</translation>
+    </message>
+    <message>
+        <source>(handle)</source>
+        <translation>（句柄）</translation>
+    </message>
+    <message>
+        <source>the one that was given</source>
+        <translation>传入的那个句柄</translation>
+    </message>
+    <message>
+        <source>another one</source>
+        <translation>另一个句柄</translation>
+    </message>
+    <message>
+        <source>written beyond the buffer</source>
+        <translation>写到了缓冲区之外</translation>
+    </message>
+</context>
+<context>
     <name>PointPanel</name>
     <message>
         <source>Pointer</source>
@@ -4902,6 +4933,24 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ReplayProcess</name>
+    <message>
+        <source>No process can be started for the replay: %1</source>
+        <translation>无法为重放启动进程：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Replays</name>
+    <message>
+        <source>The services have crashed in call %1: %2.</source>
+        <translation>服务在调用 %1 中崩溃：%2。</translation>
+    </message>
+    <message>
+        <source>Performed: %L1 calls, %L2 of them differ. Not performed: %L3.</source>
+        <translation>已执行 %L1 个调用，其中 %L2 个不同；未执行 %L3 个。</translation>
+    </message>
+</context>
+<context>
     <name>Secret</name>
     <message>
         <source>There is no terminal to ask for the secret on: name a file.</source>
@@ -4921,6 +4970,69 @@ Wide: %2</source>
     <message>
         <source>nothing</source>
         <translation>空</translation>
+    </message>
+</context>
+<context>
+    <name>SkipReasonText</name>
+    <message>
+        <source>It never returned.</source>
+        <translation>它没有返回。</translation>
+    </message>
+    <message>
+        <source>It was left by an exception or a jump.</source>
+        <translation>它因异常或跳转而离开。</translation>
+    </message>
+    <message>
+        <source>There is no such operation here.</source>
+        <translation>此处没有这个操作。</translation>
+    </message>
+    <message>
+        <source>A value is hidden in the recording.</source>
+        <translation>记录中隐藏了一个值。</translation>
+    </message>
+    <message>
+        <source>A value is shortened in the recording.</source>
+        <translation>记录中截短了一个值。</translation>
+    </message>
+    <message>
+        <source>An argument could not be read by the recorder.</source>
+        <translation>记录程序无法读取一个参数。</translation>
+    </message>
+    <message>
+        <source>No call of the recording made the handle.</source>
+        <translation>记录中没有创建该句柄的调用。</translation>
+    </message>
+    <message>
+        <source>The call that made the handle made none here.</source>
+        <translation>创建该句柄的调用在此处没有创建句柄。</translation>
+    </message>
+    <message>
+        <source>The handle had been given back.</source>
+        <translation>该句柄已被归还。</translation>
+    </message>
+    <message>
+        <source>A root must not be given back.</source>
+        <translation>不得归还根键。</translation>
+    </message>
+    <message>
+        <source>It asks a library of the recorded program.</source>
+        <translation>它询问的是被记录程序的库。</translation>
+    </message>
+    <message>
+        <source>The service made it within another call.</source>
+        <translation>它是服务在另一个调用之内发出的。</translation>
+    </message>
+    <message>
+        <source>What was at its path is not in the bundle.</source>
+        <translation>其路径上原有的内容不在包中。</translation>
+    </message>
+    <message>
+        <source>A change that may matter was not performed before it.</source>
+        <translation>在它之前有一个可能相关的更改没有执行。</translation>
+    </message>
+    <message>
+        <source>The services have no such manager.</source>
+        <translation>服务没有这个管理器。</translation>
     </message>
 </context>
 <context>
@@ -5278,6 +5390,17 @@ Wide: %2</source>
     <message>
         <source>Nothing is recorded: the program has not handed its services over.</source>
         <translation>未记录任何内容：程序没有移交其服务。</translation>
+    </message>
+</context>
+<context>
+    <name>TraceReplayCommand</name>
+    <message>
+        <source>Prints the first call that differs alone.</source>
+        <translation>只输出第一个不同的调用。</translation>
+    </message>
+    <message>
+        <source>Lists the calls that cannot be performed, and why.</source>
+        <translation>列出无法执行的调用及其原因。</translation>
     </message>
 </context>
 <context>

@@ -181,4 +181,25 @@ TEST_F(CtlTrace, WritesNothingWhereNoCallIsWanted)
     EXPECT_EQ(read("b.trace"), "former");
 }
 
+TEST_F(CtlTrace, ReplaysACall)
+{
+    write("b.trace", Made()
+                         .add(Made::query("HKEY_CURRENT_USER", "None", ""))
+                         .add({"directory", "isURL", "{\"text\":{\"text\":\"x\"}}", "1"})
+                         .add(Made::close("0x5581"))
+                         .bytes());
+    const Result result = run({"trace", "replay", "b.trace"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "different\t2\tlibfoo.so+0x10\tisURL\t(result)\t1\t0\n");
+    EXPECT_EQ(result.error,
+              "quaysidectl: Performed: 2 calls, 1 of them differ. Not performed: 1.\n");
+    EXPECT_EQ(out({"trace", "replay", "b.trace", "--skipped"}),
+              result.out + "skipped\t3\tlibfoo.so+0x10\tRegCloseKey\t\tNo call of the recording "
+                           "made the handle.\t\n");
+    write("c.trace", Made().add(Made::query("HKEY_CURRENT_USER", "None", "")).bytes());
+    EXPECT_EQ(run({"trace", "replay", "c.trace"}).out, "");
+    EXPECT_EQ(status({"trace", "replay", "c.trace"}), 0);
+    EXPECT_EQ(status({"trace", "replay", "missing"}), 3);
+}
+
 } // namespace
