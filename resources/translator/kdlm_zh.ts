@@ -183,6 +183,17 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>BundleLayout</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is no index of a bundle of a form that is known here.</source>
+        <translation>%1 不是此处已知格式的包索引。</translation>
+    </message>
+</context>
+<context>
     <name>BusyOverlay</name>
     <message>
         <source>Cancel</source>
@@ -495,6 +506,14 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Performs the calls of a recording again, and compares the answers.</source>
         <translation>重新执行记录中的调用并比较应答。</translation>
+    </message>
+    <message>
+        <source>Keeps few calls of a recording after which one gets the same answer.</source>
+        <translation>从记录中保留少量调用，使某个调用仍得到相同的应答。</translation>
+    </message>
+    <message>
+        <source>Performs all recordings of a folder again.</source>
+        <translation>重新执行一个文件夹中的所有记录。</translation>
     </message>
 </context>
 <context>
@@ -2663,6 +2682,21 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>Minimiser</name>
+    <message>
+        <source>There is no call %1 of a service.</source>
+        <translation>没有编号为 %1 的服务调用。</translation>
+    </message>
+    <message>
+        <source>The services crash before it, in call %1.</source>
+        <translation>服务在它之前的调用 %1 中崩溃。</translation>
+    </message>
+    <message>
+        <source>Call %1 cannot be performed. %2</source>
+        <translation>无法执行调用 %1。%2</translation>
+    </message>
+</context>
+<context>
     <name>MonitorList</name>
     <message>
         <source>Monitor %1</source>
@@ -3010,6 +3044,18 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Part</source>
         <translation>部分</translation>
+    </message>
+    <message>
+        <source>Different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>Not performed</source>
+        <translation>未执行</translation>
+    </message>
+    <message>
+        <source>First difference</source>
+        <translation>首个差异</translation>
     </message>
 </context>
 <context>
@@ -4096,6 +4142,21 @@ Wide: %2</source>
     <message>
         <source>Only calls that failed or never returned.</source>
         <translation>只取失败或未返回的调用。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingOutput</name>
+    <message>
+        <source>The recording cannot be written: %1.</source>
+        <translation>无法写入记录文件：%1。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file to write.</source>
+        <translation>使用 --json 时，请指定要写入的文件。</translation>
     </message>
 </context>
 <context>
@@ -5342,6 +5403,21 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>TraceMinimiseCommand</name>
+    <message>
+        <source>The number of the call that is to be kept.</source>
+        <translation>要保留的调用的编号。</translation>
+    </message>
+    <message>
+        <source>Which call? Name its number by --call.</source>
+        <translation>哪个调用？请用 --call 指定其编号。</translation>
+    </message>
+    <message>
+        <source>Kept: %L1 of %L2 calls, after %L3 replays.</source>
+        <translation>经过 %L3 次重放，保留了 %L2 个调用中的 %L1 个。</translation>
+    </message>
+</context>
+<context>
     <name>TraceRecordCommand</name>
     <message>
         <source>%1 is not installed.</source>
@@ -5419,22 +5495,17 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>TraceTestCommand</name>
+    <message>
+        <source>%1: there is no recording in this folder.</source>
+        <translation>%1：此文件夹中没有记录。</translation>
+    </message>
+</context>
+<context>
     <name>TraceTrimCommand</name>
-    <message>
-        <source>The recording cannot be written: %1.</source>
-        <translation>无法写入记录文件：%1。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>无法写入 %1：%2。</translation>
-    </message>
     <message>
         <source>Which calls? Name them by --calls.</source>
         <translation>哪些调用？请用 --calls 指定。</translation>
-    </message>
-    <message>
-        <source>With --json, name a file to write.</source>
-        <translation>使用 --json 时，请指定要写入的文件。</translation>
     </message>
     <message>
         <source>Kept: %L1 of %L2 calls, %L3 of them because others need them.</source>

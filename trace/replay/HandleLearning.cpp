@@ -51,19 +51,33 @@ void HandleLearning::forEachMade(Take take) const
         take(m_operation.result.role, addressIn(m_call.result), m_result);
 }
 
-void HandleLearning::apply(HandleMap& handles) const
+void HandleLearning::applyEnded(HandleMap& handles) const
 {
-    const bool hasSucceeded = !trace::KnownOperation::isFailure(m_operation, m_call.result);
+    if (trace::KnownOperation::isFailure(m_operation, m_call.result))
+        return;
     for (const Parameter& parameter : m_operation.parameters) {
         const QString recorded = addressIn(m_call.arguments.member(parameter.name));
-        if (parameter.life == trace::Life::Ends && hasSucceeded && !recorded.isEmpty())
+        if (parameter.life == trace::Life::Ends && !recorded.isEmpty())
             handles.end(parameter.role, recorded);
     }
+}
+
+void HandleLearning::apply(HandleMap& handles) const
+{
+    applyEnded(handles);
     forEachMade([&handles](Role role, const QString& recorded, std::uint64_t word) {
         if (isMade(word))
             handles.add(role, recorded, word);
         else
             handles.miss(role, recorded);
+    });
+}
+
+void HandleLearning::applyMissing(HandleMap& handles) const
+{
+    applyEnded(handles);
+    forEachMade([&handles](Role role, const QString& recorded, std::uint64_t /*word*/) {
+        handles.miss(role, recorded);
     });
 }
 

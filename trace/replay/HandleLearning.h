@@ -22,11 +22,14 @@ public:
 
     /// Takes over which handles were given back and which were made.
     void apply(HandleMap& handles) const;
+    /// The same as if no handle had been made here, where those that were are of no use.
+    void applyMissing(HandleMap& handles) const;
 
     /// Whether a handle that the call handed back as it was given is the same here too.
     bool isSameHandedBack() const;
 
 private:
+    void applyEnded(HandleMap& handles) const;
     template <typename Take>
     void forEachMade(Take take) const;
 

@@ -17,6 +17,8 @@ namespace replay {
 
 namespace {
 
+using trace::Role;
+
 // The procedure has no room in its arguments for whom it belongs to.
 Player* g_player = nullptr;
 
@@ -159,12 +161,16 @@ void Player::enter(const trace::Call& call, Enclosing& enclosing)
     m_enclosing = &enclosing;
 }
 
-// Why what differs says nothing about the service: nobody knows what it was to find.
-SkipReason Player::doubt(const trace::Call& call, const QString& path) const
+// Why an answer says nothing about the service: nobody knows what it was to find. A search in a
+// folder of which nothing is known finds something else sooner or later.
+SkipReason Player::doubt(const trace::Call& call, const trace::Operation& operation,
+                         const QString& path, bool isDifferent) const
 {
+    const bool isSearch = operation.result.role == Role::SearchHandle &&
+                          !trace::KnownOperation::isFailure(operation, call.result);
     if (!path.isNull() && !m_folder.isKnown(path))
-        return SkipReason::UnknownPath;
-    return m_gaps.contains(call.manager) ? SkipReason::AfterGap : SkipReason::None;
+        return isDifferent || isSearch ? SkipReason::UnknownPath : SkipReason::None;
+    return isDifferent && m_gaps.contains(call.manager) ? SkipReason::AfterGap : SkipReason::None;
 }
 
 SkipReason Player::finish(const trace::Call& call, const trace::Operation& operation,
@@ -178,9 +184,12 @@ SkipReason Player::finish(const trace::Call& call, const trace::Operation& opera
         differences.push_back({tr("(procedure)"),
                                tr("called %1 times").arg(enclosing.procedures.size()),
                                tr("called %1 times").arg(enclosing.called)});
-    HandleLearning(operation, call, arguments.words(), performed.resultWord()).apply(m_handles);
-    const SkipReason doubtful =
-        differences.empty() ? SkipReason::None : doubt(call, arguments.path());
+    const SkipReason doubtful = doubt(call, operation, arguments.path(), !differences.empty());
+    const HandleLearning handles(operation, call, arguments.words(), performed.resultWord());
+    if (doubtful == SkipReason::None)
+        handles.apply(m_handles);
+    else
+        handles.applyMissing(m_handles);
     if (Surroundings::isWriting(operation))
         m_folder.setKnown(arguments.path());
     if (doubtful != SkipReason::None)

@@ -73,7 +73,8 @@ private:
                       const Enclosing& enclosing);
     std::vector<Difference> compare(const trace::Call& call, const trace::Operation& operation,
                                     const CallArguments& arguments, const PerformedCall& performed);
-    SkipReason doubt(const trace::Call& call, const QString& path) const;
+    SkipReason doubt(const trace::Call& call, const trace::Operation& operation,
+                     const QString& path, bool isDifferent) const;
     void skip(qint64 number, SkipReason reason);
 
     trace::TraceFile& m_file;

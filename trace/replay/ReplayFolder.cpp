@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStringList>
 
 namespace replay {
 
@@ -10,6 +11,25 @@ namespace {
 bool isAbsolute(const QString& path)
 {
     return path.startsWith(QLatin1Char('/'));
+}
+
+// Without "..", which would lead out of the folder; what is above the root is the root.
+QString withoutParents(const QString& path)
+{
+    QStringList names;
+    const QStringList given = path.split(QLatin1Char('/'));
+    for (const QString& name : given) {
+        if (name != QLatin1String(".."))
+            names += name;
+        else if (names.size() > 1)
+            names.removeLast();
+    }
+    return names.join(QLatin1Char('/'));
+}
+
+bool hasParents(const QString& path)
+{
+    return path.split(QLatin1Char('/')).contains(QStringLiteral(".."));
 }
 
 } // namespace
@@ -25,11 +45,19 @@ ReplayFolder::ReplayFolder(const QString& directory) : m_directory(directory)
 // A name that no path of a recording begins with by chance.
 QString ReplayFolder::directory() const
 {
-    return m_root + (m_directory.isEmpty() ? QStringLiteral("/unknown-directory") : m_directory);
+    return m_root + ownDirectory();
+}
+
+QString ReplayFolder::ownDirectory() const
+{
+    return m_directory.isEmpty() ? QStringLiteral("/unknown-directory")
+                                 : withoutParents(m_directory);
 }
 
 QString ReplayFolder::toReplay(const QString& path) const
 {
+    if (hasParents(path))
+        return m_root + withoutParents(isAbsolute(path) ? path : ownDirectory() + '/' + path);
     return isAbsolute(path) ? m_root + path : path;
 }
 

@@ -39,6 +39,7 @@ public:
     bool isKnown(const QString& path) const;
 
 private:
+    QString ownDirectory() const;
     QString absolute(const QString& path) const;
 
     QTemporaryDir m_folder;

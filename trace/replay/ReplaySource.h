@@ -1,17 +1,21 @@
 #pragma once
 
 #include "trace/reading/TraceFile.h"
+#include "trace/replay/BundleLayout.h"
 
 #include <QCoreApplication>
 
+#include <QStringList>
+
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace replay {
 
 class ReplayFolder;
 
-/// What is replayed: a recording, with what a bundle has taken along.
+/// What is replayed: a recording alone, or the unpacked folder of a bundle.
 class ReplaySource
 {
     Q_DECLARE_TR_FUNCTIONS(ReplaySource)
@@ -21,6 +25,10 @@ public:
     using Pause = std::function<void()>;
 
     explicit ReplaySource(const QString& path) : m_path(path) {}
+
+    /// The paths of the recordings in a folder, those that are named *.trace, and of the folders of
+    /// bundles, by name.
+    static QStringList findIn(const QString& folder);
 
     /// Reads all of the recording. False where that is not possible; `error` tells why.
     bool open(const Pause& pause = [] {});
@@ -32,8 +40,11 @@ public:
     std::unique_ptr<ReplayFolder> makeFolder() const;
 
 private:
+    bool openRecording(const QString& path, const Pause& pause);
+
     QString m_path;
     QString m_error;
+    std::optional<BundleLayout> m_bundle;
     std::unique_ptr<trace::TraceFile> m_file;
 };
 

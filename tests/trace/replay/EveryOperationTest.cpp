@@ -2,8 +2,6 @@
 #include "tests/trace/replay/ReplayTest.h"
 #include "trace/Operations.h"
 
-#include <QDir>
-
 namespace replay {
 namespace {
 
@@ -21,22 +19,6 @@ protected:
     {
         m_run.record(QStringList(QStringLiteral(QUAYSIDE_RECORDED)) + words, options);
         return m_run.read(QStringLiteral("recording"));
-    }
-
-    // The files that the recorded program finds, in a folder for its replay.
-    static void layFiles(ReplayFolder& folder)
-    {
-        QDir(folder.directory()).mkpath(QStringLiteral("files/two"));
-        QFile file(folder.directory() + QStringLiteral("/files/one.txt"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write("12345") == 5);
-        folder.setFolderKnown(QStringLiteral("./files"));
-    }
-
-    ReplayReport replayWithFiles(const QByteArray& recording)
-    {
-        ReplayFolder folder({});
-        layFiles(folder);
-        return replay(*read(recording), folder);
     }
 
     RecordedRun m_run;
@@ -80,6 +62,17 @@ TEST_F(RecordedReplayTest, PerformsWhatCameBeforeACrash)
     EXPECT_GE(report.performed, 2);
     ASSERT_FALSE(report.skipped.empty());
     EXPECT_EQ(report.skipped.front().reason, SkipReason::NeverReturned);
+}
+
+TEST_F(RecordedReplayTest, PerformsARandomSessionWithoutADifference)
+{
+    // The sanitizers make each call many times as slow.
+    const char* const count = QUAYSIDE_SANITIZED ? "20000" : "100000";
+    const ReplayReport report = replayWithFiles(record({"random", "14", count}));
+    EXPECT_EQ(differences(report), "");
+    EXPECT_FALSE(report.hasCrashed()) << report.crashedIn;
+    EXPECT_EQ(report.skippedCount(), 0);
+    EXPECT_GT(report.performed, QByteArray(count).toInt() / 2);
 }
 
 } // namespace

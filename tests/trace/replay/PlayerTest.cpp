@@ -110,6 +110,25 @@ TEST_F(PlayerTest, DoubtsWhatDiffersAfterAChangeThatWasNotPerformed)
     EXPECT_NE(differences(replay(Made().add(asked).bytes())), "");
 }
 
+TEST_F(PlayerTest, TrustsNoSearchInAFolderOfWhichNothingIsKnown)
+{
+    const QByteArray data = "{\"dwFileAttributes\":{\"flags\":16,\"names\":[]},\"cFileName\":{"
+                            "\"text\":\"home\"}}";
+    const QByteArray bytes =
+        Made()
+            .add({"directory", "findFirstFile",
+                  "{\"pattern\":{\"text\":\"/*\"},\"data\":{\"pointer\":\"0x1\"}}",
+                  "{\"handle\":\"0x55\"}", "{\"data\":" + data + "}"})
+            .add({"directory", "findNextFile",
+                  "{\"search\":{\"handle\":\"0x55\"},\"data\":{\"pointer\":\"0x1\"}}", "1",
+                  "{\"data\":" + data + "}"})
+            .bytes();
+    ReplayFolder folder(QStringLiteral("/home"));
+    const ReplayReport report = replay(*read(bytes), folder);
+    EXPECT_EQ(differences(report), "");
+    EXPECT_EQ(report.skippedCount(), 2);
+}
+
 TEST_F(PlayerTest, TouchesNothingOutsideOfItsFolder)
 {
     const QByteArray file = path("own.ini").toUtf8();

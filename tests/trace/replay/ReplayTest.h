@@ -4,6 +4,8 @@
 #include "trace/replay/ReplayFolder.h"
 #include "trace/replay/ReplayProcess.h"
 
+#include <QDir>
+
 namespace replay {
 
 /// A test that replays recordings, each in a process of its own.
@@ -29,6 +31,22 @@ protected:
         return process.report();
     }
 
+    /// The files that a recorded program finds, in a folder for its replay.
+    static void layFiles(ReplayFolder& folder)
+    {
+        QDir(folder.directory()).mkpath(QStringLiteral("files/two"));
+        QFile file(folder.directory() + QStringLiteral("/files/one.txt"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write("12345") == 5);
+        folder.setFolderKnown(QStringLiteral("./files"));
+    }
+
+    ReplayReport replayWithFiles(const QByteArray& recording)
+    {
+        ReplayFolder folder({});
+        layFiles(folder);
+        return replay(*read(recording), folder);
+    }
+
     /// What differs, one a line, as "number part: was -> is".
     static std::string differences(const ReplayReport& report)
     {
@@ -38,7 +56,7 @@ protected:
                 text += QStringLiteral("%1 %2: %3 -> %4\n")
                             .arg(QString::number(call.number), one.part, one.was, one.is);
         }
-        return text.toStdString();
+        return text.left(4000).toStdString();
     }
 
     /// The calls that were not performed and why, as a number each: "number:reason".
