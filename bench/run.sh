@@ -19,12 +19,14 @@ checked() {
     if [ "$#" -gt 0 ]; then printf '%s\n' "$@"; else printf '%s\n' "$all"; fi
 }
 
-# run BUILD NAME...: a line "== NAME" before the output of each.
+# run BUILD NAME...: a line "== NAME" before the output of each, and the processor that ratios belong to.
 run() {
-    local build=$1 name
+    local build=$1 name processor
+    processor=$(lscpu | sed -n 's/^Model name: *//p' | head -n 1)
     shift
     for name; do
         echo "== $name"
+        echo "on ${processor:-a processor without a name}"
         "$build/bench/$name"
     done
 }

@@ -2,11 +2,13 @@
 
 #include "app/StartUp.h"
 #include "ctl/Failure.h"
+#include "ctl/Interruption.h"
 #include "inspection/registry/RawStore.h"
 #include "inspection/registry/StoreSaving.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 
 Store::Store(const QString& file, bool mustExist)
 {
@@ -56,8 +58,19 @@ void Store::refuseOwnFile(const QString& file)
         throw Failure(ExitStatus::WrongUsage, tr("%1 is the store's own file.").arg(file));
 }
 
+// QSettings waits for the same lock, but no signal ends its wait. Where there can be no lock at
+// all, saving tells so.
+void Store::waitForLock()
+{
+    constexpr int turn = 100; // milliseconds
+    QLockFile lock(RawStore::fileName() + QLatin1String(".lock"));
+    while (!lock.tryLock(turn) && lock.error() == QLockFile::LockFailedError)
+        Interruption::check();
+}
+
 void Store::save()
 {
+    waitForLock();
     if (!saveStore())
         throw Failure(tr("The store %1 could not be saved.").arg(RawStore::fileName()));
 }

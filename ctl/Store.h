@@ -25,10 +25,12 @@ public:
     static void reread();
     /// Throws a Failure where `file`, which is to be written, is the store's own file.
     static void refuseOwnFile(const QString& file);
-    /// Saves the store at once. Throws a Failure where that is not possible.
+    /// Saves the store at once, when no other program has it locked. Throws a Failure where that is
+    /// not possible, and where the user does not wait so long.
     static void save();
 
 private:
+    static void waitForLock();
     static void check(bool mustExist, bool isFile);
 
     std::optional<StoreReplacement> m_replacement;

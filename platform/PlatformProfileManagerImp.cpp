@@ -8,6 +8,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 #include <cstring>
 #include <cwchar>
@@ -59,18 +60,16 @@ int writeNarrow(const char* section, const char* key, const char* value, const c
     return ProfileWriting::narrow(QString::fromUtf8(file), {entry}) ? 1 : 0;
 }
 
-QString wideValue(const wchar_t* section, const wchar_t* key, const wchar_t* fallback,
-                  const wchar_t* file)
+// The fallback itself where the file cannot be read.
+QVariant wideValue(const wchar_t* section, const wchar_t* key, const QVariant& fallback,
+                   const wchar_t* file)
 {
-    const QString otherwise = QString::fromWCharArray(fallback);
     WideProfile profile(file);
-    return profile.isReadable()
-               ? profile
-                     ->value(ProfileWriting::wideName(QString::fromWCharArray(section),
-                                                      QString::fromWCharArray(key)),
-                             otherwise)
-                     .toString()
-               : otherwise;
+    if (!profile.isReadable())
+        return fallback;
+    return profile->value(
+        ProfileWriting::wideName(QString::fromWCharArray(section), QString::fromWCharArray(key)),
+        fallback);
 }
 
 wchar_t* copied(const QString& text, wchar_t* out)
@@ -111,7 +110,9 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileStringW(const wchar_t* 
     if (!section || !key || !buffer || !file || size == 0)
         return 0;
     const std::wstring text = unlessTooLarge(std::wstring(fallback ? fallback : L""), [&] {
-        return wideValue(section, key, fallback, file).toStdWString();
+        return wideValue(section, key, QString::fromWCharArray(fallback), file)
+            .toString()
+            .toStdWString();
     });
     // That many bytes, not characters. Intended: callers see the rest of their buffer untouched.
     std::memset(buffer, 0, size);
@@ -140,16 +141,8 @@ unsigned int PlatformProfileManagerImp::GetPrivateProfileIntW(const wchar_t* sec
 {
     if (!section || !key || !file)
         return static_cast<unsigned int>(fallback);
-    const int value = unlessTooLarge(fallback, [&] {
-        WideProfile profile(file);
-        return profile.isReadable()
-                   ? profile
-                         ->value(ProfileWriting::wideName(QString::fromWCharArray(section),
-                                                          QString::fromWCharArray(key)),
-                                 fallback)
-                         .toInt()
-                   : fallback;
-    });
+    const int value =
+        unlessTooLarge(fallback, [&] { return wideValue(section, key, fallback, file).toInt(); });
     return static_cast<unsigned int>(value);
 }
 

@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <chrono>
 #include <map>
 #include <random>
 
@@ -22,7 +23,7 @@ public:
         for (const Run& run : runs) {
             if (run.run_type == Run::RT_Iteration)
                 m_seconds[run.run_name.function_name].push_back(
-                    run.cpu_accumulated_time / static_cast<double>(run.iterations));
+                    timeOf(run) / static_cast<double>(run.iterations));
         }
     }
 
@@ -34,8 +35,46 @@ public:
     }
 
 private:
+    // What an operation times itself is told as real time.
+    static double timeOf(const Run& run)
+    {
+        return run.run_name.time_type.empty() ? run.cpu_accumulated_time
+                                              : run.real_accumulated_time;
+    }
+
     std::map<std::string, std::vector<double>> m_seconds;
 };
+
+constexpr int coldIterations = 50;
+
+// Twice as large as the caches that a core has for itself. What all cores share is too large to be
+// emptied.
+void emptyCaches()
+{
+    constexpr std::size_t size = 8U * 1024 * 1024;
+    constexpr std::size_t line = 64;
+    static std::vector<unsigned char> memory(size);
+    for (std::size_t i = 0; i < size; i += line)
+        ++memory[i];
+    benchmark::ClobberMemory();
+}
+
+void registerColdOperation(const std::string& name, const std::function<void()>& operation)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto run = [operation](benchmark::State& state) {
+        for ([[maybe_unused]] const auto _ : state) {
+            emptyCaches();
+            const Clock::time_point start = Clock::now();
+            operation();
+            state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
+        }
+    };
+    benchmark::RegisterBenchmark(name.c_str(), run)
+        ->Repetitions(repetitions)
+        ->Iterations(coldIterations)
+        ->UseManualTime();
+}
 
 void registerOperation(const std::string& name, const std::function<void()>& operation)
 {
@@ -59,8 +98,9 @@ std::vector<Result> runPairs(const Pairs& pairs)
     int count = 2;
     benchmark::Initialize(&count, arguments);
     for (const Pair& pair : pairs) {
-        registerOperation(pair.name + " (ours)", pair.ours);
-        registerOperation(pair.name + " (peer)", pair.peer);
+        const auto add = pair.isCold ? &registerColdOperation : &registerOperation;
+        add(pair.name + " (ours)", pair.ours);
+        add(pair.name + " (peer)", pair.peer);
     }
     Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);

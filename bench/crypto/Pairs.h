@@ -14,6 +14,9 @@ struct Pair
     double wanted;
     std::function<void()> ours;
     std::function<void()> peer;
+    /// Whether the processor's caches are emptied before each operation, as they are where a
+    /// library calls once in a while.
+    bool isCold = false;
 };
 
 using Pairs = std::vector<Pair>;

@@ -5,6 +5,7 @@
 #include <QIODevice>
 #include <QLocale>
 
+#include <new>
 #include <utility>
 
 RegistryImportJob::RegistryImportJob(std::unique_ptr<QIODevice> file, const QByteArray& codePage,
@@ -18,7 +19,25 @@ RegistryImportJob::RegistryImportJob(const QByteArray& file, const QByteArray& c
 {
 }
 
+// All statements are kept in memory, as the user is to see them before any of them is carried out.
 bool RegistryImportJob::step()
+{
+    try {
+        return readOn();
+    } catch (const std::bad_alloc&) {
+        m_plan.reset(); // what it holds makes room for the empty one
+        m_plan = std::make_shared<ImportPlan>();
+        m_isTooLarge = true;
+        return false;
+    }
+}
+
+QString RegistryImportJob::error() const
+{
+    return m_isTooLarge ? tr("There is not enough memory for its statements.") : m_reader.error();
+}
+
+bool RegistryImportJob::readOn()
 {
     if (m_statement) {
         if (!m_plan->readSome(*m_statement))

@@ -20,17 +20,12 @@ namespace {
 using Encoding = RegFileWriter::Encoding;
 using Report = PageContext::Report;
 
-// No registry file is nearly this large. All of its statements are kept in memory.
-constexpr qint64 largestFile = qint64{32} * 1024 * 1024;
-
 // Why the file cannot be imported, or an empty text. It is to be asked before the file is opened,
 // because opening a pipe waits for a program that writes to it.
 QString fault(const QFileInfo& file)
 {
     if (file.exists() && !file.isFile())
         return RegistryTransfer::tr("it is not a regular file.");
-    if (file.size() > largestFile)
-        return RegistryTransfer::tr("it is larger than %1 MiB.").arg(largestFile / 1024 / 1024);
     return {};
 }
 

@@ -4657,6 +4657,13 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RegistryImportJob</name>
+    <message>
+        <source>There is not enough memory for its statements.</source>
+        <translation>内存不足，容纳不下其中的语句。</translation>
+    </message>
+</context>
+<context>
     <name>RegistryListCommand</name>
     <message>
         <source>Everything below the key, too.</source>
@@ -4922,10 +4929,6 @@ Wide: %2</source>
     <message>
         <source>it is not a regular file.</source>
         <translation>它不是普通文件。</translation>
-    </message>
-    <message>
-        <source>it is larger than %1 MiB.</source>
-        <translation>它大于 %1 MiB。</translation>
     </message>
     <message>
         <source>Cancelled: nothing was imported.</source>

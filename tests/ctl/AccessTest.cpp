@@ -90,6 +90,21 @@ TEST_F(CtlAccess, WaitsForTheLockOfAStoreBeforeItSaves)
     EXPECT_EQ(read("s.ini"), "[A]\nv=5$y\n");
 }
 
+TEST_F(CtlAccess, EndsTheWaitForALockWhenTheUserDoesNotWait)
+{
+    if (isEmulated())
+        GTEST_SKIP() << "the system shows the signals that the emulator handles";
+    write("s.ini", "[A]\nv=5$x\n");
+    const Result result =
+        shell("printf '%s\\nbash\\n%s\\n' $$ \"$(uname -n)\" >s.ini.lock;"
+              "$CTL --store s.ini registry set A v y & writer=$!;"
+              "until grep -qs 'SigCgt:.*[4-7c-f]..[37bf]$' /proc/$!/status; do sleep 0.05; done;"
+              "kill -INT $writer; wait $writer; status=$?; rm s.ini.lock; exit $status");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.error.contains("Interrupted")) << result.error.toStdString();
+    EXPECT_EQ(read("s.ini"), "[A]\nv=5$x\n");
+}
+
 /// The most memory that a run of the program takes, in KiB.
 long peakOf(const QStringList& line)
 {

@@ -1,6 +1,7 @@
 #include "host/HostLibraries.h"
 #include "platform/PlatformServicesImp.h"
 #include "tests/support/ForkedCheck.h"
+#include "tests/support/RandomBytes.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,8 +10,6 @@
 #include <QStandardPaths>
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 namespace {
 
@@ -55,16 +54,6 @@ protected:
             g_globalSettings->sync();
             return ForkedCheck::passed;
         });
-    }
-
-    static QByteArray randomBytes()
-    {
-        constexpr int size = 4096;
-        std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same ones in every run
-        QByteArray bytes;
-        for (int i = 0; i < size; ++i)
-            bytes += static_cast<char>(random() % 256);
-        return bytes;
     }
 
     const QDir folder{QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)};

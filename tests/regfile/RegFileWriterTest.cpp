@@ -78,6 +78,23 @@ TEST(RegFileWriter, BreaksLongListsWithinEightyCharacters)
     }
 }
 
+// As a host library reads both: a text ends at its NUL.
+TEST(RegFileWriter, EndsATextOfSeveralLinesAtItsNul)
+{
+    const QByteArray file = written(Encoding::Utf16, [](RegFileWriter& w) {
+        w.key("HKEY_CURRENT_USER\\A");
+        w.text("lines", QString("a\nb") + QChar::Null + "c");
+        w.text("line", QString("a") + QChar::Null + "c");
+    });
+    RegFileReader reader(file);
+    RegFileEntry entry;
+    QStringList texts;
+    while (reader.next(entry) != RegFileReader::Step::End)
+        texts.append(entry.text);
+    EXPECT_TRUE(texts.contains("a\nb"));
+    EXPECT_TRUE(texts.contains(QString("a") + QChar::Null + "c"));
+}
+
 TEST(RegFileWriter, PutsLineEndsOfACommentIntoOneLine)
 {
     const QByteArray text = body([](RegFileWriter& w) { w.comment("one\r\ntwo"); });

@@ -24,6 +24,20 @@ TEST_F(CtlRegistryFiles, ExportAKeyInUtf16OrUtf8)
     EXPECT_EQ(status({"registry", "export", "A", "--encoding", "utf-7"}), 2);
 }
 
+TEST_F(CtlRegistryFiles, SayThatThereIsNotEnoughMemoryForThem)
+{
+    if (isEmulated() || isSanitized())
+        GTEST_SKIP() << "the memory is not the program's alone";
+    const Result result = shell(
+        "{ echo 'Windows Registry Editor Version 5.00'; echo '[HKEY_CURRENT_USER\\A]';"
+        "for ((i = 0; i < 400000; ++i)); do echo \"\\\"v$i\\\"=\\\"text\\\"\"; done; } >large.reg;"
+        "ulimit -v 200000; $CTL --store s.ini registry import large.reg; exit $?");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.error.contains("large.reg: There is not enough memory"))
+        << result.error.toStdString();
+    EXPECT_EQ(shell("ls").out, "large.reg\n");
+}
+
 TEST_F(CtlRegistryFiles, TakeNamesOfEncodingsAsPeopleWriteThem)
 {
     writeStore("[A]\nv=5$x\n");

@@ -1,25 +1,15 @@
 #include "tests/platform/profiles/ProfileManagerTest.h"
+#include "tests/support/RandomBytes.h"
 
 #include <QFileInfo>
 
 #include <cstdio>
-#include <random>
 
 namespace {
 
 // Files that nobody has written as a profile, or that change under the calls.
 class ProfileFaults : public ProfileManagerTest
 {
-protected:
-    static QByteArray randomBytes()
-    {
-        constexpr int size = 4096;
-        std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same ones in every run
-        QByteArray bytes;
-        for (int i = 0; i < size; ++i)
-            bytes += static_cast<char>(random() % 256);
-        return bytes;
-    }
 };
 
 TEST_F(ProfileFaults, BinaryFileHasNoValues)

@@ -282,6 +282,22 @@ TEST_F(ProfileWide, TheSectionGeneralHasAnotherNameInTheFile)
     EXPECT_EQ("1", readNarrow("General", "k"));
 }
 
+// The settings decode what follows an escape by itself, where the mark begins a text.
+TEST_F(ProfileWide, AByteOrderMarkBehindAnEscapeIsDroppedOnReading)
+{
+    EXPECT_EQ(1, writeWide(L"S", L"k", L"a\\\uFEFFb"));
+    EXPECT_EQ("[S]\nk=a\\\\\xEF\xBB\xBF"
+              "b\n",
+              content());
+    EXPECT_EQ(L"a\\\uFEFFb", readWide(L"S", L"k"));
+    const QString copy = folder.filePath("copy.ini");
+    ASSERT_TRUE(QFile::copy(path, copy));
+    wchar_t buffer[8] = {};
+    EXPECT_EQ(3U, manager.GetPrivateProfileStringW(L"S", L"k", nullptr, buffer, 8,
+                                                   copy.toStdWString().c_str()));
+    EXPECT_STREQ(L"a\\b", buffer);
+}
+
 TEST_F(ProfileWide, CharactersBeyondTheBmpAreDroppedOnWriting)
 {
     EXPECT_EQ(1, writeWide(L"S", L"k", L"x\U0001F600y"));
