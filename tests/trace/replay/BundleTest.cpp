@@ -91,7 +91,7 @@ TEST_F(BundleTest, LaysOutTheFilesOfListedFolders)
     EXPECT_EQ(report.performed, 3);
     EXPECT_EQ(
         differences(replayBundle(Made().add(attributes("/home/x/files/three", "144")).bytes())),
-        "1 (result): 144 -> FILE_ATTRIBUTE_NORMAL\n");
+        "1 (result): 0x90 -> FILE_ATTRIBUTE_NORMAL\n");
 }
 
 TEST_F(BundleTest, IsRefusedWhereItsIndexIsWrong)
