@@ -183,14 +183,72 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
-    <name>BundleLayout</name>
+    <name>Bundle</name>
     <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
+        <source>%1 cannot be unpacked: %2</source>
+        <translation>无法解包 %1：%2</translation>
     </message>
     <message>
-        <source>%1 is no index of a bundle of a form that is known here.</source>
-        <translation>%1 不是此处已知格式的包索引。</translation>
+        <source>%1 is no bundle.</source>
+        <translation>%1 不是记录包。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>无法读取 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>BundleArchive</name>
+    <message>
+        <source>it would become more than %L1 times as large; unpack it yourself and name the folder, if you know it</source>
+        <translation>解包后会增大到 %L1 倍以上；如果信任它，请自行解包并指定其文件夹</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file</source>
+        <translation>“%1”不是普通文件</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; leads out of it</source>
+        <translation>“%1”指向包外</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be unpacked: %2.</source>
+        <translation>无法解包 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>BundleIndex</name>
+    <message>
+        <source>over the size limit</source>
+        <translation>超出大小限制</translation>
+    </message>
+    <message>
+        <source>no regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>the list of the bundle is damaged: %1</source>
+        <translation>包的清单已损坏：%1</translation>
+    </message>
+    <message>
+        <source>the list is none of a bundle</source>
+        <translation>清单不属于记录包</translation>
+    </message>
+    <message>
+        <source>a bundle of a form that is not known here: %1</source>
+        <translation>未知格式的记录包：%1</translation>
+    </message>
+    <message>
+        <source>the list of the bundle is wrong at %1</source>
+        <translation>包的清单在 %1 处有误</translation>
     </message>
 </context>
 <context>

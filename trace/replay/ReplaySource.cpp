@@ -1,5 +1,6 @@
 #include "trace/replay/ReplaySource.h"
 
+#include "trace/replay/BundleLayout.h"
 #include "trace/replay/ReplayFolder.h"
 
 #include <QDir>
@@ -13,8 +14,11 @@ QStringList ReplaySource::findIn(const QString& folder)
     const QFileInfoList entries =
         directory.entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     for (const QFileInfo& entry : entries) {
-        const bool isRecording = entry.isFile() && entry.suffix() == QLatin1String("trace");
-        if (isRecording || BundleLayout::isBundle(entry.filePath()))
+        const bool isFile =
+            entry.suffix() == QLatin1String("trace") || entry.suffix() == QLatin1String("qtrace");
+        const bool isBundle =
+            QFile::exists(entry.filePath() + '/' + QLatin1String(trace::bundleName::index));
+        if ((entry.isFile() && isFile) || isBundle)
             paths += entry.filePath();
     }
     return paths;
@@ -22,20 +26,13 @@ QStringList ReplaySource::findIn(const QString& folder)
 
 bool ReplaySource::open(const Pause& pause)
 {
-    if (!BundleLayout::isBundle(m_path))
-        return openRecording(m_path, pause);
-    m_bundle.emplace(m_path);
-    if (m_bundle->read())
-        return openRecording(m_bundle->recording(), pause);
-    m_error = m_bundle->error();
-    return false;
-}
-
-bool ReplaySource::openRecording(const QString& path, const Pause& pause)
-{
-    m_file = std::make_unique<trace::TraceFile>(path);
+    if (!m_bundle.open(pause)) {
+        m_error = m_bundle.error();
+        return false;
+    }
+    m_file = std::make_unique<trace::TraceFile>(m_bundle.recording());
     if (!m_file->open()) {
-        m_error = m_file->error();
+        m_error = QString(m_file->error()).replace(m_bundle.recording(), m_path);
         return false;
     }
     while (m_file->readOn())
@@ -46,8 +43,8 @@ bool ReplaySource::openRecording(const QString& path, const Pause& pause)
 std::unique_ptr<ReplayFolder> ReplaySource::makeFolder() const
 {
     auto folder = std::make_unique<ReplayFolder>(m_file->header().textOf("cwd"));
-    if (m_bundle && folder->isValid())
-        m_bundle->lay(*folder);
+    if (m_bundle.index() && folder->isValid())
+        BundleLayout(m_bundle).lay(*folder);
     return folder;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "trace/bundle/Bundle.h"
 #include "trace/reading/TraceFile.h"
-#include "trace/replay/BundleLayout.h"
 
 #include <QCoreApplication>
 
@@ -9,13 +9,12 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace replay {
 
 class ReplayFolder;
 
-/// What is replayed: a recording alone, or the unpacked folder of a bundle.
+/// What is replayed: a recording alone, or a bundle.
 class ReplaySource
 {
     Q_DECLARE_TR_FUNCTIONS(ReplaySource)
@@ -24,10 +23,10 @@ public:
     /// Called between two pieces of work of a few milliseconds; may throw, which ends the work.
     using Pause = std::function<void()>;
 
-    explicit ReplaySource(const QString& path) : m_path(path) {}
+    explicit ReplaySource(const QString& path) : m_path(path), m_bundle(path) {}
 
-    /// The paths of the recordings in a folder, those that are named *.trace, and of the folders of
-    /// bundles, by name.
+    /// The paths of the recordings in a folder, those that are named *.trace, and of its
+    /// bundles, *.qtrace or unpacked, by name.
     static QStringList findIn(const QString& folder);
 
     /// Reads all of the recording. False where that is not possible; `error` tells why.
@@ -40,11 +39,9 @@ public:
     std::unique_ptr<ReplayFolder> makeFolder() const;
 
 private:
-    bool openRecording(const QString& path, const Pause& pause);
-
     QString m_path;
     QString m_error;
-    std::optional<BundleLayout> m_bundle;
+    trace::Bundle m_bundle;
     std::unique_ptr<trace::TraceFile> m_file;
 };
 
