@@ -33,8 +33,11 @@
 #include "ctl/trace/TraceDiffCommand.h"
 #include "ctl/trace/TraceDumpCommand.h"
 #include "ctl/trace/TraceLeaksCommand.h"
+#include "ctl/trace/TraceMinimiseCommand.h"
 #include "ctl/trace/TraceRecordCommand.h"
+#include "ctl/trace/TraceReplayCommand.h"
 #include "ctl/trace/TraceStatCommand.h"
+#include "ctl/trace/TraceTestCommand.h"
 #include "ctl/trace/TraceTrimCommand.h"
 
 #include <algorithm>
@@ -170,6 +173,17 @@ constexpr CommandTable::Row table[] = {
     {"trace", "trim", "FILE [NEWFILE]",
      QT_TRANSLATE_NOOP("CommandTable", "Keeps some calls of a recording, with what they need."), 1,
      2, Needs::Nothing, made<TraceTrimCommand>},
+    {"trace", "replay", "FILE",
+     QT_TRANSLATE_NOOP("CommandTable",
+                       "Performs the calls of a recording again, and compares the answers."),
+     1, 1, Needs::Nothing, made<TraceReplayCommand>},
+    {"trace", "minimise", "FILE [NEWFILE]",
+     QT_TRANSLATE_NOOP("CommandTable",
+                       "Keeps few calls of a recording after which one gets the same answer."),
+     1, 2, Needs::Nothing, made<TraceMinimiseCommand>},
+    {"trace", "test", "FOLDER",
+     QT_TRANSLATE_NOOP("CommandTable", "Performs all recordings of a folder again."), 1, 1,
+     Needs::Nothing, made<TraceTestCommand>},
 };
 
 } // namespace

@@ -10,9 +10,11 @@
 #include <QTextCodec>
 #include <QTranslator>
 
+#include <algorithm>
 #include <clocale>
 #include <cstdlib>
 #include <fcntl.h>
+#include <iterator>
 #include <langinfo.h>
 #include <memory>
 #include <unistd.h>
@@ -95,10 +97,27 @@ void choosePlatform(bool isForFonts)
     qputenv("QT_QPA_PLATFORM", platforms);
 }
 
+// A replay has a display of its own, that shows nothing. What stands behind "trace record" is the
+// arguments of another program.
+bool isReplay(int argc, char** argv)
+{
+    constexpr const char* words[] = {"replay", "minimise", "test"};
+    char** const end = argv + argc;
+    char** const group =
+        std::find_if(argv + 1, end, [](const char* word) { return qstrcmp(word, "trace") == 0; });
+    return group < end - 1 &&
+           std::any_of(std::begin(words), std::end(words),
+                       [&](const char* word) { return qstrcmp(group[1], word) == 0; });
+}
+
 // Qt's graphical start takes many times as long as the other one: only for the commands that need
 // it, before the arguments can be read. A word that only looks like one does no harm.
 std::unique_ptr<QCoreApplication> application(int& argc, char** argv)
 {
+    if (isReplay(argc, argv)) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return std::make_unique<QApplication>(argc, argv);
+    }
     for (int i = 1; i < argc; ++i) {
         const QByteArray word(argv[i]);
         if (word != "fonts" && word != "displays" && word != "input")

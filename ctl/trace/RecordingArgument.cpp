@@ -22,7 +22,10 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(RecordingArgument)
 };
 
-void tellFaults(const QString& name, const trace::TraceFile& file, const Output& output)
+} // namespace
+
+void RecordingArgument::tellFaults(const QString& name, const trace::TraceFile& file,
+                                   const Output& output)
 {
     const QString prefix = name + QLatin1String(": ");
     const std::vector<trace::TraceFault> faults = file.faults();
@@ -32,8 +35,6 @@ void tellFaults(const QString& name, const trace::TraceFile& file, const Output&
     if (rest > 0)
         output.note(prefix + Texts::tr("%L1 more lines cannot be read.").arg(rest));
 }
-
-} // namespace
 
 // What a bundle is unpacked into goes away with it: the recording has been opened by then.
 std::unique_ptr<trace::TraceFile> RecordingArgument::read(const QString& file, const Output& output)

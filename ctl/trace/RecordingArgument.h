@@ -21,6 +21,9 @@ std::unique_ptr<trace::TraceFile> read(const QString& file, const Output& output
 /// or is none.
 std::unique_ptr<trace::TraceFile> await(const QString& file);
 
+/// Tells the lines of the file of that name that cannot be read.
+void tellFaults(const QString& name, const trace::TraceFile& file, const Output& output);
+
 /// The options --calls and --failures.
 void addFilterOptions(QCommandLineParser& parser);
 /// What they say. Throws a Failure where a set makes no sense.

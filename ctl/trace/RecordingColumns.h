@@ -24,5 +24,8 @@ constexpr Column unreturned{"unreturned", QT_TRANSLATE_NOOP("Output", "Never ret
 constexpr Column longest{"longest", QT_TRANSLATE_NOOP("Output", "Longest")};
 constexpr Column handle{"handle", QT_TRANSLATE_NOOP("Output", "Handle")};
 constexpr Column part{"part", QT_TRANSLATE_NOOP("Output", "Part")};
+constexpr Column different{"different", QT_TRANSLATE_NOOP("Output", "Different")};
+constexpr Column skipped{"skipped", QT_TRANSLATE_NOOP("Output", "Not performed")};
+constexpr Column first{"first", QT_TRANSLATE_NOOP("Output", "First difference")};
 
 } // namespace RecordingColumns

@@ -778,6 +778,18 @@ Put it in the place of the file to bring everything back.</source>
         <source>Writes a host library that builds and loads at once, to begin with.</source>
         <translation>写出一个可立即构建和加载的宿主库，供由此开始。</translation>
     </message>
+    <message>
+        <source>Performs the calls of a recording again, and compares the answers.</source>
+        <translation>重新执行记录中的调用并比较应答。</translation>
+    </message>
+    <message>
+        <source>Keeps few calls of a recording after which one gets the same answer.</source>
+        <translation>从记录中保留少量调用，使某个调用仍得到相同的应答。</translation>
+    </message>
+    <message>
+        <source>Performs all recordings of a folder again.</source>
+        <translation>重新执行一个文件夹中的所有记录。</translation>
+    </message>
 </context>
 <context>
     <name>CopyButton</name>
@@ -3023,6 +3035,21 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>Minimiser</name>
+    <message>
+        <source>There is no call %1 of a service.</source>
+        <translation>没有编号为 %1 的服务调用。</translation>
+    </message>
+    <message>
+        <source>The services crash before it, in call %1.</source>
+        <translation>服务在它之前的调用 %1 中崩溃。</translation>
+    </message>
+    <message>
+        <source>Call %1 cannot be performed. %2</source>
+        <translation>无法执行调用 %1。%2</translation>
+    </message>
+</context>
+<context>
     <name>MonitorList</name>
     <message>
         <source>Monitor %1</source>
@@ -3422,6 +3449,18 @@ Put it in the place of the file to bring everything back.</source>
         <source>Part</source>
         <translation>部分</translation>
     </message>
+    <message>
+        <source>Different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>Not performed</source>
+        <translation>未执行</translation>
+    </message>
+    <message>
+        <source>First difference</source>
+        <translation>首个差异</translation>
+    </message>
 </context>
 <context>
     <name>PageCatalogue</name>
@@ -3608,6 +3647,33 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>%1 AddBackslash makes %2 of it.</source>
         <translation>%1AddBackslash 将其变为 %2。</translation>
+    </message>
+</context>
+<context>
+    <name>Player</name>
+    <message>
+        <source>(procedure)</source>
+        <translation>（过程）</translation>
+    </message>
+    <message>
+        <source>called %1 times</source>
+        <translation>被调用 %1 次</translation>
+    </message>
+    <message>
+        <source>(handle)</source>
+        <translation>（句柄）</translation>
+    </message>
+    <message>
+        <source>the one that was given</source>
+        <translation>传入的那个句柄</translation>
+    </message>
+    <message>
+        <source>another one</source>
+        <translation>另一个句柄</translation>
+    </message>
+    <message>
+        <source>written beyond the buffer</source>
+        <translation>写到了缓冲区之外</translation>
     </message>
 </context>
 <context>
@@ -4533,6 +4599,21 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>RecordingOutput</name>
+    <message>
+        <source>The recording cannot be written: %1.</source>
+        <translation>无法写入记录文件：%1。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>With --json, name a file to write.</source>
+        <translation>使用 --json 时，请指定要写入的文件。</translation>
+    </message>
+</context>
+<context>
     <name>RedirectedName</name>
     <message>
         <source>A name with a &quot;\&quot; in it: a host library that opens this key gets the key &quot;%1&quot; in %2.</source>
@@ -5378,6 +5459,24 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>ReplayProcess</name>
+    <message>
+        <source>No process can be started for the replay: %1</source>
+        <translation>无法为重放启动进程：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Replays</name>
+    <message>
+        <source>The services have crashed in call %1: %2.</source>
+        <translation>服务在调用 %1 中崩溃：%2。</translation>
+    </message>
+    <message>
+        <source>Performed: %L1 calls, %L2 of them differ. Not performed: %L3.</source>
+        <translation>已执行 %L1 个调用，其中 %L2 个不同；未执行 %L3 个。</translation>
+    </message>
+</context>
+<context>
     <name>Secret</name>
     <message>
         <source>There is no terminal to ask for the secret on: name a file.</source>
@@ -5397,6 +5496,69 @@ Wide: %2</source>
     <message>
         <source>nothing</source>
         <translation>空</translation>
+    </message>
+</context>
+<context>
+    <name>SkipReasonText</name>
+    <message>
+        <source>It never returned.</source>
+        <translation>它没有返回。</translation>
+    </message>
+    <message>
+        <source>It was left by an exception or a jump.</source>
+        <translation>它因异常或跳转而离开。</translation>
+    </message>
+    <message>
+        <source>There is no such operation here.</source>
+        <translation>此处没有这个操作。</translation>
+    </message>
+    <message>
+        <source>A value is hidden in the recording.</source>
+        <translation>记录中隐藏了一个值。</translation>
+    </message>
+    <message>
+        <source>A value is shortened in the recording.</source>
+        <translation>记录中截短了一个值。</translation>
+    </message>
+    <message>
+        <source>An argument could not be read by the recorder.</source>
+        <translation>记录程序无法读取一个参数。</translation>
+    </message>
+    <message>
+        <source>No call of the recording made the handle.</source>
+        <translation>记录中没有创建该句柄的调用。</translation>
+    </message>
+    <message>
+        <source>The call that made the handle made none here.</source>
+        <translation>创建该句柄的调用在此处没有创建句柄。</translation>
+    </message>
+    <message>
+        <source>The handle had been given back.</source>
+        <translation>该句柄已被归还。</translation>
+    </message>
+    <message>
+        <source>A root must not be given back.</source>
+        <translation>不得归还根键。</translation>
+    </message>
+    <message>
+        <source>It asks a library of the recorded program.</source>
+        <translation>它询问的是被记录程序的库。</translation>
+    </message>
+    <message>
+        <source>The service made it within another call.</source>
+        <translation>它是服务在另一个调用之内发出的。</translation>
+    </message>
+    <message>
+        <source>What was at its path is not in the bundle.</source>
+        <translation>其路径上原有的内容不在包中。</translation>
+    </message>
+    <message>
+        <source>A change that may matter was not performed before it.</source>
+        <translation>在它之前有一个可能相关的更改没有执行。</translation>
+    </message>
+    <message>
+        <source>The services have no such manager.</source>
+        <translation>服务没有这个管理器。</translation>
     </message>
 </context>
 <context>
@@ -5737,6 +5899,21 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>TraceMinimiseCommand</name>
+    <message>
+        <source>The number of the call that is to be kept.</source>
+        <translation>要保留的调用的编号。</translation>
+    </message>
+    <message>
+        <source>Which call? Name its number by --call.</source>
+        <translation>哪个调用？请用 --call 指定其编号。</translation>
+    </message>
+    <message>
+        <source>Kept: %L1 of %L2 calls, after %L3 replays.</source>
+        <translation>经过 %L3 次重放，保留了 %L2 个调用中的 %L1 个。</translation>
+    </message>
+</context>
+<context>
     <name>TracePage</name>
     <message>
         <source>What is shown of the recording</source>
@@ -5843,6 +6020,17 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>TraceReplayCommand</name>
+    <message>
+        <source>Prints the first call that differs alone.</source>
+        <translation>只输出第一个不同的调用。</translation>
+    </message>
+    <message>
+        <source>Lists the calls that cannot be performed, and why.</source>
+        <translation>列出无法执行的调用及其原因。</translation>
+    </message>
+</context>
+<context>
     <name>TraceStatCommand</name>
     <message>
         <source>&quot;%1&quot; is no number.</source>
@@ -5858,22 +6046,17 @@ Wide: %2</source>
     </message>
 </context>
 <context>
+    <name>TraceTestCommand</name>
+    <message>
+        <source>%1: there is no recording in this folder.</source>
+        <translation>%1：此文件夹中没有记录。</translation>
+    </message>
+</context>
+<context>
     <name>TraceTrimCommand</name>
-    <message>
-        <source>The recording cannot be written: %1.</source>
-        <translation>无法写入记录文件：%1。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>无法写入 %1：%2。</translation>
-    </message>
     <message>
         <source>Which calls? Name them by --calls.</source>
         <translation>哪些调用？请用 --calls 指定。</translation>
-    </message>
-    <message>
-        <source>With --json, name a file to write.</source>
-        <translation>使用 --json 时，请指定要写入的文件。</translation>
     </message>
     <message>
         <source>Kept: %L1 of %L2 calls, %L3 of them because others need them.</source>

@@ -250,4 +250,70 @@ TEST_F(CtlTrace, WritesNothingWhereNoCallIsWanted)
     EXPECT_EQ(read("b.trace"), "former");
 }
 
+TEST_F(CtlTrace, ReplaysACall)
+{
+    write("b.trace", Made()
+                         .add(Made::query("HKEY_CURRENT_USER", "None", ""))
+                         .add({"directory", "isURL", "{\"text\":{\"text\":\"x\"}}", "1"})
+                         .add(Made::close("0x5581"))
+                         .bytes());
+    const Result result = run({"trace", "replay", "b.trace"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "different\t2\tlibfoo.so+0x10\tisURL\t(result)\t1\t0\n");
+    EXPECT_EQ(result.error,
+              "quaysidectl: Performed: 2 calls, 1 of them differ. Not performed: 1.\n");
+    EXPECT_EQ(out({"trace", "replay", "b.trace", "--skipped"}),
+              result.out + "skipped\t3\tlibfoo.so+0x10\tRegCloseKey\t\tNo call of the recording "
+                           "made the handle.\t\n");
+    write("c.trace", Made().add(Made::query("HKEY_CURRENT_USER", "None", "")).bytes());
+    EXPECT_EQ(run({"trace", "replay", "c.trace"}).out, "");
+    EXPECT_EQ(status({"trace", "replay", "c.trace"}), 0);
+    EXPECT_EQ(status({"trace", "replay", "missing"}), 3);
+}
+
+TEST_F(CtlTrace, KeepsCallsThatAnAnswerNeeds)
+{
+    Made made;
+    for (const QByteArray name : {"A", "B", "C"})
+        made.add({"register", "RegSetValueExW",
+                  "{\"key\":{\"handle\":\"HKEY_USERS\"},\"valueName\":{\"text\":\"" + name +
+                      "\"},\"reserved\":0,\"type\":4,\"data\":{\"data\":\"07000000\",\"length\":4},"
+                      "\"byteCount\":4}"});
+    write("b.trace", made.add(Made::query("HKEY_USERS", "B", "07000000"))
+                         .add(Made::query("HKEY_USERS", "C", "07000000"))
+                         .bytes());
+    const Result result = run({"trace", "minimise", "b.trace", "c.trace", "--call", "4"});
+    EXPECT_EQ(result.status, 0) << result.error.toStdString();
+    EXPECT_TRUE(result.error.startsWith("quaysidectl: Kept: 2 of 5 calls, after "));
+    const QList<QByteArray> lines = read("b.trace").split('\n');
+    EXPECT_EQ(read("c.trace"), lines[0] + '\n' + lines[2] + '\n' + lines[4] + '\n');
+    EXPECT_EQ(status({"trace", "replay", "c.trace"}), 0);
+    EXPECT_EQ(out({"trace", "minimise", "b.trace", "--call", "4"}), read("c.trace"));
+    EXPECT_EQ(status({"trace", "minimise", "b.trace"}), 2);
+    EXPECT_EQ(status({"trace", "minimise", "b.trace", "--call", "x"}), 2);
+    EXPECT_EQ(status({"trace", "minimise", "b.trace", "--call", "9"}), 3);
+    EXPECT_EQ(status({"--json", "trace", "minimise", "b.trace", "--call", "4"}), 2);
+}
+
+TEST_F(CtlTrace, ReplaysAFolder)
+{
+    const QByteArray url = "{\"text\":{\"text\":\"x\"}}";
+    write("all/a.trace", Made().add({"directory", "isURL", url, "0"}).bytes());
+    EXPECT_EQ(run({"trace", "test", "all"}).out, "a.trace\tequal\t1\t0\t0\t\n");
+    EXPECT_EQ(status({"trace", "test", "all"}), 0);
+    write("all/b.trace", Made()
+                             .add({"directory", "isURL", url, "0"})
+                             .add({"directory", "isURL", url, "1"})
+                             .add(Made::close("0x5"))
+                             .bytes());
+    const Result result = run({"trace", "test", "all"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "a.trace\tequal\t1\t0\t0\t\nb.trace\tdifferent\t2\t1\t1\t2\n");
+    write("all/c.trace", "nothing");
+    const Result unreadable = run({"trace", "test", "all"});
+    EXPECT_EQ(unreadable.status, 3);
+    EXPECT_EQ(unreadable.out, result.out + "c.trace\tunreadable\t\t\t\t\n");
+    EXPECT_EQ(status({"trace", "test", "none"}), 3);
+}
+
 } // namespace

@@ -18,4 +18,7 @@ void callAcross(IPlatformServices& services);
 /// Reads and writes a value of the registry so many times.
 void callOften(IPlatformServices& services, int times);
 
+/// Makes about so many calls of most operations, chosen by the seed.
+void callAtRandom(IPlatformServices& services, unsigned int seed, int times);
+
 #pragma GCC visibility pop

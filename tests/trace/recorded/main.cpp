@@ -84,6 +84,9 @@ int main(int argc, char** argv)
         callEverything(g_PlatformServices);
     else if (way == "across")
         callAcross(g_PlatformServices);
+    else if (way == "random")
+        callAtRandom(g_PlatformServices, static_cast<unsigned int>(std::atoi(argv[2])),
+                     std::atoi(argv[3]));
     else if (way == "often")
         callOftenInFlatMemory(std::atoi(argv[2]));
     else
