@@ -9,6 +9,7 @@
 #include "ctl/graphics/DisplaysListCommand.h"
 #include "ctl/graphics/FontsListCommand.h"
 #include "ctl/host/HostCheckCommand.h"
+#include "ctl/host/HostNewCommand.h"
 #include "ctl/input/InputKeysCommand.h"
 #include "ctl/profiles/ProfileCheckCommand.h"
 #include "ctl/profiles/ProfileCompareCommand.h"
@@ -148,6 +149,10 @@ constexpr CommandTable::Row table[] = {
      QT_TRANSLATE_NOOP("CommandTable",
                        "Tells whether host libraries can be loaded here, and if not, why."),
      1, anyNumber, Needs::Nothing, made<HostCheckCommand>},
+    {"host", "new", "NAME",
+     QT_TRANSLATE_NOOP("CommandTable",
+                       "Writes a host library that builds and loads at once, to begin with."),
+     1, 1, Needs::Nothing, made<HostNewCommand>},
     {"trace", "record", "PROGRAM [ARGUMENT]...",
      QT_TRANSLATE_NOOP("CommandTable", "Runs a program and records the calls of its services."), 1,
      anyNumber, Needs::Nothing, made<TraceRecordCommand>},

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # lint.sh BUILD: formatting, scripts, floors, sizes, version, binary interface, run paths, headers
-# that compile alone, translations, clang-tidy and clazy. BUILD holds compile_commands.json. The last
+# that compile alone, translations, the handbook, clang-tidy and clazy. BUILD holds compile_commands.json. The last
 # line is "N passed, N failed", a check a pass.
 set -uo pipefail
 build=$1
@@ -58,6 +58,15 @@ headers_alone() {
             "exec g++ -std=c++17 -fPIC -fsyntax-only -Wall -Wextra -I. $flags -x c++ \"\$1\"" compile
 }
 
+# handbook: made only to see whether doxygen warns.
+handbook() {
+    local folder status=0
+    folder=$(mktemp -d)
+    tools/docs.sh "$folder" || status=1
+    rm -rf "$folder"
+    return "$status"
+}
+
 # sizes: the figures are shown in any case.
 exec 3>&1
 sizes() { tools/sizes.py >&3; }
@@ -72,6 +81,8 @@ check "run paths" tools/runpaths.sh "$build"
 check "headers compile alone" headers_alone
 # Every text of the window has its Chinese translation, and none is left over.
 check "translations" tools/catalogue.py --check
+check "pages of operations" tools/operations.sh "$build" --check
+check "handbook" handbook
 check "clang-tidy" tidy
 check "clazy" clazy
 echo "$passed passed, $failed failed"

@@ -5,6 +5,7 @@
 #include "ctl/Interruption.h"
 #include "ctl/JobRun.h"
 #include "ctl/Output.h"
+#include "trace/bundle/Bundle.h"
 #include "trace/reading/TraceReadingJob.h"
 
 #include <QCoreApplication>
@@ -34,11 +35,15 @@ void tellFaults(const QString& name, const trace::TraceFile& file, const Output&
 
 } // namespace
 
+// What a bundle is unpacked into goes away with it: the recording has been opened by then.
 std::unique_ptr<trace::TraceFile> RecordingArgument::read(const QString& file, const Output& output)
 {
-    auto recording = std::make_unique<trace::TraceFile>(file);
+    trace::Bundle bundle(file);
+    if (!bundle.open(Interruption::check))
+        throw Failure(bundle.error());
+    auto recording = std::make_unique<trace::TraceFile>(bundle.recording());
     if (!recording->open())
-        throw Failure(recording->error());
+        throw Failure(QString(recording->error()).replace(bundle.recording(), file));
     trace::TraceReadingJob job(*recording);
     finish(job);
     tellFaults(file, *recording, output);

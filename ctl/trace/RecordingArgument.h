@@ -12,8 +12,8 @@ class QCommandLineParser;
 /// Arguments of the commands that read recordings.
 namespace RecordingArgument {
 
-/// The recording, read to its end; lines that cannot be read are told. Throws a Failure where it
-/// cannot be read, or is none.
+/// The recording, or that of a bundle, read to its end; lines that cannot be read are told. Throws
+/// a Failure where it cannot be read, or is none.
 std::unique_ptr<trace::TraceFile> read(const QString& file, const Output& output);
 
 /// The recording, of which little has been read, as one that is still written. Waits while its file

@@ -1,20 +1,37 @@
 #pragma once
 
-#include "ctl/trace/CallPrinter.h"
+#include "trace/reading/CallText.h"
+#include "trace/reading/GrowingLines.h"
+#include "trace/reading/HandleTable.h"
 
 #include <QFile>
 
-/// Prints the calls of a recording that is being written.
+#include <map>
+
+/// Prints the calls of a recording that is being written, on the standard error: the standard
+/// output is the recorded program's.
 class RecordingFollower
 {
 public:
-    RecordingFollower(const QString& path, const CallPrinter& printer);
+    /// Prints all calls, or only those that fail.
+    RecordingFollower(const QString& path, bool hasOnlyFailures);
 
-    /// Prints what has been added. The last line may still be completed in its place: it is left
-    /// for the next time, unless the recording has ended.
+    RecordingFollower(const RecordingFollower&) = delete;
+    RecordingFollower& operator=(const RecordingFollower&) = delete;
+
+    /// Prints the calls that have returned since, each behind those within it. When the recording
+    /// has ended, the calls that never returned follow.
     void read(bool hasEnded);
 
 private:
+    bool take(const trace::GrowingLines::Line& line);
+    void add(const trace::Call& call);
+    void print(const trace::Call& call, const trace::Operation* operation) const;
+
     QFile m_file;
-    CallPrinter m_printer;
+    trace::GrowingLines m_lines;
+    trace::HandleTable m_handles;
+    trace::CallText m_text;
+    std::map<qint64, trace::Call> m_open; ///< entered and not returned, by number
+    bool m_hasOnlyFailures;
 };

@@ -73,18 +73,15 @@ private:
     qint64 m_printed = 0;
 };
 
-// A handle that a call makes is shown with what it stands for, and so is one that it gives back:
-// hence the two orders.
 void Dump::add(const trace::CallEntry& entry)
 {
     const trace::Operation* const operation = m_file.operation(entry);
-    const bool isMaking = trace::HandleTable::isMaking(operation);
-    if (isMaking)
-        m_handles.follow(m_file, entry);
-    if (m_filter.admits(m_file, entry))
-        print(entry, operation);
-    if (!isMaking)
-        m_handles.follow(m_file, entry);
+    trace::HandleTable::inOrder(
+        operation, [&] { m_handles.follow(m_file, entry); },
+        [&] {
+            if (m_filter.admits(m_file, entry))
+                print(entry, operation);
+        });
 }
 
 void Dump::print(const trace::CallEntry& entry, const trace::Operation* operation)

@@ -3,7 +3,6 @@
 #include "ctl/Failure.h"
 #include "ctl/Interruption.h"
 #include "ctl/Output.h"
-#include "ctl/trace/CallPrinter.h"
 #include "ctl/trace/RecordedProgram.h"
 #include "ctl/trace/RecordingFollower.h"
 #include "trace/RecordingOptions.h"
@@ -143,7 +142,7 @@ ExitStatus TraceRecordCommand::run(const Arguments& arguments, Output& output)
     empty(file);
     std::optional<RecordingFollower> follower;
     if (arguments.has("print") || arguments.has("failures"))
-        follower.emplace(file, CallPrinter(arguments.has("failures")));
+        follower.emplace(file, arguments.has("failures"));
     RecordedProgram program(library, options);
     program.start(arguments.from(0));
     const int status = finish(program, follower ? &*follower : nullptr);

@@ -234,6 +234,75 @@ Put it in the place of the file to bring everything back.</source>
     </message>
 </context>
 <context>
+    <name>Bundle</name>
+    <message>
+        <source>%1 cannot be unpacked: %2</source>
+        <translation>无法解包 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is no bundle.</source>
+        <translation>%1 不是记录包。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>无法读取 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>BundleArchive</name>
+    <message>
+        <source>it would become more than %L1 times as large; unpack it yourself and name the folder, if you know it</source>
+        <translation>解包后会增大到 %L1 倍以上；如果信任它，请自行解包并指定其文件夹</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file</source>
+        <translation>“%1”不是普通文件</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; leads out of it</source>
+        <translation>“%1”指向包外</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be unpacked: %2.</source>
+        <translation>无法解包 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>BundleIndex</name>
+    <message>
+        <source>over the size limit</source>
+        <translation>超出大小限制</translation>
+    </message>
+    <message>
+        <source>no regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>the list of the bundle is damaged: %1</source>
+        <translation>包的清单已损坏：%1</translation>
+    </message>
+    <message>
+        <source>the list is none of a bundle</source>
+        <translation>清单不属于记录包</translation>
+    </message>
+    <message>
+        <source>a bundle of a form that is not known here: %1</source>
+        <translation>未知格式的记录包：%1</translation>
+    </message>
+    <message>
+        <source>the list of the bundle is wrong at %1</source>
+        <translation>包的清单在 %1 处有误</translation>
+    </message>
+</context>
+<context>
     <name>BusyOverlay</name>
     <message>
         <source>Cancel</source>
@@ -704,6 +773,10 @@ Put it in the place of the file to bring everything back.</source>
     <message>
         <source>Runs a program and records the calls of its services.</source>
         <translation>运行一个程序，并记录对其服务的调用。</translation>
+    </message>
+    <message>
+        <source>Writes a host library that builds and loads at once, to begin with.</source>
+        <translation>写出一个可立即构建和加载的宿主库，供由此开始。</translation>
     </message>
 </context>
 <context>
@@ -2042,6 +2115,21 @@ Put it in the place of the file to bring everything back.</source>
         <source>English</source>
         <comment>name of the interface&apos;s language</comment>
         <translation>简体中文</translation>
+    </message>
+</context>
+<context>
+    <name>HostNewCommand</name>
+    <message>
+        <source>&quot;%1&quot; is no name of a library: letters, digits, &quot;-&quot; and &quot;_&quot; make one, a letter first.</source>
+        <translation>“%1”不能作为库的名称：名称由字母、数字、“-”和“_”组成，以字母开头。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
     </message>
 </context>
 <context>

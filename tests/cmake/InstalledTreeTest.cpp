@@ -1,6 +1,6 @@
 // The tree that installation leaves, seen by one who compiles against it and by one who starts it.
 
-#include "tests/cmake/ChildOutput.h"
+#include "tests/cmake/InstalledTree.h"
 #include "window/PageCatalogue.h"
 
 #include <QDir>
@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -43,36 +42,23 @@ const QStringList publicHeaders = {
     "window/MainWindow.h",
 };
 
-class InstalledTree : public testing::Test
+class InstalledPackage : public InstalledTree
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        folder = new QTemporaryDir;
-        outputOf("cmake", {"--install", QUAYSIDE_BUILD_FOLDER, "--prefix", prefix()});
-    }
-    static void TearDownTestSuite() { delete folder; }
-    static QString prefix() { return folder->filePath("prefix"); }
     static QString headerFolder() { return prefix() + "/" QUAYSIDE_INCLUDE_FOLDER "/quayside"; }
     static QString consumerFolder() { return folder->filePath("consumer"); }
 
     // Builds a target of the programs that know the tree alone.
     static bool consumerBuilds(const QString& target)
     {
-        outputOf("cmake",
-                 {"-S", QUAYSIDE_CONSUMER_FOLDER, "-B", consumerFolder(), "-G", "Ninja",
-                  "-DCMAKE_PREFIX_PATH=" + prefix(), "-DCONSUMER_VERSION=" QUAYSIDE_VERSION,
-                  "-DCONSUMER_HEADERS=" + publicHeaders.join(';')});
-        outputOf("cmake", {"--build", consumerFolder(), "--target", target});
+        built(QUAYSIDE_CONSUMER_FOLDER, "consumer", {"--target", target},
+              {"-DCONSUMER_VERSION=" QUAYSIDE_VERSION,
+               "-DCONSUMER_HEADERS=" + publicHeaders.join(';')});
         return !HasFailure();
     }
-
-    static QTemporaryDir* folder;
 };
 
-QTemporaryDir* InstalledTree::folder = nullptr;
-
-TEST_F(InstalledTree, HoldsThePublicHeadersAndNoOthers)
+TEST_F(InstalledPackage, HoldsThePublicHeadersAndNoOthers)
 {
     const QDir headers(headerFolder());
     QStringList found;
@@ -85,19 +71,19 @@ TEST_F(InstalledTree, HoldsThePublicHeadersAndNoOthers)
 
 // With nothing but Qt and the tree on the include path, so that a header that is not installed
 // cannot be included either.
-TEST_F(InstalledTree, HasHeadersThatEachCompileAlone)
+TEST_F(InstalledPackage, HasHeadersThatEachCompileAlone)
 {
     EXPECT_TRUE(consumerBuilds("headers"));
 }
 
-TEST_F(InstalledTree, ServesAProgramThatUsesTheServices)
+TEST_F(InstalledPackage, ServesAProgramThatUsesTheServices)
 {
     ASSERT_TRUE(consumerBuilds("consumer"));
     EXPECT_EQ("ungWv48Bz-pBQUDeXa4iI7ADYaOWF3qctBD_YfIAFa0 2 40 7\n",
               outputOf(consumerFolder() + "/consumer", {}));
 }
 
-class InstalledLibrary : public InstalledTree, public testing::WithParamInterface<const char*>
+class InstalledLibrary : public InstalledPackage, public testing::WithParamInterface<const char*>
 {
 };
 
@@ -111,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(Libraries, InstalledLibrary,
                                          "window"),
                          [](const auto& row) { return std::string(row.param); });
 
-TEST_F(InstalledTree, IsFoundByItsComponents)
+TEST_F(InstalledPackage, IsFoundByItsComponents)
 {
     const auto found = [](const QString& components) {
         return resultOf("cmake", {"-S", QUAYSIDE_CONSUMER_FOLDER, "-B", folder->filePath("parts"),
@@ -134,9 +120,7 @@ protected:
     static void SetUpTestSuite()
     {
         InstalledTree::SetUpTestSuite();
-        outputOf("cmake", {"-S", QUAYSIDE_AUTHOR_FOLDER, "-B", libraryFolder(), "-G", "Ninja",
-                           "-DCMAKE_PREFIX_PATH=" + prefix()});
-        outputOf("cmake", {"--build", libraryFolder()});
+        built(QUAYSIDE_AUTHOR_FOLDER, "author");
     }
     static QString libraryFolder() { return folder->filePath("author"); }
 };
@@ -156,7 +140,7 @@ TEST_F(InstalledHeaders, LeaveDefinitionsAsStrongAsTheAuthorMakesThem)
         EXPECT_TRUE(symbols.contains(QStringLiteral(" T ") + name)) << symbols.toStdString();
 }
 
-TEST_F(InstalledTree, ServesAProgramThatShowsTheWindow)
+TEST_F(InstalledPackage, ServesAProgramThatShowsTheWindow)
 {
     QString names;
     for (const PageEntry& page : pageCatalogue())

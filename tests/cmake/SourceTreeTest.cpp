@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -71,21 +70,6 @@ TEST(BuildOptions, AWrongPathOfAHostLibraryIsRefused)
     EXPECT_TRUE(
         result.output.simplified().contains("\"/usr/lib/none/libKdPlatformBase.so\", which is not"))
         << result.output.toStdString();
-}
-
-// What the README says to start has to be among what the build makes.
-TEST(Readme, NamesOnlyProgramsThatTheBuildMakes)
-{
-    QFile readme(QUAYSIDE_SOURCE_FOLDER "/README.md");
-    ASSERT_TRUE(readme.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(readme.readAll());
-    const QRegularExpression program("build/dev/(\\w+/[\\w/]+)");
-    int count = 0;
-    for (auto found = program.globalMatch(text); found.hasNext(); ++count) {
-        const QString path = found.next().captured(1);
-        outputOf("ninja", {"-C", QUAYSIDE_BUILD_FOLDER, "-t", "query", path});
-    }
-    EXPECT_GE(count, 2);
 }
 
 TEST_F(SourceTree, InstallsNothing)

@@ -50,14 +50,16 @@ protected:
     }
 };
 
-TEST_F(CtlDocumentation, HasAManualOfEveryCommandAndOption)
+TEST_F(CtlDocumentation, HasManualsOfEveryCommandAndOption)
 {
-    const QString manual = source("docs/quaysidectl.1").replace("\\-", "-");
     ASSERT_GE(commands().size(), 24);
-    for (const QString& command : commands()) {
-        EXPECT_TRUE(manual.contains(command)) << command.toStdString();
-        for (const QString& option : optionsOf(command))
-            EXPECT_TRUE(manual.contains(option)) << option.toStdString();
+    for (const char* file : {"docs/quaysidectl.1", "docs/zh_CN/quaysidectl.1"}) {
+        const QString manual = source(file).replace("\\-", "-");
+        for (const QString& command : commands()) {
+            EXPECT_TRUE(manual.contains(command)) << file << ": " << command.toStdString();
+            for (const QString& option : optionsOf(command))
+                EXPECT_TRUE(manual.contains(option)) << file << ": " << option.toStdString();
+        }
     }
 }
 

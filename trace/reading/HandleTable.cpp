@@ -39,24 +39,25 @@ QString handleOf(const RecordedValue& value)
     return handle.isEmpty() ? value.textOf("pointer") : handle;
 }
 
-const QString& firstHandle(const Call& call)
+// Of the first argument with this role, the member that says what it is.
+const QString& firstOf(RecordedValue::Role role, const char* name, const Call& call)
 {
     static const QString none;
     for (const RecordedMember& member : call.arguments.members) {
-        if (member.value.role() == RecordedValue::Role::Handle)
-            return member.value.textOf("handle");
+        if (member.value.role() == role)
+            return member.value.textOf(name);
     }
     return none;
 }
 
+const QString& firstHandle(const Call& call)
+{
+    return firstOf(RecordedValue::Role::Handle, "handle", call);
+}
+
 const QString& firstText(const Call& call)
 {
-    static const QString none;
-    for (const RecordedMember& member : call.arguments.members) {
-        if (member.value.role() == RecordedValue::Role::Text)
-            return member.value.textOf("text");
-    }
-    return none;
+    return firstOf(RecordedValue::Role::Text, "text", call);
 }
 
 // Such as "createImage(0, 16, 16)".

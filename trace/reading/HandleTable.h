@@ -46,6 +46,19 @@ public:
     /// Whether it may make some.
     static bool isMaking(const Operation* operation);
 
+    /// Follows a call and shows it: a handle that it makes is shown with what it stands for, and so
+    /// is one that it gives back. Hence the two orders.
+    template <typename Follow, typename Show>
+    static void inOrder(const Operation* operation, Follow follow, Show show)
+    {
+        const bool isFirst = isMaking(operation);
+        if (isFirst)
+            follow();
+        show();
+        if (!isFirst)
+            follow();
+    }
+
     /// Takes over what a call has made and taken back; the calls come in the order of entry.
     void follow(const Call& call, const Operation& operation);
 

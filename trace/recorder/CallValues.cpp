@@ -263,7 +263,7 @@ void array(const CallWords& call, std::uint64_t result, ValueWriter& writer)
     writer.line().raw(",\"text\":");
     const auto text = memory::text(addressOf<wchar_t>(result),
                                    std::min(capacity, std::max(clearedPath, length)), copied);
-    writer.line().quoted(text.units, text.length);
+    writer.line().quoted(std::wstring_view(text.units, text.length));
     writer.line().raw("}");
 }
 

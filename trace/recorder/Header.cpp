@@ -6,6 +6,7 @@
 #include <dlfcn.h>
 #include <fstream>
 #include <iterator>
+#include <unistd.h>
 
 namespace recorder {
 
@@ -48,6 +49,13 @@ std::string now()
     char whole[48];
     std::snprintf(whole, sizeof whole, "%s.%03ldZ", seconds, time.tv_nsec / 1000000);
     return whole;
+}
+
+// Relative paths in the arguments of calls start from there; empty where it has been removed.
+std::string workingDirectory()
+{
+    char path[4096];
+    return getcwd(path, sizeof path) ? path : "";
 }
 
 void writeArguments(Line& line)
@@ -108,6 +116,7 @@ void writeHeader(Line& line, const trace::RecordingOptions& options,
     writeText(line, "started", now());
     line.name("program");
     writeArguments(line);
+    writeText(line, "cwd", workingDirectory());
     line.name("options");
     writeOptions(line, options);
     line.name("libraries");

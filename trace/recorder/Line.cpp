@@ -69,11 +69,11 @@ void Line::quoted(std::string_view utf8)
     m_text += '"';
 }
 
-void Line::quoted(const wchar_t* text, std::size_t length)
+void Line::quoted(std::wstring_view text)
 {
     m_text += '"';
-    for (std::size_t i = 0; i < length; ++i)
-        character(static_cast<std::uint32_t>(text[i]));
+    for (const wchar_t unit : text)
+        character(static_cast<std::uint32_t>(unit));
     m_text += '"';
 }
 

@@ -33,7 +33,7 @@ public:
 
     void quoted(std::string_view utf8);
     /// Quoted; units that are no characters become \ud800 and so on, or U+FFFD.
-    void quoted(const wchar_t* text, std::size_t length);
+    void quoted(std::wstring_view text);
     /// Two digits a byte, quoted.
     void quotedBytes(const unsigned char* bytes, std::size_t count);
 

@@ -127,33 +127,19 @@ std::size_t ValueWriter::shownOf(std::size_t length) const
     return std::min(length, m_options.longestText.value_or(length));
 }
 
-void ValueWriter::endText(std::size_t shown, std::size_t length)
+template <typename Character>
+void ValueWriter::shortened(const Character* text, std::size_t length, bool isValue)
 {
+    if (isHidden(length, isValue))
+        return;
+    const std::size_t shown = shownOf(length);
+    m_line.raw("{\"text\":");
+    m_line.quoted(std::basic_string_view<Character>(text, shown));
     if (shown < length) {
         m_line.raw(",\"length\":");
         m_line.unsignedNumber(length);
     }
     m_line.raw("}");
-}
-
-void ValueWriter::shortened(const wchar_t* text, std::size_t length, bool isValue)
-{
-    if (isHidden(length, isValue))
-        return;
-    const std::size_t shown = shownOf(length);
-    m_line.raw("{\"text\":");
-    m_line.quoted(text, shown);
-    endText(shown, length);
-}
-
-void ValueWriter::shortened(const char* text, std::size_t length, bool isValue)
-{
-    if (isHidden(length, isValue))
-        return;
-    const std::size_t shown = shownOf(length);
-    m_line.raw("{\"text\":");
-    m_line.quoted(std::string_view(text, shown));
-    endText(shown, length);
 }
 
 void ValueWriter::wideText(std::uint64_t word, std::size_t limit, bool isValue)

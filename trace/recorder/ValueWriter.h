@@ -50,11 +50,10 @@ private:
     void flags(trace::Rows<trace::BitName> names, std::uint64_t word);
     void handle(trace::Role role, std::uint64_t word);
     void field(const trace::Field& field, std::uint64_t record);
-    void shortened(const wchar_t* text, std::size_t length, bool isValue);
-    void shortened(const char* text, std::size_t length, bool isValue);
+    template <typename Character>
+    void shortened(const Character* text, std::size_t length, bool isValue);
     bool isHidden(std::size_t length, bool isValue);
     std::size_t shownOf(std::size_t length) const;
-    void endText(std::size_t shown, std::size_t length);
 
     Line& m_line;
     ThreadState& m_state;

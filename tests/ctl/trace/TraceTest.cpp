@@ -1,5 +1,6 @@
 #include "tests/ctl/CtlTest.h"
 #include "tests/support/MadeRecording.h"
+#include "trace/bundle/BundleArchive.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -51,6 +52,33 @@ TEST_F(CtlTrace, DumpsCallsAsText)
         "8)] (4.0 us)\n"
         "5 libfoo.so+0x10 RegCloseKey(key = 0x5581 [HKEY_CURRENT_USER\\Software\\A]) = "
         "ERROR_SUCCESS (5.0 us)\n");
+}
+
+TEST_F(CtlTrace, ReadsTheRecordingOfABundle)
+{
+    ASSERT_TRUE(QDir(path("")).mkdir("bundle"));
+    write("bundle/recording.trace", usual().bytes());
+    write("bundle/bundle.json", "{\"quaysideBundle\":1}");
+    ASSERT_TRUE(trace::BundleArchive(path("a.qtrace")).pack(path("bundle")));
+    for (const char* name : {"a.qtrace", "bundle"}) {
+        EXPECT_EQ(out({"trace", "dump", name}), out({"trace", "dump", "a.trace"})) << name;
+        EXPECT_EQ(out({"trace", "stat", name}), out({"trace", "stat", "a.trace"})) << name;
+        EXPECT_EQ(out({"trace", "leaks", name}), out({"trace", "leaks", "a.trace"})) << name;
+        EXPECT_EQ(out({"trace", "trim", name, "--calls", "2"}),
+                  out({"trace", "trim", "a.trace", "--calls", "2"}))
+            << name;
+        EXPECT_EQ(status({"trace", "diff", name, "a.trace"}), 0) << name;
+    }
+}
+
+TEST_F(CtlTrace, TellsABundleThatCannotBeRead)
+{
+    write("bad.qtrace", "PK\3\4");
+    const Result result = run({"trace", "dump", "bad.qtrace"});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.error.contains("bad.qtrace cannot be unpacked"))
+        << result.error.toStdString();
+    EXPECT_EQ(status({"trace", "dump", "."}), 3);
 }
 
 TEST_F(CtlTrace, DumpsWhatIsWantedAlone)

@@ -9,7 +9,7 @@ namespace {
 std::string quoted(const std::wstring& text)
 {
     recorder::Line line;
-    line.quoted(text.data(), text.size());
+    line.quoted(text);
     return line.text();
 }
 

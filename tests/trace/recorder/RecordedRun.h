@@ -20,6 +20,8 @@ public:
     /// Runs it through `quaysidectl trace record` with these options.
     void record(const QStringList& words, const QStringList& options = {});
 
+    QString folder() const { return m_folder.path(); }
+
     int status() const { return m_status; }
     QByteArray out() const { return m_out; }
     QByteArray error() const { return m_error; }

@@ -1,6 +1,7 @@
 #include "tests/trace/recorder/RecordedRun.h"
 #include "trace/Operations.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -100,6 +101,7 @@ TEST_F(RecordingTest, TellsVersionsAndLibrariesFirst)
     EXPECT_EQ(header.value("quaysideTrace").toInt(), 1);
     EXPECT_EQ(header.value("qt").toString(), QLatin1String(qVersion()));
     EXPECT_EQ(header.value("program").toArray().last().toString(), "everything");
+    EXPECT_EQ(header.value("cwd").toString(), QDir(m_run.folder()).canonicalPath());
     EXPECT_EQ(header.value("options").toObject().value("text").toInt(), 5);
     bool hasCaller = false;
     for (const QJsonValue library : header.value("libraries").toArray()) {
@@ -247,14 +249,36 @@ TEST_F(RecordingTest, NeedsNoMoreMemoryWithTime)
 TEST_F(RecordingTest, PrintsTheCallsAsTheyCome)
 {
     record({"everything"}, {"-p", "-e", "isURL"});
-    EXPECT_TRUE(QRegularExpression("^libtrace_caller.so\\+0x[0-9a-f]+ "
-                                   "isURL\\(text=\"http://example.com/\"\\) = 1\n")
+    EXPECT_TRUE(QRegularExpression("^[0-9]+ libtrace_caller.so\\+0x[0-9a-f]+ isURL\\("
+                                   "text = \"http://example.com/\"\\) = 1 \\([0-9.]+ .s\\)\n")
                     .match(QString::fromUtf8(m_run.error()))
                     .hasMatch())
         << m_run.error().toStdString();
     record({"everything"}, {"--failures", "-e", "findClose"});
     EXPECT_EQ(m_run.error().count('\n'), 1);
-    EXPECT_TRUE(m_run.error().endsWith(" findClose(search=0x0) = 0\n"));
+    EXPECT_TRUE(m_run.error().contains(" findClose(search = 0x0) = 0 ("))
+        << m_run.error().toStdString();
+}
+
+TEST_F(RecordingTest, PrintsTheCallsThatNeverReturnedLast)
+{
+    record({"exit"}, {"-p"});
+    const QList<QByteArray> printed = m_run.error().split('\n');
+    ASSERT_GE(printed.size(), 3);
+    EXPECT_TRUE(printed[printed.size() - 3].contains(" enumFontFamiliesEx("))
+        << m_run.error().toStdString();
+    EXPECT_TRUE(printed[printed.size() - 3].endsWith(" (never returned)"));
+    EXPECT_TRUE(printed[printed.size() - 2].contains(" EnumFontFamExProc("));
+    EXPECT_TRUE(printed[printed.size() - 2].endsWith(" (never returned)"));
+}
+
+TEST_F(RecordingTest, PrintsWhatHandlesStandFor)
+{
+    record({"everything"}, {"-p", "-e", "register"});
+    EXPECT_TRUE(QRegularExpression(" RegCloseKey\\(key = 0x[0-9a-f]+ \\[HKEY_")
+                    .match(QString::fromUtf8(m_run.error()))
+                    .hasMatch())
+        << m_run.error().toStdString();
 }
 
 TEST_F(RecordingTest, ReachesAProgramThroughAScriptAndLeavesItsChildrenAlone)
