@@ -45,10 +45,10 @@ FindPane::FindPane(PageContext& page, QWidget* parent)
       m_hits(new RecordsModel<Hit>(columns(), this)),
       m_text(new QLineEdit),
       m_inKeys(new QCheckBox(tr("&Keys"))),
-      m_inNames(new QCheckBox(tr("Names"))),
+      m_inNames(new QCheckBox(tr("Name&s"))),
       m_inData(new QCheckBox(tr("&Values"))),
       m_mindsCase(new QCheckBox(tr("Match &upper/lower case"))),
-      m_wholeWords(new QCheckBox(tr("W&hole words"))),
+      m_wholeWords(new QCheckBox(tr("&Just whole words"))),
       m_table(new QTableView)
 {
     m_text->setAccessibleName(tr("Text to find"));

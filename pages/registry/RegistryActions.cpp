@@ -200,7 +200,7 @@ QLayout* RegistryActions::makeButtons()
     auto* remove = glowing(new QPushButton(tr("Dele&te")));
     connect(remove, &QPushButton::clicked, this,
             [this] { change(&RegistryActions::removeChosen); });
-    QPushButton* search = buttonFor(m_search, tr("&Search..."));
+    QPushButton* search = buttonFor(m_search, tr("Searc&h..."));
     search->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
     auto* line = new QHBoxLayout;
     line->addWidget(create);

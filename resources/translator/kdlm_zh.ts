@@ -1487,8 +1487,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>项(&amp;K)</translation>
     </message>
     <message>
-        <source>W&amp;hole words</source>
-        <translation>全字匹配(&amp;H)</translation>
+        <source>&amp;Just whole words</source>
+        <translation>全字匹配(&amp;J)</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -1523,8 +1523,8 @@ Put it in the place of the file to bring everything back.</source>
         <translation>请选择查找范围：项、名称、值，或其中几种。</translation>
     </message>
     <message>
-        <source>Names</source>
-        <translation>名称</translation>
+        <source>Name&amp;s</source>
+        <translation>名称(&amp;S)</translation>
     </message>
 </context>
 <context>
@@ -4746,8 +4746,8 @@ Wide: %2</source>
         <translation>删除(&amp;T)</translation>
     </message>
     <message>
-        <source>&amp;Search...</source>
-        <translation>查找(&amp;S)...</translation>
+        <source>Searc&amp;h...</source>
+        <translation>查找(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Edit...</source>
