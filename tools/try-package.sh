@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # try-package.sh FOLDER: installs the packages of FOLDER in a fresh root that holds nothing else, and
 # does there what their readers do: starts the application in both languages, asks quaysidectl, builds a
-# host library, the examples and programs with the development package alone, and removes everything again. Needs
-# root, or a system where mmdebstrap works without it.
+# host library, the examples and programs with the development package alone, and removes everything
+# again. Needs root, or a system where mmdebstrap works without it.
 set -euo pipefail
 folder=$(realpath "$1")
 sources=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
@@ -104,6 +104,8 @@ quaysidectl trace stat --absent first.trace | grep passw
 quaysidectl trace leaks first.trace
 quaysidectl trace diff first.trace second.trace | grep RegSetValueExW
 quaysidectl trace trim first.trace trimmed.trace --calls op:GetBitmap
+# The second one began with what the first had stored, which a replay does not have.
+quaysidectl trace replay first.trace --skipped || [ $? -eq 1 ]
 test -f /usr/share/doc/quayside/en/index.html
 
 # On a display, in both languages, until the user ends it.
