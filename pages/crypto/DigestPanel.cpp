@@ -2,8 +2,8 @@
 
 #include "inspection/crypto/DigestJob.h"
 #include "inspection/crypto/DigestNotes.h"
-#include "window/CopyButton.h"
 #include "pages/crypto/DigestSource.h"
+#include "window/CopyButton.h"
 #include "window/Page.h"
 #include "window/ShownText.h"
 
