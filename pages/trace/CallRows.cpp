@@ -60,7 +60,9 @@ RecordColumn<qint64> CallRows::resultColumn()
         const Cells& shown = cells(call);
         if (shown.duration < 0)
             return glyphIcon(Glyph::Error);
-        return shown.isFailure ? QVariant(glyphIcon(Glyph::Warning)) : QVariant();
+        if (shown.isFailure)
+            return glyphIcon(Glyph::Warning);
+        return {};
     };
     return made;
 }

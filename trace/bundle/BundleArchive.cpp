@@ -110,7 +110,7 @@ QString writeAll(QIODevice& device, const QDir& folder, const BundleArchive::Pau
         archive_write_open(open.get(), &device, nullptr, writePiece, nullptr) != ARCHIVE_OK)
         return reasonOf(open.get());
     for (const QString& name : filesBelow(folder.path())) {
-        const QString fault = writeFile(open.get(), folder, name, pause);
+        QString fault = writeFile(open.get(), folder, name, pause);
         if (!fault.isEmpty())
             return fault;
     }
@@ -165,7 +165,7 @@ QString Unpacking::run()
             return reasonOf(m_open);
         if (++m_entries > BundleArchive::mostEntries)
             return tooLarge();
-        const QString fault = take(entry);
+        QString fault = take(entry);
         if (!fault.isEmpty())
             return fault;
         rest(m_pause);

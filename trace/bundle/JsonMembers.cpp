@@ -10,7 +10,7 @@ void JsonMembers::setWrong(const char* name)
 
 QJsonValue JsonMembers::value(const char* name, QJsonValue::Type type)
 {
-    const QJsonValue value = m_object.value(QLatin1String(name));
+    QJsonValue value = m_object.value(QLatin1String(name));
     if (value.type() != type)
         setWrong(name);
     return value;

@@ -9,7 +9,7 @@ namespace trace {
 
 namespace {
 
-constexpr std::size_t batch = 64; // calls between two looks at the clock
+constexpr qint64 batch = 64;      // calls between two looks at the clock
 constexpr qint64 longestStep = 4; // milliseconds
 
 } // namespace

@@ -85,7 +85,9 @@ void putField(unsigned char* record, const trace::Field& field, const Value& val
         return;
     }
     const std::wstring text = RecordedText::toWide(value.textOf("text"));
-    std::memcpy(to, text.data(), std::min<std::size_t>(text.size(), field.count) * field.size);
+    const std::size_t count = std::min<std::size_t>(text.size(), field.count);
+    for (std::size_t i = 0; i < count; ++i) // without a terminator where the field has no room
+        putNumber(to + i * field.size, static_cast<std::uint64_t>(text[i]), field.size);
 }
 
 } // namespace
