@@ -109,7 +109,8 @@ QString writeAll(QIODevice& device, const QDir& folder, const BundleArchive::Pau
     if (archive_write_set_format_zip(open.get()) != ARCHIVE_OK ||
         archive_write_open(open.get(), &device, nullptr, writePiece, nullptr) != ARCHIVE_OK)
         return reasonOf(open.get());
-    for (const QString& name : filesBelow(folder.path())) {
+    const QStringList names = filesBelow(folder.path());
+    for (const QString& name : names) {
         QString fault = writeFile(open.get(), folder, name, pause);
         if (!fault.isEmpty())
             return fault;

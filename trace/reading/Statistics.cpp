@@ -70,8 +70,8 @@ void Statistics::count(const CallEntry& entry)
 void Statistics::count(const AskedFor& asked)
 {
     const QString key = keyOf(asked);
-    auto place = m_askedPlaces.constFind(key);
-    if (place == m_askedPlaces.constEnd()) {
+    auto place = m_askedPlaces.find(key);
+    if (place == m_askedPlaces.end()) {
         place = m_askedPlaces.insert(key, m_asked.size());
         m_asked.push_back({asked.kind, asked.place, asked.name});
     }

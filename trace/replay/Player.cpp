@@ -210,11 +210,12 @@ std::vector<Difference> Player::compare(const trace::Call& call, const trace::Op
     if (!HandleLearning(operation, call, arguments.words(), performed.resultWord())
              .isSameHandedBack())
         comparison.add({tr("(handle)"), tr("the one that was given"), tr("another one")});
-    for (const QString& name : arguments.overruns())
+    const QStringList overruns = arguments.overruns();
+    for (const QString& name : overruns)
         comparison.add({name, {}, tr("written beyond the buffer")});
     if (call.number == m_watched)
         m_report.watchedAnswer = comparison.answerText(performed.result(), performed.outputs()) +
-                                 arguments.overruns().join(QLatin1Char(' '));
+                                 overruns.join(QLatin1Char(' '));
     return comparison.differences();
 }
 

@@ -78,7 +78,7 @@ bool ReplayFolder::isSame(const QString& recorded, const QString& replayed) cons
         return true;
     const QString here = directory() + QLatin1Char('/');
     return m_directory.isEmpty() && isAbsolute(recorded) && replayed.startsWith(here) &&
-           recorded.endsWith(replayed.mid(here.size() - 1));
+           recorded.endsWith(replayed.midRef(here.size() - 1));
 }
 
 QString ReplayFolder::absolute(const QString& path) const
