@@ -1,6 +1,5 @@
 #include "regfile/RegFileText.h"
 
-#include <QVector>
 #include <QtEndian>
 
 namespace {
@@ -96,10 +95,10 @@ QByteArray utf16Of(const QString& text)
     return bytes;
 }
 
+// A byte order mark is a character of the text like any other.
 QString textOfUtf16(const QByteArray& bytes)
 {
-    QVector<ushort> units(bytes.size() / static_cast<int>(sizeof(ushort)));
-    qFromLittleEndian<ushort>(bytes.constData(), units.size(), units.data());
-    const int end = units.indexOf(0);
-    return QString::fromUtf16(units.constData(), end < 0 ? units.size() : end);
+    QString text(bytes.size() / static_cast<int>(sizeof(ushort)), Qt::Uninitialized);
+    qFromLittleEndian<ushort>(bytes.constData(), text.size(), text.data());
+    return text.left(text.indexOf(QChar::Null));
 }

@@ -95,6 +95,20 @@ TEST(RegFileWriter, EndsATextOfSeveralLinesAtItsNul)
     EXPECT_TRUE(texts.contains(QString("a") + QChar::Null + "c"));
 }
 
+TEST(RegFileWriter, KeepsAByteOrderMarkThatBeginsATextOfSeveralLines)
+{
+    const QString text = QString(QChar::ByteOrderMark) + "a\nb";
+    RegFileReader reader(written(Encoding::Utf8, [&text](RegFileWriter& w) {
+        w.key("HKEY_CURRENT_USER\\A");
+        w.text("lines", text);
+    }));
+    RegFileEntry entry;
+    QStringList texts;
+    while (reader.next(entry) != RegFileReader::Step::End)
+        texts.append(entry.text);
+    EXPECT_TRUE(texts.contains(text));
+}
+
 TEST(RegFileWriter, PutsLineEndsOfACommentIntoOneLine)
 {
     const QByteArray text = body([](RegFileWriter& w) { w.comment("one\r\ntwo"); });
